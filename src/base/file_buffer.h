@@ -1,0 +1,37 @@
+// A whole file, or its first bytes, in memory, with the failure messages that go with reading and writing.
+
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <optional>
+#include <vector>
+
+#include "base/failure.h"
+
+namespace ventrel {
+
+struct FileBuffer {
+    std::vector<std::byte> data;
+    std::filesystem::path path; ///< the file that was loaded, or tried last
+    bool loaded = false;        ///< `data` holds a file
+    bool writable = false;      ///< Save may write the buffer back
+
+    /// Reads `size` bytes, or the whole file without a size, releasing what was held before.
+    /// A failure is reported (texts 1, 3 or 4, stop icon) and leaves the buffer empty.
+    bool Load(const std::filesystem::path& file, bool mayWrite, std::optional<std::size_t> size,
+              const FailureReporter& report);
+
+    /// Writes the buffer over its file, whose length never changes; the file must exist, and the buffer must
+    /// hold at least as many bytes. The new content is written beside the file and renamed over it.
+    /// False without a report when not writable; other failures are reported (texts 28 or 29, stop icon).
+    bool Save(const FailureReporter& report);
+
+    /// Lets go of the content; `path` stays.
+    void Free();
+};
+
+/// Whether the file can be opened for reading. A folder cannot.
+bool FileExists(const std::filesystem::path& file);
+
+} // namespace ventrel
