@@ -1,0 +1,47 @@
+// Pictures from files: decoded into plain 24-bit colour, then turned into bitmaps.
+
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <span>
+#include <vector>
+
+#include "platform/canvas/bitmap.h"
+
+namespace ventrel {
+
+/// What a file is said to hold; its name does not tell. The numbers are part of the interface.
+enum class ImageFormat : int { jpeg = 1, png = 2, pcx = 3, bmp = 4 };
+
+/// How a decoding ended. 0 is success.
+enum class ImageError : int {
+    none = 0,
+    noPixels = -2,   ///< the image holds no picture
+    cannotOpen = 1,  ///< missing or unreadable file
+    wrongFormat = 2, ///< not of the stated format, or not a format at all
+    damaged = 3,     ///< cut short, or inconsistent within itself
+    tooLarge = 4,    ///< wider or higher than any picture of the program
+};
+
+/// A decoded picture: rows from the top, three bytes a pixel (red, green, blue), no padding.
+struct Image {
+    std::vector<std::uint8_t> pixels;
+    std::uint32_t width = 0;
+    std::uint32_t height = 0;
+};
+
+/// No side of a picture may be longer; a file that claims more is refused before memory is taken.
+inline constexpr std::uint32_t imageSideLimit = 8192;
+
+void ImageFree(Image& image);
+
+/// Replaces what the image held. On failure it holds nothing.
+ImageError ImageLoadFile(Image& image, const std::filesystem::path& file, ImageFormat format);
+ImageError ImageLoadMemory(Image& image, std::span<const std::byte> data, ImageFormat format);
+
+/// Makes a bitmap of the image, which keeps its pixels. `bitmap` is untouched when there are none.
+ImageError ImageToBitmap(const Image& image, Bitmap& bitmap);
+
+} // namespace ventrel
