@@ -1,0 +1,47 @@
+# Sourced by ./play and ./check: installs the packages that are missing, configures and builds.
+# The caller stands in the top folder of the checkout and has set -euo pipefail.
+
+missing_packages() {
+    local wanted
+    wanted=$(sed -e 's/#.*//' packages.txt | xargs)
+    # shellcheck disable=SC2086 # a list of names
+    comm -23 <(printf '%s\n' $wanted | sort) \
+        <(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' $wanted 2>/dev/null | awk '/^ii/ {print $2}' | sort -u)
+}
+
+install_packages() {
+    if ! command -v dpkg-query >/dev/null; then
+        echo "This is not a Debian system: the packages of packages.txt must be there under their names here." >&2
+        return 0
+    fi
+    local missing
+    missing=$(missing_packages | xargs)
+    [ -z "$missing" ] && return 0
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        command -v sudo >/dev/null || {
+            echo "These packages are missing and there is no sudo to install them: $missing" >&2
+            return 1
+        }
+        as_root=(sudo)
+    fi
+    echo "Installing: $missing"
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get update -qq
+    # shellcheck disable=SC2086
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends $missing \
+        >/dev/null
+}
+
+# build PRESET [TARGET...]: configures once, then builds the targets (all without one). Silent when nothing is new.
+build() {
+    local preset=$1
+    shift
+    if [ ! -f "build/$preset/build.ninja" ]; then
+        cmake --preset "$preset" >"build-$preset.log" 2>&1 || {
+            cat "build-$preset.log" >&2
+            return 1
+        }
+        rm -f "build-$preset.log"
+    fi
+    cmake --build --preset "$preset" ${1:+--target "$@"} -- --quiet
+}
