@@ -1,0 +1,159 @@
+#include "sim/airport_file.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "base/string_table.h"
+
+namespace ventrel {
+
+namespace {
+
+using namespace airport_layout;
+
+// The first placeholder is the file, the second the airport's name, as in the text of an unfinished airport.
+constexpr std::string_view kTooShort = "The file %s is too short to be an airport file.";
+constexpr std::string_view kNotAnAirportFile = "The file %s is not an airport file.";
+constexpr std::string_view kPointsOutside =
+    "The airport file %s ('%s') is damaged: its table of map points does not lie within the file.";
+constexpr std::string_view kPictureOutside =
+    "The airport file %s ('%s') is damaged: its picture does not lie within the file.";
+constexpr std::string_view kNoExit =
+    "The airport file %s ('%s') cannot be played: it has no VOR through which flights may leave.";
+constexpr std::string_view kNoAirport = "The airport file %s ('%s') cannot be played: it has no airport.";
+
+std::uint16_t word(std::span<const std::byte> bytes, std::size_t offset) {
+    const auto low = std::to_integer<unsigned>(bytes[offset]);
+    const auto high = std::to_integer<unsigned>(bytes[offset + 1]);
+    return static_cast<std::uint16_t>(low | high << 8);
+}
+
+std::uint32_t doubleWord(std::span<const std::byte> bytes, std::size_t offset) {
+    return std::uint32_t{word(bytes, offset)} | std::uint32_t{word(bytes, offset + 2)} << 16;
+}
+
+Colour colour(std::span<const std::byte> bytes, std::size_t offset) {
+    return {doubleWord(bytes, offset)};
+}
+
+std::string text(std::span<const std::byte> bytes, std::size_t offset, std::size_t size) {
+    const auto field = bytes.subspan(offset, size);
+    const auto end = std::find(field.begin(), field.end(), std::byte{0});
+    std::string result;
+    std::transform(field.begin(), end, std::back_inserter(result),
+                   [](std::byte b) { return static_cast<char>(std::to_integer<unsigned char>(b)); });
+    return result;
+}
+
+bool liesWithin(std::span<const std::byte> file, std::uint64_t start, std::uint64_t size) {
+    return start <= file.size() && size <= file.size() - start;
+}
+
+Vor readPoint(std::span<const std::byte> record) {
+    return {
+        .ident = text(record, kIdentOffset, kIdentSize),
+        .description = text(record, kDescriptionOffset, kDescriptionSize),
+        .cell = {},
+        .pixel = {word(record, kPixelXOffset), word(record, kPixelYOffset)},
+        .isExit = word(record, kIsExitOffset) != 0,
+        .isAirport = word(record, kIsAirportOffset) != 0,
+        .isMajor = word(record, kIsMajorOffset) != 0,
+        .runwayHeading = word(record, kRunwayHeadingOffset),
+        .labelColour = colour(record, kLabelColourOffset),
+        .symbolColour = colour(record, kSymbolColourOffset),
+        .runwayColour = colour(record, kRunwayColourOffset),
+        .labelPlace = word(record, kLabelPlaceOffset),
+        .reverseChance = word(record, kReverseChanceOffset),
+    };
+}
+
+std::vector<Vor> readPoints(std::span<const std::byte> file, const AirportHeader& header) {
+    std::vector<Vor> vors;
+    vors.reserve(header.pointCount);
+    for (std::size_t i = 0; i < header.pointCount; ++i) {
+        vors.push_back(readPoint(file.subspan(header.pointTable + i * kPointSize, kPointSize)));
+    }
+    return vors;
+}
+
+/// What is wrong with the file's outline, as a text for the player; empty when nothing is.
+std::string_view outlineFault(std::span<const std::byte> file, const AirportHeader& header) {
+    if (!header.isComplete()) {
+        return StringTableText(TextId::airportIncomplete);
+    }
+    if (!header.isAirportFile()) {
+        return kNotAnAirportFile;
+    }
+    if (!liesWithin(file, header.pointTable, std::uint64_t{header.pointCount} * kPointSize)) {
+        return kPointsOutside;
+    }
+    if (!liesWithin(file, header.pictureStart, header.pictureSize)) {
+        return kPictureOutside;
+    }
+    return {};
+}
+
+std::string_view mapFault(const std::vector<Vor>& vors) {
+    if (std::none_of(vors.begin(), vors.end(), [](const Vor& vor) { return vor.isExit; })) {
+        return kNoExit;
+    }
+    if (std::none_of(vors.begin(), vors.end(), [](const Vor& vor) { return vor.isAirport; })) {
+        return kNoAirport;
+    }
+    return {};
+}
+
+} // namespace
+
+bool AirportHeader::isComplete() const {
+    return completion[0] != 0 && completion[1] != 0 && completion[2] != 0 && completion[3] == 1;
+}
+
+std::optional<AirportHeader> readAirportHeader(std::span<const std::byte> file) {
+    if (file.size() < kHeaderSize) {
+        return std::nullopt;
+    }
+    AirportHeader header{
+        .magic = word(file, kMagicOffset),
+        .name = text(file, kNameOffset, kNameSize),
+        .pointCount = word(file, kPointCountOffset),
+        .pointTable = doubleWord(file, kPointTableOffset),
+        .pictureStart = doubleWord(file, kPictureStartOffset),
+        .pictureSize = doubleWord(file, kPictureSizeOffset),
+        .layoutWidth = word(file, kLayoutWidthOffset),
+        .completion = {},
+        .routeColour = colour(file, kRouteColourOffset),
+        .selectedFlightColour = colour(file, kSelectedFlightColourOffset),
+        .flightColour = colour(file, kFlightColourOffset),
+    };
+    for (std::size_t i = 0; i < kCompletionCount; ++i) {
+        header.completion[i] = word(file, kCompletionOffset + 2 * i);
+    }
+    return header;
+}
+
+std::optional<AirportFile> readAirportFile(std::span<const std::byte> file, const std::filesystem::path& path,
+                                           const FailureReporter& report) {
+    const std::string fileName = path.string();
+    const auto header = readAirportHeader(file);
+    if (!header) {
+        report(FormatText(kTooShort, {fileName}), MessageIcon::stop);
+        return std::nullopt;
+    }
+    if (const auto fault = outlineFault(file, *header); !fault.empty()) {
+        report(FormatText(fault, {fileName, header->name}), MessageIcon::stop);
+        return std::nullopt;
+    }
+    AirportFile airport{*header, readPoints(file, *header)};
+    if (const auto fault = mapFault(airport.vors); !fault.empty()) {
+        report(FormatText(fault, {fileName, header->name}), MessageIcon::stop);
+        return std::nullopt;
+    }
+    return airport;
+}
+
+std::span<const std::byte> embeddedPicture(std::span<const std::byte> file, const AirportHeader& header) {
+    return file.subspan(header.pictureStart, header.pictureSize);
+}
+
+} // namespace ventrel
