@@ -12,15 +12,15 @@ namespace {
 using namespace airport_layout;
 
 // The first placeholder is the file, the second the airport's name, as in the text of an unfinished airport.
-constexpr std::string_view kTooShort = "The file %s is too short to be an airport file.";
-constexpr std::string_view kNotAnAirportFile = "The file %s is not an airport file.";
-constexpr std::string_view kPointsOutside =
+constexpr std::string_view tooShortText = "The file %s is too short to be an airport file.";
+constexpr std::string_view notAnAirportFileText = "The file %s is not an airport file.";
+constexpr std::string_view pointsOutsideText =
     "The airport file %s ('%s') is damaged: its table of map points does not lie within the file.";
-constexpr std::string_view kPictureOutside =
+constexpr std::string_view pictureOutsideText =
     "The airport file %s ('%s') is damaged: its picture does not lie within the file.";
-constexpr std::string_view kNoExit =
+constexpr std::string_view noExitText =
     "The airport file %s ('%s') cannot be played: it has no VOR through which flights may leave.";
-constexpr std::string_view kNoAirport = "The airport file %s ('%s') cannot be played: it has no airport.";
+constexpr std::string_view noAirportText = "The airport file %s ('%s') cannot be played: it has no airport.";
 
 std::uint16_t word(std::span<const std::byte> bytes, std::size_t offset) {
     const auto low = std::to_integer<unsigned>(bytes[offset]);
@@ -51,19 +51,19 @@ bool liesWithin(std::span<const std::byte> file, std::uint64_t start, std::uint6
 
 Vor readPoint(std::span<const std::byte> record) {
     return {
-        .ident = text(record, kIdentOffset, kIdentSize),
-        .description = text(record, kDescriptionOffset, kDescriptionSize),
+        .ident = text(record, identOffset, identSize),
+        .description = text(record, descriptionOffset, descriptionSize),
         .cell = {},
-        .pixel = {word(record, kPixelXOffset), word(record, kPixelYOffset)},
-        .isExit = word(record, kIsExitOffset) != 0,
-        .isAirport = word(record, kIsAirportOffset) != 0,
-        .isMajor = word(record, kIsMajorOffset) != 0,
-        .runwayHeading = word(record, kRunwayHeadingOffset),
-        .labelColour = colour(record, kLabelColourOffset),
-        .symbolColour = colour(record, kSymbolColourOffset),
-        .runwayColour = colour(record, kRunwayColourOffset),
-        .labelPlace = word(record, kLabelPlaceOffset),
-        .reverseChance = word(record, kReverseChanceOffset),
+        .pixel = {word(record, pixelXOffset), word(record, pixelYOffset)},
+        .isExit = word(record, isExitOffset) != 0,
+        .isAirport = word(record, isAirportOffset) != 0,
+        .isMajor = word(record, isMajorOffset) != 0,
+        .runwayHeading = word(record, runwayHeadingOffset),
+        .labelColour = colour(record, labelColourOffset),
+        .symbolColour = colour(record, symbolColourOffset),
+        .runwayColour = colour(record, runwayColourOffset),
+        .labelPlace = word(record, labelPlaceOffset),
+        .reverseChance = word(record, reverseChanceOffset),
     };
 }
 
@@ -71,7 +71,7 @@ std::vector<Vor> readPoints(std::span<const std::byte> file, const AirportHeader
     std::vector<Vor> vors;
     vors.reserve(header.pointCount);
     for (std::size_t i = 0; i < header.pointCount; ++i) {
-        vors.push_back(readPoint(file.subspan(header.pointTable + i * kPointSize, kPointSize)));
+        vors.push_back(readPoint(file.subspan(header.pointTable + i * pointSize, pointSize)));
     }
     return vors;
 }
@@ -82,23 +82,23 @@ std::string_view outlineFault(std::span<const std::byte> file, const AirportHead
         return StringTableText(TextId::airportIncomplete);
     }
     if (!header.isAirportFile()) {
-        return kNotAnAirportFile;
+        return notAnAirportFileText;
     }
-    if (!liesWithin(file, header.pointTable, std::uint64_t{header.pointCount} * kPointSize)) {
-        return kPointsOutside;
+    if (!liesWithin(file, header.pointTable, std::uint64_t{header.pointCount} * pointSize)) {
+        return pointsOutsideText;
     }
     if (!liesWithin(file, header.pictureStart, header.pictureSize)) {
-        return kPictureOutside;
+        return pictureOutsideText;
     }
     return {};
 }
 
 std::string_view mapFault(const std::vector<Vor>& vors) {
     if (std::none_of(vors.begin(), vors.end(), [](const Vor& vor) { return vor.isExit; })) {
-        return kNoExit;
+        return noExitText;
     }
     if (std::none_of(vors.begin(), vors.end(), [](const Vor& vor) { return vor.isAirport; })) {
-        return kNoAirport;
+        return noAirportText;
     }
     return {};
 }
@@ -110,24 +110,24 @@ bool AirportHeader::isComplete() const {
 }
 
 std::optional<AirportHeader> readAirportHeader(std::span<const std::byte> file) {
-    if (file.size() < kHeaderSize) {
+    if (file.size() < headerSize) {
         return std::nullopt;
     }
     AirportHeader header{
-        .magic = word(file, kMagicOffset),
-        .name = text(file, kNameOffset, kNameSize),
-        .pointCount = word(file, kPointCountOffset),
-        .pointTable = doubleWord(file, kPointTableOffset),
-        .pictureStart = doubleWord(file, kPictureStartOffset),
-        .pictureSize = doubleWord(file, kPictureSizeOffset),
-        .layoutWidth = word(file, kLayoutWidthOffset),
+        .magic = word(file, magicOffset),
+        .name = text(file, nameOffset, nameSize),
+        .pointCount = word(file, pointCountOffset),
+        .pointTable = doubleWord(file, pointTableOffset),
+        .pictureStart = doubleWord(file, pictureStartOffset),
+        .pictureSize = doubleWord(file, pictureSizeOffset),
+        .layoutWidth = word(file, layoutWidthOffset),
         .completion = {},
-        .routeColour = colour(file, kRouteColourOffset),
-        .selectedFlightColour = colour(file, kSelectedFlightColourOffset),
-        .flightColour = colour(file, kFlightColourOffset),
+        .routeColour = colour(file, routeColourOffset),
+        .selectedFlightColour = colour(file, selectedFlightColourOffset),
+        .flightColour = colour(file, flightColourOffset),
     };
-    for (std::size_t i = 0; i < kCompletionCount; ++i) {
-        header.completion[i] = word(file, kCompletionOffset + 2 * i);
+    for (std::size_t i = 0; i < completionCount; ++i) {
+        header.completion[i] = word(file, completionOffset + 2 * i);
     }
     return header;
 }
@@ -137,7 +137,7 @@ std::optional<AirportFile> readAirportFile(std::span<const std::byte> file, cons
     const std::string fileName = path.string();
     const auto header = readAirportHeader(file);
     if (!header) {
-        report(FormatText(kTooShort, {fileName}), MessageIcon::stop);
+        report(FormatText(tooShortText, {fileName}), MessageIcon::stop);
         return std::nullopt;
     }
     if (const auto fault = outlineFault(file, *header); !fault.empty()) {

@@ -23,42 +23,42 @@ namespace ventrel {
 /// Offsets and sizes in bytes. Header offsets count from the start of the file.
 namespace airport_layout {
 
-constexpr std::uint16_t kMagic = 0xCFAC;
-constexpr std::size_t kHeaderSize = 76;
+constexpr std::uint16_t magic = 0xCFAC;
+constexpr std::size_t headerSize = 76;
 
-constexpr std::size_t kMagicOffset = 0x00; // u16
-constexpr std::size_t kNameOffset = 0x02;  // text
-constexpr std::size_t kNameSize = 32;
-constexpr std::size_t kPointCountOffset = 0x22;   // u16
-constexpr std::size_t kPointTableOffset = 0x24;   // u32, offset of the first map point record
-constexpr std::size_t kPictureStartOffset = 0x28; // u32, offset of the picture
-constexpr std::size_t kPictureSizeOffset = 0x2C;  // u32
-constexpr std::size_t kLayoutWidthOffset = 0x30;  // u16, the window width that the positions and picture fit
-constexpr std::size_t kCompletionOffset = 0x32;   // four u16: non-zero, non-zero, non-zero, exactly 1
-constexpr std::size_t kCompletionCount = 4;
-constexpr std::size_t kRouteColourOffset = 0x3C; // colours are u32
-constexpr std::size_t kSelectedFlightColourOffset = 0x40;
-constexpr std::size_t kFlightColourOffset = 0x44;
+constexpr std::size_t magicOffset = 0x00; // u16
+constexpr std::size_t nameOffset = 0x02;  // text
+constexpr std::size_t nameSize = 32;
+constexpr std::size_t pointCountOffset = 0x22;   // u16
+constexpr std::size_t pointTableOffset = 0x24;   // u32, offset of the first map point record
+constexpr std::size_t pictureStartOffset = 0x28; // u32, offset of the picture
+constexpr std::size_t pictureSizeOffset = 0x2C;  // u32
+constexpr std::size_t layoutWidthOffset = 0x30;  // u16, the window width that the positions and picture fit
+constexpr std::size_t completionOffset = 0x32;   // four u16: non-zero, non-zero, non-zero, exactly 1
+constexpr std::size_t completionCount = 4;
+constexpr std::size_t routeColourOffset = 0x3C; // colours are u32
+constexpr std::size_t selectedFlightColourOffset = 0x40;
+constexpr std::size_t flightColourOffset = 0x44;
 
 /// Of one map point; offsets count from the start of its record.
-constexpr std::size_t kPointSize = 56;
-constexpr std::size_t kIdentOffset = 0; // text
-constexpr std::size_t kIdentSize = 4;
-constexpr std::size_t kDescriptionOffset = 4; // text
-constexpr std::size_t kDescriptionSize = 20;
-constexpr std::size_t kCellXOffset = 24; // u16, not read: cells follow from the pixels
-constexpr std::size_t kCellYOffset = 26;
-constexpr std::size_t kPixelXOffset = 28; // u16 from here on
-constexpr std::size_t kPixelYOffset = 30;
-constexpr std::size_t kIsExitOffset = 32;
-constexpr std::size_t kIsAirportOffset = 34;
-constexpr std::size_t kIsMajorOffset = 36;
-constexpr std::size_t kRunwayHeadingOffset = 38;
-constexpr std::size_t kLabelColourOffset = 40; // colours
-constexpr std::size_t kSymbolColourOffset = 44;
-constexpr std::size_t kRunwayColourOffset = 48;
-constexpr std::size_t kLabelPlaceOffset = 52; // u16
-constexpr std::size_t kReverseChanceOffset = 54;
+constexpr std::size_t pointSize = 56;
+constexpr std::size_t identOffset = 0; // text
+constexpr std::size_t identSize = 4;
+constexpr std::size_t descriptionOffset = 4; // text
+constexpr std::size_t descriptionSize = 20;
+constexpr std::size_t cellXOffset = 24; // u16, not read: cells follow from the pixels
+constexpr std::size_t cellYOffset = 26;
+constexpr std::size_t pixelXOffset = 28; // u16 from here on
+constexpr std::size_t pixelYOffset = 30;
+constexpr std::size_t isExitOffset = 32;
+constexpr std::size_t isAirportOffset = 34;
+constexpr std::size_t isMajorOffset = 36;
+constexpr std::size_t runwayHeadingOffset = 38;
+constexpr std::size_t labelColourOffset = 40; // colours
+constexpr std::size_t symbolColourOffset = 44;
+constexpr std::size_t runwayColourOffset = 48;
+constexpr std::size_t labelPlaceOffset = 52; // u16
+constexpr std::size_t reverseChanceOffset = 54;
 
 } // namespace airport_layout
 
@@ -71,12 +71,12 @@ struct AirportHeader {
     std::uint32_t pictureStart = 0; ///< file offset
     std::uint32_t pictureSize = 0;
     int layoutWidth = 0; ///< 800 or 1024 in a file that can be offered to a player
-    std::array<std::uint16_t, airport_layout::kCompletionCount> completion{};
+    std::array<std::uint16_t, airport_layout::completionCount> completion{};
     Colour routeColour;
     Colour selectedFlightColour;
     Colour flightColour;
 
-    bool isAirportFile() const { return magic == airport_layout::kMagic; }
+    bool isAirportFile() const { return magic == airport_layout::magic; }
     /// Whether the author has finished the airspace.
     bool isComplete() const;
 };
