@@ -1,0 +1,65 @@
+// Callsigns are part of the schedule; they stand in a file of their own because of their own small rules.
+
+#include "sim/phrase.h"
+#include "sim/schedule.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr int percent = 100;
+constexpr int radioIds = 32768;
+constexpr int threeDigitsBelow = 80; // percent of the flights with a three-digit number
+constexpr int heavyBelow = 25;       // percent of the candidates that are heavy
+
+int drawDigitOtherThan(int other, RandomGenerator& random) {
+    for (;;) {
+        const int digit = Random(random, 1, 9);
+        if (digit != other) {
+            return digit;
+        }
+    }
+}
+
+void appendDigit(Flight& flight, int digit) {
+    flight.callsign += static_cast<char>('0' + digit);
+    VoiceAppend(flight.callsignPhrase, VoiceDigitCode(digit));
+}
+
+/// Pass-throughs, arrivals at a major airport, and departures from one out of the area.
+bool mayBeHeavy(const GameState& game, const Flight& flight) {
+    const bool leaves = flight.destinationKind == DestinationKind::exit;
+    if (flight.originKind == OriginKind::scopeEdge) {
+        return leaves || game.vor(flight.destination).isMajor;
+    }
+    return leaves && game.vor(flight.origin).isMajor;
+}
+
+} // namespace
+
+void makeCallsign(const GameState& game, Flight& flight, RandomGenerator& random) {
+    constexpr int noDigit = 0;
+    const int row = Random(random, airlineCount);
+    const int first = drawDigitOtherThan(noDigit, random);
+    const int second = drawDigitOtherThan(first, random);
+    const int third = drawDigitOtherThan(second, random);
+    flight.radioId = Random(random, radioIds);
+    const bool threeDigits = Random(random, percent) < threeDigitsBelow;
+
+    flight.callsign = AIRLINES[static_cast<std::size_t>(row)].code;
+    flight.callsignPhrase = VoiceAirlineCode(row);
+    appendDigit(flight, first);
+    appendDigit(flight, second);
+    if (threeDigits) {
+        appendDigit(flight, third);
+    }
+    // Light aircraft are never heavy, and nothing is drawn for them.
+    flight.heavy =
+        row < firstLightAircraft && Random(random, percent) < heavyBelow && mayBeHeavy(game, flight);
+    if (flight.heavy) {
+        flight.callsign += 'H';
+        VoiceAppend(flight.callsignPhrase, snippet::heavy);
+    }
+}
+
+} // namespace ventrel
