@@ -15,6 +15,8 @@ namespace ventrel {
 /// One pixel as screens take it: 0x00RRGGBB. The top byte is always 0.
 using Pixel = std::uint32_t;
 
+inline constexpr Pixel whitePixel = 0x00FFFFFF;
+
 constexpr Pixel toPixel(Colour colour) {
     return static_cast<Pixel>(colour.red()) << 16 | static_cast<Pixel>(colour.green()) << 8 | colour.blue();
 }

@@ -2,7 +2,8 @@
 //
 // A canvas has an origin (its own (0, 0) in the picture) and a clip (what may change). A child window's
 // canvas has the window's corner as its origin and the visible part of the window as its clip. Whoever wants
-// to know what changed hands in a Damage record. All positions are the canvas's own.
+// to know what changed hands in a Damage record. All positions are the canvas's own, and any position may lie
+// outside, however far: what is not visible costs next to nothing.
 
 #pragma once
 
@@ -56,7 +57,10 @@ public:
     Colour pixel(Point p) const;
     void setPixel(Point p, Colour colour);
 
-    /// A one-pixel line from `from` towards `to`; the end pixel itself is left out.
+    /// A one-pixel line from `from` towards `to`; the end pixel itself is left out. Exactly one pixel for
+    /// each row or column of its longer side. Where it passes midway between two pixels it takes the one
+    /// nearer to the row or column of `from`, so that mirrored lines make mirrored pictures; drawn from its
+    /// other end such a line takes the other pixel.
     void line(Point from, Point to, Colour colour);
     /// Lines from each point to the next; only the very last pixel is left out.
     void polyline(std::span<const Point> points, Colour colour);
@@ -66,17 +70,18 @@ public:
     /// A one-pixel frame just inside `rect`.
     void frame(const Rect& rect, Colour colour);
 
-    /// A hollow ellipse inside `bounds` (right and bottom exclusive). A pen of 2 grows half outward, half
-    /// inward.
+    /// A hollow ellipse inside `bounds` (right and bottom exclusive), touching all four sides. A wider pen
+    /// grows outward by half its width (rounded down) and inward by the rest, never with a hole in it.
     void ellipse(const Rect& bounds, Colour pen, int penWidth = 1);
-    /// The same outline, one pixel wide, filled.
+    /// The same outline, one pixel wide, filled. Together they cover exactly Region::ellipse(bounds).
     void filledEllipse(const Rect& bounds, Colour pen, Colour inside);
 
     /// Inverts the red, green and blue of every pixel of the region. Twice restores the picture.
     void invert(const Region& region);
 
     /// Combines `source` of `picture` into `destination`; where the sizes differ the picture is stretched by
-    /// leaving out or repeating pixels. The parts of `source` outside the picture draw nothing.
+    /// leaving out or repeating pixels: each takes the source pixel under its middle. The parts of `source`
+    /// outside the picture draw nothing; operations that ask for no source fill all of `destination`.
     /// `picture` may be the target itself: overlapping areas are copied as if from a snapshot.
     void draw(const Rect& destination, const Bitmap& picture, const Rect& source,
               RasterOp op = RasterOp::copy);
@@ -86,13 +91,28 @@ public:
     /// `transparent`.
     void drawTransparent(Point at, const Bitmap& picture, Colour transparent);
 
-    /// Lays `colour` through a mask whose corner is at `at`, mixing by coverage.
+    /// Lays `colour` through a mask whose corner is at `at`, mixing by coverage. The mask must hold a byte
+    /// for every pixel of its size.
     void drawMask(Point at, const CoverageMask& mask, Colour colour);
 
-    /// Moves what is inside `area` by `offset`; what comes from outside `area` is not drawn.
+    /// Moves what is inside `area` by `offset`; what comes from outside `area` is not drawn. What was there
+    /// stays where nothing is drawn over it.
     void scroll(const Rect& area, Point offset);
 
 private:
+    /// Calls `change(piece, pixels)` for every piece of a row that drawing inside an area may change, and
+    /// notes the damage. Areas are in the target's coordinates (the region after moving it by `offset`).
+    template <typename Change>
+    void changeInside(const Rect& area, const Change& change);
+    template <typename Change>
+    void changeInside(const Region& area, Point offset, const Change& change);
+    template <typename Change>
+    void changeRuns(std::span<const Run> clipRuns, int left, int right, const Change& change);
+
+    void paint(const Region& area, Point offset, Colour colour);
+    void copy(const Rect& to, const Bitmap& picture, const Rect& from, RasterOp op);
+    void stretch(const Rect& to, const Bitmap& picture, const Rect& from, RasterOp op);
+
     Bitmap* target_;
     Damage* damage_;
     Point origin_;
