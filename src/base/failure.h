@@ -13,7 +13,7 @@ namespace ventrel {
 /// The picture (and the system sound) of a message box.
 enum class MessageIcon {
     none,
-    stop,        ///< file, memory and display failures
+    stop, ///< file, memory and display failures
     question,
     exclamation, ///< questions that guard something, and warnings
     information, ///< input errors

@@ -1,0 +1,54 @@
+#include "base/data_path.h"
+
+#include <algorithm>
+#include <string>
+#include <system_error>
+
+namespace ventrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr char separator = '\\';
+
+char lowered(char c) {
+    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool sameWithoutCase(std::string_view a, std::string_view b) {
+    return std::ranges::equal(a, b, {}, lowered, lowered);
+}
+
+/// The entry of `folder` under that name, whatever its case; the name as given when there is none.
+fs::path entryOf(const fs::path& folder, std::string_view name) {
+    fs::path exact = folder / name;
+    std::error_code error;
+    if (fs::exists(exact, error)) {
+        return exact;
+    }
+    for (const auto& entry : fs::directory_iterator(folder, error)) {
+        if (sameWithoutCase(entry.path().filename().string(), name)) {
+            return entry.path();
+        }
+    }
+    return exact;
+}
+
+} // namespace
+
+fs::path DataPath(const fs::path& programFolder, std::string_view relative) {
+    fs::path path = programFolder;
+    while (!relative.empty()) {
+        const std::size_t length = std::min(relative.find(separator), relative.size());
+        const std::string_view name = relative.substr(0, length);
+        relative.remove_prefix(std::min(length + 1, relative.size()));
+        const bool leadsAway = name.empty() || name == "." || name == "..";
+        if (!leadsAway) {
+            path = entryOf(path, name);
+        }
+    }
+    return path;
+}
+
+} // namespace ventrel
