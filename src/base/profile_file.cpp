@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 
 #include "base/whole_file.h"
 
@@ -9,8 +10,7 @@ namespace ventrel {
 
 namespace {
 
-/// A person's options file has a few hundred bytes; what is beyond this is not read.
-constexpr std::size_t largestFile = std::size_t{1} << 20;
+constexpr std::size_t wholeFile = std::numeric_limits<std::size_t>::max();
 
 constexpr std::string_view blanks = " \t\r\v\f";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
@@ -73,7 +73,7 @@ std::string written(std::string_view value) {
 } // namespace
 
 ProfileFile::ProfileFile(std::filesystem::path file) {
-    const auto content = readFileStart(file, largestFile).value_or(std::vector<std::byte>{});
+    const auto content = readFileStart(file, wholeFile).value_or(std::vector<std::byte>{});
     *this = fromText(std::move(file), {reinterpret_cast<const char*>(content.data()), content.size()});
 }
 
@@ -119,8 +119,8 @@ std::optional<ProfileFile::Place> ProfileFile::find(std::string_view section, st
                 place = Place{i, std::nullopt, i + 1};
             }
         } else if (place) {
-            const auto name = keyName(line);
-            if (name && sameName(*name, key)) {
+            const auto keyOfLine = keyName(line);
+            if (keyOfLine && sameName(*keyOfLine, key)) {
                 place->keyLine = i;
                 break;
             }
