@@ -1,0 +1,62 @@
+#include "base/format.h"
+
+#include <gtest/gtest.h>
+
+#include "base/string_table.h"
+#include "base/windows1252.h"
+
+namespace ventrel {
+namespace {
+
+TEST(Format, FillsEveryKindOfPlaceholder) {
+    EXPECT_EQ(FormatText("%s at %02d:%02d", {"UA39", 5L, 65L}), "UA39 at 05:65");
+    EXPECT_EQ(FormatText("%5d|%-5d|%05d", {-42L, 42L, -42L}), "  -42|42   |-0042");
+    EXPECT_EQ(FormatText("%u %x %X", {-1L, 255L, 255L}), "4294967295 ff FF");
+    EXPECT_EQ(FormatText("%.3s%c 100%%", {"LAXX", long{'*'}}), "LAX* 100%");
+    EXPECT_EQ(FormatText("%d", {0x1'0000'0001L}), "1");
+}
+
+TEST(Format, SurvivesPatternsThatAreWrong) {
+    EXPECT_EQ(FormatText("%q %", {1L}), "%q %");
+    EXPECT_EQ(FormatText("%d and %d", {1L}), "1 and ");
+    EXPECT_EQ(FormatText("%99999999d", {1L}).size(), 1023U);
+    EXPECT_EQ(FormatText(std::string(3000, 'x'), {}).size(), 1023U);
+}
+
+TEST(Format, ShowsMinutesWithoutHours) {
+    EXPECT_EQ(FormatMinutesSeconds(65), "01:05");
+    EXPECT_EQ(FormatMinutesSeconds(2100), "35:00");
+    EXPECT_EQ(FormatMinutesSeconds(7200), "120:00");
+}
+
+TEST(StringTable, ReadsAsThePlayerSeesIt) {
+    EXPECT_EQ(FormatStringId(TextId::notEnoughMemory, {4096L}).substr(0, 53),
+              "Not enough memory. Tried to allocate 4096 bytes and r");
+    EXPECT_EQ(FormatStringId(TextId::fileReadFailed, {76L, "a.apt", 50L}),
+              "File read failed. Tried to read 76 bytes from a.apt and could only read 50 bytes. Try "
+              "re-installing. Something is seriously wrong here.");
+    EXPECT_EQ(FormatStringId(TextId::cannotExit, {"UA39", "SAX"}),
+              "UA39, cannot exit to  SAX VOR- altitude too low");
+    EXPECT_EQ(StringTableText(static_cast<TextId>(6)), "");
+    EXPECT_TRUE(
+        StringTableText(TextId::pressReleaseController).ends_with("\r\n\r\n\r\n##### End of Release"));
+}
+
+TEST(Windows1252, GoesToUtf8AndBack) {
+    std::string every;
+    for (int byte = 1; byte < 256; ++byte) {
+        const bool standsForNothing =
+            byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D;
+        if (!standsForNothing) {
+            every += static_cast<char>(byte);
+        }
+    }
+    EXPECT_EQ(fromUtf8(toUtf8(every)), every);
+    EXPECT_EQ(toUtf8("90\xB0 \x80"), "90° €");
+    EXPECT_EQ(fromUtf8("Łódź \xFF\xC3"), "?\xF3"
+                                         "d? ??");
+    EXPECT_EQ(fromUtf8("a😀b", '\0'), "ab");
+}
+
+} // namespace
+} // namespace ventrel
