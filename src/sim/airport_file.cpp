@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "base/string_table.h"
+#include "base/windows1252.h"
 
 namespace ventrel {
 
@@ -134,7 +135,7 @@ std::optional<AirportHeader> readAirportHeader(std::span<const std::byte> file) 
 
 std::optional<AirportFile> readAirportFile(std::span<const std::byte> file, const std::filesystem::path& path,
                                            const FailureReporter& report) {
-    const std::string fileName = path.string();
+    const std::string fileName = pathText(path);
     const auto header = readAirportHeader(file);
     if (!header) {
         report(FormatText(tooShortText, {fileName}), MessageIcon::stop);

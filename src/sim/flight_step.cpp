@@ -45,14 +45,6 @@ void judgeArrival(Simulation& simulation, Flight& flight) {
     }
 }
 
-void moveAlongPlan(Flight& flight) {
-    const Cell from = flight.current().cell();
-    if (flight.planIndex < flight.planLength - 1) {
-        ++flight.planIndex;
-    }
-    flight.current().setCell(stepCell(from, flight.current().heading));
-}
-
 /// Off the runway and onto a course for the destination.
 void liftOff(const GameState& game, Flight& flight) {
     flight.groundState = GroundState::airborne;
@@ -173,6 +165,14 @@ bool isDue(const Flight& flight, ClockSeconds now) {
     case slowSpeed: return now % slowMoveInterval == flight.activatedAt % slowMoveInterval;
     default: return false;
     }
+}
+
+void moveAlongPlan(Flight& flight) {
+    const Cell from = flight.current().cell();
+    if (flight.planIndex < flight.planLength - 1) {
+        ++flight.planIndex;
+    }
+    flight.current().setCell(stepCell(from, flight.current().heading));
 }
 
 bool SimulationStep(Simulation& simulation, ClockSeconds now) {

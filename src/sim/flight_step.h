@@ -18,4 +18,7 @@ bool SimulationStep(Simulation& simulation, ClockSeconds now);
 /// second and a Slow one in every fourth, counted from its activation.
 bool isDue(const Flight& flight, ClockSeconds now);
 
+/// Moves an airborne flight one cell along its plan; past the last step it flies straight on.
+void moveAlongPlan(Flight& flight);
+
 } // namespace ventrel

@@ -1,0 +1,83 @@
+#include "tools/sim/approach.h"
+
+#include <algorithm>
+#include <deque>
+#include <limits>
+#include <optional>
+
+namespace ventrel {
+
+namespace {
+
+constexpr int headingCount = fullCircle / headingStep;
+constexpr int straight = 0;
+constexpr int left = -headingStep;
+constexpr int right = headingStep;
+
+struct Place {
+    Cell cell;
+    int heading;
+};
+
+bool isOnGrid(Cell cell) {
+    return cell.x >= 0 && cell.x < gridSize && cell.y >= 0 && cell.y < gridSize && !isOutsideScope(cell);
+}
+
+std::optional<std::size_t> indexOf(const Place& place) {
+    if (!isOnGrid(place.cell) || place.heading % headingStep != 0) {
+        return std::nullopt;
+    }
+    return static_cast<std::size_t>((place.cell.y * gridSize + place.cell.x) * headingCount +
+                                    place.heading / headingStep);
+}
+
+} // namespace
+
+Approach::Approach(const Vor& airport) : moves_(gridSize * gridSize * headingCount, outOfReach) {
+    const Place end{airport.cell, airport.runwayHeading};
+    if (!airport.isAirport || end.heading >= fullCircle || !indexOf(end)) {
+        return;
+    }
+    std::deque<Place> found{end};
+    moves_[*indexOf(end)] = 0;
+    for (; !found.empty(); found.pop_front()) {
+        const Place to = found.front();
+        const Cell before = stepCell(to.cell, turned(to.heading, fullCircle / 2));
+        for (const int turn : {straight, left, right}) {
+            const Place from{before, turned(to.heading, turn)};
+            const auto index = indexOf(from);
+            if (index && from.cell != airport.cell && moves_[*index] == outOfReach) {
+                moves_[*index] = moves(to.cell, to.heading) + 1;
+                found.push_back(from);
+            }
+        }
+    }
+}
+
+int Approach::moves(Cell cell, int heading) const {
+    const auto index = indexOf({cell, heading});
+    return index ? moves_[*index] : outOfReach;
+}
+
+int Approach::nextHeading(Cell cell, int heading, int altitude) const {
+    const int nextAltitude = std::max(altitude - 1, approachAltitude);
+    int best = heading;
+    int bestCost = std::numeric_limits<int>::max();
+    for (const int turn : {straight, left, right}) {
+        const int next = turned(heading, turn);
+        const int remaining = moves(stepCell(cell, next), next);
+        if (remaining == outOfReach) {
+            continue;
+        }
+        // Too short a way is worse than any detour; the longest of those brings the detour nearer.
+        constexpr int tooShort = 100000;
+        const int cost = remaining >= nextAltitude - approachAltitude ? remaining : tooShort - remaining;
+        if (cost < bestCost) {
+            bestCost = cost;
+            best = next;
+        }
+    }
+    return best;
+}
+
+} // namespace ventrel

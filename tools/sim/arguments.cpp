@@ -1,0 +1,202 @@
+#include "tools/sim/arguments.h"
+
+#include <array>
+#include <charconv>
+#include <limits>
+
+#include "base/string_table.h"
+#include "base/windows1252.h"
+#include "sim/custom_skill.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view help = R"(Plays one shift without a window and writes everything that happens.
+
+    ventrel-sim FILE.apt [options]
+
+  --width 800|1024   screen layout (default: that of the file)
+  --skill 0..4       0 Easy, 1 Normal (default), 2 Moderate, 3 Hard, 4 Custom
+  --planes N         flights of a Custom shift, 1 to 99 (default 25)
+  --minutes M        length of a Custom shift, 1 to 120 (default 35)
+  --clouds 0|1       random cloud cover (default 1; Easy has none)
+  --direct-entry 0|1 flights enter on a direct course (default 1; Easy always)
+  --voices V         pilot voice sets installed, 0 to 21 (default 0)
+  --cloud-size WxH   size of every cloud picture in pixels (default 64x48)
+  --name NAME        controller name (default Test)
+  --seed N           state of the random generator (default 1)
+  --orders FILE      orders to send: clock flight altitude heading speed directTarget hold
+  --until T          last clock second (default 36000)
+  --autopilot        a simple controller clears, turns and lands the flights
+  --log              a log for people instead of one JSON object a line
+  --help             this text
+
+Exit status: 0 the shift ended or --until was reached; 1 the airport file cannot be played;
+2 wrong usage or a wrong orders file.
+)";
+
+template <typename Number>
+bool readNumber(std::string_view word, Number lowest, Number highest, Number& number) {
+    Number value{};
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (error != std::errc{} || end != word.data() + word.size() || value < lowest || value > highest) {
+        return false;
+    }
+    number = value;
+    return true;
+}
+
+bool readFlag(std::string_view word, bool& flag) {
+    flag = word == "1";
+    return word == "0" || word == "1";
+}
+
+bool setWidth(Arguments& arguments, std::string_view word) {
+    int width = 0;
+    if (!readNumber(word, 0, std::numeric_limits<int>::max(), width) || !scopeLayoutFor(width)) {
+        return false;
+    }
+    arguments.width = width;
+    return true;
+}
+
+bool setSkill(Arguments& arguments, std::string_view word) {
+    int skill = 0;
+    if (!readNumber(word, 0, static_cast<int>(Skill::custom), skill)) {
+        return false;
+    }
+    arguments.skill = static_cast<Skill>(skill);
+    return true;
+}
+
+bool setCloudSize(Arguments& arguments, std::string_view word) {
+    constexpr int largest = 9999;
+    const auto cross = word.find('x');
+    return cross != std::string_view::npos &&
+           readNumber(word.substr(0, cross), 1, largest, arguments.cloudSize.width) &&
+           readNumber(word.substr(cross + 1), 1, largest, arguments.cloudSize.height);
+}
+
+struct OptionRule {
+    std::string_view name;
+    std::string_view
+        expected; ///< what its value must be, for the message; empty for an option without a value
+    bool (*set)(Arguments& arguments, std::string_view value);
+};
+
+constexpr unsigned anyUnsigned = std::numeric_limits<unsigned>::max();
+constexpr int voiceSetLimit = 21;
+
+constexpr std::array optionRules{
+    OptionRule{"--width", "800 or 1024", setWidth},
+    OptionRule{"--skill", "a number from 0 to 4", setSkill},
+    OptionRule{"--planes", "a number",
+               [](Arguments& a, std::string_view v) { return readNumber(v, 0U, anyUnsigned, a.planes); }},
+    OptionRule{"--minutes", "a number",
+               [](Arguments& a, std::string_view v) { return readNumber(v, 0U, anyUnsigned, a.minutes); }},
+    OptionRule{"--clouds", "0 or 1", [](Arguments& a, std::string_view v) { return readFlag(v, a.clouds); }},
+    OptionRule{"--direct-entry", "0 or 1",
+               [](Arguments& a, std::string_view v) { return readFlag(v, a.directEntry); }},
+    OptionRule{"--voices", "a number from 0 to 21",
+               [](Arguments& a, std::string_view v) { return readNumber(v, 0, voiceSetLimit, a.voices); }},
+    OptionRule{"--cloud-size", "a width and a height such as 64x48", setCloudSize},
+    OptionRule{"--name", "a name",
+               [](Arguments& a, std::string_view v) {
+                   a.name = fromUtf8(v);
+                   return true;
+               }},
+    OptionRule{"--seed", "a number from 0 to 4294967295",
+               [](Arguments& a, std::string_view v) { return readNumber(v, 0U, anyUnsigned, a.seed); }},
+    OptionRule{"--orders", "a file",
+               [](Arguments& a, std::string_view v) {
+                   a.orders = v;
+                   return true;
+               }},
+    OptionRule{"--until", "a clock second from 0 to 2000000000",
+               [](Arguments& a, std::string_view v) { return readNumber(v, 0, 2000000000, a.until); }},
+    OptionRule{"--autopilot", "", [](Arguments& a, std::string_view) { return a.autopilot = true; }},
+    OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }},
+    OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }},
+};
+
+const OptionRule* ruleOf(std::string_view word) {
+    for (const OptionRule& rule : optionRules) {
+        if (rule.name == word) {
+            return &rule;
+        }
+    }
+    return nullptr;
+}
+
+std::string quoted(std::string_view word) {
+    return FormatText("'%s'", {word});
+}
+
+/// Takes one option and its value off the front of `words`; what is wrong with it, or nothing.
+std::string takeOption(Arguments& arguments, std::span<const char* const>& words) {
+    const std::string name = words.front();
+    words = words.subspan(1);
+    const OptionRule* const rule = ruleOf(name);
+    if (rule == nullptr) {
+        return "there is no option " + name;
+    }
+    if (rule->expected.empty()) {
+        rule->set(arguments, {});
+        return {};
+    }
+    const std::string expected{rule->expected};
+    if (words.empty()) {
+        return name + " needs " + expected;
+    }
+    const std::string_view value = words.front();
+    words = words.subspan(1);
+    return rule->set(arguments, value) ? std::string{}
+                                       : name + " needs " + expected + ", not " + quoted(value);
+}
+
+std::string takeFile(Arguments& arguments, std::span<const char* const>& words) {
+    if (!arguments.airport.empty()) {
+        return "there is a second airport file, " + quoted(words.front());
+    }
+    arguments.airport = words.front();
+    words = words.subspan(1);
+    return {};
+}
+
+} // namespace
+
+std::variant<Arguments, std::string> parseArguments(std::span<const char* const> words) {
+    Arguments arguments;
+    while (!words.empty()) {
+        const bool isOption = std::string_view{words.front()}.starts_with("-");
+        std::string fault = isOption ? takeOption(arguments, words) : takeFile(arguments, words);
+        if (!fault.empty()) {
+            return fault;
+        }
+    }
+    if (arguments.airport.empty() && !arguments.help) {
+        return "an airport file is needed";
+    }
+    if (const auto fault = customShiftFault(arguments.planes, arguments.minutes)) {
+        return std::string{StringTableText(*fault)};
+    }
+    return arguments;
+}
+
+std::string_view helpText() {
+    return help;
+}
+
+Options optionsFor(const Arguments& arguments) {
+    const bool isEasy = arguments.skill == Skill::easy;
+    Options options;
+    options.stormTrak = arguments.clouds && !isEasy ? 1 : 0;
+    options.directEntry = arguments.directEntry || isEasy ? 1 : 0;
+    options.customPlanes = static_cast<int>(arguments.planes);
+    options.customSched = static_cast<ClockSeconds>(arguments.minutes) * secondsPerMinute;
+    options.customBonus = bonusFor(options.customPlanes, options.customSched);
+    return options;
+}
+
+} // namespace ventrel

@@ -1,0 +1,45 @@
+// The command line of ventrel-sim.
+
+#pragma once
+
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <variant>
+
+#include "base/geometry.h"
+#include "sim/schedule.h"
+
+namespace ventrel {
+
+struct Arguments {
+    std::filesystem::path airport;
+    std::optional<int> width; ///< 800 or 1024; without it the file's own layout counts
+    Skill skill = Skill::normal;
+    unsigned planes = 25; ///< of a Custom shift, like the minutes
+    unsigned minutes = 35;
+    bool clouds = true;
+    bool directEntry = true;
+    int voices = 0;
+    Size cloudSize{64, 48};    ///< pixels
+    std::string name = "Test"; ///< Windows-1252
+    std::uint32_t seed = 1;
+    std::optional<std::filesystem::path> orders;
+    ClockSeconds until = 36000;
+    bool autopilot = false;
+    bool log = false; ///< a log for people instead of the trace
+    bool help = false;
+};
+
+/// The command line without the program's name, or what is wrong with it.
+std::variant<Arguments, std::string> parseArguments(std::span<const char* const> words);
+
+std::string_view helpText();
+
+/// The options of a game set up with these arguments, as the New Game dialog would leave them.
+Options optionsFor(const Arguments& arguments);
+
+} // namespace ventrel

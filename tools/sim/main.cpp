@@ -1,0 +1,88 @@
+// ventrel-sim: one shift without a window, written to standard output.
+
+#include <array>
+#include <cstdio>
+#include <memory>
+
+#include "base/windows1252.h"
+#include "sim/airport_loading.h"
+#include "tools/sim/arguments.h"
+#include "tools/sim/log_writer.h"
+#include "tools/sim/shift_run.h"
+#include "tools/sim/trace_writer.h"
+
+namespace ventrel {
+
+namespace {
+
+enum ExitStatus { played = 0, scenarioRefused = 1, wrongUsage = 2 };
+
+void complain(std::string_view text) {
+    std::fprintf(stderr, "ventrel-sim: %.*s\n", static_cast<int>(text.size()), text.data());
+}
+
+void setUp(GameState& game, const Arguments& arguments, RandomGenerator& random) {
+    std::array<Size, largeLayout.cloudImages> cloudSizes;
+    cloudSizes.fill(arguments.cloudSize);
+    game.controllerName = arguments.name;
+    setUpShift(game, {arguments.skill, arguments.voices, cloudSizes}, optionsFor(arguments), random);
+}
+
+ExitStatus play(const Arguments& arguments) {
+    auto loaded =
+        openAirport(arguments.airport, [](std::string_view text, MessageIcon) { complain(toUtf8(text)); });
+    if (!loaded) {
+        return scenarioRefused;
+    }
+    const auto layout = scopeLayoutFor(arguments.width.value_or(loaded->airport.header.layoutWidth));
+    if (!layout) {
+        complain(arguments.airport.string() + " fits neither layout: --width 800 or --width 1024 is needed");
+        return wrongUsage;
+    }
+    GameState game;
+    RandomGenerator random{arguments.seed};
+    useAirport(game, std::move(*loaded), *layout, random);
+    setUp(game, arguments, random);
+
+    std::vector<ScriptedOrder> orders;
+    if (arguments.orders) {
+        auto read = readOrderFile(*arguments.orders, game);
+        if (const auto* const fault = std::get_if<std::string>(&read)) {
+            complain(*fault);
+            return wrongUsage;
+        }
+        orders = std::get<std::vector<ScriptedOrder>>(std::move(read));
+    }
+    Output output{stdout};
+    std::unique_ptr<Recorder> recorder;
+    if (arguments.log) {
+        recorder = std::make_unique<LogWriter>(output);
+    } else {
+        recorder = std::make_unique<TraceWriter>(output);
+    }
+    runShift(game, random, *recorder, {orders, arguments.until, arguments.autopilot});
+    if (!output.finish()) {
+        complain("the output could not be written");
+        return scenarioRefused;
+    }
+    return played;
+}
+
+} // namespace
+
+} // namespace ventrel
+
+int main(int count, char** words) {
+    using namespace ventrel;
+    const auto parsed = parseArguments({words + 1, words + count});
+    if (const auto* const fault = std::get_if<std::string>(&parsed)) {
+        complain(*fault + " (see --help)");
+        return wrongUsage;
+    }
+    const Arguments& arguments = std::get<Arguments>(parsed);
+    if (arguments.help) {
+        std::fputs(helpText().data(), stdout);
+        return played;
+    }
+    return play(arguments);
+}

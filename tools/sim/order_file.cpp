@@ -1,0 +1,140 @@
+#include "tools/sim/order_file.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <fstream>
+#include <limits>
+#include <optional>
+#include <string_view>
+
+namespace ventrel {
+
+namespace {
+
+enum Field {
+    clockField,
+    flightField,
+    altitudeField,
+    headingField,
+    speedField,
+    targetField,
+    holdField,
+    fieldCount
+};
+
+using OrderFields = std::array<int, fieldCount>;
+
+/// What a field may hold: from lowest to highest in steps of `unit`.
+struct FieldRule {
+    std::string_view name;
+    int lowest;
+    int highest;
+    int unit;
+};
+
+std::array<FieldRule, fieldCount> fieldRules(const GameState& game) {
+    return {{
+        {"clock", 0, std::numeric_limits<int>::max(), stepInterval},
+        {"flight", 0, game.planeCount() - 1, 1},
+        {"altitude", approachAltitude, exitAltitude, 1},
+        {"heading", 0, fullCircle - headingStep, headingStep},
+        {"speed", slowSpeed, fastSpeed, 1},
+        {"directTarget", noVor, game.vorCount(), 1},
+        {"hold", 0, 1, 1},
+    }};
+}
+
+std::vector<std::string_view> splitWords(std::string_view line) {
+    constexpr std::string_view blanks = " \t\r";
+    line = line.substr(0, line.find('#'));
+    std::vector<std::string_view> words;
+    for (auto start = line.find_first_not_of(blanks); start != std::string_view::npos;
+         start = line.find_first_not_of(blanks)) {
+        line.remove_prefix(start);
+        words.push_back(line.substr(0, line.find_first_of(blanks)));
+        line.remove_prefix(words.back().size());
+    }
+    return words;
+}
+
+std::string describe(const FieldRule& rule) {
+    std::string text{rule.name};
+    text += " must be a whole number from " + std::to_string(rule.lowest);
+    if (rule.highest != std::numeric_limits<int>::max()) {
+        text += " to " + std::to_string(rule.highest);
+    }
+    if (rule.unit != 1) {
+        text += " in steps of " + std::to_string(rule.unit);
+    }
+    return text;
+}
+
+std::optional<int> readField(std::string_view word, const FieldRule& rule) {
+    int value = 0;
+    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
+    if (error != std::errc{} || end != word.data() + word.size() || value < rule.lowest ||
+        value > rule.highest || value % rule.unit != 0) {
+        return std::nullopt;
+    }
+    return value;
+}
+
+std::variant<OrderFields, std::string> readFields(const std::vector<std::string_view>& words,
+                                                  const GameState& game) {
+    if (words.size() != fieldCount) {
+        return "an order has seven fields, not " + std::to_string(words.size());
+    }
+    const auto rules = fieldRules(game);
+    OrderFields fields{};
+    for (std::size_t i = 0; i < fields.size(); ++i) {
+        const auto value = readField(words[i], rules[i]);
+        if (!value) {
+            return describe(rules[i]) + ", not '" + std::string{words[i]} + "'";
+        }
+        fields[i] = *value;
+    }
+    if (fields[targetField] == game.vorCount() && fields[holdField] == 0) {
+        return "there is no map point " + std::to_string(fields[targetField]) +
+               "; this number stands for a hold and needs hold 1";
+    }
+    return fields;
+}
+
+ScriptedOrder toOrder(const OrderFields& fields) {
+    return {fields[clockField],
+            fields[flightField],
+            {.altitude = fields[altitudeField],
+             .heading = fields[headingField],
+             .speed = fields[speedField],
+             .directTarget = fields[targetField],
+             .hold = fields[holdField]}};
+}
+
+} // namespace
+
+std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
+                                                                    const GameState& game) {
+    std::ifstream stream{file, std::ios::binary};
+    std::vector<ScriptedOrder> orders;
+    std::string line;
+    for (int number = 1; std::getline(stream, line); ++number) {
+        const auto words = splitWords(line);
+        if (words.empty()) {
+            continue;
+        }
+        const auto fields = readFields(words, game);
+        if (const auto* const fault = std::get_if<std::string>(&fields)) {
+            return file.string() + ":" + std::to_string(number) + ": " + *fault;
+        }
+        orders.push_back(toOrder(std::get<OrderFields>(fields)));
+    }
+    if (!stream.eof()) {
+        return file.string() + ": the orders cannot be read";
+    }
+    std::stable_sort(orders.begin(), orders.end(),
+                     [](const ScriptedOrder& a, const ScriptedOrder& b) { return a.clock < b.clock; });
+    return orders;
+}
+
+} // namespace ventrel
