@@ -1,0 +1,113 @@
+// The machine in memory: scripted input, a screen that is a bitmap, a clock that stands still while the
+// program works and jumps while it waits. An hour passes in as long as its work takes.
+//
+// A test owns it, hands it to the desktop, fills its timeline (script.h makes that readable) and looks at
+// what arrived here.
+
+#pragma once
+
+#include <cstddef>
+#include <deque>
+#include <functional>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "platform/devices/backend.h"
+
+namespace ventrel {
+
+class HeadlessBackend final : public Backend {
+public:
+    explicit HeadlessBackend(Size size, DisplayInfo display = {{1280, 1024}, 32});
+
+    // What the person at the machine does -----------------------------------------------------------------
+
+    /// Adds input at the end of the timeline; it arrives at `when`, or right after what stands before it when
+    /// that is later.
+    void addInput(Millis when, InputEvent event);
+    /// Adds something to be done while the program waits: all earlier input has been handled, and everything
+    /// has been painted and sent.
+    void addAction(Millis when, std::function<void()> action);
+    bool timelineIsEmpty() const { return timeline_.empty(); }
+
+    /// Called when the program waits for ever with nothing left in the timeline. Without it, or when it
+    /// leaves the program waiting, `wait` throws std::logic_error: a real program would hang.
+    std::function<void()> whenTimelineEnds;
+
+    // What is seen and heard of the program ---------------------------------------------------------------
+
+    /// What was sent, and nothing else: a change that was not sent does not show.
+    const Bitmap& screen() const { return screen_; }
+
+    struct Sending {
+        Millis when = 0;
+        std::vector<Rect> changed;
+    };
+    /// The latest sending.
+    const Sending& lastSending() const { return lastSending_; }
+    std::size_t sendings() const { return sendings_; }
+    std::size_t pixelsSent() const { return pixelsSent_; }
+    /// How often the program went to sleep (waited with a limit other than 0).
+    std::size_t sleeps() const { return sleeps_; }
+
+    const CursorImage* cursor() const { return cursor_; }
+    const std::string& title() const { return title_; }
+    bool isShown() const { return shown_; }
+    bool isCaptured() const { return captured_; }
+    bool isMinimised() const { return minimised_; }
+    bool isFullScreen() const { return fullScreen_; }
+    std::optional<Rect> dragStrip() const { return dragStrip_; }
+    const std::vector<MessageIcon>& beeps() const { return beeps_; }
+
+    // Backend ---------------------------------------------------------------------------------------------
+
+    Millis now() override { return now_; }
+    std::optional<InputEvent> wait(std::optional<Millis> limit) override;
+    DisplayInfo display() override { return display_; }
+    void present(const Bitmap& picture, std::span<const Rect> changed) override;
+    void show(bool visible) override { shown_ = visible; }
+    void setTitle(std::string_view title) override { title_ = title; }
+    void setCursor(const CursorImage* cursor) override { cursor_ = cursor; }
+    void captureMouse(bool captured) override { captured_ = captured; }
+    Point mousePosition() override { return mouse_; }
+    void setDragStrip(std::optional<Rect> strip) override { dragStrip_ = strip; }
+    void setFullScreen(bool fullScreen) override { fullScreen_ = fullScreen; }
+    /// Minimising and restoring answer with the events that a window manager sends.
+    void minimise() override;
+    void restore() override;
+    std::string clipboard() override { return clipboard_; }
+    void setClipboard(std::string_view text) override { clipboard_ = text; }
+    void beep(MessageIcon kind) override { beeps_.push_back(kind); }
+
+private:
+    using Action = std::function<void()>;
+    struct Entry {
+        Millis when = 0;
+        std::variant<InputEvent, Action> what;
+    };
+
+    void runDueActions();
+    std::optional<InputEvent> takeDueInput();
+
+    Bitmap screen_;
+    DisplayInfo display_;
+    Millis now_ = 1000; // not 0, so that nobody mistakes "never" for "now"
+    std::deque<Entry> timeline_;
+    Sending lastSending_;
+    std::size_t sendings_ = 0;
+    std::size_t pixelsSent_ = 0;
+    std::size_t sleeps_ = 0;
+    const CursorImage* cursor_ = nullptr;
+    std::string title_;
+    std::string clipboard_;
+    Point mouse_;
+    std::optional<Rect> dragStrip_;
+    std::vector<MessageIcon> beeps_;
+    bool shown_ = false;
+    bool captured_ = false;
+    bool minimised_ = false;
+    bool fullScreen_ = false;
+};
+
+} // namespace ventrel
