@@ -35,12 +35,12 @@ Range distancesWithin(int start, int sign, int low, int high) {
                     : Range{std::int64_t{start} - high + 1, std::int64_t{start} - low + 1};
 }
 
-/// The steps of the line whose pixels lie within the ranges along and aside.
+/// The steps of the slope whose pixels lie within the ranges along and aside.
 Range stepsWithin(const Slope& slope, Range along, Range aside) {
-    Range steps{std::max<std::int64_t>(along.first, 0), std::min(along.end, slope.steps)};
     if (aside.first > slope.drift || aside.end <= 0) {
         return {};
     }
+    Range steps{std::max<std::int64_t>(along.first, 0), std::min(along.end, slope.steps)};
     steps.first = std::max(steps.first, slope.firstStepAt(aside.first));
     if (aside.end <= slope.drift) {
         steps.end = std::min(steps.end, slope.firstStepAt(aside.end));
@@ -48,28 +48,55 @@ Range stepsWithin(const Slope& slope, Range along, Range aside) {
     return steps;
 }
 
+/// A slope laid into the picture.
+struct Course {
+    Point start;
+    int signX = 1;
+    int signY = 1;
+    bool isFlat = true; ///< the longer side lies along x
+    Slope slope;
+
+    static Course between(Point from, Point to) {
+        const Point way = to - from;
+        const int across = std::abs(way.x);
+        const int down = std::abs(way.y);
+        return {from,
+                way.x < 0 ? -1 : 1,
+                way.y < 0 ? -1 : 1,
+                across >= down,
+                {std::max(across, down), std::min(across, down)}};
+    }
+
+    Range stepsInside(const Rect& box) const {
+        const Range columns = distancesWithin(start.x, signX, box.left, box.right);
+        const Range rows = distancesWithin(start.y, signY, box.top, box.bottom);
+        return stepsWithin(slope, isFlat ? columns : rows, isFlat ? rows : columns);
+    }
+
+    Rect pixelAt(std::int64_t step, std::int64_t aside) const {
+        const auto x = static_cast<int>(isFlat ? step : aside);
+        const auto y = static_cast<int>(isFlat ? aside : step);
+        return Rect::at(start + Point{signX * x, signY * y}, {1, 1});
+    }
+};
+
 } // namespace
 
 void Canvas::line(Point from, Point to, Colour colour) {
-    const Point start = limitedMove(from, origin_);
-    const Point way = limitedMove(to, origin_) - start;
-    const bool isFlat = std::abs(way.x) >= std::abs(way.y);
-    const Slope slope{isFlat ? std::abs(way.x) : std::abs(way.y), isFlat ? std::abs(way.y) : std::abs(way.x)};
+    const Course course = Course::between(limitedMove(from, origin_), limitedMove(to, origin_));
+    const Slope& slope = course.slope;
     if (slope.steps == 0) {
         return;
     }
-    const int signX = way.x < 0 ? -1 : 1;
-    const int signY = way.y < 0 ? -1 : 1;
-    const Rect box = clip_.bounds();
-    const Range columns = distancesWithin(start.x, signX, box.left, box.right);
-    const Range rows = distancesWithin(start.y, signY, box.top, box.bottom);
-    const Range steps = stepsWithin(slope, isFlat ? columns : rows, isFlat ? rows : columns);
     const SetTo set{toPixel(colour)};
-    for (std::int64_t k = steps.first; k < steps.end; ++k) {
-        const auto along = static_cast<int>(k);
-        const auto aside = static_cast<int>(slope.asideAfter(k));
-        const Point offset{signX * (isFlat ? along : aside), signY * (isFlat ? aside : along)};
-        changeInside(Rect::at(start + offset, {1, 1}), set);
+    // Piece by piece of pixels equally far aside: short rows of a flat line, short columns of a steep one.
+    const Range steps = course.stepsInside(clip_.bounds());
+    for (std::int64_t k = steps.first; k < steps.end;) {
+        const std::int64_t aside = slope.asideAfter(k);
+        const std::int64_t next =
+            aside < slope.drift ? std::min(slope.firstStepAt(aside + 1), steps.end) : steps.end;
+        changeInside(course.pixelAt(k, aside).unitedWith(course.pixelAt(next - 1, aside)), set);
+        k = next;
     }
 }
 
