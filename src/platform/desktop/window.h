@@ -29,7 +29,7 @@ struct WindowRecord;
 /// A key that stands for a command. The modifiers must agree exactly; a held key repeats its command.
 struct Accelerator {
     Key key = Key::unknown;
-    Modifiers modifiers;
+    Modifiers modifiers = {};
     int command = 0;
 };
 
@@ -173,12 +173,11 @@ struct CommandInput {
     Window sender;        ///< none for menus and accelerators
 };
 
-/// How the active window changes.
+/// How the active window changes. While the program's window is minimised or behind others no window is
+/// active; brought back, it reports `active` exactly once.
 struct Activation {
     bool active = false;
-    /// The program's window is minimised meanwhile. When a person brings it back, `active` is reported once
-    /// without this, whatever came before.
-    bool minimised = false;
+    bool minimised = false; ///< not active because the program's window was minimised
 };
 
 /// What a window does. All are optional and called on the one thread, from the loop or from inside the

@@ -87,13 +87,16 @@ private:
         std::variant<InputEvent, Action> what;
     };
 
-    void runDueActions();
+    /// Whether any ran.
+    bool runDueActions();
+    void endTimeline();
     std::optional<InputEvent> takeDueInput();
 
     Bitmap screen_;
     DisplayInfo display_;
     Millis now_ = 1000; // not 0, so that nobody mistakes "never" for "now"
     std::deque<Entry> timeline_;
+    bool timelineHasEnded_ = false;
     Sending lastSending_;
     std::size_t sendings_ = 0;
     std::size_t pixelsSent_ = 0;

@@ -1,0 +1,14 @@
+// The one picture: top-levels laid over each other where something changed, and sent to the machine.
+// Private to this room.
+
+#pragma once
+
+#include "platform/desktop/desktop_state.h"
+
+namespace ventrel {
+
+/// Lays and sends what changed since the last time; nothing happens when nothing did. The machine's window is
+/// shown while any top-level is.
+void presentChanges(DesktopState& state);
+
+} // namespace ventrel
