@@ -20,10 +20,13 @@ enum class Align { near, middle, far }; ///< left or top, centred, right or bott
 struct TextLayout {
     Align across = Align::near;
     Align down = Align::near; ///< of the whole block of lines
-    bool wrap = false;       ///< break between words at the box's width; line breaks in the text always count
-    bool singleLine = false; ///< line breaks count as blanks
-    bool mnemonics =
-        false;        ///< "&x" underlines x, "&&" is an ampersand; otherwise they are ordinary characters
+    /// Break between words at the box's width, and inside a word that is wider than the box. A line feed, a
+    /// carriage return or both together always end a line.
+    bool wrap = false;
+    bool singleLine = false; ///< line breaks count as blanks, and nothing is wrapped
+    /// "&x" underlines x (the last such mark counts), "&&" is an ampersand; otherwise they are ordinary
+    /// characters.
+    bool mnemonics = false;
     bool clip = true; ///< draw inside the box only
 };
 
@@ -42,6 +45,7 @@ int drawTextBox(Canvas& canvas, const Font& font, const Rect& box, std::string_v
 Size measureText(const Font& font, std::string_view text, int width, const TextLayout& layout);
 
 /// Draws one line whose tab characters move on to the next multiple of `tabWidth` pixels from `corner`.
+/// A `tabWidth` below 1 has no such stops: the columns then follow one another.
 void drawTabbedText(Canvas& canvas, const Font& font, Point corner, std::string_view text, int tabWidth,
                     const TextStyle& style);
 

@@ -1,0 +1,160 @@
+#include "platform/canvas/font_face.h"
+
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+#include <algorithm>
+#include <cstdlib>
+
+#include "base/whole_file.h"
+#include "base/windows1252.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::size_t largestFontFile = std::size_t{16} << 20;
+
+/// Below this, 6 and 8 and 3 and 9 run into one another (docs/fonts.md).
+constexpr int smallestPixels = 9;
+/// From here on stairs show, and shades between black and white no longer blur thin strokes.
+constexpr int firstSmoothPixels = 24;
+
+constexpr char32_t noCharacter = 0xFFFD;
+constexpr char firstPrintable = ' ';
+constexpr char deleteCharacter = 0x7F;
+
+constexpr int wholePixels(FT_Pos sixtyFourths) {
+    return static_cast<int>((sixtyFourths + 32) >> 6);
+}
+
+constexpr int roundedUp(long numerator, long denominator) {
+    return static_cast<int>((numerator + denominator - 1) / denominator);
+}
+
+bool isControl(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte < firstPrintable || byte == deleteCharacter;
+}
+
+bool isLetter(std::size_t byte) {
+    return (byte >= 'A' && byte <= 'Z') || (byte >= 'a' && byte <= 'z');
+}
+
+/// The size of the characters for a request's height.
+int characterPixels(const FT_FaceRec_& face, int height) {
+    const int cell = face.ascender - face.descender;
+    const int pixels = height > 0 ? (height * face.units_per_EM + cell / 2) / cell : -height;
+    return std::max(pixels, smallestPixels);
+}
+
+/// A requested cell is kept to the pixel; the base line then stands where the descenders still fit.
+FontMeasures lineMeasures(const FT_FaceRec_& face, int height, int pixels) {
+    const int ascent = roundedUp(long{face.ascender} * pixels, face.units_per_EM);
+    const int descent = roundedUp(-long{face.descender} * pixels, face.units_per_EM);
+    const int lineHeight = height > 0 ? std::max(height, pixels) : ascent + descent;
+    return {lineHeight, lineHeight - descent, 0};
+}
+
+/// The mean of the 52 letters, rounded.
+int averageWidth(const std::array<Glyph, Font::glyphCount>& glyphs) {
+    int sum = 0;
+    int count = 0;
+    for (std::size_t byte = 0; byte < glyphs.size(); ++byte) {
+        sum += isLetter(byte) ? glyphs[byte].advance : 0;
+        count += isLetter(byte) ? 1 : 0;
+    }
+    return (sum + count / 2) / count;
+}
+
+/// Appends the pixels of a drawn character, spreading bits to bytes where it was drawn in black and white.
+void appendCoverage(const FT_Bitmap& bitmap, std::vector<std::uint8_t>& coverage) {
+    for (unsigned y = 0; y < bitmap.rows; ++y) {
+        const unsigned char* row = bitmap.buffer + static_cast<std::ptrdiff_t>(y) * bitmap.pitch;
+        for (unsigned x = 0; x < bitmap.width; ++x) {
+            const bool isSet = (row[x / 8] >> (7 - x % 8) & 1) != 0;
+            coverage.push_back(bitmap.pixel_mode == FT_PIXEL_MODE_MONO ? (isSet ? 0xFF : 0) : row[x]);
+        }
+    }
+}
+
+/// The glyph of a character, or the face's empty box where it has none. A glyph that the file holds damaged
+/// stays blank.
+Glyph renderGlyph(FT_FaceRec_* face, char32_t character, int ascent, FT_Int32 flags,
+                  std::vector<std::uint8_t>& coverage) {
+    const FT_UInt index = character == noCharacter ? 0 : FT_Get_Char_Index(face, character);
+    if (FT_Load_Glyph(face, index, flags) != 0) {
+        return {};
+    }
+    const FT_GlyphSlotRec_& slot = *face->glyph;
+    const Size size{static_cast<int>(slot.bitmap.width), static_cast<int>(slot.bitmap.rows)};
+    Glyph glyph{Rect::at({slot.bitmap_left, ascent - slot.bitmap_top}, size), wholePixels(slot.advance.x),
+                coverage.size()};
+    appendCoverage(slot.bitmap, coverage);
+    return glyph;
+}
+
+} // namespace
+
+void FreeTypeCloser::operator()(FT_LibraryRec_* library) const {
+    FT_Done_FreeType(library);
+}
+
+void FreeTypeCloser::operator()(FT_FaceRec_* face) const {
+    FT_Done_Face(face);
+}
+
+FreeTypeLibrary startFreeType() {
+    FT_Library library = nullptr;
+    return FreeTypeLibrary(FT_Init_FreeType(&library) == 0 ? library : nullptr);
+}
+
+std::optional<FontFace> openFontFace(const FreeTypeLibrary& library, const std::filesystem::path& file) {
+    auto content = readFileStart(file, largestFontFile);
+    if (!library || !content) {
+        return std::nullopt;
+    }
+    FontFace opened{std::move(*content), nullptr};
+    FT_Face face = nullptr;
+    if (FT_New_Memory_Face(library.get(), reinterpret_cast<const FT_Byte*>(opened.file.data()),
+                           static_cast<FT_Long>(opened.file.size()), 0, &face) != 0) {
+        return std::nullopt;
+    }
+    opened.face.reset(face);
+    const bool isUsable = FT_IS_SCALABLE(face) && face->units_per_EM > 0 && face->ascender > 0 &&
+                          face->descender <= 0 && FT_Select_Charmap(face, FT_ENCODING_UNICODE) == 0;
+    return isUsable ? std::optional(std::move(opened)) : std::nullopt;
+}
+
+Font renderFont(const FontFace& fontFace, int height) {
+    FT_FaceRec_* face = fontFace.face.get();
+    const int pixels = characterPixels(*face, height);
+    if (FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(pixels)) != 0) {
+        return blankFont(height);
+    }
+    const FT_Int32 flags =
+        FT_LOAD_RENDER | (pixels < firstSmoothPixels ? FT_LOAD_TARGET_MONO : FT_LOAD_TARGET_NORMAL);
+    FontMeasures measures = lineMeasures(*face, height, pixels);
+    std::array<Glyph, Font::glyphCount> glyphs;
+    std::vector<std::uint8_t> coverage;
+    for (std::size_t byte = 0; byte < glyphs.size(); ++byte) {
+        const char c = static_cast<char>(byte);
+        if (!isControl(c)) {
+            glyphs[byte] = renderGlyph(face, toUnicode(c), measures.ascent, flags, coverage);
+        }
+    }
+    measures.averageWidth = averageWidth(glyphs);
+    return {measures, glyphs, std::move(coverage)};
+}
+
+Font blankFont(int height) {
+    const int lineHeight = std::max(std::abs(height), smallestPixels);
+    const int width = lineHeight / 2;
+    std::array<Glyph, Font::glyphCount> glyphs;
+    for (std::size_t byte = 0; byte < glyphs.size(); ++byte) {
+        glyphs[byte].advance = isControl(static_cast<char>(byte)) ? 0 : width;
+    }
+    return {{lineHeight, lineHeight - lineHeight / 5, width}, glyphs, {}};
+}
+
+} // namespace ventrel

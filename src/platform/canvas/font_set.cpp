@@ -1,0 +1,82 @@
+#include <algorithm>
+#include <map>
+#include <optional>
+
+#include "base/string_table.h"
+#include "base/windows1252.h"
+#include "platform/canvas/font.h"
+#include "platform/canvas/font_face.h"
+
+namespace ventrel {
+
+namespace {
+
+struct FaceFile {
+    Face face;
+    bool bold;
+    std::size_t file; ///< in `files`
+};
+
+constexpr std::array<std::string_view, 4> files{"LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf",
+                                                "LiberationMono-Regular.ttf", "LiberationMono-Bold.ttf"};
+
+constexpr std::array<FaceFile, 8> faceFiles{{{Face::arial, false, 0},
+                                             {Face::arial, true, 1},
+                                             {Face::smallFonts, false, 0},
+                                             {Face::smallFonts, true, 1},
+                                             {Face::msSansSerif, false, 0},
+                                             {Face::msSansSerif, true, 1},
+                                             {Face::courierNew, false, 2},
+                                             {Face::courierNew, true, 3}}};
+
+/// Taller than any screen of the program needs.
+constexpr int tallest = 256;
+
+std::size_t fileOf(const FontRequest& request) {
+    const auto* const found = std::ranges::find_if(
+        faceFiles, [&](const FaceFile& row) { return row.face == request.face && row.bold == request.bold; });
+    return found == faceFiles.end() ? 0 : found->file;
+}
+
+} // namespace
+
+struct FontSet::Contents {
+    FreeTypeLibrary library = startFreeType(); // first, so that it closes last
+    std::array<std::optional<FontFace>, files.size()> faces;
+    std::map<FontRequest, Font> fonts;
+};
+
+FontSet::FontSet(const std::filesystem::path& folder, const FailureReporter& report)
+    : contents_(std::make_unique<Contents>()) {
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const bool isFirstFailure =
+            std::all_of(contents_->faces.begin(), contents_->faces.begin() + static_cast<std::ptrdiff_t>(i),
+                        [](const auto& face) { return face.has_value(); });
+        const std::filesystem::path file = folder / files[i];
+        contents_->faces[i] = openFontFace(contents_->library, file);
+        if (!contents_->faces[i] && isFirstFailure) {
+            report(FormatStringId(TextId::cannotOpenFile, {pathText(file)}), MessageIcon::stop);
+        }
+    }
+}
+
+FontSet::~FontSet() = default;
+FontSet::FontSet(FontSet&&) noexcept = default;
+FontSet& FontSet::operator=(FontSet&&) noexcept = default;
+
+bool FontSet::isComplete() const {
+    return std::ranges::all_of(contents_->faces, [](const auto& face) { return face.has_value(); });
+}
+
+const Font& FontSet::font(const FontRequest& request) {
+    const auto known = contents_->fonts.find(request);
+    if (known != contents_->fonts.end()) {
+        return known->second;
+    }
+    const int height = std::clamp(request.height, -tallest, tallest);
+    const auto& face = contents_->faces[fileOf(request)];
+    Font made = face ? renderFont(*face, height) : blankFont(height);
+    return contents_->fonts.emplace(request, std::move(made)).first->second;
+}
+
+} // namespace ventrel
