@@ -1,4 +1,7 @@
 // Pictures from files: decoded into plain 24-bit colour, then turned into bitmaps.
+//
+// Whatever the bytes are, decoding ends with a whole picture or with none, and takes no more memory than the
+// largest picture needs.
 
 #pragma once
 
@@ -21,7 +24,7 @@ enum class ImageError : int {
     noPixels = -2,   ///< the image holds no picture
     cannotOpen = 1,  ///< missing or unreadable file
     wrongFormat = 2, ///< not of the stated format, or not a format at all
-    damaged = 3,     ///< cut short, or inconsistent within itself
+    damaged = 3,     ///< cut short, inconsistent within itself, or of a kind of the format that is not read
     tooLarge = 4,    ///< wider or higher than any picture of the program
 };
 
@@ -33,11 +36,11 @@ struct Image {
 };
 
 /// No side of a picture may be longer; a file that claims more is refused before memory is taken.
-inline constexpr std::uint32_t imageSideLimit = 8192;
+inline constexpr std::uint32_t imageSideLimit = 4096;
 
 void ImageFree(Image& image);
 
-/// Replaces what the image held. On failure it holds nothing.
+/// Replaces what the image held. On failure it holds nothing. Transparent pixels of a PNG are laid on black.
 ImageError ImageLoadFile(Image& image, const std::filesystem::path& file, ImageFormat format);
 ImageError ImageLoadMemory(Image& image, std::span<const std::byte> data, ImageFormat format);
 

@@ -1,0 +1,149 @@
+#include <png.h>
+
+#include <csetjmp>
+#include <cstring>
+
+#include "platform/canvas/image_readers.h"
+
+namespace ventrel {
+
+namespace {
+
+using Bytes = std::span<const std::byte>;
+
+constexpr std::size_t signatureSize = 8;
+/// The first chunk is the header: behind its length and name stand width and height.
+constexpr std::size_t widthPlace = 16;
+constexpr std::size_t heightPlace = 20;
+constexpr std::size_t leastSize = 24;
+
+/// Bytes a chunk of texts or profiles may unpack to, and how many such chunks are looked at.
+constexpr png_alloc_size_t chunkSizeLimit = 1 << 20;
+constexpr png_uint_32 chunkCountLimit = 100;
+
+constexpr std::size_t decodedChannels = 4; // red, green, blue, opacity
+constexpr unsigned opaque = 0xFF;
+
+/// The library's error leaves by longjmp, over whatever was running. So everything with a destructor lives
+/// here, made before the jump's target and freed after it.
+struct PngReading {
+    explicit PngReading(Bytes bytes) : rest(bytes) {}
+    ~PngReading() { png_destroy_read_struct(&png, &info, nullptr); }
+    PngReading(const PngReading&) = delete;
+    PngReading& operator=(const PngReading&) = delete;
+
+    Bytes rest;
+    png_structp png = nullptr;
+    png_infop info = nullptr;
+    std::vector<std::uint8_t> pixels; ///< decoded, with opacity
+    std::vector<png_bytep> rows;
+    std::size_t width = 0;
+    std::size_t height = 0;
+};
+
+[[noreturn]] void leave(png_structp png, png_const_charp) {
+    png_longjmp(png, 1);
+}
+
+/// Warnings tell of what does not change the picture, such as odd colour profiles.
+void ignore(png_structp, png_const_charp) {}
+
+void takeBytes(png_structp png, png_bytep to, std::size_t size) {
+    auto& reading = *static_cast<PngReading*>(png_get_io_ptr(png));
+    if (size > reading.rest.size()) {
+        png_error(png, "cut short");
+    }
+    std::memcpy(to, reading.rest.data(), size);
+    reading.rest = reading.rest.subspan(size);
+}
+
+void setLimits(png_structp png) {
+    png_set_user_limits(png, imageSideLimit, imageSideLimit);
+    png_set_chunk_malloc_max(png, chunkSizeLimit);
+    png_set_chunk_cache_max(png, chunkCountLimit);
+    // A flipped bit anywhere means that the file is not what was once written.
+    png_set_crc_action(png, PNG_CRC_ERROR_QUIT, PNG_CRC_ERROR_QUIT);
+}
+
+/// Whatever the file holds comes out as four bytes a pixel.
+void askForDecodedPixels(png_structp png) {
+    png_set_expand(png);
+    png_set_scale_16(png);
+    png_set_gray_to_rgb(png);
+    png_set_add_alpha(png, opaque, PNG_FILLER_AFTER);
+    png_set_interlace_handling(png);
+}
+
+void makeRoom(PngReading& reading) {
+    const std::size_t pitch = reading.width * decodedChannels;
+    reading.pixels.resize(pitch * reading.height);
+    reading.rows.resize(reading.height);
+    for (std::size_t y = 0; y < reading.height; ++y) {
+        reading.rows[y] = reading.pixels.data() + y * pitch;
+    }
+}
+
+/// False when the bytes are not a whole picture. Nothing here may need a destructor: see PngReading.
+bool decode(PngReading& reading) {
+    reading.png = png_create_read_struct(PNG_LIBPNG_VER_STRING, nullptr, leave, ignore);
+    reading.info = reading.png != nullptr ? png_create_info_struct(reading.png) : nullptr;
+    if (reading.info == nullptr) {
+        return false;
+    }
+    if (setjmp(png_jmpbuf(reading.png)) != 0) {
+        return false;
+    }
+    setLimits(reading.png);
+    png_set_read_fn(reading.png, &reading, takeBytes);
+    png_read_info(reading.png, reading.info);
+    askForDecodedPixels(reading.png);
+    png_read_update_info(reading.png, reading.info);
+    reading.width = png_get_image_width(reading.png, reading.info);
+    reading.height = png_get_image_height(reading.png, reading.info);
+    if (png_get_rowbytes(reading.png, reading.info) != reading.width * decodedChannels) {
+        return false;
+    }
+    makeRoom(reading);
+    png_read_image(reading.png, reading.rows.data());
+    png_read_end(reading.png, nullptr);
+    return true;
+}
+
+/// Lays the pixels on black, which leaves three bytes of each. They move to the front of the same memory.
+void layOnBlack(std::vector<std::uint8_t>& pixels) {
+    std::uint8_t* to = pixels.data();
+    for (std::size_t i = 0; i < pixels.size(); i += decodedChannels) {
+        const unsigned opacity = pixels[i + 3];
+        for (std::size_t channel = 0; channel < 3; ++channel) {
+            *to++ = static_cast<std::uint8_t>((pixels[i + channel] * opacity + opaque / 2) / opaque);
+        }
+    }
+    pixels.resize(pixels.size() / decodedChannels * 3);
+}
+
+} // namespace
+
+ImageError readPng(Bytes data, Image& image) {
+    const auto* const start = reinterpret_cast<png_const_bytep>(data.data());
+    if (data.size() < signatureSize || png_sig_cmp(start, 0, signatureSize) != 0) {
+        return ImageError::wrongFormat;
+    }
+    if (data.size() < leastSize) {
+        return ImageError::damaged;
+    }
+    if (png_get_uint_32(start + widthPlace) > imageSideLimit ||
+        png_get_uint_32(start + heightPlace) > imageSideLimit) {
+        return ImageError::tooLarge;
+    }
+    PngReading reading(data);
+    if (!decode(reading)) {
+        return ImageError::damaged;
+    }
+    layOnBlack(reading.pixels);
+    image.pixels = std::move(reading.pixels);
+    image.width = static_cast<std::uint32_t>(reading.width);
+    image.height = static_cast<std::uint32_t>(reading.height);
+    return ImageError::none;
+}
+
+} // namespace ventrel

@@ -1,0 +1,12 @@
+find_package(JPEG REQUIRED)
+find_package(PNG REQUIRED)
+
+ventrel_room(ventrel_images
+    image.cpp
+    image_bmp.cpp
+    image_jpeg.cpp
+    image_pcx.cpp
+    image_png.cpp
+    png_writer.cpp
+    USES ventrel_canvas)
+target_link_libraries(ventrel_images PRIVATE JPEG::JPEG PNG::PNG)

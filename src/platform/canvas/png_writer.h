@@ -1,0 +1,22 @@
+// Bitmaps into PNG files: for pictures that the program and its tools keep.
+//
+// The same picture always makes the same bytes: no date and no name goes into them.
+
+#pragma once
+
+#include <cstddef>
+#include <filesystem>
+#include <vector>
+
+#include "platform/canvas/bitmap.h"
+
+namespace ventrel {
+
+/// The bytes of a 24-bit PNG file; none for an empty picture, which the format cannot hold, or when memory
+/// runs out.
+std::vector<std::byte> encodePng(const Bitmap& bitmap);
+
+/// Writes or replaces the file. False when that fails; an older file then stands as it was.
+bool writePng(const std::filesystem::path& file, const Bitmap& bitmap);
+
+} // namespace ventrel
