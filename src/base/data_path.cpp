@@ -10,7 +10,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr char separator = '\\';
+/// The second one so that no name can smuggle it in and lead out of the folder.
+constexpr std::string_view separators = "\\/";
 
 char lowered(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
@@ -27,9 +28,9 @@ fs::path entryOf(const fs::path& folder, std::string_view name) {
     if (fs::exists(exact, error)) {
         return exact;
     }
-    for (const auto& entry : fs::directory_iterator(folder, error)) {
-        if (sameWithoutCase(entry.path().filename().string(), name)) {
-            return entry.path();
+    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+        if (sameWithoutCase(entry->path().filename().string(), name)) {
+            return entry->path();
         }
     }
     return exact;
@@ -40,7 +41,7 @@ fs::path entryOf(const fs::path& folder, std::string_view name) {
 fs::path DataPath(const fs::path& programFolder, std::string_view relative) {
     fs::path path = programFolder;
     while (!relative.empty()) {
-        const std::size_t length = std::min(relative.find(separator), relative.size());
+        const std::size_t length = std::min(relative.find_first_of(separators), relative.size());
         const std::string_view name = relative.substr(0, length);
         relative.remove_prefix(std::min(length + 1, relative.size()));
         const bool leadsAway = name.empty() || name == "." || name == "..";

@@ -1,10 +1,10 @@
 #include "base/file_buffer.h"
 
+#include <algorithm>
 #include <fstream>
-#include <limits>
 #include <new>
-#include <string>
 #include <system_error>
+#include <utility>
 
 #include "base/string_table.h"
 #include "base/whole_file.h"
@@ -15,8 +15,6 @@ namespace ventrel {
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr std::size_t wholeFile = std::numeric_limits<std::size_t>::max();
 
 void reportOpenFailure(const FailureReporter& report, TextId text, const fs::path& file) {
     report(FormatStringId(text, {pathText(file)}), MessageIcon::stop);
@@ -29,8 +27,18 @@ void reportTransferFailure(const FailureReporter& report, TextId text, std::size
            MessageIcon::stop);
 }
 
-bool canBeOpenedForWriting(const fs::path& file) {
-    return FileExists(file) && std::ofstream(file, std::ios::binary | std::ios::in).is_open();
+/// The first `wanted` bytes of a file of `length` bytes, or what is there; nothing when memory cannot hold
+/// them.
+std::optional<std::vector<std::byte>> readWithinMemory(const fs::path& file, std::size_t wanted,
+                                                       std::size_t length) {
+    if (std::min(wanted, length) > FileBuffer::mostBytes) {
+        return std::nullopt;
+    }
+    try {
+        return readFileStart(file, wanted).value_or(std::vector<std::byte>{});
+    } catch (const std::bad_alloc&) {
+        return std::nullopt;
+    }
 }
 
 } // namespace
@@ -39,23 +47,23 @@ bool FileBuffer::Load(const fs::path& file, bool mayWrite, std::optional<std::si
                       const FailureReporter& report) {
     Free();
     path = file;
-    try {
-        auto content = readFileStart(file, size.value_or(wholeFile));
-        if (!content) {
-            reportOpenFailure(report, TextId::cannotOpenFile, file);
-            return false;
-        }
-        if (size && content->size() < *size) {
-            reportTransferFailure(report, TextId::fileReadFailed, *size, file, content->size());
-            return false;
-        }
-        data = std::move(*content);
-    } catch (const std::bad_alloc&) {
-        std::error_code error;
-        const auto wanted = size.value_or(static_cast<std::size_t>(fs::file_size(file, error)));
+    std::error_code error;
+    const auto length = static_cast<std::size_t>(fs::file_size(file, error));
+    if (error || !FileExists(file)) {
+        reportOpenFailure(report, TextId::cannotOpenFile, file);
+        return false;
+    }
+    const std::size_t wanted = size.value_or(length);
+    auto content = readWithinMemory(file, wanted, length);
+    if (!content) {
         report(FormatStringId(TextId::notEnoughMemory, {static_cast<long>(wanted)}), MessageIcon::stop);
         return false;
     }
+    if (content->size() < wanted) {
+        reportTransferFailure(report, TextId::fileReadFailed, wanted, file, content->size());
+        return false;
+    }
+    data = std::move(*content);
     loaded = true;
     writable = mayWrite;
     return true;
@@ -67,7 +75,7 @@ bool FileBuffer::Save(const FailureReporter& report) {
     }
     std::error_code error;
     const auto length = static_cast<std::size_t>(fs::file_size(path, error));
-    if (error || !canBeOpenedForWriting(path)) {
+    if (error || !canBeRewritten(path)) {
         reportOpenFailure(report, TextId::cannotOpenForWriting, path);
         return false;
     }
@@ -88,7 +96,7 @@ void FileBuffer::Free() {
 
 bool FileExists(const fs::path& file) {
     std::error_code error;
-    return !fs::is_directory(file, error) && std::ifstream(file).is_open();
+    return fs::is_regular_file(file, error) && std::ifstream(file).is_open();
 }
 
 } // namespace ventrel

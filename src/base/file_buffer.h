@@ -12,6 +12,9 @@
 namespace ventrel {
 
 struct FileBuffer {
+    /// Far above any file of the game; whatever is longer counts as more than memory holds.
+    static constexpr std::size_t mostBytes = std::size_t{256} << 20;
+
     std::vector<std::byte> data;
     std::filesystem::path path; ///< the file that was loaded, or tried last
     bool loaded = false;        ///< `data` holds a file

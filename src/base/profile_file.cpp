@@ -3,6 +3,10 @@
 #include <algorithm>
 #include <cstdint>
 #include <limits>
+#include <span>
+#include <system_error>
+#include <utility>
+#include <vector>
 
 #include "base/whole_file.h"
 
@@ -14,6 +18,28 @@ constexpr std::size_t wholeFile = std::numeric_limits<std::size_t>::max();
 
 constexpr std::string_view blanks = " \t\r\v\f";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// One line: where it stands in the text, without its line end, and where the next one starts.
+struct Line {
+    std::size_t start = 0;
+    std::string_view text;
+    std::size_t next = 0;
+};
+
+Line lineAt(std::string_view text, std::size_t start) {
+    const std::size_t newline = std::min(text.find('\n', start), text.size());
+    std::string_view line = text.substr(start, newline - start);
+    const bool hasReturn = newline < text.size() && line.ends_with('\r');
+    line.remove_suffix(hasReturn ? 1 : 0);
+    return {start, line, std::min(newline + 1, text.size())};
+}
+
+/// The line end of the first line; "\n" when it has none.
+std::string_view lineEndOf(std::string_view text) {
+    const std::size_t newline = text.find('\n');
+    const bool hasReturn = newline != std::string_view::npos && newline > 0 && text[newline - 1] == '\r';
+    return hasReturn ? "\r\n" : "\n";
+}
 
 std::string_view trimmed(std::string_view text) {
     const std::size_t first = text.find_first_not_of(blanks);
@@ -74,58 +100,39 @@ std::string written(std::string_view value) {
 
 ProfileFile::ProfileFile(std::filesystem::path file) {
     const auto content = readFileStart(file, wholeFile).value_or(std::vector<std::byte>{});
+    std::error_code missing;
+    const auto length = std::filesystem::file_size(file, missing);
     *this = fromText(std::move(file), {reinterpret_cast<const char*>(content.data()), content.size()});
+    isPartial_ = !missing && content.size() != length;
 }
 
 ProfileFile ProfileFile::fromText(std::filesystem::path file, std::string_view text) {
     ProfileFile profile;
     profile.path_ = std::move(file);
-    while (!text.empty()) {
-        const std::size_t newline = text.find('\n');
-        const bool hasEnd = newline != std::string_view::npos;
-        std::string_view line = text.substr(0, newline);
-        text.remove_prefix(hasEnd ? newline + 1 : text.size());
-        const bool hasReturn = hasEnd && line.ends_with('\r');
-        line.remove_suffix(hasReturn ? 1 : 0);
-        profile.lines_.push_back({std::string(line), hasReturn ? "\r\n" : hasEnd ? "\n" : ""});
-    }
-    if (!profile.lines_.empty() && !profile.lines_.front().end.empty()) {
-        profile.lineEnd_ = profile.lines_.front().end;
-    }
+    profile.text_ = text;
     return profile;
-}
-
-std::string ProfileFile::toText() const {
-    std::string text;
-    for (const Line& line : lines_) {
-        text += line.text;
-        text += line.end;
-    }
-    return text;
 }
 
 std::optional<ProfileFile::Place> ProfileFile::find(std::string_view section, std::string_view key) const {
     std::optional<Place> place;
-    for (std::size_t i = 0; i < lines_.size(); ++i) {
-        std::string_view line = lines_[i].text;
-        if (i == 0 && line.starts_with(byteOrderMark)) {
-            line.remove_prefix(byteOrderMark.size());
-        }
-        if (const auto name = sectionName(line)) {
+    const std::size_t start = text_.starts_with(byteOrderMark) ? byteOrderMark.size() : 0;
+    for (Line line{0, {}, start}; line.next < text_.size();) {
+        line = lineAt(text_, line.next);
+        if (const auto name = sectionName(line.text)) {
             if (place) {
-                break;
+                break; // the section ends here
             }
             if (sameName(*name, section)) {
-                place = Place{i, std::nullopt, i + 1};
+                place = Place{false, 0, 0, line.next};
             }
         } else if (place) {
-            const auto keyOfLine = keyName(line);
+            const auto keyOfLine = keyName(line.text);
             if (keyOfLine && sameName(*keyOfLine, key)) {
-                place->keyLine = i;
-                break;
+                const std::size_t valueAt = line.text.find('=') + 1;
+                return Place{true, line.start + valueAt, line.text.size() - valueAt, line.start};
             }
-            if (!trimmed(line).empty()) {
-                place->insertBefore = i + 1; // blank lines stay between the sections
+            if (!trimmed(line.text).empty()) {
+                place->insertAt = line.next; // blank lines stay between the sections
             }
         }
     }
@@ -134,11 +141,10 @@ std::optional<ProfileFile::Place> ProfileFile::find(std::string_view section, st
 
 std::optional<std::string_view> ProfileFile::value(std::string_view section, std::string_view key) const {
     const auto place = find(section, key);
-    if (!place || !place->keyLine) {
+    if (!place || !place->hasKey) {
         return std::nullopt;
     }
-    const std::string_view line = lines_[*place->keyLine].text;
-    return withoutQuotes(trimmed(line.substr(line.find('=') + 1)));
+    return withoutQuotes(trimmed(std::string_view(text_).substr(place->valueStart, place->valueLength)));
 }
 
 int ProfileFile::integer(std::string_view section, std::string_view key, int missing) const {
@@ -166,30 +172,29 @@ std::string ProfileFile::text(std::string_view section, std::string_view key,
     return std::string(value(section, key).value_or(missing));
 }
 
-void ProfileFile::insertLine(std::size_t before, std::string text) {
-    if (before > 0 && lines_[before - 1].end.empty()) {
-        lines_[before - 1].end = lineEnd_;
-    }
-    lines_.insert(lines_.begin() + static_cast<std::ptrdiff_t>(before), Line{std::move(text), lineEnd_});
+void ProfileFile::insertLine(std::size_t at, std::string_view line) {
+    const std::string_view end = lineEndOf(text_);
+    const bool joinsLine = at > 0 && text_[at - 1] != '\n'; // the last line of a file may lack its end
+    std::string inserted(joinsLine ? end : "");
+    inserted.append(line).append(end);
+    text_.insert(at, inserted);
 }
 
 void ProfileFile::set(std::string_view section, std::string_view key, std::string_view newValue) {
+    const std::string value = written(newValue);
     const auto place = find(section, key);
-    if (place && place->keyLine) {
-        std::string& line = lines_[*place->keyLine].text;
-        const std::string before = line;
-        line.resize(line.find('=') + 1);
-        line += written(newValue);
-        changed_ = changed_ || line != before;
+    if (place && place->hasKey) {
+        const bool isSame = std::string_view(text_).substr(place->valueStart, place->valueLength) == value;
+        if (!isSame) {
+            text_.replace(place->valueStart, place->valueLength, value);
+            changed_ = true;
+        }
         return;
     }
-    std::string line = std::string(key) + '=' + written(newValue);
-    if (place) {
-        insertLine(place->insertBefore, std::move(line));
-    } else {
-        insertLine(lines_.size(), '[' + std::string(section) + ']');
-        insertLine(lines_.size(), std::move(line));
+    if (!place) {
+        insertLine(text_.size(), '[' + std::string(section) + ']');
     }
+    insertLine(place ? place->insertAt : text_.size(), std::string(key) + '=' + value);
     changed_ = true;
 }
 
@@ -197,9 +202,8 @@ bool ProfileFile::save() {
     if (!changed_) {
         return true;
     }
-    const std::string text = toText();
-    const auto content = std::as_bytes(std::span(text));
-    if (replaceFile(path_, content) < content.size()) {
+    const auto content = std::as_bytes(std::span(text_));
+    if (isPartial_ || replaceFile(path_, content) < content.size()) {
         return false;
     }
     changed_ = false;

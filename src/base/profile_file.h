@@ -11,20 +11,20 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace ventrel {
 
 class ProfileFile {
 public:
-    /// Reads the file. One that is missing or unreadable counts as empty.
+    /// Reads the file. One that is missing or unreadable counts as empty; an unreadable one is never
+    /// replaced.
     explicit ProfileFile(std::filesystem::path file);
 
     /// The same from a text, as if it stood in `file`.
     static ProfileFile fromText(std::filesystem::path file, std::string_view text);
 
     /// The whole file as it would be written.
-    std::string toText() const;
+    const std::string& toText() const { return text_; }
 
     /// The value as the classic profile reader takes it: an optional sign and digits; a value that does not
     /// start with a number is 0; a missing key gives `missing`. Wraps round at 32 bits.
@@ -34,8 +34,9 @@ public:
     std::string text(std::string_view section, std::string_view key, std::string_view missing) const;
 
     /// Replaces the value in place, or adds the key at the end of its section, or the section at the end of
-    /// the file. Sections and keys are compared without regard to case; of two equal ones the first counts. A
-    /// value with blanks or quotes at its ends is enclosed in quotes; line breaks within it become blanks.
+    /// the file. New lines end as the first line of the file does, those of a new file with "\n". Sections
+    /// and keys are compared without regard to case; of two equal ones the first counts. A value with blanks
+    /// or quotes at its ends is enclosed in quotes; line breaks within it become blanks.
     void set(std::string_view section, std::string_view key, std::string_view value);
 
     /// Writes the file when something was set, making it if need be. False when it could not be written; the
@@ -43,26 +44,24 @@ public:
     bool save();
 
 private:
-    struct Line {
-        std::string text; // without its line end
-        std::string end;  // "\n", "\r\n", or nothing at the end of a file that lacks one
-    };
+    /// Where a section has a key, as offsets into the text.
     struct Place {
-        std::size_t sectionLine = 0;
-        std::optional<std::size_t> keyLine;
-        std::size_t insertBefore = 0; // where a new key of the section goes
+        bool hasKey = false;
+        std::size_t valueStart = 0; // all that follows the "=" on the key's line
+        std::size_t valueLength = 0;
+        std::size_t insertAt = 0; // the line start at which a new key of the section goes
     };
 
     ProfileFile() = default;
 
     std::optional<Place> find(std::string_view section, std::string_view key) const;
     std::optional<std::string_view> value(std::string_view section, std::string_view key) const;
-    void insertLine(std::size_t before, std::string text);
+    void insertLine(std::size_t at, std::string_view line);
 
     std::filesystem::path path_;
-    std::vector<Line> lines_;
-    std::string lineEnd_ = "\n"; // for new lines: as the file's first line has it
+    std::string text_;
     bool changed_ = false;
+    bool isPartial_ = false; // the file holds more than could be read, so it must not be replaced
 };
 
 } // namespace ventrel

@@ -33,6 +33,14 @@ std::size_t writePieces(std::ofstream& stream, std::span<const std::byte> conten
     return written;
 }
 
+/// Makes the file. Fewer than all bytes when the disk fails, also when it does so on closing alone.
+std::size_t writeFresh(const fs::path& file, std::span<const std::byte> content) {
+    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
+    const std::size_t written = writePieces(stream, content);
+    stream.close();
+    return stream ? written : std::min(written, content.size() - 1);
+}
+
 /// A link is followed, so that the file it names is the one replaced.
 fs::path resolved(const fs::path& file) {
     std::error_code error;
@@ -44,8 +52,11 @@ fs::path resolved(const fs::path& file) {
 
 std::optional<std::vector<std::byte>> readFileStart(const fs::path& file, std::size_t limit) {
     std::error_code error;
+    if (!fs::is_regular_file(file, error)) {
+        return std::nullopt; // and not opened: a pipe would wait for its writer
+    }
     std::ifstream stream(file, std::ios::binary);
-    if (!stream || fs::is_directory(file, error)) {
+    if (!stream) {
         return std::nullopt;
     }
     std::vector<std::byte> content;
@@ -60,21 +71,24 @@ std::optional<std::vector<std::byte>> readFileStart(const fs::path& file, std::s
     return content;
 }
 
+bool canBeRewritten(const fs::path& file) {
+    std::error_code error;
+    return fs::is_regular_file(file, error) &&
+           std::fstream(file, std::ios::binary | std::ios::in | std::ios::out).is_open();
+}
+
 std::size_t replaceFile(const fs::path& file, std::span<const std::byte> content) {
     const fs::path target = resolved(file);
     const fs::path fresh = besides(target);
     std::error_code error;
-    std::size_t written = 0;
-    {
-        std::ofstream stream(fresh, std::ios::binary | std::ios::trunc);
-        if (stream) {
-            written = writePieces(stream, content);
-        }
-        stream.close();
-        if (!stream) {
-            fs::remove(fresh, error);
-            return std::min(written, content.empty() ? 0 : content.size() - 1);
-        }
+    // Renaming asks the folder alone, so the file itself has to be asked first.
+    if (fs::exists(target, error) && !canBeRewritten(target)) {
+        return 0;
+    }
+    const std::size_t written = writeFresh(fresh, content);
+    if (written < content.size()) {
+        fs::remove(fresh, error);
+        return written;
     }
     const fs::perms mode = fs::status(target, error).permissions();
     if (!error && mode != fs::perms::unknown) {

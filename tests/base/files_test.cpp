@@ -24,8 +24,9 @@ protected:
     FileBuffer buffer;
 };
 
-TEST_F(Files, MissingFileAndFolderAreRefusedByName) {
-    for (const auto& path : {folder / "none.apt", folder.path()}) {
+TEST_F(Files, WhatIsNoFileIsRefusedByName) {
+    makePipe(folder / "pipe"); // reading it would wait for ever
+    for (const auto& path : {folder / "none.apt", folder.path(), folder / "pipe"}) {
         EXPECT_FALSE(buffer.Load(path, false, {}, report));
         EXPECT_FALSE(FileExists(path));
         EXPECT_EQ(reports.back().text, "Can't open the file " + path.string() + ". Please re-install.");
@@ -40,8 +41,16 @@ TEST_F(Files, ShortFileIsRefusedWithBothCounts) {
     ASSERT_EQ(reports.size(), 1U);
     EXPECT_NE(reports[0].text.find("Tried to read 76 bytes"), std::string::npos);
     EXPECT_NE(reports[0].text.find("only read 50 bytes"), std::string::npos);
-    // A size that no memory holds is noticed by reading, not by taking the memory.
+}
+
+TEST_F(Files, GiantSizesTakeNoMemory) {
+    writeText(folder / "short.apt", "x");
     EXPECT_FALSE(buffer.Load(folder / "short.apt", false, std::size_t{1} << 60, report));
+    EXPECT_NE(reports.back().text.find("only read 1 bytes"), std::string::npos);
+    std::filesystem::resize_file(folder / "short.apt", std::size_t{1} << 30);
+    EXPECT_FALSE(buffer.Load(folder / "short.apt", false, {}, report));
+    EXPECT_NE(reports.back().text.find("Tried to allocate 1073741824 bytes"), std::string::npos);
+    EXPECT_TRUE(buffer.Load(folder / "short.apt", false, 76, report));
 }
 
 TEST_F(Files, NextLoadReplacesTheContent) {
@@ -55,7 +64,9 @@ TEST_F(Files, NextLoadReplacesTheContent) {
 }
 
 TEST_F(Files, SavingKeepsTheLengthAndNeedsPermission) {
+    using std::filesystem::perms;
     writeText(folder / "scores", "0123456789");
+    std::filesystem::permissions(folder / "scores", perms::owner_read | perms::owner_write);
     ASSERT_TRUE(buffer.Load(folder / "scores", false, {}, report));
     EXPECT_FALSE(buffer.Save(report));
     EXPECT_TRUE(reports.empty());
@@ -66,6 +77,8 @@ TEST_F(Files, SavingKeepsTheLengthAndNeedsPermission) {
     EXPECT_TRUE(buffer.Save(report));
     EXPECT_EQ(readText(folder / "scores"), "X123456789");
     EXPECT_FALSE(std::filesystem::exists(folder / "scores.new"));
+    EXPECT_EQ(std::filesystem::status(folder / "scores").permissions(),
+              perms::owner_read | perms::owner_write);
 
     buffer.data.resize(4);
     EXPECT_FALSE(buffer.Save(report));
@@ -96,7 +109,8 @@ TEST_F(Files, DataNamesFindTheirFilesWhateverTheCaseAndNeverLeaveTheFolder) {
     writeText(folder / "grf/Bkgnd8.grf", "picture");
     EXPECT_EQ(DataPath(folder.path(), "GRF\\bkgnd8.GRF"), folder / "grf/Bkgnd8.grf");
     EXPECT_EQ(DataPath(folder.path(), "mci\\none.mci"), folder / "mci/none.mci");
-    EXPECT_EQ(DataPath(folder.path(), "..\\..\\grf"), folder / "grf");
+    EXPECT_EQ(DataPath(folder.path(), "..\\../grf"), folder / "grf");
+    EXPECT_EQ(DataPath(folder.path(), "/etc/passwd"), folder / "etc/passwd");
 }
 
 } // namespace

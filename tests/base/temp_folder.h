@@ -3,6 +3,7 @@
 #pragma once
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <filesystem>
@@ -34,6 +35,10 @@ private:
 
 inline void writeText(const std::filesystem::path& file, std::string_view text) {
     std::ofstream(file, std::ios::binary).write(text.data(), static_cast<std::streamsize>(text.size()));
+}
+
+inline void makePipe(const std::filesystem::path& path) {
+    ASSERT_EQ(::mkfifo(path.c_str(), S_IRUSR | S_IWUSR), 0);
 }
 
 inline std::string readText(const std::filesystem::path& file) {
