@@ -29,6 +29,10 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+bool isKnownKind(char kind) {
+    return std::string_view("sdiucxX").find(kind) != std::string_view::npos;
+}
+
 class PatternReader {
 public:
     explicit PatternReader(std::string_view pattern) : pattern_(pattern) {}
@@ -55,8 +59,7 @@ public:
         p.isLong = takeIf('l');
         const std::size_t beforeKind = at_;
         p.kind = atEnd() ? '\0' : take();
-        const bool isBareLong = p.isLong && (p.kind == '\0' || p.kind == ' ');
-        if (isBareLong) {
+        if (p.isLong && !isKnownKind(p.kind)) {
             at_ = beforeKind; // "%l" alone is a number; what follows is text
             p.kind = 'd';
         }
@@ -123,10 +126,6 @@ std::string valueText(const Placeholder& p, const FormatValue& value) {
     return p.kind == 'c' ? std::string(1, static_cast<char>(number)) : numberText(p, number);
 }
 
-bool isKnownKind(char kind) {
-    return std::string_view("sdiucxX").find(kind) != std::string_view::npos;
-}
-
 std::string padded(std::string text, const Placeholder& p) {
     const auto width = static_cast<std::size_t>(p.width);
     if (text.size() < width) {
@@ -140,7 +139,7 @@ std::string padded(std::string text, const Placeholder& p) {
 std::string FormatText(std::string_view pattern, std::initializer_list<FormatValue> values) {
     std::string result;
     const auto* next = values.begin();
-    for (PatternReader reader(pattern); !reader.atEnd();) {
+    for (PatternReader reader(pattern); !reader.atEnd() && result.size() < longestResult;) {
         const char c = reader.take();
         if (c != '%') {
             result += c;

@@ -1,17 +1,19 @@
 #include "base/geometry.h"
 
-#include "base/arithmetic.h"
+#include <cstdint>
 
 namespace ventrel {
 
 namespace {
 
-int mapped(int targetFrom, int targetTo, int sourceFrom, int sourceTo, int value) {
-    const int sourceLength = sourceTo - sourceFrom;
-    if (sourceLength == 0) {
-        return (targetFrom + targetTo) / 2;
-    }
-    return targetFrom + SafeDiv((targetTo - targetFrom) * (value - sourceFrom), sourceLength);
+/// Wider than its arguments, so that no product of pixels overflows.
+int mapped(std::int64_t targetFrom, std::int64_t targetTo, std::int64_t sourceFrom, std::int64_t sourceTo,
+           std::int64_t value) {
+    const std::int64_t sourceLength = sourceTo - sourceFrom;
+    const std::int64_t result =
+        sourceLength == 0 ? (targetFrom + targetTo) / 2
+                          : targetFrom + (targetTo - targetFrom) * (value - sourceFrom) / sourceLength;
+    return static_cast<int>(result);
 }
 
 } // namespace

@@ -18,7 +18,9 @@ int RandomGenerator::next() {
 
 int Random(RandomGenerator& generator, int a, int b) {
     const int drawn = generator.next();
-    return b == 0 ? drawn % a : a + drawn % (b - a + 1);
+    const std::int64_t from = b == 0 ? 0 : a;
+    const std::int64_t count = b == 0 ? a : std::int64_t{b} - a + 1;
+    return static_cast<int>(from + (count == 0 ? 0 : drawn % count));
 }
 
 } // namespace ventrel

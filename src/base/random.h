@@ -17,7 +17,8 @@ struct RandomGenerator {
 };
 
 /// With `b` 0: a number from 0 to `a` - 1. Otherwise one from `a` to `b`, both included.
-/// The caller passes a positive `a` when `b` is 0, and `b` >= `a` otherwise.
+/// The caller passes a positive `a` when `b` is 0, and `b` >= `a` otherwise; a range without a number, such
+/// as a damaged file may ask for, draws all the same and gives 0 or `a`.
 int Random(RandomGenerator& generator, int a, int b = 0);
 
 } // namespace ventrel

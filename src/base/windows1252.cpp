@@ -65,6 +65,10 @@ char32_t takeCharacter(std::string_view& text) {
         }
         c = c << 6 | (byte & 0x3FU);
     }
+    constexpr std::array<char32_t, 4> lowest{0, 0x80, 0x800, 0x10000};
+    if (c < lowest[following]) {
+        return replacement; // longer than the character needs
+    }
     text.remove_prefix(following);
     return c;
 }

@@ -35,6 +35,7 @@ TEST(Chance, StepsTheKnownSequenceAndStaysInRange) {
     EXPECT_EQ(Random(drawn, 100), 41);
     EXPECT_EQ(Random(drawn, 1, 8), 1 + 18467 % 8);
     EXPECT_EQ(Random(drawn, 5, 5), 5);
+    EXPECT_EQ(Random(drawn, 15, 14), 15);
 }
 
 TEST(Rectangles, ExcludeTheirRightAndBottomEdges) {

@@ -19,6 +19,7 @@ TEST(Format, FillsEveryKindOfPlaceholder) {
 TEST(Format, SurvivesPatternsThatAreWrong) {
     EXPECT_EQ(FormatText("%q %", {1L}), "%q %");
     EXPECT_EQ(FormatText("%d and %d", {1L}), "1 and ");
+    EXPECT_EQ(FormatText("%l, %l", {1L, 2L}), "1, 2");
     EXPECT_EQ(FormatText("%99999999d", {1L}).size(), 1023U);
     EXPECT_EQ(FormatText(std::string(3000, 'x'), {}).size(), 1023U);
 }
@@ -56,6 +57,7 @@ TEST(Windows1252, GoesToUtf8AndBack) {
     EXPECT_EQ(fromUtf8("Łódź \xFF\xC3"), "?\xF3"
                                          "d? ??");
     EXPECT_EQ(fromUtf8("a😀b", '\0'), "ab");
+    EXPECT_EQ(fromUtf8("\xE0\x81\x81"), "???"); // an "A" in disguise
 }
 
 } // namespace
