@@ -1,0 +1,133 @@
+// The airspace tool, as an author meets it: faults are named, and what is shown can be built again.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+#include "../base/temp_folder.h"
+#include "apt/airspace_source.h"
+#include "apt/airspace_writer.h"
+#include "apt/commands.h"
+#include "sim/airport_file.h"
+#include "sim/grid.h"
+
+namespace ventrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+fs::path planted(const std::string& name) {
+    return fs::path(AIRSPACE_FOLDER) / (name + ".toml");
+}
+
+/// What a command prints on standard output, or on standard error.
+template <typename Command>
+std::string printedBy(Command command, int expectedStatus) {
+    ::testing::internal::CaptureStdout();
+    ::testing::internal::CaptureStderr();
+    EXPECT_EQ(command(), expectedStatus);
+    return ::testing::internal::GetCapturedStdout() + ::testing::internal::GetCapturedStderr();
+}
+
+struct PlantedFault {
+    const char* file;
+    const char* said;
+};
+
+class Planted : public ::testing::TestWithParam<PlantedFault> {};
+
+TEST_P(Planted, FaultIsNamed) {
+    const auto [file, said] = GetParam();
+    const std::string printed = printedBy([&] { return apt::check({planted(file)}); }, apt::faulty);
+    EXPECT_NE(printed.find(said), std::string::npos) << printed;
+    EXPECT_NE(printed.find(std::string(file) + ".toml"), std::string::npos) << printed;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    AirspaceTool, Planted,
+    ::testing::Values(PlantedFault{"point_outside_scope", "'OUT': it lies outside the scope"},
+                      PlantedFault{"cut_by_edge", "'RIM': its circle is cut by the edge"},
+                      PlantedFault{"cone_leaves_scope", "'EDG': its approach cone leaves the scope"},
+                      PlantedFault{"points_too_near", "'CLO': it is only 2 cells from 'SSS'"},
+                      PlantedFault{"no_exit", "no VOR through which flights may leave"},
+                      PlantedFault{"no_airport", "has no airport"},
+                      PlantedFault{"labels_collide", "'TWO': its label collides with that of 'ONE'"},
+                      PlantedFault{"label_covers_runway", "'COV': its label covers 'AAA'"},
+                      PlantedFault{"too_many_points", "there are 34 points"},
+                      PlantedFault{"exit_and_airport", "'BTH': it is both an exit and an airport"},
+                      PlantedFault{"dark_colours", "aircraft colour cannot be seen"},
+                      PlantedFault{"same_colours", "a selected aircraft looks like the others"},
+                      PlantedFault{"unknown_key", ":12: point 1: a 'cell', a 'latitude'"},
+                      PlantedFault{"long_name", ":2: airspace: 'name' must have 1 to 31 characters"},
+                      PlantedFault{"bad_heading", ":17: point 1: 'runway' must be a multiple of 45"},
+                      PlantedFault{"duplicate_ident", ":29: point 3: another point is called 'NNN'"},
+                      PlantedFault{"not_in_character_set", ":23: point 2: 'name' has a character"},
+                      PlantedFault{"broken", "broken.toml:1"}),
+    [](const auto& test) { return std::string(test.param.file); });
+
+TEST(AirspaceTool, IsSilentOnSoundAirspaces) {
+    std::vector<fs::path> files{planted("sound")};
+    for (const auto& entry : fs::directory_iterator(SHIPPED_AIRSPACES)) {
+        if (entry.path().extension() == ".toml") {
+            files.push_back(entry.path());
+        }
+    }
+    EXPECT_EQ(printedBy([&] { return apt::check(files); }, apt::success), "");
+}
+
+TEST(AirspaceTool, ChecksTheFilesThatPlayersGet) {
+    const TempFolder folder;
+    ASSERT_EQ(apt::build(planted("points_too_near"), folder / "near.apt", 800), apt::success);
+    const auto check = [&] { return apt::check({folder / "near.apt", folder / "none.apt"}); };
+    const std::string printed = printedBy(check, apt::faulty);
+    EXPECT_NE(printed.find("near.apt: point 'CLO'"), std::string::npos) << printed;
+    EXPECT_NE(printed.find("none.apt: cannot be opened"), std::string::npos) << printed;
+}
+
+TEST(AirspaceTool, WhatIsShownBuildsTheSameFileAgain) {
+    const TempFolder folder;
+    for (const int width : {800, 1024}) {
+        ASSERT_EQ(apt::build(planted("sound"), folder / "first.apt", width), apt::success);
+        const auto show = [&] { return apt::show(folder / "first.apt", {}); };
+        writeText(folder / "shown.toml", printedBy(show, apt::success));
+        ASSERT_EQ(apt::build(folder / "shown.toml", folder / "again.apt", width), apt::success);
+        EXPECT_EQ(readText(folder / "first.apt"), readText(folder / "again.apt"));
+    }
+    const auto otherWidth = [&] { return apt::build(folder / "shown.toml", folder / "x.apt", 800); };
+    EXPECT_NE(printedBy(otherWidth, apt::faulty).find("1024"), std::string::npos);
+    EXPECT_FALSE(fs::exists(folder / "x.apt"));
+}
+
+TEST(AirspaceTool, PictureTravelsWithTheFileAndMustFit) {
+    const TempFolder folder;
+    // The head of a JPEG: start of image, then a frame of the given height and width.
+    const auto jpeg = [](int side) {
+        const std::string size{static_cast<char>(side >> 8), static_cast<char>(side)};
+        return std::string("\xFF\xD8\xFF\xC0\x00\x0B\x08", 7) + size + size +
+               std::string("\x01\x01\x11\x00", 4);
+    };
+    const std::string source = readText(planted("sound"));
+    writeText(folder / "map.toml", source + "\n[picture]\n800 = \"map.jpg\"\n");
+
+    writeText(folder / "map.jpg", jpeg(540));
+    const auto build = [&] { return apt::build(folder / "map.toml", folder / "map.apt", 800); };
+    EXPECT_NE(printedBy(build, apt::faulty).find("map.jpg: not a JPEG of 539 x 539"), std::string::npos);
+
+    writeText(folder / "map.jpg", jpeg(539));
+    ASSERT_EQ(build(), apt::success);
+    const auto show = [&] { return apt::show(folder / "map.apt", folder / "out.jpg"); };
+    printedBy(show, apt::success);
+    EXPECT_EQ(readText(folder / "out.jpg"), jpeg(539));
+}
+
+TEST(AirspaceTool, PointsStandWhereTheirFlightsAreDrawn) {
+    const std::string text = readText(planted("sound"));
+    const auto source = apt::parseAirspace(text, "sound.toml");
+    EXPECT_EQ(apt::pixelOf(source.points[1], smallRadarLayout), (Point{24 * 11, 8 * 11}));
+    EXPECT_EQ(apt::pixelOf(source.points[1], largeRadarLayout), (Point{24 * 14, 8 * 14}));
+    // Hartsfield-Jackson on the grid of Atlanta.
+    EXPECT_EQ(apt::cellOf({33.73, -84.71, 4.0}, 33.63470, -84.42845), (Cell{28, 25}));
+}
+
+} // namespace
+} // namespace ventrel

@@ -1,0 +1,62 @@
+// An airspace as its author writes it: a TOML text, read strictly.
+//
+// Positions are cells, or places on the earth with the grid's middle and scale. A source serves both screen
+// layouts; one that names its points' own pixel positions also names the only layout that it is for.
+
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <map>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/colour.h"
+#include "base/geometry.h"
+#include "sim/vor.h"
+
+namespace ventrel::apt {
+
+/// The middle of the grid on the earth, in degrees, and its scale.
+struct GridPlace {
+    double latitude = 0;
+    double longitude = 0;
+    double nauticalMilesPerCell = 0;
+};
+
+struct SourcePoint {
+    Vor vor;                    ///< all but its place
+    std::optional<Cell> cell;   ///< as given, or from its place on the earth
+    std::optional<Point> pixel; ///< only where no cell fits
+};
+
+struct AirspaceSource {
+    std::string name;
+    std::optional<int> layoutWidth; ///< the only layout that it is written for
+    std::optional<GridPlace> grid;
+    Colour routeColour;
+    Colour selectedFlightColour;
+    Colour flightColour;
+    std::map<int, std::filesystem::path> pictures; ///< by layout width
+    std::vector<SourcePoint> points;
+};
+
+/// Why a source is refused, as it is shown: "FILE:LINE: reason".
+struct SourceFault {
+    std::string text;
+};
+
+/// Reads and checks a source. Throws SourceFault at the first fault; `file` names it in the text.
+AirspaceSource parseAirspace(std::string_view toml, const std::filesystem::path& file);
+
+/// The names of the places of a label, by the number that the airport file has for them.
+inline constexpr std::array<std::string_view, 4> vorLabelPlaces{"above", "left", "right", "below"};
+inline constexpr std::array<std::string_view, 4> airportLabelPlaces{"upper left", "upper right", "lower left",
+                                                                    "lower right"};
+
+/// The cell of a place on the earth.
+Cell cellOf(const GridPlace& grid, double latitude, double longitude);
+
+} // namespace ventrel::apt

@@ -1,0 +1,22 @@
+// Writes an airport file (".apt") for one screen layout.
+
+#pragma once
+
+#include <cstddef>
+#include <span>
+#include <vector>
+
+#include "apt/airspace_source.h"
+#include "radar/radar_layout.h"
+
+namespace ventrel::apt {
+
+/// Where the point stands on that layout's radar picture: the corner of its cell, where aircraft over it are
+/// drawn.
+Point pixelOf(const SourcePoint& point, const RadarLayout& layout);
+
+/// The file's bytes. `picture` is the JPEG of that layout, or empty. The same source gives the same bytes.
+std::vector<std::byte> airportFileBytes(const AirspaceSource& source, const RadarLayout& layout,
+                                        std::span<const std::byte> picture);
+
+} // namespace ventrel::apt
