@@ -13,11 +13,12 @@ constexpr unsigned firstSpecial = 0x80;
 constexpr unsigned pastSpecial = 0xA0;
 
 /// The characters of bytes 0x80 to 0x9F, as published in the Unicode Consortium's mapping table CP1252.TXT.
+/// The five bytes without a character stand for the control characters of their own numbers, as in
+/// bestfit1252.txt.
 constexpr std::array<char32_t, pastSpecial - firstSpecial> specials{
-    0x20AC,      replacement, 0x201A, 0x0192, 0x201E, 0x2026,      0x2020, 0x2021,
-    0x02C6,      0x2030,      0x0160, 0x2039, 0x0152, replacement, 0x017D, replacement,
-    replacement, 0x2018,      0x2019, 0x201C, 0x201D, 0x2022,      0x2013, 0x2014,
-    0x02DC,      0x2122,      0x0161, 0x203A, 0x0153, replacement, 0x017E, 0x0178};
+    0x20AC, 0x0081, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160,
+    0x2039, 0x0152, 0x008D, 0x017D, 0x008F, 0x0090, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
+    0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178};
 
 void appendUtf8(std::string& text, char32_t c) {
     const auto continuation = [&](int shift) { text += static_cast<char>(0x80U | (c >> shift & 0x3FU)); };
@@ -38,7 +39,7 @@ std::optional<char> toByte(char32_t c) {
         return static_cast<char>(c);
     }
     const auto* const found = std::ranges::find(specials, c);
-    if (c == replacement || found == specials.end()) {
+    if (found == specials.end()) {
         return std::nullopt;
     }
     return static_cast<char>(firstSpecial + static_cast<unsigned>(found - specials.begin()));

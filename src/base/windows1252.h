@@ -8,7 +8,7 @@
 
 namespace ventrel {
 
-/// Every byte as its character; the five bytes that stand for none become the replacement character.
+/// Every byte as its character; the five bytes that have none become the control characters of their numbers.
 std::string toUtf8(std::string_view windows1252);
 
 /// Every character as its byte. One that has none, and a broken sequence, becomes `missing`; a `missing` of

@@ -5,11 +5,11 @@
 #include <algorithm>
 
 #include "../base/temp_folder.h"
-#include "apt/airspace_source.h"
-#include "apt/airspace_writer.h"
-#include "apt/commands.h"
 #include "sim/airport_file.h"
 #include "sim/grid.h"
+#include "tools/apt/airspace_source.h"
+#include "tools/apt/airspace_writer.h"
+#include "tools/apt/commands.h"
 
 namespace ventrel {
 namespace {

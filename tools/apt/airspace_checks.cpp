@@ -1,12 +1,12 @@
-#include "apt/airspace_checks.h"
+#include "tools/apt/airspace_checks.h"
 
 #include <algorithm>
 #include <array>
 #include <cstdlib>
 
-#include "apt/picture_check.h"
 #include "base/windows1252.h"
 #include "radar/map_geometry.h"
+#include "tools/apt/picture_check.h"
 
 namespace ventrel::apt {
 

@@ -1,4 +1,4 @@
-#include "apt/airspace_source.h"
+#include "tools/apt/airspace_source.h"
 
 #include <algorithm>
 #include <cmath>
@@ -6,10 +6,10 @@
 #include <limits>
 #include <numbers>
 
-#include "apt/toml_reader.h"
 #include "base/windows1252.h"
 #include "sim/airport_file.h"
 #include "sim/grid.h"
+#include "tools/apt/toml_reader.h"
 
 namespace ventrel::apt {
 

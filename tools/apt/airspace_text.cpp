@@ -1,11 +1,11 @@
-#include "apt/airspace_text.h"
+#include "tools/apt/airspace_text.h"
 
 #include <array>
 #include <cstdio>
 
-#include "apt/airspace_source.h"
 #include "base/windows1252.h"
 #include "radar/radar_layout.h"
+#include "tools/apt/airspace_source.h"
 
 namespace ventrel::apt {
 

@@ -1,4 +1,4 @@
-#include "apt/airspace_writer.h"
+#include "tools/apt/airspace_writer.h"
 
 #include <algorithm>
 #include <cstdint>

@@ -6,8 +6,8 @@
 #include <span>
 #include <vector>
 
-#include "apt/airspace_source.h"
 #include "radar/radar_layout.h"
+#include "tools/apt/airspace_source.h"
 
 namespace ventrel::apt {
 

@@ -1,15 +1,15 @@
-#include "apt/commands.h"
+#include "tools/apt/commands.h"
 
 #include <cstdio>
 #include <limits>
 
-#include "apt/airspace_checks.h"
-#include "apt/airspace_source.h"
-#include "apt/airspace_text.h"
-#include "apt/airspace_writer.h"
-#include "apt/picture_check.h"
 #include "base/whole_file.h"
 #include "base/windows1252.h"
+#include "tools/apt/airspace_checks.h"
+#include "tools/apt/airspace_source.h"
+#include "tools/apt/airspace_text.h"
+#include "tools/apt/airspace_writer.h"
+#include "tools/apt/picture_check.h"
 
 namespace ventrel::apt {
 

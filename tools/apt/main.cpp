@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
-#include "apt/commands.h"
 #include "sim/grid.h"
+#include "tools/apt/commands.h"
 
 namespace {
 

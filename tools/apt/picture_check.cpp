@@ -1,4 +1,4 @@
-#include "apt/picture_check.h"
+#include "tools/apt/picture_check.h"
 
 namespace ventrel::apt {
 

@@ -1,4 +1,4 @@
-#include "apt/toml_reader.h"
+#include "tools/apt/toml_reader.h"
 
 #include <charconv>
 #include <cmath>

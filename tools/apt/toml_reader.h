@@ -11,7 +11,7 @@
 #include <string>
 #include <string_view>
 
-#include "apt/airspace_source.h"
+#include "tools/apt/airspace_source.h"
 
 namespace ventrel::apt {
 
