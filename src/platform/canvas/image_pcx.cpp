@@ -101,13 +101,15 @@ ImageError readPcx(Bytes data, Image& image) {
         return ImageError::wrongFormat;
     }
     const PcxHeader header = readHeader(data);
-    const bool isRead = byteAt(data, 3) == 8 && (header.planes == 1 || header.planes == 3);
-    if (!isRead || header.width <= 0 || header.height <= 0 ||
-        header.bytesPerLine < static_cast<std::size_t>(header.width)) {
+    if (header.width <= 0 || header.height <= 0) {
         return ImageError::damaged;
     }
     if (!isPictureSize(header.width, header.height)) {
         return ImageError::tooLarge;
+    }
+    const bool isRead = byteAt(data, 3) == 8 && (header.planes == 1 || header.planes == 3);
+    if (!isRead || header.bytesPerLine < static_cast<std::size_t>(header.width)) {
+        return ImageError::damaged;
     }
     Bytes packed = data.subspan(headerSize);
     Bytes table;

@@ -21,6 +21,9 @@ constexpr std::size_t leastSize = 24;
 constexpr png_alloc_size_t chunkSizeLimit = 1 << 20;
 constexpr png_uint_32 chunkCountLimit = 100;
 
+/// No packed byte makes more of them: a file that claims more holds nothing to fill the memory with.
+constexpr std::size_t bestPacking = 1032;
+
 constexpr std::size_t decodedChannels = 4; // red, green, blue, opacity
 constexpr unsigned opaque = 0xFF;
 
@@ -96,10 +99,13 @@ bool decode(PngReading& reading) {
     setLimits(reading.png);
     png_set_read_fn(reading.png, &reading, takeBytes);
     png_read_info(reading.png, reading.info);
-    askForDecodedPixels(reading.png);
-    png_read_update_info(reading.png, reading.info);
     reading.width = png_get_image_width(reading.png, reading.info);
     reading.height = png_get_image_height(reading.png, reading.info);
+    if (png_get_rowbytes(reading.png, reading.info) * reading.height / bestPacking > reading.rest.size()) {
+        return false;
+    }
+    askForDecodedPixels(reading.png);
+    png_read_update_info(reading.png, reading.info);
     if (png_get_rowbytes(reading.png, reading.info) != reading.width * decodedChannels) {
         return false;
     }
