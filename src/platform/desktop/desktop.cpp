@@ -78,6 +78,14 @@ Window Desktop::captureWindow() const {
     return handleOf(alive(state_->pointer.captured));
 }
 
+std::vector<Window> Desktop::topLevels() const {
+    std::vector<Window> result;
+    for (const WindowPtr& topLevel : state_->topLevels) {
+        result.push_back(topLevel->handle());
+    }
+    return result;
+}
+
 Window Desktop::windowAt(Point screen) const {
     return handleOf(ventrel::windowAt(*state_, screen));
 }

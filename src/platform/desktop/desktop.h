@@ -46,6 +46,8 @@ public:
     Window activeWindow() const;
     Window focusWindow() const;
     Window captureWindow() const;
+    /// All of them, hidden ones too, the uppermost last.
+    std::vector<Window> topLevels() const;
     /// The innermost visible window at that point of the screen.
     Window windowAt(Point screen) const;
 

@@ -81,8 +81,8 @@ std::optional<Millis> runIdle(DesktopState& state) {
     return wanted ? std::optional(std::max(*wanted, called + 1)) : std::nullopt;
 }
 
-bool hasMoreToDo(const DesktopState& state) {
-    return state.paintIsNeeded || !state.queue.posted.empty() || !state.queue.input.empty();
+bool isQueueEmpty(const DesktopState& state) {
+    return state.queue.posted.empty() && state.queue.input.empty();
 }
 
 } // namespace
@@ -98,14 +98,17 @@ std::optional<Millis> runPass(DesktopState& state, const LoopMode& mode) {
         return state.backend.now();
     }
     paintMarked(state);
-    const auto idleDeadline = mode.idle && !hasMoreToDo(state) ? runIdle(state) : std::nullopt;
+    const auto idleDeadline = mode.idle && isQueueEmpty(state) ? runIdle(state) : std::nullopt;
     paintMarked(state);
     refreshPointer(state);
     if (isOver(state, mode)) {
         return state.backend.now();
     }
     presentChanges(state);
-    return hasMoreToDo(state) ? state.backend.now() : earlier(idleDeadline, nextTimer(state.timers));
+    if (state.paintIsNeeded || !isQueueEmpty(state)) {
+        return state.backend.now();
+    }
+    return earlier(idleDeadline, nextTimer(state.timers));
 }
 
 void sleepUntil(DesktopState& state, std::optional<Millis> moment) {

@@ -46,7 +46,7 @@ const VisibleParts& visibleParts(WindowRecord& window) {
 
 void paint(const WindowPtr& window) {
     const Point corner = cornerInPicture(*window);
-    const Region region = window->invalid.movedBy(corner).intersectedWith(drawableRegion(*window));
+    const Region region = drawableRegion(*window).intersectedWith(window->invalid.movedBy(corner));
     window->invalid = {};
     if (region.isEmpty()) {
         return;

@@ -102,6 +102,7 @@ public:
     // Painting --------------------------------------------------------------------------------------------
 
     /// Marks the window, or a part of it, to be painted once no message waits. Its children are not marked.
+    /// Parts marked apart are painted as one rectangle around them.
     void invalidate() const;
     void invalidate(const Rect& part) const;
     /// Marks it with everything inside it.

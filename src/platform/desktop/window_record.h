@@ -50,7 +50,7 @@ struct WindowRecord : std::enable_shared_from_this<WindowRecord> {
     std::optional<Colour> background;
     std::shared_ptr<const WindowHandlers> handlers;
 
-    Region invalid; ///< what is to be painted, in its own coordinates
+    Rect invalid; ///< around all that is to be painted, in its own coordinates
     VisibleParts visibleParts;
 
     // Of top-levels only.

@@ -6,6 +6,13 @@
 
 namespace ventrel {
 
+namespace {
+
+/// Time stands still between them, so a program that does nothing else never gets on.
+constexpr int mostEmptyPolls = 1'000'000;
+
+} // namespace
+
 HeadlessBackend::HeadlessBackend(Size size, DisplayInfo display) : screen_(size), display_(display) {}
 
 void HeadlessBackend::addInput(Millis when, InputEvent event) {
@@ -20,8 +27,9 @@ void HeadlessBackend::addAction(Millis when, std::function<void()> action) {
 
 std::optional<InputEvent> HeadlessBackend::wait(std::optional<Millis> limit) {
     if (limit == 0) {
-        return takeDueInput();
+        return poll();
     }
+    emptyPolls_ = 0;
     ++sleeps_;
     if (timeline_.empty() && !limit) {
         endTimeline();
@@ -30,8 +38,16 @@ std::optional<InputEvent> HeadlessBackend::wait(std::optional<Millis> limit) {
     const Millis never = std::numeric_limits<Millis>::max();
     const Millis next = timeline_.empty() ? never : timeline_.front().when;
     now_ = std::max(now_, std::min(next, limit ? now_ + *limit : never));
-    // What an action did is seen to before further input is.
-    return runDueActions() ? std::nullopt : takeDueInput();
+    // What an action did is seen to before anything else happens.
+    return runDueAction() ? std::nullopt : takeDueInput();
+}
+
+std::optional<InputEvent> HeadlessBackend::poll() {
+    auto event = takeDueInput();
+    if (!event && ++emptyPolls_ > mostEmptyPolls) {
+        throw std::logic_error("The program looks for input again and again without ever sleeping.");
+    }
+    return event;
 }
 
 void HeadlessBackend::endTimeline() {
@@ -42,16 +58,15 @@ void HeadlessBackend::endTimeline() {
     whenTimelineEnds();
 }
 
-bool HeadlessBackend::runDueActions() {
-    bool hasRun = false;
-    while (!timeline_.empty() && timeline_.front().when <= now_ &&
-           std::holds_alternative<Action>(timeline_.front().what)) {
-        const Action action = std::get<Action>(std::move(timeline_.front().what));
-        timeline_.pop_front();
-        action();
-        hasRun = true;
+bool HeadlessBackend::runDueAction() {
+    if (timeline_.empty() || timeline_.front().when > now_ ||
+        !std::holds_alternative<Action>(timeline_.front().what)) {
+        return false;
     }
-    return hasRun;
+    const Action action = std::get<Action>(std::move(timeline_.front().what));
+    timeline_.pop_front();
+    action();
+    return true;
 }
 
 std::optional<InputEvent> HeadlessBackend::takeDueInput() {

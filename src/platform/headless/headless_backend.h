@@ -87,9 +87,10 @@ private:
         std::variant<InputEvent, Action> what;
     };
 
-    /// Whether any ran.
-    bool runDueActions();
+    /// Whether there was one.
+    bool runDueAction();
     void endTimeline();
+    std::optional<InputEvent> poll();
     std::optional<InputEvent> takeDueInput();
 
     Bitmap screen_;
@@ -97,6 +98,7 @@ private:
     Millis now_ = 1000; // not 0, so that nobody mistakes "never" for "now"
     std::deque<Entry> timeline_;
     bool timelineHasEnded_ = false;
+    int emptyPolls_ = 0;
     Sending lastSending_;
     std::size_t sendings_ = 0;
     std::size_t pixelsSent_ = 0;

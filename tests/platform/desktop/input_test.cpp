@@ -1,0 +1,279 @@
+// Mouse, keys, pointers and menus: who gets what.
+
+#include "stage.h"
+
+namespace ventrel {
+namespace {
+
+std::string at(const std::string& what, Point p) {
+    return what + " " + std::to_string(p.x) + "," + std::to_string(p.y);
+}
+
+/// Logs presses, releases and moves under a name.
+WindowHandlers mouseLogged(Stage& stage, const std::string& name) {
+    const auto note = [&stage, name](const std::string& what) {
+        return [&stage, text = name + " " + what](const MouseInput& input) {
+            stage.log.push_back(at(input.doubleClick ? text + " double" : text, input.position));
+        };
+    };
+    return {.press = note("press"), .release = note("release"), .captureLost = [&stage, name] {
+                stage.log.push_back(name + " lost");
+            }};
+}
+
+struct Family : Stage {
+    Window main = open(mouseLogged(*this, "main"));
+    Window panel = desktop.create(
+        {.parent = main, .id = 7, .bounds = {20, 30, 120, 130}, .handlers = mouseLogged(*this, "panel")});
+    Window button = desktop.create(
+        {.parent = panel, .id = 8, .bounds = {10, 10, 60, 30}, .handlers = mouseLogged(*this, "button")});
+};
+
+TEST(Mouse, ReachesTheInnermostWindowThatTakesIt) {
+    Family stage;
+    EXPECT_EQ(stage.main.child(7).child(8), stage.button);
+    stage.script.press({35, 45})
+        .then([&] { stage.button.enable(false); })
+        .press({35, 45})
+        .then([&] { stage.panel.enable(false); })
+        .press({35, 45})
+        .then([&] { stage.panel.hide(); })
+        .press({36, 46});
+    stage.play();
+    EXPECT_EQ(stage.log,
+              (Log{"button press 5,5", "panel press 15,15", "main press 35,45", "main press 36,46"}));
+}
+
+TEST(Mouse, TheCaptureFollowsThePointerEverywhereUntilItIsLost) {
+    Family stage;
+    stage.script.then([&] { stage.button.capture(); })
+        .release({-10, 500})
+        .then([&] {
+            EXPECT_TRUE(stage.backend.isCaptured());
+            stage.panel.capture();
+        })
+        .press({0, 0})
+        .then([&] { stage.panel.releaseCapture(); })
+        .press({0, 0})
+        .then([&] {
+            EXPECT_FALSE(stage.backend.isCaptured());
+            stage.button.capture();
+            stage.panel.hide();
+            EXPECT_FALSE(stage.button.hasCapture());
+            stage.main.capture();
+        })
+        .window(WindowEvent::deactivated)
+        .then([&] { EXPECT_FALSE(stage.main.hasCapture()); })
+        .window(WindowEvent::activated)
+        .then([&] {
+            stage.main.capture();
+            const Window dialog = stage.desktop.create({.bounds = {0, 0, 50, 50}});
+            EXPECT_FALSE(stage.backend.isCaptured());
+            dialog.capture();
+            dialog.destroy();
+            EXPECT_FALSE(stage.backend.isCaptured());
+        });
+    stage.play();
+    EXPECT_EQ(stage.log, (Log{"button release -40,460", "button lost", "panel press -20,-30",
+                              "main press 0,0", "button lost", "main lost", "main lost"}));
+}
+
+TEST(Mouse, ASecondPressIsADoubleClickOnlyOnTheSameWindow) {
+    Family stage;
+    stage.script.doubleClick({35, 45}).then([&] { stage.log.clear(); });
+    stage.play();
+    EXPECT_TRUE(stage.log.empty());
+
+    Family other;
+    other.script.doubleClick({35, 45}).then([&] { other.button.hide(); }).doubleClick({35, 45});
+    other.script.press({35, 45}).then([&] { other.panel.hide(); });
+    // The second press of a double click whose first one closed what it hit.
+    MouseEvent second;
+    second.position = {35, 45};
+    second.button = MouseButton::left;
+    second.down = true;
+    second.doubleClick = true;
+    other.script.then([&] { other.backend.addInput(0, second); });
+    other.play();
+    EXPECT_EQ(other.log, (Log{"button press 5,5", "button release 5,5", "button press double 5,5",
+                              "button release 5,5", "panel press 15,15", "panel release 15,15",
+                              "panel press double 15,15", "panel release 15,15", "panel press 15,15"}));
+}
+
+TEST(Mouse, TheWheelIsPassedOnToTheParent) {
+    Stage stage;
+    const Window main = stage.open({.wheel = [&](int notches) {
+        stage.log.push_back("main " + std::to_string(notches));
+        return true;
+    }});
+    stage.desktop.create(
+        {.parent = main, .bounds = {0, 0, 50, 50}, .handlers = {.wheel = [&](int notches) {
+                                                       stage.log.push_back("list " + std::to_string(notches));
+                                                       return notches > 0;
+                                                   }}});
+    stage.script.wheel({10, 10}, 1).wheel({10, 10}, -2);
+    stage.play();
+    EXPECT_EQ(stage.log, (Log{"list 1", "list -2", "main -2"}));
+}
+
+TEST(Pointer, EachWindowIsAskedAndItsParentAnswersForIt) {
+    Stage stage;
+    CursorImage hand;
+    const CursorImage* arrow = stage.backend.cursor();
+    bool gameRuns = true;
+    const Window main = stage.open({.cursor = [&](Point p) -> std::optional<Cursor> {
+        if (gameRuns && p.x >= 50) {
+            return &hand;
+        }
+        return std::nullopt;
+    }});
+    const Window silent = stage.desktop.create({.parent = main, .bounds = {40, 0, 100, 50}});
+    const Window edit = stage.desktop.create(
+        {.parent = main,
+         .bounds = {0, 50, 40, 100},
+         .handlers = {.cursor = [](Point) -> std::optional<Cursor> { return StandardCursor::beam; }}});
+    const auto shows = [&](const CursorImage* image, const char* where) {
+        return [&stage, image, where] { EXPECT_EQ(stage.backend.cursor(), image) << where; };
+    };
+    stage.script.moveTo({45, 5})
+        .then(shows(arrow, "nobody answers"))
+        .moveTo({60, 5})
+        .then(shows(&hand, "the parent, in its own coordinates"))
+        .moveTo({5, 60})
+        .then([&] {
+            EXPECT_NE(stage.backend.cursor(), arrow);
+            EXPECT_NE(stage.backend.cursor(), &hand);
+            edit.hide();
+        })
+        .wait(1)
+        .then(shows(arrow, "the window under the pointer went away"))
+        .moveTo({60, 5})
+        .then([&] {
+            silent.capture();
+            stage.desktop.setCursor(StandardCursor::hidden);
+        })
+        .moveTo({5, 60})
+        .then(shows(nullptr, "nobody is asked while the mouse is captured"))
+        .then([&] {
+            stage.desktop.create({.bounds = {0, 0, 20, 20}}).destroy();
+        })
+        .wait(1)
+        .then([&] {
+            const Window dialog = stage.desktop.create({.owner = main, .bounds = {0, 0, 20, 20}});
+            stage.desktop.runModal(dialog, [&] { return stage.dialogIsFinished; });
+        })
+        .moveTo({60, 5})
+        .then(shows(arrow, "locked by the dialog"))
+        .then([&] { stage.dialogIsFinished = true; });
+    stage.play();
+}
+
+TEST(Keys, GoToTheFocusAndUpAndTheirTextIsSpentWhenHandled) {
+    Stage stage;
+    const auto keys = [&](const std::string& name, Key handled) {
+        return WindowHandlers{.key =
+                                  [&stage, name, handled](const KeyEvent& key) {
+                                      if (key.down) {
+                                          stage.log.push_back(name);
+                                      }
+                                      return key.key == handled;
+                                  },
+                              .text =
+                                  [&stage, name](std::string_view text) {
+                                      stage.log.push_back(name + " " + std::string(text));
+                                      return name == "edit";
+                                  }};
+    };
+    const Window dialog = stage.open(keys("dialog", Key::a));
+    const Window edit =
+        stage.desktop.create({.parent = dialog, .bounds = {0, 0, 50, 20}, .handlers = keys("edit", Key::b)});
+    edit.focus();
+    stage.script.type("abc").then([&] { dialog.focus(); }).type("c");
+    stage.play();
+    EXPECT_EQ(stage.log, (Log{"edit", "dialog", "edit", "edit", "dialog", "edit c", "dialog", "dialog c"}));
+}
+
+TEST(Keys, AcceleratorsAreForTheirOwnWindowAndExactKeys) {
+    Stage stage;
+    constexpr Accelerator table[] = {
+        {Key::f, withAlt, 500}, {Key::f, {}, 4042}, {Key::keypad8, {}, 4026}, {Key::s, withControl, 4006}};
+    Window main;
+    main = stage.open({.key =
+                           [&](const KeyEvent& key) {
+                               if (key.down) {
+                                   stage.log.emplace_back("key");
+                               }
+                               return false;
+                           },
+                       .text =
+                           [&](std::string_view text) {
+                               stage.log.push_back("text " + std::string(text));
+                               return true;
+                           },
+                       .command =
+                           [&](const CommandInput& command) {
+                               stage.log.push_back(std::to_string(command.id));
+                               if (command.id == 4006) {
+                                   stage.runDialog(main, {.text = [&](std::string_view) {
+                                                       stage.log.emplace_back("typed into the dialog");
+                                                       return true;
+                                                   }});
+                               }
+                           }});
+    main.setAccelerators(table);
+    const Window button = stage.desktop.create({.parent = main, .bounds = {0, 0, 50, 20}});
+    button.focus();
+    stage.script.type("f").key(Key::f, withAlt).keyDown(Key::keypad8).keyDown(Key::keypad8, {}, true);
+    stage.script.key(Key::digit8).key(Key::f, withControl);
+    // The text of the very key that opened a dialog does not land in it.
+    stage.script.keyDown(Key::s, withControl).then([&] { stage.backend.addInput(0, TextEvent{"s"}); });
+    stage.script.then(
+        [&] { stage.script.key(Key::f).then([&] { stage.dialogIsFinished = true; }).type("x"); });
+    stage.script.then([&] {});
+    stage.backend.whenTimelineEnds = [&] { stage.desktop.quit(); };
+    stage.desktop.run();
+    EXPECT_EQ(stage.log,
+              (Log{"4042", "500", "4026", "4026", "key", "key", "4006", "ended", "key", "text x"}));
+}
+
+TEST(Menu, TakesMouseAndKeysWhileItsOwnerStaysActive) {
+    Stage stage;
+    WindowHandlers mainHandlers = stage.logged("main");
+    mainHandlers.press = [&](const MouseInput&) { stage.log.emplace_back("main press"); };
+    const Window main = stage.open(std::move(mainHandlers));
+    bool closed = false;
+    const auto runMenu = [&] {
+        closed = false;
+        const Window menu =
+            stage.desktop.create({.owner = main,
+                                  .bounds = {30, 40, 80, 120},
+                                  .activates = false,
+                                  .handlers = {.press =
+                                                   [&](const MouseInput& input) {
+                                                       stage.log.push_back(at("menu press", input.position));
+                                                       closed = true;
+                                                       MouseEvent again;
+                                                       again.position = input.screen;
+                                                       again.button = input.button;
+                                                       again.down = true;
+                                                       stage.desktop.putBack(again);
+                                                   },
+                                               .key =
+                                                   [&](const KeyEvent&) {
+                                                       stage.log.emplace_back("menu key");
+                                                       return true;
+                                                   }}});
+        EXPECT_EQ(stage.desktop.windowAt({35, 45}), menu);
+        stage.log.emplace_back(stage.desktop.runMenu(menu, [&] { return closed; }) ? "chosen" : "dismissed");
+        EXPECT_TRUE(main.isActive());
+        menu.destroy();
+    };
+    stage.script.then([&] { stage.log.clear(); }).then(runMenu).keyDown(Key::down).press({10, 10});
+    stage.script.wait(5).then(runMenu).window(WindowEvent::deactivated).window(WindowEvent::activated);
+    stage.play();
+    EXPECT_EQ(stage.log, (Log{"menu key", "menu press -20,-30", "chosen", "main press", "main blur",
+                              "main inactive", "dismissed", "main active", "main focus"}));
+}
+
+} // namespace
+} // namespace ventrel

@@ -1,0 +1,228 @@
+// The loop: order, sleep, timers, nested loops and how they end.
+
+#include <stdexcept>
+
+#include "stage.h"
+
+namespace ventrel {
+namespace {
+
+TEST(Loop, PostedMessagesRunInOrderBeforeFurtherInput) {
+    Stage stage;
+    Window main;
+    main = stage.open({.press =
+                           [&](const MouseInput&) {
+                               stage.log.emplace_back("press");
+                               main.post([&] {
+                                   stage.log.emplace_back("first");
+                                   main.postCommand(506);
+                               });
+                               main.post([&] { stage.log.emplace_back("second"); });
+                           },
+                       .release = [&](const MouseInput&) { stage.log.emplace_back("release"); },
+                       .command =
+                           [&](const CommandInput& command) {
+                               stage.log.push_back("command " + std::to_string(command.id));
+                           }});
+    const Window doomed = stage.open();
+    doomed.post([&] { stage.log.emplace_back("too late"); });
+    doomed.destroy();
+    stage.script.click({5, 5});
+    stage.play();
+    EXPECT_EQ(stage.log, (Log{"press", "first", "second", "command 506", "release"}));
+}
+
+TEST(Loop, AnIdleProgramDoesNotWake) {
+    Stage stage;
+    int idleCalls = 0;
+    stage.open();
+    stage.desktop.setIdle([&]() -> std::optional<Millis> {
+        ++idleCalls;
+        return std::nullopt;
+    });
+    stage.script.wait(3'600'000);
+    stage.play();
+    EXPECT_EQ(stage.backend.sleeps(), 1U);
+    EXPECT_LE(idleCalls, 2);
+}
+
+TEST(Loop, TheIdleOperationIsCalledWhenItWantsAndNeverSpins) {
+    Stage stage;
+    stage.open();
+    const Millis start = stage.desktop.now();
+    std::vector<Millis> calls;
+    stage.desktop.setIdle([&]() -> std::optional<Millis> {
+        calls.push_back(stage.desktop.now() - start);
+        // After a while it asks for the past.
+        return calls.size() < 4 ? stage.desktop.now() + 6 : start;
+    });
+    stage.script.wait(20);
+    stage.play();
+    EXPECT_EQ(calls, (std::vector<Millis>{0, 6, 12, 18, 19}));
+}
+
+TEST(Loop, TimersKeepTheirPeriodAlsoUnderADialogWhileIdleStandsStill) {
+    Stage stage;
+    const Millis start = stage.desktop.now();
+    Window main;
+    std::vector<Millis> ticks;
+    int idleCalls = 0;
+    main = stage.open({.command = [&](const CommandInput&) { stage.runDialog(main); },
+                       .timer =
+                           [&](int number) {
+                               ticks.push_back(stage.desktop.now() - start);
+                               if (number == 2 && ticks.size() == 3) {
+                                   main.stopTimer(2);
+                               }
+                           }});
+    main.startTimer(2, 700);
+    main.startTimer(2, 100);
+    stage.desktop.setIdle([&]() -> std::optional<Millis> {
+        ++idleCalls;
+        return stage.desktop.now() + 10;
+    });
+    int idleCallsBefore = 0;
+    stage.script
+        .then([&] {
+            main.sendCommand(1);
+            EXPECT_EQ(idleCalls, idleCallsBefore);
+        })
+        .then([&] { idleCallsBefore = idleCalls; })
+        .wait(1000)
+        .then([&] { stage.dialogIsFinished = true; });
+    stage.play();
+    EXPECT_EQ(ticks, (std::vector<Millis>{100, 200, 300}));
+    EXPECT_EQ(stage.log, Log{"ended"});
+}
+
+TEST(Loop, MissedTimerPeriodsAreNotMadeUpFor) {
+    Stage stage;
+    const Millis start = stage.desktop.now();
+    std::vector<Millis> ticks;
+    Window main;
+    main = stage.open({.timer = [&](int) {
+        ticks.push_back(stage.desktop.now() - start);
+        if (ticks.size() == 1) {
+            // The machine is busy for a while, with nobody looking after the loop.
+            stage.backend.wait(250);
+        }
+    }});
+    main.startTimer(1, 100);
+    stage.script.wait(450);
+    stage.play();
+    EXPECT_EQ(ticks, (std::vector<Millis>{100, 350, 400}));
+}
+
+TEST(Loop, ALongSequenceKeepsTheProgramMoving) {
+    Stage stage;
+    const Millis start = stage.desktop.now();
+    int idleCalls = 0;
+    int accelerated = 0;
+    constexpr Accelerator table[] = {{Key::f, {}, 4042}};
+    Window main;
+    main = stage.open({.press = [&](const MouseInput&) { stage.log.emplace_back("press"); },
+                       .key =
+                           [&](const KeyEvent& key) {
+                               stage.log.emplace_back(key.down ? "key" : "key up");
+                               return true;
+                           },
+                       .command = [&](const CommandInput&) { ++accelerated; }});
+    main.setAccelerators(table);
+    stage.desktop.setIdle([&]() -> std::optional<Millis> {
+        ++idleCalls;
+        return stage.desktop.now() + 6;
+    });
+    main.post([&] {
+        EXPECT_TRUE(stage.desktop.pumpUntil(start + 100));
+        EXPECT_EQ(stage.desktop.now(), start + 100);
+        EXPECT_EQ(stage.log, (Log{"press", "key", "key up"}));
+        EXPECT_EQ(idleCalls, 20) << "every 6 ms, once for each of the clicks, and at the end";
+        EXPECT_EQ(accelerated, 0);
+    });
+    stage.script.wait(50).press({5, 5}).wait(25).key(Key::f).wait(100).key(Key::f);
+    stage.play();
+    EXPECT_EQ(accelerated, 1);
+}
+
+TEST(Loop, QuitEndsEveryNestedLoopAtOnce) {
+    Stage stage;
+    Window main;
+    int later = 0;
+    main = stage.open({.press = [&](const MouseInput&) { ++later; },
+                       .command =
+                           [&](const CommandInput&) {
+                               stage.runDialog(main);
+                               stage.log.emplace_back(stage.desktop.pumpMessages() ? "goes on" : "stops");
+                           },
+                       .timer = [&](int) { ++later; },
+                       .activate = [&](Activation) { ++later; },
+                       .destroyed = [&] { stage.log.emplace_back("destroyed"); }});
+    later = 0;
+    main.post([&] {
+        stage.log.emplace_back(stage.desktop.pumpUntil(stage.desktop.now() + 5000) ? "reached" : "cut short");
+    });
+    stage.script.wait(10).then([&] { main.postCommand(1); }).wait(10).then([&] {
+        later = 0;
+        main.startTimer(1, 1);
+        main.post([&] {
+            stage.desktop.quit();
+            main.post([&] { ++later; });
+        });
+        stage.script.click({5, 5});
+    });
+    stage.desktop.run();
+    EXPECT_EQ(stage.log, (Log{"broken off", "stops", "cut short"}));
+    main.destroy();
+    EXPECT_EQ(stage.log.back(), "destroyed");
+    EXPECT_EQ(later, 0) << "nothing is handled after quit";
+}
+
+TEST(Loop, AFloodOfMessagesFreezesNeitherPictureNorClock) {
+    Stage stage;
+    int messages = 0;
+    int paints = 0;
+    Window main = stage.open({.paint = [&](Canvas&, const Rect&) { ++paints; }});
+    std::function<void()> again = [&] {
+        if (++messages < 100'000) {
+            main.post(again);
+        }
+        main.invalidate();
+    };
+    main.post(again);
+    stage.script.wait(10);
+    stage.play();
+    EXPECT_EQ(messages, 100'000);
+    EXPECT_GE(paints, 50);
+}
+
+TEST(Loop, AProgramThatWouldHangIsFoundOut) {
+    Stage stage;
+    stage.open();
+    EXPECT_THROW(stage.desktop.run(), std::logic_error);
+    bool told = false;
+    stage.backend.whenTimelineEnds = [&] {
+        told = true;
+        stage.desktop.quit();
+    };
+    stage.desktop.run();
+    EXPECT_TRUE(told);
+}
+
+TEST(Loop, EachStepOfAnAnimationSendsItsOwnPixelsOnce) {
+    Stage stage;
+    const Window main = stage.open();
+    int steps = 0;
+    stage.desktop.setIdle([&]() -> std::optional<Millis> {
+        main.canvas().invert(Rect{steps % 200, 0, steps % 200 + 1, 150});
+        ++steps;
+        return stage.desktop.now() + 6;
+    });
+    stage.script.wait(6000);
+    stage.play();
+    EXPECT_EQ(steps, 1000);
+    EXPECT_EQ(stage.backend.sendings(), 1000U);
+    EXPECT_EQ(stage.backend.pixelsSent(), 200U * 150 + 999U * 150);
+}
+
+} // namespace
+} // namespace ventrel
