@@ -1,0 +1,148 @@
+#include "controls/strip_list.h"
+
+#include <algorithm>
+
+#include "base/format.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr Colour nearMissColour = Colour::rgb(255, 0, 0);
+constexpr Colour successColour = Colour::rgb(0, 220, 0);
+constexpr Colour announcedColour = Colour::rgb(164, 164, 164);
+
+constexpr long feetPerAltitude = 1000;
+
+int slotCount(const StripList& list) {
+    return static_cast<int>(list.slots.size());
+}
+
+void clampScroll(StripList& list, int listedCount) {
+    const int furthest = std::max(0, listedCount - slotCount(list));
+    list.scrollOffset = std::clamp(list.scrollOffset, 0, furthest);
+}
+
+void fillSlots(StripList& list, const GameState& game) {
+    std::ranges::fill(list.slots, noFlight);
+    auto slot = list.slots.begin();
+    int toPassOver = list.scrollOffset;
+    for (FlightIndex i = 0; i < game.planeCount() && slot != list.slots.end(); ++i) {
+        if (!isListed(game.flight(i))) {
+            continue;
+        }
+        if (toPassOver > 0) {
+            --toPassOver;
+            continue;
+        }
+        *slot++ = i;
+    }
+}
+
+void orderLatestFirst(StripList& list, const GameState& game) {
+    const auto firstEmpty = std::ranges::find(list.slots, noFlight);
+    std::stable_sort(list.slots.begin(), firstEmpty, [&](FlightIndex a, FlightIndex b) {
+        return game.flight(a).scheduledAt > game.flight(b).scheduledAt;
+    });
+}
+
+const char* airportMark(const Vor& vor) {
+    return vor.isAirport ? "*" : " ";
+}
+
+} // namespace
+
+StripList makeStripList(int slotCount) {
+    return {std::vector<FlightIndex>(static_cast<std::size_t>(slotCount), noFlight), 0};
+}
+
+void resetStrips(StripList& list) {
+    std::ranges::fill(list.slots, noFlight);
+    list.scrollOffset = 0;
+}
+
+bool isListed(const Flight& flight) {
+    return (flight.inPlay && flight.isActive()) || flight.announced;
+}
+
+void rebuildStrips(StripList& list, const GameState& game) {
+    if (!game.gameRunning) {
+        return;
+    }
+    clampScroll(list, game.listedCount);
+    fillSlots(list, game);
+    orderLatestFirst(list, game);
+}
+
+bool scrollStripsUp(StripList& list, const GameState& game) {
+    const bool canScroll = game.gameRunning && list.scrollOffset > 0;
+    if (canScroll) {
+        --list.scrollOffset;
+    }
+    rebuildStrips(list, game);
+    return canScroll;
+}
+
+bool scrollStripsDown(StripList& list, const GameState& game) {
+    const bool canScroll = game.gameRunning && game.listedCount > list.scrollOffset + slotCount(list);
+    if (canScroll) {
+        ++list.scrollOffset;
+    }
+    rebuildStrips(list, game);
+    return canScroll;
+}
+
+FlightIndex slotFlight(const StripList& list, int slot) {
+    const bool exists = slot >= 0 && slot < slotCount(list);
+    return exists ? list.slots[static_cast<std::size_t>(slot)] : noFlight;
+}
+
+int flightSlot(const StripList& list, FlightIndex flight) {
+    const auto found = std::ranges::find(list.slots, flight);
+    return found == list.slots.end() ? noSlot : static_cast<int>(found - list.slots.begin());
+}
+
+bool isSlotSelectable(const StripList& list, const GameState& game, int slot) {
+    const FlightIndex flight = slotFlight(list, slot);
+    return game.gameRunning && flight != noFlight && !game.flight(flight).announced;
+}
+
+std::string stripRouteLine(const Flight& flight, const GameState& game) {
+    const Vor destination = copyVor(game, flight.destination);
+    if (flight.origin == noVor) {
+        return flight.callsign + FormatText("  to  %s%s", {destination.ident, airportMark(destination)});
+    }
+    const Vor origin = copyVor(game, flight.origin);
+    return flight.callsign + FormatText("  %s%s to %s%s", {origin.ident, airportMark(origin),
+                                                           destination.ident, airportMark(destination)});
+}
+
+std::string stripStateLine(const Flight& flight) {
+    if (flight.announced) {
+        return FormatText("Arrives at: %s", {FormatMinutesSeconds(flight.scheduledAt)});
+    }
+    switch (flight.groundState) {
+    case GroundState::waiting: return "Request Takeoff";
+    case GroundState::cleared:
+    case GroundState::rolling: return "Takeoff in progress";
+    case GroundState::airborne: break;
+    }
+    const PlanStep& now = flight.current();
+    const std::string_view course = now.directTarget != noVor ? " (direct) " : " ";
+    return FormatText("%d\xB0 %s  %d ft", {long{now.heading}, course, now.altitude * feetPerAltitude});
+}
+
+Colour stripColour(const Flight& flight, const GameState& game) {
+    if (flight.alert == Alert::nearMiss) {
+        return nearMissColour;
+    }
+    if (flight.alert == Alert::success) {
+        return successColour;
+    }
+    if (flight.selected) {
+        return game.airport.selectedFlightColour;
+    }
+    return flight.announced ? announcedColour : game.airport.flightColour;
+}
+
+} // namespace ventrel

@@ -1,0 +1,63 @@
+#include "controls/top_bar_drawing.h"
+
+#include <array>
+
+#include "base/format.h"
+#include "platform/canvas/text.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr Colour black = Colour::rgb(0, 0, 0);
+constexpr Colour clockRed = Colour::rgb(220, 0, 0);
+constexpr Point clockTextAt{8, 0};
+
+constexpr Rect scopeFace{4, 4, 28, 28};
+constexpr Point scopeMiddle{15, 15};
+constexpr int trailStep = 2; // sweep positions between two lines
+constexpr std::array<Colour, 6> sweepPens{Colour::rgb(0, 255, 0), Colour::rgb(0, 225, 0),
+                                          Colour::rgb(0, 195, 0), Colour::rgb(0, 165, 0),
+                                          Colour::rgb(0, 135, 0), Colour::rgb(0, 105, 0)};
+
+constexpr Rect lampCircle{1, 1, 27, 27};
+
+/// The position of the next trail line; from the first positions of a turn it goes on at its last.
+int trailBehind(int position) {
+    const int behind = position - trailStep;
+    return behind < 0 ? sweepPositions - 1 : behind;
+}
+
+} // namespace
+
+void paintClock(Canvas& canvas, bool gameRunning, ClockSeconds now, const Font& font) {
+    const Rect whole{0, 0, clockWindowRect.width(), clockWindowRect.height()};
+    canvas.fill(whole, black);
+    if (gameRunning) {
+        drawText(canvas, font, clockTextAt, FormatMinutesSeconds(now), {clockRed, black});
+    }
+}
+
+void paintSmallScope(Canvas& canvas, const Bitmap& background, std::span<const Blip> blips, int sweepIndex,
+                     Colour flightColour, Colour selectedColour) {
+    canvas.draw({0, 0}, background);
+    canvas.setClip(Region::ellipse(scopeFace));
+    for (const Blip& blip : blips) {
+        canvas.setPixel(blip.position, blip.selected ? selectedColour : flightColour);
+    }
+    int position = sweepIndex;
+    for (const Colour pen : sweepPens) {
+        canvas.line(scopeMiddle, sweepPoint(position), pen);
+        position = trailBehind(position);
+    }
+    canvas.clearClip();
+}
+
+void paintLamp(Canvas& canvas, const Bitmap& background, const Bitmap& lamp) {
+    canvas.draw({0, 0}, background);
+    canvas.setClip(Region::ellipse(lampCircle));
+    canvas.draw({0, 0}, lamp);
+    canvas.clearClip();
+}
+
+} // namespace ventrel

@@ -1,0 +1,110 @@
+#include "radar/flight_drawing.h"
+
+#include <string>
+
+#include "base/format.h"
+#include "platform/canvas/text.h"
+#include "radar/aircraft_symbol.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr Colour nearMissTag = Colour::rgb(0xFF, 0, 0);
+constexpr Colour successTag = Colour::rgb(0, 0xDC, 0);
+
+constexpr Colour failureCircle = Colour::rgb(0xFF, 0xFF, 0);
+constexpr Colour successCircle = Colour::rgb(0, 0xFF, 0);
+constexpr Colour nearMissCircle = Colour::rgb(0xFF, 0, 0);
+constexpr int alertPenWidth = 2;
+
+// All relative to the flight's radar point.
+constexpr Point symbolOffset{-4, -4};
+constexpr Point callsignOffset{-4, -13};
+constexpr Point altitudeOffset{6, -4};
+constexpr Rect alertCircleBox{-14, -28, 34, 20};
+constexpr Rect blinkBoxAround{-8, -16, 32, 16};
+constexpr Rect hitBoxAround{-4, -10, 14, 8};
+
+std::optional<Colour> alertColour(Alert alert) {
+    switch (alert) {
+    case Alert::failure: return failureCircle;
+    case Alert::success: return successCircle;
+    case Alert::nearMiss: return nearMissCircle;
+    case Alert::none: break;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+Colour tagColour(const Flight& flight, const FlightColours& colours) {
+    if (flight.alert == Alert::nearMiss) {
+        return nearMissTag;
+    }
+    if (flight.alert == Alert::success) {
+        return successTag;
+    }
+    return flight.selected ? colours.selected : colours.flight;
+}
+
+Rect alertCircle(Point radarPoint) {
+    return alertCircleBox.movedBy(radarPoint);
+}
+
+Rect blinkBox(Point radarPoint) {
+    return blinkBoxAround.movedBy(radarPoint);
+}
+
+Rect hitBox(Point radarPoint) {
+    return hitBoxAround.movedBy(radarPoint);
+}
+
+void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight, const FlightColours& colours,
+                const Font& tagFont) {
+    const PlanStep& step = flight.current();
+    const Point at = radarPoint(layout, step.cell());
+    const Colour colour = tagColour(flight, colours);
+    DrawAircraftSymbol(canvas, at + symbolOffset, colour, step.heading);
+    drawText(canvas, tagFont, at + callsignOffset, flight.callsign, {colour, {}});
+    const std::string altitude = FormatText("%dK", {long{step.altitude}});
+    drawText(canvas, tagFont, at + altitudeOffset, altitude, {colour, {}});
+}
+
+void drawAlertCircle(Canvas& canvas, const RadarLayout& layout, const Flight& flight) {
+    if (const auto colour = alertColour(flight.alert)) {
+        canvas.ellipse(alertCircle(radarPoint(layout, flight.current().cell())), *colour, alertPenWidth);
+    }
+}
+
+void drawRoutes(Canvas& canvas, const RadarLayout& layout, std::span<const Flight> flights, Colour colour) {
+    for (const Flight& flight : flights) {
+        if (!flight.isOnScope() || flight.current().directTarget == noVor) {
+            continue;
+        }
+        Point from = radarPoint(layout, flight.current().cell());
+        for (int k = flight.planIndex + 1; k < flight.planLength; ++k) {
+            const Point to = radarPoint(layout, flight.plan[static_cast<std::size_t>(k)].cell());
+            canvas.line(from, to, colour);
+            from = to;
+        }
+    }
+}
+
+std::optional<FlightHit> flightAt(const RadarLayout& layout, std::span<const Flight> flights, Point point) {
+    int place = 0;
+    for (std::size_t i = 0; i < flights.size(); ++i) {
+        const Flight& flight = flights[i];
+        const bool isListed = (flight.inPlay && flight.isActive()) || flight.announced;
+        if (!isListed) {
+            continue;
+        }
+        ++place;
+        if (hitBox(radarPoint(layout, flight.current().cell())).contains(point)) {
+            return FlightHit{static_cast<FlightIndex>(i), place};
+        }
+    }
+    return std::nullopt;
+}
+
+} // namespace ventrel

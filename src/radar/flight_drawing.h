@@ -1,0 +1,52 @@
+// The flights on the scope: symbol, callsign, altitude, alert circle, and the line of the queued path.
+
+#pragma once
+
+#include <optional>
+#include <span>
+
+#include "platform/canvas/canvas.h"
+#include "platform/canvas/font.h"
+#include "radar/radar_layout.h"
+#include "sim/flight.h"
+
+namespace ventrel {
+
+/// The colours that the airport file chooses.
+struct FlightColours {
+    Colour flight;
+    Colour selected;
+    Colour route;
+};
+
+/// The colour of a flight's symbol and tags: an alert's before the selection's.
+Colour tagColour(const Flight& flight, const FlightColours& colours);
+
+/// The box around a flight's alert circle; also the first ring of a collision.
+Rect alertCircle(Point radarPoint);
+
+/// The box that holds a flight's symbol and tags, redrawn while a new flight blinks.
+Rect blinkBox(Point radarPoint);
+
+/// Where a click hits the flight.
+Rect hitBox(Point radarPoint);
+
+/// Symbol, callsign and altitude.
+void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight, const FlightColours& colours,
+                const Font& tagFont);
+
+/// The ring around a flight to which something has just happened; nothing without an alert.
+void drawAlertCircle(Canvas& canvas, const RadarLayout& layout, const Flight& flight);
+
+/// The whole queued path of every flight on the scope that steers for a map point.
+void drawRoutes(Canvas& canvas, const RadarLayout& layout, std::span<const Flight> flights, Colour colour);
+
+/// The first flight, in table order, at a radar pixel: active ones, and announced ones at the cell where they
+/// will appear. `listPlace` is its place among those, from 1.
+struct FlightHit {
+    FlightIndex flight = 0;
+    int listPlace = 0;
+};
+std::optional<FlightHit> flightAt(const RadarLayout& layout, std::span<const Flight> flights, Point point);
+
+} // namespace ventrel

@@ -1,0 +1,59 @@
+#include "radar/sweep.h"
+
+#include <array>
+
+namespace ventrel {
+
+namespace {
+
+constexpr int stepsAfterFrame = 9; // besides the ordinary one
+
+} // namespace
+
+void SweepAdvance(Sweep& sweep, int scopeSize) {
+    if (sweep.isOutward) {
+        if (sweep.end.x < scopeSize) {
+            ++sweep.end.x;
+        } else {
+            ++sweep.end.y;
+        }
+        if (sweep.end.y > scopeSize) {
+            sweep.isOutward = false;
+        }
+        return;
+    }
+    if (sweep.end.y > 0) {
+        --sweep.end.y;
+    } else {
+        --sweep.end.x;
+    }
+    if (sweep.end.x <= 0) {
+        sweep.isOutward = true;
+    }
+}
+
+Region sweepLine(Point end, const RadarLayout& layout, const Region& scope) {
+    const int size = layout.scopeSize;
+    const std::array<Point, 4> wedge{{end, {end.x + 1, end.y}, {1, size}, {0, size}}};
+    return Region::polygon(wedge).intersectedWith(scope);
+}
+
+bool stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now) {
+    if (now <= sweep.lastStep + sweepStepInterval) {
+        return false;
+    }
+    sweep.lastStep = now;
+    if (sweep.wasPaintedOver) {
+        sweep.wasPaintedOver = false;
+        for (int i = 0; i < stepsAfterFrame; ++i) {
+            SweepAdvance(sweep, layout.scopeSize);
+        }
+    } else {
+        screen.invert(sweepLine(sweep.end, layout, scope));
+    }
+    SweepAdvance(sweep, layout.scopeSize);
+    screen.invert(sweepLine(sweep.end, layout, scope));
+    return true;
+}
+
+} // namespace ventrel

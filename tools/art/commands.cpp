@@ -1,0 +1,166 @@
+#include "tools/art/commands.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdio>
+#include <optional>
+
+#include "platform/canvas/canvas.h"
+#include "platform/canvas/image.h"
+#include "platform/canvas/png_writer.h"
+#include "tools/art/cloud_art.h"
+#include "tools/art/console_art.h"
+#include "tools/art/small_art.h"
+
+namespace ventrel::art {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+/// The colour that the program leaves out of a keyed picture.
+constexpr Colour keyColour = Colour::rgb(255, 255, 0);
+constexpr int halfCovered = 128;
+constexpr int fullyCovered = 255;
+
+constexpr std::string_view cloudName = "cloud";
+
+struct SmallDrawing {
+    std::string_view name;
+    std::string (*draw)();
+};
+
+constexpr std::array smallDrawings{std::to_array<SmallDrawing>({
+    {"lamp_green_dark", [] { return drawLamp(LampColour::green, false); }},
+    {"lamp_green_bright", [] { return drawLamp(LampColour::green, true); }},
+    {"lamp_yellow_dark", [] { return drawLamp(LampColour::yellow, false); }},
+    {"lamp_yellow_bright", [] { return drawLamp(LampColour::yellow, true); }},
+    {"lamp_red_dark", [] { return drawLamp(LampColour::red, false); }},
+    {"lamp_red_bright", [] { return drawLamp(LampColour::red, true); }},
+    {"strip_button_up", [] { return drawStripButton(false); }},
+    {"strip_button_down", [] { return drawStripButton(true); }},
+    {"pointer_hand", drawHandPointer},
+    {"pointer_arrow", drawArrowPointer},
+    {"icon", drawIcon},
+})};
+
+struct ConsoleDrawing {
+    std::string_view name;
+    const ConsoleLayout& layout;
+};
+
+constexpr std::array<ConsoleDrawing, 2> consoles{
+    {{"console800", smallConsole}, {"console1024", largeConsole}}};
+
+void complain(const fs::path& file, const char* what) {
+    std::fprintf(stderr, "ventrel-art: %s %s\n", file.c_str(), what);
+}
+
+std::optional<Bitmap> load(const fs::path& file) {
+    Image image;
+    Bitmap bitmap;
+    if (ImageLoadFile(image, file, ImageFormat::png) != ImageError::none ||
+        ImageToBitmap(image, bitmap) != ImageError::none) {
+        complain(file, "is no PNG picture that can be read");
+        return std::nullopt;
+    }
+    return bitmap;
+}
+
+bool save(const fs::path& file, const Bitmap& bitmap) {
+    const bool isWritten = writePng(file, bitmap);
+    if (!isWritten) {
+        complain(file, "cannot be written");
+    }
+    return isWritten;
+}
+
+/// The colour of a pixel that covers its ground as the two renderings show; the key where it is clear.
+Colour uncovered(Colour onBlack, Colour onWhite) {
+    const int coverage = fullyCovered - (onWhite.green() - onBlack.green());
+    if (coverage < halfCovered) {
+        return keyColour;
+    }
+    const auto channel = [&](int value) {
+        return static_cast<unsigned>(std::min(value * fullyCovered / coverage, fullyCovered));
+    };
+    const Colour colour =
+        Colour::rgb(channel(onBlack.red()), channel(onBlack.green()), channel(onBlack.blue()));
+    // The key itself must not come about by chance.
+    return colour == keyColour ? Colour::rgb(255, 255, 1) : colour;
+}
+
+} // namespace
+
+std::vector<std::string> drawingNames() {
+    std::vector<std::string> names;
+    for (const ConsoleDrawing& console : consoles) {
+        names.emplace_back(console.name);
+    }
+    for (int i = 0; i < cloudCount; ++i) {
+        names.push_back(std::string(cloudName) + std::to_string(i));
+    }
+    for (const SmallDrawing& small : smallDrawings) {
+        names.emplace_back(small.name);
+    }
+    return names;
+}
+
+std::string drawing(std::string_view name, std::string_view materials) {
+    for (const ConsoleDrawing& console : consoles) {
+        if (name == console.name) {
+            return drawConsole(console.layout, materials);
+        }
+    }
+    for (int i = 0; i < cloudCount; ++i) {
+        if (name == std::string(cloudName) + std::to_string(i)) {
+            return drawCloud(i);
+        }
+    }
+    const auto* const small = std::ranges::find(smallDrawings, name, &SmallDrawing::name);
+    return small == smallDrawings.end() ? std::string() : small->draw();
+}
+
+bool convertPicture(const fs::path& picture, const fs::path& target) {
+    const auto bitmap = load(picture);
+    return bitmap && save(target, *bitmap);
+}
+
+bool cutRadarFrame(const fs::path& console, const fs::path& target) {
+    const auto bitmap = load(console);
+    if (!bitmap) {
+        return false;
+    }
+    const auto* const found = std::ranges::find_if(
+        consoles, [&](const ConsoleDrawing& drawn) { return drawn.layout.size == bitmap->size(); });
+    if (found == consoles.end()) {
+        complain(console, "has the size of neither console");
+        return false;
+    }
+    const Rect& window = found->layout.radarWindow;
+    Bitmap frame(window.size());
+    Canvas canvas(frame);
+    canvas.draw(frame.bounds(), *bitmap, window);
+    return save(target, frame);
+}
+
+bool keyPicture(const fs::path& onBlack, const fs::path& onWhite, const fs::path& target) {
+    const auto black = load(onBlack);
+    const auto white = load(onWhite);
+    if (!black || !white) {
+        return false;
+    }
+    if (black->size() != white->size()) {
+        complain(onWhite, "has another size than its twin");
+        return false;
+    }
+    Bitmap keyed(black->size());
+    for (int y = 0; y < keyed.height(); ++y) {
+        for (int x = 0; x < keyed.width(); ++x) {
+            keyed.at(x, y) = toPixel(uncovered(toColour(black->at(x, y)), toColour(white->at(x, y))));
+        }
+    }
+    return save(target, keyed);
+}
+
+} // namespace ventrel::art

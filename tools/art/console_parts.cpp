@@ -1,0 +1,130 @@
+#include "tools/art/console_parts.h"
+
+#include <cmath>
+#include <numbers>
+
+namespace ventrel::art {
+
+namespace {
+
+constexpr int knobRidges = 36;
+constexpr int knobMarks = 11;
+constexpr double knobMarksFrom = -135; // degrees, 0 is up
+constexpr double knobMarksTo = 135;
+
+Spot around(Spot centre, double radius, double degrees) {
+    const double angle = degrees * std::numbers::pi / 180;
+    return {centre.x + radius * std::sin(angle), centre.y - radius * std::cos(angle)};
+}
+
+std::string moved(Spot from, Spot to) {
+    return 'M' + number(from.x) + ',' + number(from.y) + " L" + number(to.x) + ',' + number(to.y);
+}
+
+} // namespace
+
+void drawModule(Svg& svg, const Box& area, std::string_view paint) {
+    constexpr double corner = 5;
+    svg.open("filter=\"url(#shadow)\"");
+    svg.rect(area, corner, "fill=\"" + std::string(paint) + '"');
+    svg.close();
+    svg.open("opacity=\".20\" style=\"mix-blend-mode:overlay\"");
+    svg.rect(area.grownBy(-2), corner, "filter=\"url(#grain)\"");
+    svg.close();
+    svg.rect(area.grownBy(-0.5), corner, "fill=\"none\" stroke=\"url(#rim)\" stroke-width=\"1.4\"");
+    svg.rect(area.grownBy(-2), corner - 2,
+             "fill=\"none\" stroke=\"#fff\" stroke-width=\".7\" opacity=\".16\"");
+}
+
+void drawWell(Svg& svg, const Box& area, std::string_view floor) {
+    svg.rect(area.grownBy(2.2), 3, "fill=\"url(#lip)\"");
+    svg.rect(area.grownBy(0.8), 1.6, "fill=\"" + std::string(floor) + '"');
+    const std::string corner = 'M' + number(area.x - 0.4) + ',' + number(area.bottom()) + " V" +
+                               number(area.y - 0.4) + " H" + number(area.right());
+    svg.path(corner, "fill=\"none\" stroke=\"#000\" stroke-width=\"1\" opacity=\".8\"");
+}
+
+void drawRoundWell(Svg& svg, const Box& face) {
+    svg.ellipse(face.grownBy(4.6), "fill=\"url(#rim)\"");
+    svg.ellipse(face.grownBy(3.4), "fill=\"#2a3236\"");
+    svg.ellipse(face.grownBy(1.6), "fill=\"url(#lip)\"");
+    svg.ellipse(face.grownBy(0.3), "fill=\"url(#glass)\"");
+}
+
+void drawKnob(Svg& svg, const Knob& knob) {
+    const Spot at = knob.place.at;
+    for (int i = 0; i < knobMarks; ++i) {
+        const double degrees = knobMarksFrom + (knobMarksTo - knobMarksFrom) * i / (knobMarks - 1);
+        svg.path(moved(around(at, 29, degrees), around(at, 33, degrees)),
+                 "stroke=\"#d9d5c4\" stroke-width=\"1\" opacity=\".75\"");
+    }
+    svg.circle({at.x + 3, at.y + 5}, 27, "fill=\"#0b0e0f\" opacity=\".55\" filter=\"url(#soft)\"");
+    svg.circle(at, 25, "fill=\"url(#knobSide)\"");
+    for (int i = 0; i < knobRidges; ++i) {
+        const double degrees = 360.0 * i / knobRidges;
+        svg.path(moved(around(at, 21, degrees), around(at, 25, degrees)),
+                 "stroke=\"#050607\" stroke-width=\"1.6\" opacity=\".75\"");
+    }
+    svg.circle(at, 20, "fill=\"url(#knobTop)\" stroke=\"#0a0c0d\" stroke-width=\"1\"");
+    svg.circle(at, 18.6, "fill=\"none\" stroke=\"#8f9a9f\" stroke-width=\".6\" opacity=\".55\"");
+    svg.path(moved(around(at, 8, knob.place.degrees), around(at, 18, knob.place.degrees)),
+             "stroke=\"#ffb066\" stroke-width=\"2.4\" stroke-linecap=\"round\"");
+    drawPrinted(svg, {at.x, at.y + 43}, knob.label, 7.5, 0.9, ivory);
+}
+
+void drawVent(Svg& svg, const Vent& vent) {
+    constexpr double slotHeight = 4.6;
+    const double pitch = (vent.area.height - slotHeight) / (vent.slots - 1);
+    for (int i = 0; i < vent.slots; ++i) {
+        const Box slot(vent.area.x, vent.area.y + pitch * i, vent.area.width, slotHeight);
+        svg.rect(slot, slotHeight / 2, "fill=\"#07090a\"");
+        svg.path(moved({slot.x + 2, slot.bottom() + 0.4}, {slot.right() - 2, slot.bottom() + 0.4}),
+                 "stroke=\"#aab5b9\" stroke-width=\".9\" opacity=\".55\"");
+    }
+}
+
+void drawPlate(Svg& svg, const Plate& plate) {
+    svg.open("filter=\"url(#shadow)\"");
+    svg.rect(plate.area, 2, "fill=\"#15191b\"");
+    svg.close();
+    svg.rect(plate.area.grownBy(-0.5), 2, "fill=\"none\" stroke=\"url(#rim)\"");
+    const Spot middle = plate.area.middle();
+    const Spot base{middle.x + 3, middle.y};
+    svg.open("transform=\"rotate(-90 " + number(base.x) + ' ' + number(base.y) + ")\"");
+    drawPrinted(svg, base, plate.words, 8.5, plate.spacing, amber);
+    svg.close();
+}
+
+void drawHandle(Svg& svg, const Box& area) {
+    constexpr double foot = 20;
+    svg.open("filter=\"url(#deepShadow)\"");
+    svg.rect({area.x, area.y, area.width, foot}, 4, "fill=\"#2a3135\"");
+    svg.rect({area.x, area.bottom() - foot, area.width, foot}, 4, "fill=\"#2a3135\"");
+    svg.rect({area.x + 3, area.y + 6, area.width - 6, area.height - 12}, 6, "fill=\"url(#handle)\"");
+    svg.close();
+}
+
+void drawArrowKey(Svg& svg, const Box& area, bool up) {
+    svg.rect(area.grownBy(0.8), 1.5, "fill=\"#0c0f11\"");
+    svg.rect(area, 1, "fill=\"url(#key)\"");
+    svg.rect(area.grownBy(-0.5), 1, "fill=\"none\" stroke=\"url(#rim)\" stroke-width=\"1\"");
+    const Spot middle = area.middle();
+    const double half = 2.2;
+    const double tip = up ? -half : half;
+    svg.path('M' + number(middle.x - 3) + ',' + number(middle.y - tip) + " h6 L" + number(middle.x) + ',' +
+                 number(middle.y + tip) + " z",
+             "fill=\"#ffb066\" stroke=\"#2a1a08\" stroke-width=\".5\"");
+}
+
+void drawEngraved(Svg& svg, Spot middle, std::string_view words, double size, double spacing) {
+    svg.text({middle.x, middle.y + 0.9}, words, size, spacing, "fill=\"#d5dfe2\" opacity=\".6\"");
+    svg.text(middle, words, size, spacing, "fill=\"#0d1214\"");
+}
+
+void drawPrinted(Svg& svg, Spot middle, std::string_view words, double size, double spacing,
+                 std::string_view colour) {
+    svg.text({middle.x, middle.y - 0.8}, words, size, spacing, "fill=\"#0c0f10\" opacity=\".75\"");
+    svg.text(middle, words, size, spacing, "fill=\"" + std::string(colour) + '"');
+}
+
+} // namespace ventrel::art

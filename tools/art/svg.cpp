@@ -1,0 +1,85 @@
+#include "tools/art/svg.h"
+
+#include <array>
+#include <cstdio>
+
+namespace ventrel::art {
+
+namespace {
+
+constexpr std::string_view labelFace = "Liberation Sans Narrow";
+
+std::string attribute(std::string_view name, double value) {
+    return ' ' + std::string(name) + "=\"" + number(value) + '"';
+}
+
+} // namespace
+
+std::string number(double value) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.2f", value);
+    return text.data();
+}
+
+Svg::Svg(Size size) : size_(size) {}
+
+void Svg::define(std::string_view definitions) {
+    body_ += "<defs>\n";
+    body_ += definitions;
+    body_ += "</defs>\n";
+}
+
+void Svg::rect(const Box& box, double radius, std::string_view look) {
+    body_ += "<rect" + attribute("x", box.x) + attribute("y", box.y) + attribute("width", box.width) +
+             attribute("height", box.height) + attribute("rx", radius) + ' ' + std::string(look) + "/>\n";
+}
+
+void Svg::circle(Spot centre, double radius, std::string_view look) {
+    body_ += "<circle" + attribute("cx", centre.x) + attribute("cy", centre.y) + attribute("r", radius) +
+             ' ' + std::string(look) + "/>\n";
+}
+
+void Svg::ellipse(const Box& box, std::string_view look) {
+    const auto [x, y] = box.middle();
+    body_ += "<ellipse" + attribute("cx", x) + attribute("cy", y) + attribute("rx", box.width / 2) +
+             attribute("ry", box.height / 2) + ' ' + std::string(look) + "/>\n";
+}
+
+void Svg::line(Spot from, Spot to, std::string_view look) {
+    body_ += "<line" + attribute("x1", from.x) + attribute("y1", from.y) + attribute("x2", to.x) +
+             attribute("y2", to.y) + ' ' + std::string(look) + "/>\n";
+}
+
+void Svg::path(std::string_view data, std::string_view look) {
+    body_ += "<path d=\"" + std::string(data) + "\" " + std::string(look) + "/>\n";
+}
+
+void Svg::use(std::string_view symbol, Spot at, double degrees) {
+    body_ += "<use xlink:href=\"#" + std::string(symbol) + "\" transform=\"translate(" + number(at.x) + ' ' +
+             number(at.y) + ") rotate(" + number(degrees) + ")\"/>\n";
+}
+
+void Svg::text(Spot middle, std::string_view words, double size, double spacing, std::string_view look) {
+    body_ += "<text font-family=\"" + std::string(labelFace) +
+             "\" font-weight=\"bold\" text-anchor=\"middle\"" + attribute("font-size", size) +
+             attribute("letter-spacing", spacing) + attribute("x", middle.x) + attribute("y", middle.y) +
+             ' ' + std::string(look) + '>' + std::string(words) + "</text>\n";
+}
+
+void Svg::open(std::string_view look) {
+    body_ += "<g " + std::string(look) + ">\n";
+}
+
+void Svg::close() {
+    body_ += "</g>\n";
+}
+
+std::string Svg::text() const {
+    const std::string width = std::to_string(size_.width);
+    const std::string height = std::to_string(size_.height);
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" xmlns:xlink=\"http://www.w3.org/1999/xlink\" width=\"" +
+           width + "\" height=\"" + height + "\" viewBox=\"0 0 " + width + ' ' + height + "\">\n" + body_ +
+           "</svg>\n";
+}
+
+} // namespace ventrel::art
