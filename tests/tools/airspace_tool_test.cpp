@@ -53,6 +53,7 @@ INSTANTIATE_TEST_SUITE_P(
                       PlantedFault{"no_airport", "has no airport"},
                       PlantedFault{"labels_collide", "'TWO': its label collides with that of 'ONE'"},
                       PlantedFault{"label_covers_runway", "'COV': its label covers 'AAA'"},
+                      PlantedFault{"label_in_cone", "'AAA': its label lies in its own approach cone"},
                       PlantedFault{"too_many_points", "there are 34 points"},
                       PlantedFault{"exit_and_airport", "'BTH': it is both an exit and an airport"},
                       PlantedFault{"dark_colours", "aircraft colour cannot be seen"},

@@ -204,13 +204,29 @@ private:
         return Rect::at(labelCorner(layout_, vor, size), size);
     }
 
+    /// The boxes around an airport's approach cone, and around that of the opposite direction where it may be
+    /// used.
+    std::vector<Rect> coneBoxes(const Vor& vor) const {
+        std::vector<Rect> boxes;
+        const auto add = [&](int heading) {
+            if (const auto cone = vor.isAirport ? approachCone(layout_, vor.pixel, heading) : std::nullopt) {
+                boxes.push_back(boxAround(*cone));
+            }
+        };
+        add(vor.runwayHeading);
+        if (vor.reverseChance > 0) {
+            add(turned(vor.runwayHeading, fullCircle / 2));
+        }
+        return boxes;
+    }
+
     /// The boxes of a point's circle, runway and approach cones, which no other point's label may cover.
     std::vector<Rect> drawnBoxes(const Vor& vor) const {
-        std::vector<Rect> boxes{markerBox(layout_, vor.pixel)};
+        std::vector<Rect> boxes = coneBoxes(vor);
+        boxes.push_back(markerBox(layout_, vor.pixel));
         if (const auto runway =
                 vor.isAirport ? runwayLines(layout_, vor.pixel, vor.runwayHeading) : std::nullopt) {
             boxes.push_back(boxAround(*runway));
-            boxes.push_back(boxAround(*approachCone(layout_, vor.pixel, vor.runwayHeading)));
         }
         return boxes;
     }
@@ -225,11 +241,18 @@ private:
         return box;
     }
 
+    static bool meetsAny(const Rect& rect, const std::vector<Rect>& boxes) {
+        return std::ranges::any_of(boxes, [&](const Rect& box) { return rect.intersects(box); });
+    }
+
     void checkLabel(std::size_t index) {
         const Vor& vor = vors_[index];
         const Rect label = labelBox(vor);
         if (!isOnScope(label)) {
             add(vor, "its label is cut by the edge of the scope");
+        }
+        if (meetsAny(label, coneBoxes(vor))) {
+            add(vor, "its label lies in its own approach cone");
         }
         for (std::size_t k = 0; k < vors_.size(); ++k) {
             const Vor& other = vors_[k];
@@ -237,10 +260,7 @@ private:
                 add(vor, "its label collides with that of '" + toUtf8(other.ident) + '\'');
             }
             const auto boxes = drawnBoxes(other);
-            const bool collides = k != index && std::ranges::any_of(boxes, [&](const Rect& box) {
-                                      return label.intersects(box);
-                                  });
-            if (collides) {
+            if (k != index && meetsAny(label, drawnBoxes(other))) {
                 add(vor, "its label covers '" + toUtf8(other.ident) + '\'');
             }
         }
