@@ -26,8 +26,8 @@ ShiftSize shiftSizeFor(Skill skill, const Options& options);
 struct ShiftSetup {
     Skill skill = Skill::normal;
     int voiceSetCount = 0; ///< installed pilot voices; with 0 every flight gets voice 0
-    std::span<const Size>
-        cloudSizes; ///< pixel sizes of the cloud pictures, by number; a missing one counts as empty
+    /// Pixel sizes of the cloud pictures, by number; a missing one counts as empty.
+    std::span<const Size> cloudSizes{};
 };
 
 /// Replaces the shift entirely. The airport has been loaded. No game runs yet.

@@ -1,0 +1,160 @@
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <fstream>
+#include <random>
+
+#include "small_airspace.h"
+
+namespace ventrel {
+
+namespace {
+
+using namespace airport_layout;
+using ::testing::TempDir;
+
+/// Reads a file; what was said about it, or nothing when it was accepted.
+std::string refusal(const std::vector<std::byte>& file) {
+    Reports reports;
+    const bool accepted = readAirportFile(file, "broken.apt", reports.reporter()).has_value();
+    EXPECT_EQ(accepted, reports.texts.empty());
+    return accepted ? "" : reports.texts.front();
+}
+
+void expectRefused(const std::vector<std::byte>& file, std::string_view reason) {
+    const std::string text = refusal(file);
+    EXPECT_NE(text.find("broken.apt"), std::string::npos) << text;
+    EXPECT_NE(text.find(reason), std::string::npos) << text;
+}
+
+TEST(AirportFile, EveryFieldArrivesAndStoredCellsAreNotBelieved) {
+    SmallAirspace air = SmallAirspace{}.exit("ABCD", {3, 4}).airport("XY", {40, 41}, 315);
+    air.name = "A name of just thirty-two chars!";
+    air.last().description = "Twenty characters...";
+    air.last().isMajor = true;
+    air.last().labelColour = {0x01020304};
+    air.last().symbolColour = {0x05060708};
+    air.last().runwayColour = {0x090A0B0C};
+    air.last().labelPlace = 3;
+    const GameState game = air.game();
+    EXPECT_EQ(game.airport.name, air.name);
+    EXPECT_EQ(game.airport.routeColour, Colour{0x112233});
+    EXPECT_EQ(game.airport.layoutWidth, 800);
+    EXPECT_EQ(game.vor(0).ident, "ABCD");
+    EXPECT_EQ(game.vor(0).cell, (Cell{3, 4}));
+    EXPECT_TRUE(game.vor(0).isExit);
+    Vor expected = air.last();
+    expected.cell = {40, 41};
+    EXPECT_EQ(game.vor(1), expected);
+    ASSERT_EQ(game.mapPicture().size(), 5U);
+    EXPECT_EQ(game.mapPicture()[0], std::byte{'i'});
+}
+
+TEST(AirportFile, TruncatedFileIsRefusedByName) {
+    const auto whole = SmallAirspace::usual().file();
+    EXPECT_EQ(refusal(whole), "");
+    for (std::size_t size = 0; size < whole.size(); ++size) {
+        const std::vector<std::byte> cut{whole.begin(), whole.begin() + static_cast<std::ptrdiff_t>(size)};
+        const std::size_t tableEnd = headerSize + 5 * pointSize;
+        expectRefused(cut, size < headerSize ? "too short" : size < tableEnd ? "map points" : "picture");
+    }
+}
+
+TEST(AirportFile, CountsAndOffsetsBeyondTheFileAreRefused) {
+    const auto whole = SmallAirspace::usual().file();
+    auto file = whole;
+    putWord(file, pointCountOffset, 0xFFFF);
+    expectRefused(file, "map points");
+    for (const std::uint32_t wild : {0x7FFFFFFFU, 0xFFFFFFFFU, 0xFFFFFFC8U}) {
+        file = whole;
+        putDoubleWord(file, pointTableOffset, wild);
+        expectRefused(file, "map points");
+        file = whole;
+        putDoubleWord(file, pictureSizeOffset, wild);
+        expectRefused(file, "picture");
+        file = whole;
+        putDoubleWord(file, pictureStartOffset, wild);
+        expectRefused(file, "picture");
+    }
+}
+
+TEST(AirportFile, UnfinishedAndForeignFilesAreToldApart) {
+    for (std::size_t i = 0; i < completionCount; ++i) {
+        auto file = SmallAirspace::usual().file();
+        putWord(file, completionOffset + 2 * i, i == 3 ? 2 : 0);
+        expectRefused(file, "The 'broken.apt' apt file (Testville) is incomplete");
+    }
+    auto file = SmallAirspace::usual().file();
+    putWord(file, magicOffset, magic + 1U);
+    expectRefused(file, "is not an airport file");
+    putWord(file, completionOffset, 5); // any number but 0 will do
+    putWord(file, magicOffset, magic);
+    EXPECT_EQ(refusal(file), "");
+}
+
+TEST(AirportFile, AnAirspaceWithoutExitOrAirportIsRefused) {
+    expectRefused(SmallAirspace{}.airport("A", {24, 24}, 0).file(), "no VOR");
+    expectRefused(SmallAirspace{}.exit("E", {24, 5}).file(), "no airport");
+    expectRefused(SmallAirspace{}.file(), "no VOR");
+}
+
+TEST(AirportFile, RandomBytesAreNeverAccepted) {
+    std::mt19937 random{5};
+    for (int round = 0; round < 2000; ++round) {
+        std::vector<std::byte> file(random() % 400);
+        std::generate(file.begin(), file.end(), [&] { return static_cast<std::byte>(random()); });
+        if (file.size() >= headerSize && round % 2 == 0) {
+            for (std::size_t i = 0; i < completionCount; ++i) {
+                putWord(file, completionOffset + 2 * i, 1);
+            }
+            putWord(file, magicOffset, magic);
+        }
+        EXPECT_NE(refusal(file), "");
+    }
+}
+
+int reversals(int heading, int chance, bool isAirport) {
+    SmallAirspace air = SmallAirspace::usual().airport("REV", {10, 24}, heading);
+    air.last().isAirport = isAirport;
+    air.last().reverseChance = chance;
+    int count = 0;
+    for (std::uint32_t seed = 0; seed < 300; ++seed) {
+        count += air.game(seed * 7919).vors.back().runwayHeading == (heading + 180) % 360 ? 1 : 0;
+    }
+    return count;
+}
+
+TEST(AirportLoading, RunwaysAreReversedByTheirChanceAlone) {
+    EXPECT_EQ(reversals(45, 100, true), 300);
+    EXPECT_EQ(reversals(315, 100, true), 300);
+    EXPECT_EQ(reversals(45, 0, true), 0);
+    EXPECT_EQ(reversals(45, 100, false), 0);
+    EXPECT_EQ(reversals(30, 100, true), 0); // no heading that can be flown
+    EXPECT_NEAR(reversals(90, 30, true), 90, 30);
+}
+
+TEST(AirportLoading, AFileThatCannotBePlayedLeavesTheLoadedAirport) {
+    const std::filesystem::path path = std::filesystem::path{TempDir()} / "cut.apt";
+    auto bytes = SmallAirspace::usual().file();
+    std::ofstream{path, std::ios::binary}.write(reinterpret_cast<const char*>(bytes.data()), 100);
+    GameState game = SmallAirspace::usual().game();
+    RandomGenerator random{9};
+    Reports reports;
+    EXPECT_FALSE(loadAirport(game, path, largeLayout, random, reports.reporter()));
+    EXPECT_FALSE(loadAirport(game, path.string() + "missing", largeLayout, random, reports.reporter()));
+    EXPECT_EQ(reports.texts.size(), 2U);
+    EXPECT_EQ(game.vorCount(), 5);
+    EXPECT_EQ(game.mapPicture().size(), 5U);
+    EXPECT_EQ(random.state, 9U);
+
+    std::ofstream{path, std::ios::binary}.write(reinterpret_cast<const char*>(bytes.data()),
+                                                static_cast<std::streamsize>(bytes.size()));
+    EXPECT_TRUE(loadAirport(game, path, largeLayout, random, reports.reporter()));
+    EXPECT_EQ(game.vor(0).cell, (Cell{274 / 14, 264 / 14}));
+    std::filesystem::remove(path);
+}
+
+} // namespace
+
+} // namespace ventrel

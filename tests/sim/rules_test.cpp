@@ -1,0 +1,171 @@
+// The small rules around a shift: the grid, phrases, score, clock, ticker queue, texts and options.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <set>
+
+#include "sim/game_clock.h"
+#include "sim/message_queue.h"
+#include "sim/options.h"
+#include "sim/phrase.h"
+#include "sim/scoring.h"
+#include "sim/shift_texts.h"
+#include "small_airspace.h"
+
+namespace ventrel {
+
+namespace {
+
+TEST(Grid, CornersAreCutAndTheMiddleBelongsToTheLowerRight) {
+    EXPECT_TRUE(isOutsideScope({0, 14}));
+    EXPECT_FALSE(isOutsideScope({0, 15}));
+    EXPECT_TRUE(isOutsideScope({48, 13}));
+    EXPECT_FALSE(isOutsideScope({48, 14}));
+    EXPECT_TRUE(isOutsideScope({0, 35}));
+    EXPECT_FALSE(isOutsideScope({0, 34}));
+    EXPECT_TRUE(isOutsideScope({48, 48}));
+    EXPECT_EQ(quadrantOf({24, 0}), Quadrant::lowerRight);
+    EXPECT_EQ(quadrantOf({0, 24}), Quadrant::lowerRight);
+    EXPECT_FALSE(isOutsideScope({24, -1})); // only the cell's own corner is looked at
+    EXPECT_EQ(stepCell({0, 0}, 315), (Cell{-1, -1}));
+    EXPECT_EQ(stepCell({5, 5}, 30), (Cell{5, 5}));
+}
+
+TEST(Score, PenaltiesStopAtZeroAndGainsDoNot) {
+    GameState game;
+    EventLog events;
+    game.score = 100;
+    addScore(game, events, -150);
+    addScore(game, events, 75);
+    addScore(game, events, 0);
+    EXPECT_EQ(events.take(), (Lines{"score -150 = 0", "score 75 = 75", "score 0 = 75"}));
+}
+
+TEST(GameStates, AnswerAboutNothing) {
+    GameState game;
+    EXPECT_EQ(firstScheduledTime(game), 30000);
+    EXPECT_EQ(copyVor(game, noVor), Vor{});
+    EXPECT_TRUE(game.mapPicture().empty());
+}
+
+TEST(Phrases, EveryCharacterHasItsOwnSnippetFile) {
+    std::set<std::string_view> files;
+    for (int number = 0; number < snippetCount; ++number) {
+        files.insert(snippetFile(number));
+    }
+    EXPECT_EQ(files.size(), 61U);
+    EXPECT_EQ(snippetFile(snippetNumber(VoiceAltitudeCode(10))), "10k.snd");
+    EXPECT_EQ(snippetFile(snippetNumber(VoiceDigitCode(9))), "nine.snd");
+    EXPECT_EQ(snippetFile(snippetNumber(VoiceAirlineCode(15))), "cessna.snd");
+    EXPECT_EQ(snippetFile(snippetNumber(VoiceHeadingCode(315))), "turn315.snd");
+    EXPECT_EQ(snippetFile(snippetNumber(VoiceHeadingCode(7))), "turn0.snd");
+    EXPECT_EQ(snippetFile(snippetNumber(snippet::directVor)), "directvor.snd");
+    EXPECT_EQ(snippetNumber('\x1F'), -1);
+    EXPECT_EQ(snippetNumber('\x5D'), -1);
+    EXPECT_EQ(snippetNumber('\xE4'), -1);
+    EXPECT_EQ(phraseAsWords("R=B1"), "American two seven heavy");
+}
+
+TEST(Clock, AdvancesAtMostOneSecondATickAndNeverCatchesUp) {
+    GameClock clock;
+    EXPECT_FALSE(ClockTick(clock, false, 0).running);
+    EXPECT_TRUE(ClockTick(clock, true, 0).sweepMoved);
+    EXPECT_EQ(clock.now, 1);
+    ClockTick(clock, true, 400);
+    EXPECT_EQ(clock.now, 1);
+    ClockTick(clock, true, 401);
+    EXPECT_EQ(clock.now, 2);
+    ClockTick(clock, true, 60401);
+    EXPECT_EQ(clock.now, 3);
+    clock.now = 4;
+    EXPECT_TRUE(ClockTick(clock, true, 70000).clockPaintDue);
+    clock.sweepIndex = 119;
+    ClockTick(clock, true, 80000);
+    EXPECT_EQ(clock.sweepIndex, 0);
+}
+
+TEST(Clock, SkipsToTheNextMultipleOfFifteen) {
+    for (const auto& [from, to] :
+         {std::pair{30, 45}, std::pair{44, 45}, std::pair{45, 60}, std::pair{0, 15}}) {
+        GameClock clock{.now = from, .sweepIndex = 77};
+        ClockSkip(clock);
+        EXPECT_EQ(clock.now, to);
+        EXPECT_EQ(clock.sweepIndex, 15);
+    }
+}
+
+TEST(MessageQueues, DropTheNinthLineAndEverythingDuringAnEmergency) {
+    const TextMeasure measure = [](std::string_view text) { return static_cast<int>(text.size()) * 10; };
+    MessageQueue queue;
+    for (int i = 0; i < 8; ++i) {
+        EXPECT_TRUE(postMessage(queue, "line", MessageClass::success, measure));
+    }
+    queue.idle = true;
+    EXPECT_FALSE(postMessage(queue, "ninth", MessageClass::emergency, measure));
+    EXPECT_FALSE(queue.idle);
+    EXPECT_EQ(queue.slots[7].width, 42);
+
+    queue.slots[3].inUse = false;
+    const std::string longName(69, 'x');
+    EXPECT_TRUE(postMessage(queue, longName, MessageClass::emergency, measure));
+    EXPECT_EQ(queue.slots[3].text, longName);
+    queue.slots[0].inUse = false;
+    queue.idle = true;
+    EXPECT_FALSE(postMessage(queue, "another", MessageClass::emergency, measure));
+    EXPECT_TRUE(queue.idle);
+    clearMessages(queue);
+    EXPECT_TRUE(postMessage(queue, "calm", MessageClass::information, measure));
+}
+
+TEST(ShiftTexts, NameTheControllerTheScoreAndTheBlame) {
+    TestGame test;
+    test.game.controllerName = "Mary";
+    test.fly({24, 30}, 5, 90, 1).scheduledAt = 75;
+    test.fly({24, 30}, 5, 90, 1);
+    test.game.flight(1).inPlay = false;
+    test.game.score = 40;
+    test.game.possibleScore = 900;
+    test.game.collisionFlights = {1, 0};
+    EXPECT_EQ(welcomeText(test.game), "Welcome Mary-  First plane arrives at 01:15");
+    EXPECT_EQ(scoreSoFarText(test.game), "Mary's score so far: 40");
+    EXPECT_EQ(gameOverText(test.game), "Game Over.   Score: 40 out of a possible 900 ");
+    std::tm day{};
+    day.tm_mday = 5;
+    day.tm_year = 99;
+    day.tm_wday = 2;
+    const PressRelease release = composePressRelease(test.game, pressReleaseDate(day));
+    EXPECT_EQ(release.heading, "Tuesday, January 05, 1999\r\nFOR IMMEDIATE RELEASE");
+    EXPECT_NE(release.accident.find("the Testville terminal"), std::string::npos);
+    EXPECT_NE(release.accident.find("F1 and F0 collided head-on at an altitude of 5000 feet."),
+              std::string::npos);
+    EXPECT_NE(release.controller.find("pending against Mary."), std::string::npos);
+}
+
+TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
+    const std::filesystem::path path = std::filesystem::path{::testing::TempDir()} / "options_test.ini";
+    std::ofstream{path} << "; mine\n[Options]\nSingleSound=4\nCustomPlanes=99\nCustomSched=7200\nMusic=off\n"
+                           "CustomSkill=-17\nFuture=1\n";
+    ProfileFile profile{path};
+    Options options = ReadOptions(profile);
+    EXPECT_EQ(options.singleSound, 4);
+    EXPECT_EQ(options.customBonus, 825);
+    EXPECT_EQ(options.music, 0);
+    EXPECT_EQ(options.effects, 1);
+    options.singleSound = 9;
+    options.windowed = 1;
+    WriteOptions(options, profile);
+    ASSERT_TRUE(profile.save());
+    Options again = ReadOptions(ProfileFile{path});
+    EXPECT_EQ(again.singleSound, 4);
+    again.singleSound = 9;
+    EXPECT_EQ(again, options);
+    EXPECT_EQ(ProfileFile{path}.integer("Options", "Future", 0), 1);
+    std::filesystem::remove(path);
+    EXPECT_EQ(ReadOptions(ProfileFile{path}), Options{});
+}
+
+} // namespace
+
+} // namespace ventrel

@@ -1,0 +1,173 @@
+// ventrel-sim: its command line, its orders file, its trace and log, and its autopilot.
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+#include "small_airspace.h"
+#include "tools/sim/arguments.h"
+#include "tools/sim/log_writer.h"
+#include "tools/sim/shift_run.h"
+#include "tools/sim/trace_writer.h"
+
+namespace ventrel {
+
+namespace {
+
+std::string faultOf(std::vector<const char*> words) {
+    const auto parsed = parseArguments(words);
+    const auto* const fault = std::get_if<std::string>(&parsed);
+    return fault == nullptr ? "" : *fault;
+}
+
+TEST(CommandLine, SaysWhatIsWrongWithIt) {
+    EXPECT_EQ(faultOf({"a.apt", "--skill", "4", "--planes", "96", "--minutes", "24"}), "");
+    EXPECT_EQ(faultOf({"--help"}), "");
+    EXPECT_EQ(faultOf({}), "an airport file is needed");
+    EXPECT_EQ(faultOf({"a.apt", "b.apt"}), "there is a second airport file, 'b.apt'");
+    EXPECT_EQ(faultOf({"a.apt", "--speed", "1"}), "there is no option --speed");
+    EXPECT_EQ(faultOf({"a.apt", "--seed"}), "--seed needs a number from 0 to 4294967295");
+    EXPECT_EQ(faultOf({"a.apt", "--skill", "5"}), "--skill needs a number from 0 to 4, not '5'");
+    for (const char* const wrong : {"", "1x", " 1", "-1", "4294967296", "99999999999999999999"}) {
+        EXPECT_NE(faultOf({"a.apt", "--seed", wrong}), "") << wrong;
+    }
+    EXPECT_NE(faultOf({"a.apt", "--cloud-size", "64"}), "");
+    EXPECT_NE(faultOf({"a.apt", "--width", "640"}), "");
+    EXPECT_NE(faultOf({"a.apt", "--planes", "97", "--minutes", "24"}), "");
+}
+
+class OrderFile : public ::testing::Test {
+protected:
+    ~OrderFile() override { std::filesystem::remove(path); }
+
+    std::variant<std::vector<ScriptedOrder>, std::string> read(std::string_view text) {
+        std::ofstream{path, std::ios::binary} << text;
+        return readOrderFile(path, test.game);
+    }
+    void expectFault(std::string_view text, std::string_view fault) {
+        const auto result = read(text);
+        ASSERT_TRUE(std::holds_alternative<std::string>(result)) << text;
+        EXPECT_NE(std::get<std::string>(result).find(fault), std::string::npos)
+            << std::get<std::string>(result);
+    }
+
+    std::filesystem::path path = std::filesystem::path{::testing::TempDir()} / "orders_test.txt";
+    TestGame test;
+};
+
+TEST_F(OrderFile, IsReadInOrderOfTimeThenOfLines) {
+    test.fly({24, 30}, 5, 90, 1);
+    test.fly({24, 40}, 5, 90, 1);
+    const auto result = read("# comment\n30 0 1 0 0 -1 0\r\n\n15 1 10\t315 -1 5 1 # hold\n30 1 2 90 1 4 0");
+    const auto* const orders = std::get_if<std::vector<ScriptedOrder>>(&result);
+    ASSERT_NE(orders, nullptr);
+    ASSERT_EQ(orders->size(), 3U);
+    EXPECT_EQ((*orders)[0].clock, 15);
+    EXPECT_EQ((*orders)[0].order.directTarget, 5);
+    EXPECT_EQ((*orders)[1].flight, 0);
+    EXPECT_EQ((*orders)[2].flight, 1);
+}
+
+TEST_F(OrderFile, WithAFaultIsRefusedByFileAndLine) {
+    test.fly({24, 30}, 5, 90, 1);
+    expectFault("15 0 5 90 0 -1 0\n20 0 5 90 0 -1 0\n", "orders_test.txt:2: clock");
+    expectFault("15 1 5 90 0 -1 0", ":1: flight");
+    expectFault("15 0 11 90 0 -1 0", ":1: altitude");
+    expectFault("15 0 5 360 0 -1 0", ":1: heading");
+    expectFault("15 0 5 50 0 -1 0", ":1: heading");
+    expectFault("15 0 5 90 2 -1 0", ":1: speed");
+    expectFault("15 0 5 90 0 6 1", ":1: directTarget");
+    expectFault("15 0 5 90 0 5 0", ":1: there is no map point 5");
+    expectFault("15 0 5 90 0 -1 2", ":1: hold");
+    expectFault("15 0 5 90 0 -1", ":1: an order has seven fields, not 6");
+    expectFault("15 0 5 90 0 -1 0.5", ":1: hold");
+    std::filesystem::remove(path);
+    EXPECT_TRUE(std::holds_alternative<std::string>(readOrderFile(path, test.game)));
+    EXPECT_TRUE(std::holds_alternative<std::string>(readOrderFile(::testing::TempDir(), test.game)));
+}
+
+/// A game of one flight that enters at 15 and is soon lost.
+GameState shortGame() {
+    TestGame test;
+    Flight& flight = test.fly({46, 24}, 5, 90, 1);
+    flight.activatedAt = 0;
+    flight.scheduledAt = 15;
+    flight.callsign = "\xC4\"\\1";
+    flight.callsignPhrase = "M<";
+    flight.current().speed = fastSpeed;
+    test.game.flights.front().pilotVoice = 2;
+    test.game.bonus = 25;
+    return test.game;
+}
+
+template <typename Writer>
+std::string record(GameState game, const RunPlan& plan) {
+    Output output;
+    Writer writer{output};
+    RandomGenerator random;
+    runShift(game, random, writer, plan);
+    return output.text();
+}
+
+TEST(Trace, IsTheSameToTheByte) {
+    const std::vector<ScriptedOrder> orders{{0, 0, {.altitude = 5, .heading = 90}},
+                                            {15, 0, {.altitude = 5, .heading = 90, .speed = 1}}};
+    const std::string trace = record<TraceWriter>(shortGame(), {orders, 30, false});
+    const std::string expected =
+        R"({"type":"step","clock":0,"score":0,"listed":1,"flights":[[0,1,0,1,0,0,46,24,5,90,1,-1,0,0,1]]}
+{"type":"message","clock":15,"class":13,"text":")"
+        "\xC3\x84"
+        R"(\"\\1 entering airspace, proceeding to NW"}
+{"type":"radio","clock":15,"voice":2,"tag":0,"phrase":"M<$+","noise":1}
+{"type":"step","clock":15,"score":0,"listed":1,"flights":[[0,1,15,0,0,0,46,24,5,90,1,-1,0,0,1]]}
+{"type":"score","clock":15,"delta":-5,"score":0}
+{"type":"radio","clock":15,"voice":2,"tag":0,"phrase":"4","noise":0}
+{"type":"order","clock":15,"flight":0,"result":0}
+{"type":"step","clock":30,"score":0,"listed":1,"flights":[[0,1,15,0,0,0,47,24,5,90,1,-1,0,0,1]]}
+{"type":"end","clock":30,"result":1,"score":0,"possible":0}
+)";
+    const auto second = trace.find('\n') + 1;
+    EXPECT_EQ(trace.substr(second), expected);
+    const std::string shift = trace.substr(0, second);
+    EXPECT_TRUE(shift.starts_with(
+        R"({"type":"shift","airport":"Testville","planes":1,"length":0,"bonus":25,"possible":0,"free":0,"clouds":0,)"
+        R"("points":[{"ident":"MID","x":24,"y":24,"heading":90,"airport":1,"exit":0,"major":0},{"ident":"NW",)"))
+        << shift;
+    EXPECT_TRUE(shift.ends_with(
+        R"("phrase":"M<","voice":2,"radio":0,"at":15,"origin":-1,"destination":1,"originKind":0,"destinationKind":1,)"
+        R"("ground":0,"heavy":0,"plan":[[46,24,5,90,1,-1,0]]}]})"
+        "\n"))
+        << shift;
+}
+
+TEST(Log, TellsTheShiftInWords) {
+    const std::string log = record<LogWriter>(shortGame(), {{}, 36000, false});
+    for (const std::string_view part :
+         {"00:15         \xC3\x84\"\\1 entering airspace, proceeding to NW\n",
+          "00:15  radio  United one level at 5 thousand\n", "has been lost \n", "lamp   yellow on\n",
+          "score  +25, now 25\n", "Game Over.   Score: 25 out of a possible 0 \n"}) {
+        EXPECT_NE(log.find(part), std::string::npos) << part << log;
+    }
+}
+
+TEST(Autopilot, BringsMostFlightsOfAnEasyShiftHome) {
+    int score = 0;
+    int possible = 0;
+    for (std::uint32_t seed = 1; seed <= 8; ++seed) {
+        GameState game = SmallAirspace::usual().airport("TWO", {32, 28}, 180).game();
+        RandomGenerator random{seed * 977};
+        setUpShift(game, {.skill = Skill::easy}, {}, random);
+        Output output;
+        TraceWriter writer{output};
+        runShift(game, random, writer, {{}, 36000, true});
+        EXPECT_EQ(writer.result(), ShiftResult::everyFlightHandled);
+        score += game.score;
+        possible += game.possibleScore;
+    }
+    EXPECT_GT(score, possible * 3 / 4);
+}
+
+} // namespace
+
+} // namespace ventrel
