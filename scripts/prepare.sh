@@ -1,9 +1,19 @@
 # Sourced by ./play and ./check: installs the packages that are missing, configures and builds.
 # The caller stands in the top folder of the checkout and has set -euo pipefail.
 
+# The packages of the list that this system should have.
+wanted_packages() {
+    local release
+    release=$(. /etc/os-release && echo "${VERSION_ID:-999}") # testing and unstable have no number
+    sed -e 's/#.*//' packages.txt | awk -v release="${release%%.*}" '
+        NF == 0 { next }
+        match($2, /^\[[0-9]+-\]$/) && release + 0 < substr($2, 2) + 0 { next }
+        { print $1 }'
+}
+
 missing_packages() {
     local wanted
-    wanted=$(sed -e 's/#.*//' packages.txt | xargs)
+    wanted=$(wanted_packages | xargs)
     # shellcheck disable=SC2086 # a list of names
     comm -23 <(printf '%s\n' $wanted | sort) \
         <(dpkg-query -W -f '${db:Status-Abbrev} ${Package}\n' $wanted 2>/dev/null | awk '/^ii/ {print $2}' | sort -u)
