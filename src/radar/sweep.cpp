@@ -38,10 +38,11 @@ Region sweepLine(Point end, const RadarLayout& layout, const Region& scope) {
     return Region::polygon(wedge).intersectedWith(scope);
 }
 
-bool stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now) {
-    if (now <= sweep.lastStep + sweepStepInterval) {
-        return false;
-    }
+bool isSweepDue(const Sweep& sweep, Millis now) {
+    return now > sweep.lastStep + sweepStepInterval;
+}
+
+void stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now) {
     sweep.lastStep = now;
     if (sweep.wasPaintedOver) {
         sweep.wasPaintedOver = false;
@@ -53,7 +54,6 @@ bool stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Re
     }
     SweepAdvance(sweep, layout.scopeSize);
     screen.invert(sweepLine(sweep.end, layout, scope));
-    return true;
 }
 
 } // namespace ventrel

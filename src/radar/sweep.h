@@ -27,8 +27,11 @@ void SweepAdvance(Sweep& sweep, int scopeSize);
 /// The pixels of the line within the round scope.
 Region sweepLine(Point end, const RadarLayout& layout, const Region& scope);
 
-/// One step on the screen, when it is time: erases the line where it stands and draws it one pixel on, or ten
-/// pixels on after a frame. True when it drew.
-bool stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now);
+/// Whether the next step's time has come.
+bool isSweepDue(const Sweep& sweep, Millis now);
+
+/// One step on the screen: erases the line where it stands and draws it one pixel on, or ten pixels on after
+/// a frame.
+void stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now);
 
 } // namespace ventrel

@@ -1,0 +1,140 @@
+#include "controls/control_panel.h"
+
+#include "controls/console_piece.h"
+#include "controls/control_panel_drawing.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr FontRequest panelFont{Face::arial, -11, false};
+
+/// The sound and the picture that go with a setting that had effect.
+void answer(ControlPanel& panel, bool hadEffect) {
+    if (hadEffect) {
+        panel.callbacks.click();
+        CtrlRepaint(panel);
+    }
+}
+
+void pressDial(ControlPanel& panel, Point p) {
+    if (const auto heading = dialHeadingAt(p)) {
+        CtrlSetHeading(panel, *heading);
+    } else {
+        CtrlRepaint(panel);
+    }
+}
+
+void pressControl(ControlPanel& panel, PanelControl control, Point p) {
+    switch (control) {
+    case PanelControl::dial: pressDial(panel, p); break;
+    case PanelControl::altitude: CtrlSetAltitude(panel, scaleAltitudeAt(p)); break;
+    case PanelControl::fast: CtrlSetSpeed(panel, fastSpeed); break;
+    case PanelControl::normal: CtrlSetSpeed(panel, normalSpeed); break;
+    case PanelControl::slow: CtrlSetSpeed(panel, slowSpeed); break;
+    case PanelControl::direct: CtrlToggleDirect(panel); break;
+    case PanelControl::targetUp: CtrlStepDirect(panel, true); break;
+    case PanelControl::targetDown: CtrlStepDirect(panel, false); break;
+    }
+}
+
+bool hasAirborneFlight(const ControlPanel& panel) {
+    const Flight* flight = panelFlight(panel.state, panel.sources.game);
+    return flight != nullptr && flight->isAirborne();
+}
+
+void onPress(ControlPanel& panel, const MouseInput& mouse) {
+    if (mouse.button != MouseButton::left) {
+        return;
+    }
+    panel.state.touchTime = panel.callbacks.clockNow();
+    const auto control = panelControlAt(mouse.position);
+    if (control && hasAirborneFlight(panel)) {
+        pressControl(panel, *control, mouse.position);
+    }
+}
+
+Cursor cursorAt(const ControlPanel& panel, Point p) {
+    const bool isHand = hasAirborneFlight(panel) && isHandArea(p, panel.state.pending.directTarget != noVor);
+    return isHand ? &panel.sources.hand : &panel.sources.arrow;
+}
+
+WindowHandlers handlersOf(ControlPanel& panel) {
+    WindowHandlers handlers;
+    handlers.paint = [&panel](Canvas& canvas, const Rect&) {
+        paintControlPanel(canvas, panel.background, panel.state, panel.sources.game,
+                          panel.sources.fonts.font(panelFont));
+    };
+    handlers.press = [&panel](const MouseInput& mouse) { onPress(panel, mouse); };
+    handlers.cursor = [&panel](Point p) { return std::optional(cursorAt(panel, p)); };
+    return handlers;
+}
+
+} // namespace
+
+void CtrlCreate(ControlPanel& panel, const Window& parent, const Bitmap& console) {
+    const Rect bounds = Rect::at(controlPanelCorner(console.size()), controlPanelSize);
+    panel.background = consolePiece(console, bounds);
+    panel.window = parent.desktop()->create(
+        {.parent = parent, .id = controlPanelId, .bounds = bounds, .handlers = handlersOf(panel)});
+}
+
+void CtrlSetFlight(ControlPanel& panel, FlightIndex flight) {
+    setFlight(panel.state, panel.sources.game, flight);
+    CtrlRepaint(panel);
+    panel.callbacks.enableExec(true);
+}
+
+void CtrlClearFlight(ControlPanel& panel) {
+    clearFlight(panel.state);
+    CtrlRepaint(panel);
+    panel.callbacks.enableExec(false);
+}
+
+void CtrlRepaint(ControlPanel& panel) {
+    panel.window.invalidate();
+}
+
+void CtrlSetHeading(ControlPanel& panel, int heading) {
+    answer(panel, setHeading(panel.state, panel.sources.game, heading));
+}
+
+void CtrlSetAltitude(ControlPanel& panel, int altitude) {
+    answer(panel, setAltitude(panel.state, panel.sources.game, altitude));
+}
+
+void CtrlStepAltitude(ControlPanel& panel, bool up) {
+    answer(panel, stepAltitude(panel.state, panel.sources.game, up));
+}
+
+void CtrlSetSpeed(ControlPanel& panel, int speed) {
+    answer(panel, setSpeed(panel.state, panel.sources.game, speed));
+}
+
+void CtrlToggleDirect(ControlPanel& panel) {
+    answer(panel, toggleDirect(panel.state, panel.sources.game));
+}
+
+void CtrlStepDirect(ControlPanel& panel, bool up) {
+    answer(panel, stepDirect(panel.state, panel.sources.game, up));
+}
+
+void CtrlSetDirect(ControlPanel& panel, VorIndex target) {
+    answer(panel, setDirect(panel.state, panel.sources.game, target));
+}
+
+void CtrlTick(ControlPanel& panel) {
+    if (isRefreshDue(panel.state, panel.sources.game.gameRunning, panel.callbacks.clockNow())) {
+        CtrlRepaint(panel);
+    }
+}
+
+ClockSeconds CtrlTouchTime(const ControlPanel& panel) {
+    return panel.state.touchTime;
+}
+
+void CtrlResetTouch(ControlPanel& panel) {
+    panel.state.touchTime = 0;
+}
+
+} // namespace ventrel

@@ -1,0 +1,113 @@
+#include "controls/strips.h"
+
+#include "platform/canvas/text.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr FontRequest stripFont{Face::arial, -11, false};
+constexpr Colour columnColour = Colour::rgb(64, 8, 0);
+
+constexpr int fromRightEdge = 155;
+constexpr int columnTop = 71;
+constexpr int columnWidth = 139;
+
+constexpr int stripPitch = 37;
+constexpr int routeLineTop = 2;
+constexpr int stateLineTop = 16;
+
+/// What depends on the size of the main window.
+struct Column {
+    int windowWidth;
+    int slots;
+    int height;
+};
+constexpr Column smallColumn{800, 10, 371};
+constexpr Column largeColumn{1024, 14, 541};
+
+const Column& columnFor(int windowWidth) {
+    return windowWidth == largeColumn.windowWidth ? largeColumn : smallColumn;
+}
+
+void paintStrip(Canvas& canvas, const Strips& strips, int slot, const Flight& flight, const Font& font) {
+    const GameState& game = strips.sources.game;
+    const TextStyle style{stripColour(flight, game), columnColour};
+    const int top = slot * stripPitch;
+    drawText(canvas, font, {0, top + routeLineTop}, stripRouteLine(flight, game), style);
+    drawText(canvas, font, {0, top + stateLineTop}, stripStateLine(flight), style);
+}
+
+void paint(Strips& strips, Canvas& canvas) {
+    const GameState& game = strips.sources.game;
+    canvas.fill(strips.window.area(), columnColour);
+    if (!game.gameRunning) {
+        return;
+    }
+    const Font& font = strips.sources.fonts.font(stripFont);
+    for (int slot = 0; slot < static_cast<int>(strips.list.slots.size()); ++slot) {
+        const FlightIndex index = slotFlight(strips.list, slot);
+        if (index == noFlight) {
+            continue;
+        }
+        paintStrip(canvas, strips, slot, game.flight(index), font);
+        if (game.flight(index).selected) {
+            strips.callbacks.press(slot);
+        }
+    }
+}
+
+} // namespace
+
+int stripSlotsFor(int windowWidth) {
+    return columnFor(windowWidth).slots;
+}
+
+void StripsCreate(Strips& strips, const Window& parent, Size mainWindow) {
+    const Column& column = columnFor(mainWindow.width);
+    strips.list = makeStripList(column.slots);
+    WindowHandlers handlers;
+    handlers.paint = [&strips](Canvas& canvas, const Rect&) { paint(strips, canvas); };
+    handlers.cursor = [&strips](Point) { return std::optional<Cursor>(&strips.sources.arrow); };
+    strips.window = parent.desktop()->create(
+        {.parent = parent,
+         .id = stripsId,
+         .bounds = Rect::at({mainWindow.width - fromRightEdge, columnTop}, {columnWidth, column.height}),
+         .handlers = std::move(handlers)});
+}
+
+void StripsReset(Strips& strips) {
+    resetStrips(strips.list);
+    strips.window.invalidate();
+}
+
+void StripsRebuild(Strips& strips) {
+    rebuildStrips(strips.list, strips.sources.game);
+    strips.window.invalidate();
+}
+
+bool StripsScrollUp(Strips& strips) {
+    const bool hasScrolled = scrollStripsUp(strips.list, strips.sources.game);
+    strips.window.invalidate();
+    return hasScrolled;
+}
+
+bool StripsScrollDown(Strips& strips) {
+    const bool hasScrolled = scrollStripsDown(strips.list, strips.sources.game);
+    strips.window.invalidate();
+    return hasScrolled;
+}
+
+FlightIndex StripsSlotFlight(const Strips& strips, int slot) {
+    return slotFlight(strips.list, slot);
+}
+
+int StripsFlightSlot(const Strips& strips, FlightIndex flight) {
+    return flightSlot(strips.list, flight);
+}
+
+bool StripsSlotSelectable(const Strips& strips, int slot) {
+    return isSlotSelectable(strips.list, strips.sources.game, slot);
+}
+
+} // namespace ventrel

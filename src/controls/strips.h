@@ -1,0 +1,57 @@
+// The flight strips: a column of two-line strips, one for each flight that is listed.
+//
+// The window only paints. The buttons beside it and the scroll arrows belong to the main window, which is
+// told which button the paint has found to be the pressed one.
+
+#pragma once
+
+#include <functional>
+
+#include "controls/strip_list.h"
+#include "platform/canvas/font.h"
+#include "platform/desktop/desktop.h"
+
+namespace ventrel {
+
+inline constexpr int stripsId = 505;
+
+struct StripsCallbacks {
+    /// The selected flight stands on that strip: its button is the pressed one.
+    std::function<void(int slot)> press;
+};
+
+struct StripsSources {
+    const GameState& game;
+    FontSet& fonts;
+    const CursorImage& arrow;
+};
+
+struct Strips {
+    StripsSources sources;
+    StripsCallbacks callbacks;
+
+    Window window;
+    StripList list;
+};
+
+/// How many strips a main window of that width shows: 10 or 14.
+int stripSlotsFor(int windowWidth);
+
+/// Makes the window in a main window of that size. The record must stay where it is from then on.
+void StripsCreate(Strips& strips, const Window& parent, Size mainWindow);
+
+/// Empties the column and scrolls back to its top.
+void StripsReset(Strips& strips);
+
+/// Lists the flights anew. Nothing but a repaint while no game runs.
+void StripsRebuild(Strips& strips);
+
+/// Scroll by one flight and rebuild; whether they scrolled.
+bool StripsScrollUp(Strips& strips);
+bool StripsScrollDown(Strips& strips);
+
+FlightIndex StripsSlotFlight(const Strips& strips, int slot);
+int StripsFlightSlot(const Strips& strips, FlightIndex flight);
+bool StripsSlotSelectable(const Strips& strips, int slot);
+
+} // namespace ventrel

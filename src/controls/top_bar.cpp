@@ -1,0 +1,135 @@
+#include "controls/top_bar.h"
+
+#include <algorithm>
+
+#include "controls/console_piece.h"
+#include "controls/top_bar_drawing.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr FontRequest clockFont{Face::arial, 14, false};
+
+std::size_t lampNumber(LampLevel level) {
+    return static_cast<std::size_t>(level);
+}
+
+const Bitmap& lampPicture(const TopBar& bar, std::size_t lamp) {
+    const bool isBright = lampNumber(bar.lamps.lit) == lamp && bar.lamps.blinkOn;
+    return (isBright ? bar.lampPictures.bright : bar.lampPictures.dark)[lamp];
+}
+
+void createClock(TopBar& bar, const Window& parent) {
+    WindowHandlers handlers;
+    handlers.paint = [&bar](Canvas& canvas, const Rect&) {
+        paintClock(canvas, bar.sources.game.gameRunning, bar.clock.now, bar.sources.fonts.font(clockFont));
+    };
+    handlers.press = [&bar](const MouseInput& mouse) {
+        if (mouse.button == MouseButton::left) {
+            ClockSkip(bar);
+        }
+    };
+    handlers.cursor = [&bar](Point) {
+        const bool isHand = bar.sources.game.gameRunning;
+        return std::optional<Cursor>(isHand ? &bar.sources.hand : &bar.sources.arrow);
+    };
+    bar.clockWindow = bar.sources.desktop.create(
+        {.parent = parent, .id = clockId, .bounds = clockWindowRect, .handlers = std::move(handlers)});
+}
+
+void createSmallScope(TopBar& bar, const Window& parent, const Bitmap& console) {
+    bar.scopeBackground = consolePiece(console, smallScopeRect);
+    WindowHandlers handlers;
+    handlers.paint = [&bar](Canvas& canvas, const Rect&) {
+        const AirportHeader& airport = bar.sources.game.airport;
+        const std::span<const Blip> blips =
+            bar.sources.game.gameRunning ? std::span<const Blip>(bar.blips) : std::span<const Blip>();
+        paintSmallScope(canvas, bar.scopeBackground, blips, bar.clock.sweepIndex, airport.flightColour,
+                        airport.selectedFlightColour);
+    };
+    handlers.cursor = [&bar](Point) { return std::optional<Cursor>(&bar.sources.arrow); };
+    bar.scopeWindow = bar.sources.desktop.create(
+        {.parent = parent, .id = smallScopeId, .bounds = smallScopeRect, .handlers = std::move(handlers)});
+}
+
+void createLamp(TopBar& bar, const Window& parent, const Bitmap& console, std::size_t lamp) {
+    bar.lampBackgrounds[lamp] = consolePiece(console, lampRects[lamp]);
+    WindowHandlers handlers;
+    handlers.paint = [&bar, lamp](Canvas& canvas, const Rect&) {
+        paintLamp(canvas, bar.lampBackgrounds[lamp], lampPicture(bar, lamp));
+    };
+    handlers.cursor = [&bar](Point) { return std::optional<Cursor>(&bar.sources.arrow); };
+    bar.lampWindows[lamp] = bar.sources.desktop.create(
+        {.parent = parent, .id = lampIds[lamp], .bounds = lampRects[lamp], .handlers = std::move(handlers)});
+}
+
+} // namespace
+
+void TopBarCreate(TopBar& bar, const Window& parent, const Bitmap& console, LampPictures lamps) {
+    bar.lampPictures = std::move(lamps);
+    createClock(bar, parent);
+    createSmallScope(bar, parent, console);
+    for (std::size_t lamp = 0; lamp < lampIds.size(); ++lamp) {
+        createLamp(bar, parent, console, lamp);
+    }
+}
+
+std::optional<Millis> ClockTick(TopBar& bar) {
+    const ClockTickResult result =
+        ClockTick(bar.clock, bar.sources.game.gameRunning, bar.sources.desktop.now());
+    if (result.clockPaintDue) {
+        bar.clockWindow.invalidate();
+    }
+    if (result.sweepMoved) {
+        bar.scopeWindow.invalidate();
+    }
+    if (!result.running) {
+        return std::nullopt;
+    }
+    return std::min(bar.clock.lastClockTick + clockSecondLength, bar.clock.lastSweepTick + sweepStepLength) +
+           1;
+}
+
+void ClockSkip(TopBar& bar) {
+    if (bar.sources.game.gameRunning) {
+        ClockSkip(bar.clock);
+        bar.clockWindow.invalidate();
+    }
+}
+
+void ClockReset(TopBar& bar) {
+    ClockReset(bar.clock);
+    bar.blips.clear();
+    bar.clockWindow.invalidate();
+    bar.scopeWindow.invalidate();
+}
+
+void ScopeUpdateBlips(TopBar& bar) {
+    bar.blips = scopeBlips(bar.sources.game);
+}
+
+std::optional<Millis> LampsTick(TopBar& bar) {
+    const LampsTickResult result =
+        LampsTick(bar.lamps, bar.sources.game.gameRunning, bar.sources.desktop.now());
+    if (result == LampsTickResult::asleep) {
+        return std::nullopt;
+    }
+    if (result == LampsTickResult::flipped) {
+        bar.lampWindows[lampNumber(bar.lamps.lit)].invalidate();
+    }
+    return bar.lamps.lastBlink + lampBlinkInterval + 1;
+}
+
+void LampsReset(TopBar& bar) {
+    bar.lamps.lit = LampLevel::none;
+    LampsRepaint(bar);
+}
+
+void LampsRepaint(TopBar& bar) {
+    for (const Window& lamp : bar.lampWindows) {
+        lamp.invalidate();
+    }
+}
+
+} // namespace ventrel

@@ -1,0 +1,169 @@
+#include "radar/radar_window.h"
+
+#include "platform/canvas/image.h"
+#include "radar/map_drawing.h"
+#include "radar/radar_frame.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr ClockSeconds repaintInterval = 5;
+constexpr ClockSeconds scoreReportInterval = 900;
+
+constexpr Colour ringColour = Colour::rgb(0xFF, 0, 0);
+constexpr int ringPen = 2;
+constexpr int ringGrowth = 4; // pixels on every side
+constexpr Millis ringInterval = 100;
+constexpr Millis ringsLast = 8000;
+
+void onPress(RadarWindow& radar, const MouseInput& mouse) {
+    if (!radar.sources.game.gameRunning) {
+        return;
+    }
+    const Point point = mouse.position;
+    if (mouse.button == MouseButton::left) {
+        radar.callbacks.resetTouch();
+        radar.window.post([&radar, point] { RadarSelectAt(radar, point); });
+    } else if (mouse.button == MouseButton::right) {
+        radar.callbacks.resetTouch();
+        if (RadarSelectAt(radar, point)) {
+            radar.callbacks.showOrderMenu(mouse.screen);
+        }
+    }
+}
+
+bool isSweeping(const RadarWindow& radar) {
+    return radar.sources.options.radarSweep != 0 && radar.sources.game.gameRunning;
+}
+
+void moveSweep(RadarWindow& radar) {
+    Canvas screen = radar.window.canvas();
+    stepSweep(radar.sweep, screen, radar.layout, radar.scope, radar.desktop.now());
+}
+
+/// The whole window is copied, whatever part needs it, and the sweep drawn again in the same breath: a frame
+/// never leaves a piece of the old line, nor a moment without one.
+void paint(RadarWindow& radar) {
+    if (!radar.map) {
+        return;
+    }
+    paintRadarFrame(radar);
+    radar.window.canvas().draw({0, 0}, radar.backBuffer);
+    radar.sweep.wasPaintedOver = true;
+    if (isSweeping(radar)) {
+        moveSweep(radar);
+    }
+}
+
+WindowHandlers handlersOf(RadarWindow& radar) {
+    WindowHandlers handlers;
+    handlers.paint = [&radar](Canvas&, const Rect&) { paint(radar); };
+    handlers.press = [&radar](const MouseInput& mouse) { onPress(radar, mouse); };
+    handlers.cursor = [&radar](Point) { return std::optional<Cursor>(&radar.sources.hand); };
+    return handlers;
+}
+
+/// Brings what a new clock value asks for.
+void followClock(RadarWindow& radar, ClockSeconds now) {
+    radar.lastClockSeen = now;
+    blinkNewFlights(radar, now);
+    if (now % repaintInterval != 0) {
+        return;
+    }
+    RadarRepaint(radar);
+    radar.callbacks.updateBlips();
+    if (now % scoreReportInterval == 0) {
+        radar.callbacks.reportScore();
+    }
+}
+
+} // namespace
+
+void RadarCreate(RadarWindow& radar, const Window& parent, std::vector<Bitmap> clouds) {
+    const Size size{radar.layout.scopeSize, radar.layout.scopeSize};
+    radar.backBuffer = Bitmap(size);
+    radar.scope = Region::ellipse(radar.layout.scopeEllipse);
+    radar.clouds = std::move(clouds);
+    radar.window = radar.desktop.create({.parent = parent,
+                                         .id = radarWindowId,
+                                         .bounds = Rect::at(radar.layout.corner, size),
+                                         .visible = false,
+                                         .handlers = handlersOf(radar)});
+}
+
+void RadarDecodePicture(RadarWindow& radar) {
+    radar.airportImage.reset();
+    Image image;
+    Bitmap bitmap;
+    if (ImageLoadMemory(image, radar.sources.game.mapPicture(), ImageFormat::jpeg) == ImageError::none &&
+        ImageToBitmap(image, bitmap) == ImageError::none) {
+        radar.airportImage = std::move(bitmap);
+    }
+}
+
+void RadarBuildMap(RadarWindow& radar, const Bitmap& frame) {
+    const Options& options = radar.sources.options;
+    const MapParts parts{.frame = frame,
+                         .airport = radar.airportImage ? &*radar.airportImage : nullptr,
+                         .vors = radar.sources.game.vors,
+                         .showPicture = options.mapDetails != 0,
+                         .showGrid = options.showGrid != 0};
+    const Font& labels = radar.sources.fonts.font({Face::smallFonts, -radar.layout.labelHeight, false});
+    radar.map = composeMap(radar.layout, parts, labels);
+    radar.window.show();
+}
+
+void RadarHide(RadarWindow& radar) {
+    radar.window.hide();
+}
+
+void RadarRepaint(RadarWindow& radar) {
+    radar.window.invalidate();
+}
+
+std::optional<Millis> RadarTick(RadarWindow& radar) {
+    if (!radar.window.isVisible()) {
+        return std::nullopt;
+    }
+    if (isSweeping(radar) && isSweepDue(radar.sweep, radar.desktop.now())) {
+        moveSweep(radar);
+    }
+    const ClockSeconds now = radar.callbacks.clockNow();
+    if (now != radar.lastClockSeen) {
+        followClock(radar, now);
+    }
+    return isSweeping(radar) ? std::optional(radar.sweep.lastStep + sweepStepInterval + 1) : std::nullopt;
+}
+
+bool RadarSelectAt(RadarWindow& radar, Point point) {
+    if (radar.callbacks.isTouched()) {
+        return false;
+    }
+    const GameState& game = radar.sources.game;
+    const auto hit = flightAt(radar.layout, game.flights, point);
+    if (hit && !game.flight(hit->flight).selected) {
+        radar.callbacks.select(*hit);
+    }
+    return hit.has_value();
+}
+
+bool RadarCollisionRings(RadarWindow& radar, FlightIndex flight) {
+    const Cell cell = radar.sources.game.flight(flight).current().cell();
+    Rect ring = alertCircle(radarPoint(radar.layout, cell));
+    const Millis end = radar.desktop.now() + ringsLast;
+    Millis next = radar.desktop.now();
+    do {
+        Canvas screen = radar.window.canvas();
+        screen.setClip(radar.scope);
+        screen.ellipse(ring, ringColour, ringPen);
+        ring = ring.grownBy(ringGrowth);
+        next += ringInterval;
+        if (!radar.desktop.pumpUntil(next)) {
+            return false;
+        }
+    } while (next < end);
+    return true;
+}
+
+} // namespace ventrel
