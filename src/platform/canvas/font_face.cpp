@@ -20,7 +20,6 @@ constexpr int smallestPixels = 9;
 /// From here on stairs show, and shades between black and white no longer blur thin strokes.
 constexpr int firstSmoothPixels = 24;
 
-constexpr char32_t noCharacter = 0xFFFD;
 constexpr char firstPrintable = ' ';
 constexpr char deleteCharacter = 0x7F;
 
@@ -82,8 +81,7 @@ void appendCoverage(const FT_Bitmap& bitmap, std::vector<std::uint8_t>& coverage
 /// stays blank.
 Glyph renderGlyph(FT_FaceRec_* face, char32_t character, int ascent, FT_Int32 flags,
                   std::vector<std::uint8_t>& coverage) {
-    const FT_UInt index = character == noCharacter ? 0 : FT_Get_Char_Index(face, character);
-    if (FT_Load_Glyph(face, index, flags) != 0) {
+    if (FT_Load_Glyph(face, FT_Get_Char_Index(face, character), flags) != 0) {
         return {};
     }
     const FT_GlyphSlotRec_& slot = *face->glyph;

@@ -29,7 +29,7 @@ inline Bytes bigEndian(std::uint32_t value) {
     return bytes({value >> 24, value >> 16 & 0xFF, value >> 8 & 0xFF, value & 0xFF});
 }
 
-inline Bytes littleEndian(std::uint32_t value, std::size_t size) {
+inline Bytes littleEndian(std::uint64_t value, std::size_t size) {
     Bytes result;
     for (std::size_t i = 0; i < size; ++i) {
         result.push_back(static_cast<std::byte>(value >> (8 * i)));
