@@ -49,8 +49,8 @@ standard src/sim
 standard src/platform/desktop
 standard src/platform/widgets
 standard src/platform/headless
-machine 'SDL' 'src/platform/sdl/'
-machine '(ft2build|png|jpeglib|turbojpeg)' 'src/platform/canvas/'
-machine 'toml' 'tools/apt/'
+machine 'SDL2?[/.]' 'src/platform/sdl/'
+machine '(ft2build|png|jpeglib|turbojpeg)\.h' 'src/platform/canvas/'
+machine 'toml\+\+' 'tools/apt/'
 
 exit "$broken"
