@@ -8,6 +8,7 @@ broken=0
 # only FOLDER PATTERN: every quoted include below FOLDER matches PATTERN.
 only() {
     local found
+    [ -d "$1" ] || return 0
     found=$(grep -rnE '^ *# *include +"' "$1" --include='*.h' --include='*.cpp' | grep -vE "\"($2)/" || true)
     if [ -n "$found" ]; then
         echo "$1 may include only $2:" && echo "$found"
@@ -18,6 +19,7 @@ only() {
 # standard FOLDER: every include in angle brackets below FOLDER is of the standard library.
 standard() {
     local found
+    [ -d "$1" ] || return 0
     found=$(grep -rnE '^ *# *include +<' "$1" --include='*.h' --include='*.cpp' | grep -vE '<[a-z_]+>' || true)
     if [ -n "$found" ]; then
         echo "$1 may include only the standard library:" && echo "$found"
