@@ -1,0 +1,57 @@
+#include "platform/widgets/menu.h"
+
+#include <algorithm>
+
+namespace ventrel {
+
+Menu makeMenu(std::span<const MenuItemTemplate> items) {
+    Menu menu;
+    for (const MenuItemTemplate& item : items) {
+        menu.push_back({.text = std::string(item.text),
+                        .command = item.command,
+                        .items = makeMenu(item.items),
+                        .greyed = item.greyed});
+    }
+    return menu;
+}
+
+MenuItem* findMenuItem(Menu& menu, int command) {
+    for (MenuItem& item : menu) {
+        const bool isIt = item.items.empty() && !item.text.empty() && item.command == command;
+        if (isIt) {
+            return &item;
+        }
+        if (MenuItem* inside = findMenuItem(item.items, command)) {
+            return inside;
+        }
+    }
+    return nullptr;
+}
+
+void checkMenuItem(Menu& menu, int command, bool checked) {
+    if (MenuItem* item = findMenuItem(menu, command)) {
+        item->checked = checked;
+    }
+}
+
+void greyMenuItem(Menu& menu, int command, bool greyed) {
+    if (MenuItem* item = findMenuItem(menu, command)) {
+        item->greyed = greyed;
+    }
+}
+
+char mnemonicOf(std::string_view label) {
+    for (std::size_t i = 0; i + 1 < label.size(); ++i) {
+        if (label[i] != '&') {
+            continue;
+        }
+        const char letter = label[i + 1];
+        if (letter != '&') {
+            return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+        }
+        ++i;
+    }
+    return '\0';
+}
+
+} // namespace ventrel

@@ -1,0 +1,69 @@
+// The numbers of everything that a player can ask of the main window.
+
+#pragma once
+
+namespace ventrel::command {
+
+inline constexpr int heading45 = 3; ///< the keypad's 9 has a number of its own kind
+
+inline constexpr int fileMenu = 500;
+inline constexpr int optionsMenu = 501;
+inline constexpr int executeOrder = 506;
+inline constexpr int helpMenu = 32651;
+
+inline constexpr int newGame = 4001;
+inline constexpr int endGame = 4002;
+inline constexpr int exitProgram = 4003;
+inline constexpr int nothing = 4004; ///< greyed items of the system menu
+inline constexpr int minimise = 4005;
+inline constexpr int schedule = 4006;
+inline constexpr int autoSelect = 4010;
+inline constexpr int bossKey = 4013;
+inline constexpr int pause = 4014;
+inline constexpr int about = 4015;
+inline constexpr int grid = 4016;
+inline constexpr int music = 4018;
+inline constexpr int soundEffects = 4020;
+inline constexpr int pilotVoices = 4022;
+inline constexpr int smallResolution = 4024;
+inline constexpr int largeResolution = 4025;
+inline constexpr int heading0 = 4026;
+inline constexpr int heading90 = 4027;
+inline constexpr int heading135 = 4028;
+inline constexpr int heading180 = 4029;
+inline constexpr int heading225 = 4030;
+inline constexpr int heading270 = 4031;
+inline constexpr int heading315 = 4032;
+inline constexpr int toggleDirect = 4033;
+inline constexpr int nextStrip = 4034;
+inline constexpr int previousStrip = 4035;
+inline constexpr int directUp = 4036;
+inline constexpr int directDown = 4037;
+inline constexpr int altitudeUp = 4038;
+inline constexpr int altitudeDown = 4039;
+inline constexpr int slow = 4040;
+inline constexpr int normal = 4041;
+inline constexpr int fast = 4042;
+inline constexpr int skipClock = 4043;
+inline constexpr int backgroundImage = 4045;
+inline constexpr int routes = 4046;
+inline constexpr int sweep = 4048;
+inline constexpr int fullScreen = 4051;
+inline constexpr int highScores = 4052;
+
+// The order menu of an aircraft: series of commands, each counted from its first.
+inline constexpr int planeHeading = 4053;  ///< 0 to 315 in steps of 45
+inline constexpr int planeDirect = 4061;   ///< map points 0 to 31
+inline constexpr int planeAltitude = 4093; ///< 1K to 10K
+inline constexpr int planeSlow = 4103;
+inline constexpr int planeNormal = 4104;
+inline constexpr int planeFast = 4105;
+inline constexpr int planeHold = 4106;
+inline constexpr int planeHeadings = 8;
+inline constexpr int planeTargets = 32;
+inline constexpr int planeAltitudes = 10;
+
+// Beyond the classic set.
+inline constexpr int help = 4201; ///< the keys and the rules
+
+} // namespace ventrel::command

@@ -1,0 +1,133 @@
+#include "shell/game_flow.h"
+
+#include "base/data_path.h"
+#include "sim/airport_loading.h"
+#include "sim/schedule.h"
+#include "sim/shift_texts.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view idleMusic = "mci\\idle.mci";
+constexpr std::string_view gameMusic = "mci\\game.mci";
+constexpr std::string_view collisionMusic = "mci\\faa.mci";
+constexpr std::string_view collisionSound = "snd\\collide.snd";
+
+constexpr std::string_view runningTitle = "Ventrel";
+constexpr std::string_view pausedTitle = "Ventrel (Paused)";
+
+const ScopeLayout& scopeLayout(const Shell& shell) {
+    return shell.windowSize().width == largeLayout.windowWidth ? largeLayout : smallLayout;
+}
+
+std::vector<Size> cloudSizes(const Shell& shell) {
+    std::vector<Size> sizes;
+    for (const Bitmap& cloud : shell.radar.clouds) {
+        sizes.push_back(cloud.size());
+    }
+    return sizes;
+}
+
+bool openAirportOf(Shell& shell, const GameSetup& setup) {
+    const auto path = DataPath(shell.programFolder, "apt") / setup.airportFile;
+    return loadAirport(shell.game, path, scopeLayout(shell), shell.random, shell.reporter());
+}
+
+void beginShift(Shell& shell, const GameSetup& setup) {
+    RadarDecodePicture(shell.radar);
+    RadarBuildMap(shell.radar, shell.pictures.radarFrame);
+    const auto sizes = cloudSizes(shell);
+    setUpShift(shell.game,
+               {.skill = setup.skill, .voiceSetCount = shell.sounds.voiceSetCount(), .cloudSizes = sizes},
+               shell.options, shell.random);
+    shell.game.gameRunning = true;
+    SetPause(shell, false);
+    setLamp(shell.topBar.lamps, shell.events, LampLevel::none);
+    ScrollerPost(shell.scroller, welcomeText(shell.game), MessageClass::information);
+}
+
+void endWithCollision(Shell& shell) {
+    shell.sounds.stopEffects();
+    ScrollerClear(shell.scroller);
+    shell.sounds.playEffect(collisionSound);
+    if (!RadarCollisionRings(shell.radar, shell.game.collisionFlights.front())) {
+        return; // the program is quitting
+    }
+    shell.sounds.playMusic(collisionMusic, false);
+    shell.mainWindow.releaseCapture();
+    EndGame(shell);
+}
+
+void endWithScore(Shell& shell) {
+    ScrollerClear(shell.scroller);
+    StripsReset(shell.strips);
+    ScrollerPost(shell.scroller, gameOverText(shell.game), MessageClass::information);
+    ScrollerSetPostGameOver(shell.scroller, true);
+}
+
+} // namespace
+
+void startGame(Shell& shell, const GameSetup& setup) {
+    if (openAirportOf(shell, setup)) {
+        beginShift(shell, setup);
+    }
+    shell.sounds.stopEffects();
+    shell.sounds.playMusic(gameMusic, true);
+    shell.mainWindow.releaseCapture();
+}
+
+void SetPause(Shell& shell, bool on) {
+    if (!shell.game.gameRunning || shell.paused == on) {
+        return;
+    }
+    if (on) {
+        shell.sounds.stopMusic();
+    } else {
+        shell.sounds.playMusic(gameMusic, false);
+    }
+    shell.paused = on;
+    shell.desktop.setTitle(on ? pausedTitle : runningTitle);
+    RadarRepaint(shell.radar);
+}
+
+void EndGame(Shell& shell) {
+    shell.game.gameRunning = false;
+    shell.mainWindow.invalidate();
+    ScrollerClear(shell.scroller);
+    StripsReset(shell.strips);
+    ClockReset(shell.topBar);
+    CtrlClearFlight(shell.panel);
+    LampsReset(shell.topBar);
+    RadarHide(shell.radar);
+}
+
+void abandonGame(Shell& shell) {
+    shell.sounds.stopMusic();
+    EndGame(shell);
+    shell.sounds.playMusic(idleMusic, false);
+}
+
+void endShift(Shell& shell, ShiftResult result) {
+    shell.game.gameRunning = false;
+    shell.mainWindow.capture();
+    shell.sounds.stopMusic();
+    if (result == ShiftResult::collision) {
+        endWithCollision(shell);
+    } else {
+        endWithScore(shell);
+    }
+}
+
+void onGameOver(Shell& shell) {
+    ScrollerSetPostGameOver(shell.scroller, false);
+    shell.mainWindow.releaseCapture();
+    EndGame(shell);
+    shell.sounds.playMusic(idleMusic, false);
+}
+
+void reportScore(Shell& shell) {
+    ScrollerPost(shell.scroller, scoreSoFarText(shell.game), MessageClass::information);
+}
+
+} // namespace ventrel

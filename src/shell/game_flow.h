@@ -1,0 +1,40 @@
+// The life of a game: its start, pauses, and the ways in which it ends.
+
+#pragma once
+
+#include "shell/shell.h"
+#include "sim/schedule.h"
+
+namespace ventrel {
+
+/// What the New Game dialog has found out.
+struct GameSetup {
+    Skill skill = Skill::normal;
+    std::string controllerName;
+    std::string airportName;
+    std::filesystem::path airportFile; ///< within the airport folder
+};
+
+/// Loads the airport, sets the shift up and lets the clock run. A refused airport starts no game; the game
+/// music starts all the same.
+void startGame(Shell& shell, const GameSetup& setup);
+
+/// Pauses or resumes the running game; nothing while none runs, or when it is so already.
+void SetPause(Shell& shell, bool on);
+
+/// Ends the running game and resets every display. Leaves music, score and pause as they are.
+void EndGame(Shell& shell);
+
+/// Ends it as the player asked: with the idle music.
+void abandonGame(Shell& shell);
+
+/// The end that the simulation has told: every flight handled, or a collision.
+void endShift(Shell& shell, ShiftResult result);
+
+/// The game-over line has scrolled away.
+void onGameOver(Shell& shell);
+
+/// The score so far, for the ticker.
+void reportScore(Shell& shell);
+
+} // namespace ventrel

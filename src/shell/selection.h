@@ -1,0 +1,35 @@
+// Choosing a flight: at most one is selected, on radar, strips and panel alike.
+
+#pragma once
+
+#include "radar/flight_drawing.h"
+#include "shell/shell.h"
+
+namespace ventrel {
+
+/// The main window's area of a strip's button.
+Rect stripButtonRect(const Shell& shell, int slot);
+
+/// The strip button at that point of the main window, or `noSlot`.
+int StripsButtonAt(const Shell& shell, Point point);
+
+/// Shows that button pressed and every other one released; with `noSlot` all are released.
+void StripsPress(Shell& shell, int slot);
+
+/// The first button shown pressed, or `noSlot`.
+int pressedSlot(const Shell& shell);
+
+/// Takes the mark off the selected flight and returns it; `noFlight` when none was.
+FlightIndex ClearSelectedFlight(Shell& shell);
+
+/// Selects the flight of a strip, with the click that goes with it. An empty strip empties the panel.
+void SelectStripFlight(Shell& shell, int slot);
+
+/// Selects a flight found on the radar, which was not selected before, and brings its strip into view.
+void selectRadarFlight(Shell& shell, const FlightHit& hit);
+
+/// The Down and Up keys: the strip below or above, scrolling where the list goes on.
+void selectNextStrip(Shell& shell);
+void selectPreviousStrip(Shell& shell);
+
+} // namespace ventrel

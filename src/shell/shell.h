@@ -1,0 +1,80 @@
+// The running program: everything that lives between calls, owned in one place.
+//
+// The shell is created by start-up, driven by the desktop's loop through Tick, and told what the player wants
+// by commands. Every sequence that touches several rooms stands in this folder, one function each.
+
+#pragma once
+
+#include <array>
+#include <filesystem>
+
+#include "base/profile_file.h"
+#include "base/random.h"
+#include "controls/control_panel.h"
+#include "controls/scroller.h"
+#include "controls/strips.h"
+#include "controls/top_bar.h"
+#include "platform/desktop/desktop.h"
+#include "radar/radar_window.h"
+#include "shell/game_sounds.h"
+#include "shell/pictures.h"
+#include "shell/simulation_player.h"
+#include "sim/options.h"
+#include "sim/simulation.h"
+
+namespace ventrel {
+
+inline constexpr int mostStrips = 14;
+
+/// What start-up has found out and opened before there is a window.
+struct ShellParts {
+    Desktop& desktop;
+    GameSounds& sounds;
+    FontSet& fonts;
+    std::filesystem::path programFolder;
+    std::filesystem::path profilePath; ///< of the options file
+    Pictures pictures;
+    Options options;
+    RandomGenerator random;
+};
+
+class Shell {
+public:
+    explicit Shell(ShellParts parts);
+    Shell(const Shell&) = delete;
+    Shell& operator=(const Shell&) = delete;
+    ~Shell() = default;
+
+    Desktop& desktop;
+    GameSounds& sounds;
+    FontSet& fonts;
+    const std::filesystem::path programFolder;
+    const std::filesystem::path profilePath;
+    Pictures pictures;
+    Options options;
+    RandomGenerator random;
+
+    GameState game;
+    bool paused = false; ///< only means something while a game runs
+
+    Window mainWindow;
+    std::array<bool, mostStrips> slotPressed{}; ///< the strip buttons that are shown pressed
+
+    TopBar topBar;
+    Scroller scroller;
+    Strips strips;
+    ControlPanel panel;
+    RadarWindow radar;
+    SimulationPlayer events;
+
+    Size windowSize() const { return pictures.console.size(); }
+    int stripSlots() const { return stripSlotsFor(windowSize().width); }
+    /// The simulation over this shell's game, for one call.
+    Simulation simulation();
+    /// Shows a text to the player in a message box over the main window, and returns when it has been
+    /// answered.
+    void report(std::string_view text, MessageIcon icon);
+    FailureReporter reporter();
+};
+
+} // namespace ventrel

@@ -1,0 +1,31 @@
+#include "shell/tick.h"
+
+#include <algorithm>
+
+#include "sim/flight_step.h"
+
+namespace ventrel {
+
+namespace {
+
+std::optional<Millis> earlier(std::optional<Millis> a, std::optional<Millis> b) {
+    return a && b ? std::min(*a, *b) : a ? a : b;
+}
+
+} // namespace
+
+std::optional<Millis> Tick(Shell& shell) {
+    if (shell.paused && shell.game.gameRunning) {
+        return std::nullopt;
+    }
+    std::optional<Millis> next = ClockTick(shell.topBar);
+    next = earlier(next, ScrollerTick(shell.scroller));
+    Simulation simulation = shell.simulation();
+    SimulationStep(simulation, shell.topBar.clock.now);
+    next = earlier(next, LampsTick(shell.topBar));
+    next = earlier(next, RadarTick(shell.radar));
+    CtrlTick(shell.panel);
+    return next;
+}
+
+} // namespace ventrel
