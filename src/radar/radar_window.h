@@ -87,8 +87,8 @@ void RadarHide(RadarWindow& radar);
 /// Marks the whole window to be painted.
 void RadarRepaint(RadarWindow& radar);
 
-/// Moves the sweep and does what a new clock value asks for. Returns when it wants its next call: none while the
-/// window is hidden or nothing of it moves by itself.
+/// Moves the sweep and does what a new clock value asks for. Returns when it wants its next call: none while
+/// the window is hidden or nothing of it moves by itself.
 std::optional<Millis> RadarTick(RadarWindow& radar);
 
 /// Selects the flight at that radar pixel, unless the player is busy on the panel. Whether there is one.

@@ -1,0 +1,22 @@
+// How the picture lies in the machine's window: as large as fits with its shape kept, by whole multiples
+// where they fit.
+
+#pragma once
+
+#include "base/geometry.h"
+
+namespace ventrel {
+
+/// The part of a window of that size that the picture takes. Whole multiples from 1 up; a smaller window
+/// shrinks it.
+Rect pictureArea(Size window, Size picture);
+
+/// A comfortable size for the first time: the largest whole multiple that leaves some of the screen free, 1
+/// when it fits at all, else as much as fits.
+Size firstWindowSize(Size screen, Size picture);
+
+/// From a position in the window to the picture's pixels; positions beside the picture come out outside it.
+Point toPicture(Point window, const Rect& area, Size picture);
+Point fromPicture(Point picture, const Rect& area, Size size);
+
+} // namespace ventrel

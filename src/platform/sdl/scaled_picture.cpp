@@ -1,0 +1,90 @@
+#include "platform/sdl/scaled_picture.h"
+
+#include <algorithm>
+
+namespace ventrel {
+
+namespace {
+
+constexpr int weightBits = 8;
+constexpr int fullWeight = 1 << weightBits;
+
+std::uint32_t* rowOf(const PixelRows& target, int y) {
+    return target.first + static_cast<std::ptrdiff_t>(y) * target.pitch;
+}
+
+/// Mixes two pixels; `weight` is that of the second, of 256.
+Pixel mixed(Pixel a, Pixel b, unsigned weight) {
+    constexpr Pixel redBlue = 0xFF00FF;
+    constexpr Pixel green = 0x00FF00;
+    const unsigned rest = fullWeight - weight;
+    return (((a & redBlue) * rest + (b & redBlue) * weight) >> weightBits & redBlue) |
+           (((a & green) * rest + (b & green) * weight) >> weightBits & green);
+}
+
+/// Where a shown pixel lies between two of the picture.
+struct Between {
+    int first;
+    int second;
+    unsigned weight; // of the second
+};
+
+Between between(int shown, int shownLength, int length) {
+    // The middle of the shown pixel, in 256ths of the picture's pixels, counted from the middle of its first.
+    const std::int64_t at =
+        ((2 * std::int64_t{shown} + 1) * length * fullWeight / shownLength - fullWeight) / 2;
+    const auto clamped = std::clamp<std::int64_t>(at, 0, std::int64_t{length - 1} * fullWeight);
+    const int first = static_cast<int>(clamped >> weightBits);
+    return {first, std::min(first + 1, length - 1), static_cast<unsigned>(clamped & (fullWeight - 1))};
+}
+
+void repeatPixels(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown,
+                  int multiple) {
+    for (int y = shown.top; y < shown.bottom; ++y) {
+        const auto source = picture.row((y - area.top) / multiple);
+        std::uint32_t* row = rowOf(target, y);
+        for (int x = shown.left; x < shown.right; ++x) {
+            row[x] = source[static_cast<std::size_t>((x - area.left) / multiple)];
+        }
+    }
+}
+
+void mixPixels(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown) {
+    for (int y = shown.top; y < shown.bottom; ++y) {
+        const Between down = between(y - area.top, area.height(), picture.height());
+        const auto upper = picture.row(down.first);
+        const auto lower = picture.row(down.second);
+        std::uint32_t* row = rowOf(target, y);
+        for (int x = shown.left; x < shown.right; ++x) {
+            const Between across = between(x - area.left, area.width(), picture.width());
+            const auto left = static_cast<std::size_t>(across.first);
+            const auto right = static_cast<std::size_t>(across.second);
+            row[x] = mixed(mixed(upper[left], upper[right], across.weight),
+                           mixed(lower[left], lower[right], across.weight), down.weight);
+        }
+    }
+}
+
+} // namespace
+
+Rect scalePicture(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& changed) {
+    const int multiple = area.width() / picture.width();
+    const bool isWhole = multiple >= 1 && area.width() == multiple * picture.width() &&
+                         area.height() == multiple * picture.height();
+    // A mixed pixel is touched by the neighbours of what has changed too.
+    const Rect source = (isWhole ? changed : changed.grownBy(1)).intersectedWith(picture.bounds());
+    const auto across = [&](int x) { return area.left + x * area.width() / picture.width(); };
+    const auto down = [&](int y) { return area.top + y * area.height() / picture.height(); };
+    const Rect shown = Rect{across(source.left), down(source.top), across(source.right) + (isWhole ? 0 : 1),
+                            down(source.bottom) + (isWhole ? 0 : 1)}
+                           .intersectedWith(area)
+                           .intersectedWith(Rect::at({}, target.size));
+    if (isWhole) {
+        repeatPixels(target, area, picture, shown, multiple);
+    } else {
+        mixPixels(target, area, picture, shown);
+    }
+    return shown;
+}
+
+} // namespace ventrel

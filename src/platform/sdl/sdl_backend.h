@@ -1,0 +1,46 @@
+// The machine through SDL: one borderless window that shows the picture scaled, with keyboard, mouse and
+// clipboard.
+//
+// The only room that includes SDL.
+
+#pragma once
+
+#include <filesystem>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "base/failure.h"
+#include "platform/devices/backend.h"
+
+namespace ventrel {
+
+/// Where the window stands on the machine's desktop.
+struct WindowPlacement {
+    Rect bounds;
+
+    friend bool operator==(const WindowPlacement&, const WindowPlacement&) = default;
+};
+
+struct SdlOptions {
+    std::string title = {};
+    Size picture = {};       ///< the size of the picture that is shown
+    bool fullScreen = false; ///< the whole screen, without a change of its mode
+    /// Of the last time; none: a comfortable size in the middle.
+    std::optional<WindowPlacement> placement = {};
+    const CursorImage* icon = nullptr; ///< kept by the caller until the backend is open
+};
+
+class SdlBackend : public Backend {
+public:
+    /// Where the window stands now, for the next start; none while it fills the screen.
+    virtual std::optional<WindowPlacement> placement() const = 0;
+};
+
+/// The size of the machine's screen, before any window; none when there is no screen.
+std::optional<Size> screenSize();
+
+/// Opens the window, hidden. Null, after a report, when there is no screen to show it on.
+std::unique_ptr<SdlBackend> openSdlBackend(const SdlOptions& options, const FailureReporter& report);
+
+} // namespace ventrel
