@@ -46,11 +46,20 @@ only src/platform/desktop 'base|platform/(canvas|devices|desktop)'
 only src/platform/widgets 'base|platform/(canvas|devices|desktop|widgets)'
 only src/platform/headless 'base|platform/(canvas|devices|headless)'
 only src/platform/sdl 'base|platform/(canvas|devices|sdl)'
+only src/platform/machine 'base|platform/machine'
+only src/resources 'base|platform/(devices|desktop|widgets)|resources'
+only src/radar 'base|sim|platform/(canvas|devices|desktop)|radar'
+only src/controls 'base|sim|platform/(canvas|devices|desktop)|controls'
+only src/shell 'base|sim|platform/(canvas|devices|desktop|widgets)|resources|radar|controls|shell'
 standard src/base
 standard src/sim
 standard src/platform/desktop
 standard src/platform/widgets
 standard src/platform/headless
+standard src/resources
+standard src/radar
+standard src/controls
+standard src/shell
 machine 'SDL2?[/.]' 'src/platform/sdl/'
 machine '(ft2build|png|jpeglib|turbojpeg)\.h' 'src/platform/canvas/'
 machine 'toml\+\+' 'tools/apt/'

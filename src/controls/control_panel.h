@@ -33,9 +33,9 @@ struct ControlPanel {
     ControlPanelSources sources;
     ControlPanelCallbacks callbacks;
 
-    Window window;
-    Bitmap background; ///< the console's piece under the window
-    ControlPanelState state;
+    Window window = {};
+    Bitmap background = {}; ///< the console's piece under the window
+    ControlPanelState state = {};
 };
 
 /// Makes the window on the console whose picture is given. The record must stay where it is from then on.

@@ -24,12 +24,12 @@ struct ScrollerSources {
 struct Scroller {
     ScrollerSources sources;
     /// The queue has run empty after the game-over line.
-    std::function<void()> gameOverShown;
+    std::function<void()> gameOverShown = {};
 
-    Window window;
-    MessageQueue queue;
-    ScrollerState state;
-    Bitmap line; ///< the picture of the line under way
+    Window window = {};
+    MessageQueue queue = {};
+    ScrollerState state = {};
+    Bitmap line = {}; ///< the picture of the line under way
 };
 
 /// Makes the strip in a main window of that width. The record must stay where it is from then on.

@@ -30,8 +30,8 @@ struct Strips {
     StripsSources sources;
     StripsCallbacks callbacks;
 
-    Window window;
-    StripList list;
+    Window window = {};
+    StripList list = {};
 };
 
 /// How many strips a main window of that width shows: 10 or 14.

@@ -34,16 +34,16 @@ struct TopBarSources {
 struct TopBar {
     TopBarSources sources;
 
-    GameClock clock;
-    AlertLamps lamps;
+    GameClock clock = {};
+    AlertLamps lamps = {};
 
-    Window clockWindow;
-    Window scopeWindow;
-    std::array<Window, 3> lampWindows;
-    Bitmap scopeBackground;
-    std::array<Bitmap, 3> lampBackgrounds;
-    LampPictures lampPictures;
-    std::vector<Blip> blips;
+    Window clockWindow = {};
+    Window scopeWindow = {};
+    std::array<Window, 3> lampWindows = {};
+    Bitmap scopeBackground = {};
+    std::array<Bitmap, 3> lampBackgrounds = {};
+    LampPictures lampPictures = {};
+    std::vector<Blip> blips = {};
 };
 
 /// Makes the windows on the console whose picture is given. The record must stay where it is from then on.

@@ -62,13 +62,13 @@ struct RadarWindow {
     RadarCallbacks callbacks;
     const RadarLayout& layout;
 
-    Window window;
-    Region scope;                       ///< the round part of the window
-    Bitmap backBuffer;                  ///< the latest frame, without the sweep
-    std::optional<Bitmap> map;          ///< what does not move; none until the first game
-    std::optional<Bitmap> airportImage; ///< the airport's own picture
-    std::vector<Bitmap> clouds;
-    Sweep sweep;
+    Window window = {};
+    Region scope = {};                       ///< the round part of the window
+    Bitmap backBuffer = {};                  ///< the latest frame, without the sweep
+    std::optional<Bitmap> map = {};          ///< what does not move; none until the first game
+    std::optional<Bitmap> airportImage = {}; ///< the airport's own picture
+    std::vector<Bitmap> clouds = {};
+    Sweep sweep = {};
     ClockSeconds lastClockSeen = 0;
 };
 

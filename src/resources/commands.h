@@ -62,6 +62,7 @@ inline constexpr int planeHold = 4106;
 inline constexpr int planeHeadings = 8;
 inline constexpr int planeTargets = 32;
 inline constexpr int planeAltitudes = 10;
+inline constexpr int planeSpeeds = 3; ///< slow, normal, fast
 
 // Beyond the classic set.
 inline constexpr int help = 4201; ///< the keys and the rules

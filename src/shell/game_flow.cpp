@@ -9,12 +9,9 @@ namespace ventrel {
 
 namespace {
 
-constexpr std::string_view idleMusic = "mci\\idle.mci";
-constexpr std::string_view gameMusic = "mci\\game.mci";
 constexpr std::string_view collisionMusic = "mci\\faa.mci";
 constexpr std::string_view collisionSound = "snd\\collide.snd";
 
-constexpr std::string_view runningTitle = "Ventrel";
 constexpr std::string_view pausedTitle = "Ventrel (Paused)";
 
 const ScopeLayout& scopeLayout(const Shell& shell) {
@@ -87,7 +84,7 @@ void SetPause(Shell& shell, bool on) {
         shell.sounds.playMusic(gameMusic, false);
     }
     shell.paused = on;
-    shell.desktop.setTitle(on ? pausedTitle : runningTitle);
+    shell.desktop.setTitle(on ? pausedTitle : programTitle);
     RadarRepaint(shell.radar);
 }
 

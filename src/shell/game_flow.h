@@ -2,18 +2,13 @@
 
 #pragma once
 
+#include "shell/game_setup.h"
 #include "shell/shell.h"
-#include "sim/schedule.h"
 
 namespace ventrel {
 
-/// What the New Game dialog has found out.
-struct GameSetup {
-    Skill skill = Skill::normal;
-    std::string controllerName;
-    std::string airportName;
-    std::filesystem::path airportFile; ///< within the airport folder
-};
+inline constexpr std::string_view idleMusic = "mci\\idle.mci";
+inline constexpr std::string_view gameMusic = "mci\\game.mci";
 
 /// Loads the airport, sets the shift up and lets the clock run. A refused airport starts no game; the game
 /// music starts all the same.

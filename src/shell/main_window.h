@@ -6,7 +6,7 @@
 
 namespace ventrel {
 
-/// Makes the main window with its children, and shows it.
+/// Makes the main window with its children, hidden. The clicks on it become commands (commands.h).
 void createMainWindow(Shell& shell);
 
 } // namespace ventrel

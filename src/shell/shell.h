@@ -10,11 +10,14 @@
 
 #include "base/profile_file.h"
 #include "base/random.h"
+#include "base/string_table.h"
 #include "controls/control_panel.h"
 #include "controls/scroller.h"
 #include "controls/strips.h"
 #include "controls/top_bar.h"
 #include "platform/desktop/desktop.h"
+#include "platform/widgets/button.h"
+#include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
 #include "shell/game_sounds.h"
 #include "shell/pictures.h"
@@ -24,6 +27,7 @@
 
 namespace ventrel {
 
+inline constexpr std::string_view programTitle = "Ventrel";
 inline constexpr int mostStrips = 14;
 
 /// What start-up has found out and opened before there is a window.
@@ -48,6 +52,7 @@ public:
     Desktop& desktop;
     GameSounds& sounds;
     FontSet& fonts;
+    const WidgetFonts widgetFonts; ///< of menus, dialogs and message boxes
     const std::filesystem::path programFolder;
     const std::filesystem::path profilePath;
     Pictures pictures;
@@ -58,6 +63,7 @@ public:
     bool paused = false; ///< only means something while a game runs
 
     Window mainWindow;
+    Button exec;
     std::array<bool, mostStrips> slotPressed{}; ///< the strip buttons that are shown pressed
 
     TopBar topBar;
@@ -71,8 +77,11 @@ public:
     int stripSlots() const { return stripSlotsFor(windowSize().width); }
     /// The simulation over this shell's game, for one call.
     Simulation simulation();
-    /// Shows a text to the player in a message box over the main window, and returns when it has been
-    /// answered.
+    /// A message box over the main window, which pauses a running game. Returns when it has been answered.
+    MessageAnswer showMessage(std::string_view text, MessageIcon icon, MessageButtons buttons);
+    /// The same with a question of the string table.
+    MessageAnswer ask(TextId question, MessageButtons buttons);
+    /// The same with nothing to choose.
     void report(std::string_view text, MessageIcon icon);
     FailureReporter reporter();
 };

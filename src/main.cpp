@@ -1,0 +1,123 @@
+// Ventrel: the game on this machine's screen.
+
+#include <chrono>
+#include <cstdio>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "base/windows1252.h"
+#include "platform/machine/instance_lock.h"
+#include "platform/machine/places.h"
+#include "platform/sdl/sdl_backend.h"
+#include "shell/program.h"
+#include "shell/window_memory.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view programName = "ventrel";
+constexpr std::string_view instanceName = "VNTL_MUTEX";
+constexpr std::uint32_t seedMask = 0xFFFF;
+
+constexpr int ended = 0;
+constexpr int cannotStart = 1;
+
+constexpr std::string_view usage =
+    "Ventrel, an air-traffic-control game.\n"
+    "\n"
+    "    ventrel [/NOSPLASH]\n"
+    "\n"
+    "    /NOSPLASH   without the opening pictures\n"
+    "\n"
+    "Keys and rules: F1 in the game. The options are kept in ventrel.ini beside the program, or in the data\n"
+    "folder of the player where the program's folder cannot be written.\n";
+
+void complain(std::string_view text, MessageIcon /*icon*/) {
+    std::fprintf(stderr, "ventrel: %s\n", toUtf8(text).c_str());
+}
+
+/// The player's choices, as the options file has them and as they go back into it.
+struct Settings {
+    std::filesystem::path file;
+    Options options = {};
+    std::optional<Rect> windowPlace = {};
+
+    void read() {
+        const ProfileFile profile(file);
+        options = ReadOptions(profile);
+        windowPlace = readWindowPlace(profile);
+    }
+    void write() const {
+        ProfileFile profile(file);
+        WriteOptions(options, profile);
+        if (windowPlace) {
+            writeWindowPlace(*windowPlace, profile);
+        }
+        profile.save();
+    }
+};
+
+std::unique_ptr<SdlBackend> openScreen(const Settings& settings, Size window,
+                                       const std::filesystem::path& programFolder) {
+    const auto icon = loadIcon(programFolder);
+    SdlOptions options{.title = std::string(programTitle), .picture = window};
+    options.fullScreen = settings.options.windowed == 0;
+    if (settings.windowPlace) {
+        options.placement = WindowPlacement{*settings.windowPlace};
+    }
+    options.icon = icon ? &*icon : nullptr;
+    return openSdlBackend(options, complain);
+}
+
+/// Another one at every start: milliseconds since the machine was started.
+std::uint32_t seedOfChance() {
+    using namespace std::chrono;
+    const auto sinceStart = duration_cast<milliseconds>(steady_clock::now().time_since_epoch());
+    return static_cast<std::uint32_t>(sinceStart.count()) & seedMask;
+}
+
+/// From start-up to shutdown, within the program's own folder.
+int play(const std::filesystem::path& executable) {
+    const std::filesystem::path programFolder = executable.parent_path();
+    const std::string profileName = executable.stem().string() + ".ini";
+    Settings settings{.file = writableFile(programFolder, programName, profileName)};
+    settings.read();
+
+    FontSet fonts(programFolder / "fonts", complain);
+    const auto screen = screenSize();
+    const Size window = chooseWindowSize(settings.options, screen.value_or(Size{}));
+    const auto backend = fonts.isComplete() ? openScreen(settings, window, programFolder) : nullptr;
+    if (!backend) {
+        return cannotStart;
+    }
+    SilentSounds sounds;
+    {
+        Program program({*backend, fonts, sounds}, {programFolder, settings.file}, settings.options,
+                        seedOfChance());
+        if (program.startUp()) {
+            program.run();
+        }
+        settings.options = program.options();
+    }
+    if (const auto place = backend->placement()) {
+        settings.windowPlace = place->bounds;
+    }
+    settings.write();
+    return ended;
+}
+
+} // namespace
+
+} // namespace ventrel
+
+int main(int count, char** words) {
+    using namespace ventrel;
+    if (count == 2 && std::string_view(words[1]) == "--help") {
+        std::fputs(usage.data(), stdout);
+        return ended;
+    }
+    const InstanceLock lock(instanceName);
+    return lock.isTaken() ? ended : play(executableFile(words[0]));
+}

@@ -1,0 +1,153 @@
+// The dialogs: their controls by number, text and place. Places are dialog units.
+
+#pragma once
+
+#include <array>
+
+#include "platform/widgets/templates.h"
+
+namespace ventrel {
+
+// New Game --------------------------------------------------------------------------------------------------
+
+namespace new_game {
+
+inline constexpr int firstSkill = 1000; ///< Easy; the other levels follow
+inline constexpr int skillCount = 5;
+inline constexpr int choose = 1005;
+inline constexpr int airport = 1006;
+inline constexpr int name = 1010;
+inline constexpr int clouds = 1017;
+inline constexpr int directEntry = 1018;
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::groupBox, 0, "Skill", {7, 4, 85, 97}},
+    {ControlKind::radioButton, firstSkill, "Easy", {15, 19, 77, 29}, groupStart},
+    {ControlKind::radioButton, firstSkill + 1, "Normal", {15, 34, 77, 44}},
+    {ControlKind::radioButton, firstSkill + 2, "Moderate", {15, 49, 77, 59}},
+    {ControlKind::radioButton, firstSkill + 3, "Hard", {15, 64, 77, 74}},
+    {ControlKind::radioButton, firstSkill + 4, "Custom...", {15, 79, 77, 89}},
+    {ControlKind::groupBox, 0, "Controller", {91, 4, 195, 42}},
+    {ControlKind::staticText, 0, "Name:", {98, 21, 120, 29}},
+    {ControlKind::edit, name, "", {121, 18, 188, 31}},
+    {ControlKind::groupBox, 0, "Airport", {91, 46, 195, 97}},
+    {ControlKind::staticText, airport, "None Selected", {98, 59, 188, 71}, sunkenStatic},
+    {ControlKind::pushButton, choose, "&Choose...", {118, 76, 168, 90}},
+    {ControlKind::groupBox, 0, "Bonus Points", {7, 101, 195, 146}},
+    {ControlKind::checkBox, clouds, "Random Cloud Cover    +300 pts", {15, 114, 187, 124}},
+    {ControlKind::checkBox, directEntry, "Direct Course on Entry:  -100 pts", {15, 129, 187, 139}},
+    {ControlKind::defaultButton, okId, "OK", {46, 152, 96, 166}},
+    {ControlKind::pushButton, cancelId, "Cancel", {106, 152, 156, 166}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "New Game", .size = {202, 172}, .controls = controls};
+
+} // namespace new_game
+
+// Custom Skill ----------------------------------------------------------------------------------------------
+
+namespace custom_skill {
+
+inline constexpr int calculate = 1014;
+inline constexpr int planes = 1015;
+inline constexpr int minutes = 1016;
+inline constexpr int bonus = 1017;
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::staticText, 0, "Total Number of Planes:", {7, 10, 99, 18}},
+    {ControlKind::edit, planes, "", {102, 7, 142, 20}},
+    {ControlKind::staticText, 0, "Shift Length (in minutes):", {7, 28, 99, 36}},
+    {ControlKind::edit, minutes, "", {102, 25, 142, 38}},
+    {ControlKind::staticText, 0, "Bonus Points:", {7, 46, 99, 54}},
+    {ControlKind::pushButton, calculate, "Calculate", {148, 42, 198, 56}},
+    {ControlKind::edit, bonus, "", {102, 43, 142, 56}, readOnlyEdit},
+    {ControlKind::defaultButton, okId, "OK", {48, 66, 98, 80}},
+    {ControlKind::pushButton, cancelId, "Cancel", {107, 66, 157, 80}},
+})};
+
+inline constexpr DialogTemplate shape{
+    .title = "Custom Skill Level Setup", .size = {205, 87}, .controls = controls};
+
+} // namespace custom_skill
+
+// Choose Airport --------------------------------------------------------------------------------------------
+
+namespace choose_airport {
+
+inline constexpr int list = 1007;
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::listBox, list, "", {7, 7, 140, 103}},
+    {ControlKind::defaultButton, okId, "OK", {19, 110, 69, 124}},
+    {ControlKind::pushButton, cancelId, "Cancel", {78, 110, 128, 124}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Choose Airport", .size = {147, 130}, .controls = controls};
+
+} // namespace choose_airport
+
+// Schedule --------------------------------------------------------------------------------------------------
+
+namespace schedule {
+
+inline constexpr int list = 1007;
+inline constexpr int possibleScore = 1009;
+inline constexpr int currentScore = 1010;
+inline constexpr int shiftLength = 1012;
+inline constexpr int landings = 1013;
+inline constexpr int takeoffs = 1014;
+inline constexpr int passThroughs = 1015;
+
+/// Between two columns of the list. The callsign takes two.
+inline constexpr int tabStop = 32;
+/// Where the list's text begins; the heads of its columns stand over their stops.
+inline constexpr int textLeft = 10;
+constexpr Rect headAt(int stop, int width) {
+    return {textLeft + stop * tabStop, 6, textLeft + stop * tabStop + width, 14};
+}
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::staticText, 0, "TIME", headAt(0, 30)},
+    {ControlKind::staticText, 0, "AIRCRAFT", headAt(1, 50)},
+    {ControlKind::staticText, 0, "ENTRY", headAt(3, 30)},
+    {ControlKind::staticText, 0, "EXIT", headAt(4, 30)},
+    {ControlKind::staticText, 0, "DESCRIPTION", headAt(5, 70)},
+    {ControlKind::listBox, list, "", {7, 16, 264, 122}, sortedList},
+    {ControlKind::groupBox, 0, "Planes", {7, 126, 111, 171}},
+    {ControlKind::staticText, 0, "Landings:", {15, 137, 65, 145}},
+    {ControlKind::staticText, 0, "Takeoffs:", {15, 147, 65, 155}},
+    {ControlKind::staticText, 0, "Pass Thru's:", {15, 157, 65, 165}},
+    {ControlKind::staticText, landings, "", {72, 137, 103, 145}, rightAligned},
+    {ControlKind::staticText, takeoffs, "", {72, 147, 103, 155}, rightAligned},
+    {ControlKind::staticText, passThroughs, "", {72, 157, 103, 165}, rightAligned},
+    {ControlKind::groupBox, 0, "Score", {117, 126, 264, 171}},
+    {ControlKind::staticText, 0, "Current Score:", {125, 137, 195, 145}},
+    {ControlKind::staticText, 0, "Possible Score:", {125, 147, 195, 155}},
+    {ControlKind::staticText, 0, "Shift Length:", {125, 157, 195, 165}},
+    {ControlKind::staticText, currentScore, "", {205, 137, 256, 145}, rightAligned},
+    {ControlKind::staticText, possibleScore, "", {205, 147, 256, 155}, rightAligned},
+    {ControlKind::staticText, shiftLength, "", {205, 157, 256, 165}, rightAligned},
+    {ControlKind::defaultButton, okId, "OK", {110, 177, 160, 191}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Schedule", .size = {271, 197}, .controls = controls};
+
+} // namespace schedule
+
+// About -----------------------------------------------------------------------------------------------------
+
+namespace about {
+
+inline constexpr int version = 1016;
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::defaultButton, okId, "OK", {134, 210, 184, 224}},
+    {ControlKind::staticText, version, "Version", {256, 222, 312, 230}, rightAligned},
+})};
+
+inline constexpr DialogTemplate shape{
+    .title = "", .size = {319, 238}, .controls = controls, .hasCloseBox = false};
+
+} // namespace about
+
+} // namespace ventrel

@@ -1,0 +1,112 @@
+// The menus, as they are read on the screen.
+
+#pragma once
+
+#include <array>
+
+#include "platform/widgets/templates.h"
+#include "resources/commands.h"
+
+namespace ventrel {
+
+inline constexpr MenuItemTemplate menuSeparator{};
+
+inline constexpr std::array fileMenuItems{std::to_array<MenuItemTemplate>({
+    {"&New Game...", command::newGame},
+    {"&End Game", command::endGame},
+    menuSeparator,
+    {"Exit\tAlt+F4", command::exitProgram},
+})};
+
+inline constexpr std::array displayMenuItems{std::to_array<MenuItemTemplate>({
+    {"Radar S&weep", command::sweep},
+    {"&Grid", command::grid},
+    {"Direct to &VOR Lines", command::routes},
+    {"Background &Image", command::backgroundImage},
+})};
+
+inline constexpr std::array soundMenuItems{std::to_array<MenuItemTemplate>({
+    {"&Music", command::music},
+    {"&Sound Effects", command::soundEffects},
+    {"Pilot &Voices", command::pilotVoices},
+})};
+
+inline constexpr std::array resolutionMenuItems{std::to_array<MenuItemTemplate>({
+    {"800 x 600", command::smallResolution},
+    {"1024 x 768", command::largeResolution},
+    menuSeparator,
+    {"&Full Screen", command::fullScreen},
+})};
+
+inline constexpr std::array optionsMenuItems{std::to_array<MenuItemTemplate>({
+    {"&Schedule...\tCtrl+S", command::schedule},
+    {"&Boss Key\tESC", command::bossKey},
+    {"&Pause\tPAUSE", command::pause},
+    {"Show Hi Scores...", command::highScores},
+    menuSeparator,
+    {"Display Options", 0, displayMenuItems},
+    {"So&unds", 0, soundMenuItems},
+    {"Screen &Resolution", 0, resolutionMenuItems},
+    {"&Auto Select New Planes", command::autoSelect},
+})};
+
+inline constexpr std::array helpMenuItems{std::to_array<MenuItemTemplate>({
+    {"&About Ventrel 3.0...", command::about},
+})};
+
+inline constexpr std::array systemMenuItems{std::to_array<MenuItemTemplate>({
+    {"&Restore", command::nothing, {}, true},
+    {"&Move", command::nothing, {}, true},
+    {"&Size", command::nothing, {}, true},
+    {"Mi&nimize", command::minimise},
+    {"Ma&ximize", command::nothing, {}, true},
+    menuSeparator,
+    {"&Close\tAlt+F4", command::exitProgram},
+})};
+
+// The order menu of an aircraft. The airport's map points follow the hold when the menu is made.
+
+inline constexpr std::array planeHeadingItems{std::to_array<MenuItemTemplate>({
+    {"0", command::planeHeading},
+    {"45", command::planeHeading + 1},
+    {"90", command::planeHeading + 2},
+    {"135", command::planeHeading + 3},
+    {"180", command::planeHeading + 4},
+    {"225", command::planeHeading + 5},
+    {"270", command::planeHeading + 6},
+    {"315", command::planeHeading + 7},
+})};
+
+inline constexpr std::array planeTargetItems{std::to_array<MenuItemTemplate>({
+    {"---Hold---", command::planeHold},
+})};
+
+inline constexpr std::array planeAltitudeItems{std::to_array<MenuItemTemplate>({
+    {"1K", command::planeAltitude},
+    {"2K", command::planeAltitude + 1},
+    {"3K", command::planeAltitude + 2},
+    {"4K", command::planeAltitude + 3},
+    {"5K", command::planeAltitude + 4},
+    {"6K", command::planeAltitude + 5},
+    {"7K", command::planeAltitude + 6},
+    {"8K", command::planeAltitude + 7},
+    {"9K", command::planeAltitude + 8},
+    {"10K", command::planeAltitude + 9},
+})};
+
+inline constexpr std::array planeSpeedItems{std::to_array<MenuItemTemplate>({
+    {"Fast", command::planeFast},
+    {"Normal", command::planeNormal},
+    {"Slow", command::planeSlow},
+})};
+
+inline constexpr std::array planeMenuItems{std::to_array<MenuItemTemplate>({
+    {"Heading", 0, planeHeadingItems},
+    {"Direct to VOR", 0, planeTargetItems},
+    {"Altitude", 0, planeAltitudeItems},
+    {"Speed", 0, planeSpeedItems},
+})};
+/// Where the map points are added.
+inline constexpr std::size_t planeTargetMenu = 1;
+
+} // namespace ventrel

@@ -1,0 +1,67 @@
+#include "base/data_path.h"
+#include "base/windows1252.h"
+#include "platform/canvas/image.h"
+#include "platform/widgets/dialog.h"
+#include "resources/dialogs.h"
+#include "shell/information_dialogs.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view pictureName = "grf\\about.grf";
+constexpr std::string_view versionText = "Version 3.0";
+constexpr int okFromBottom = 20;
+constexpr int versionMargin = 10;
+
+std::optional<Bitmap> loadPicture(Shell& shell) {
+    const auto file = DataPath(shell.programFolder, pictureName);
+    Image image;
+    Bitmap picture;
+    if (ImageLoadFile(image, file, ImageFormat::png) == ImageError::none &&
+        ImageToBitmap(image, picture) == ImageError::none) {
+        return picture;
+    }
+    shell.report(FormatStringId(TextId::cannotOpenFile, {pathText(file)}), MessageIcon::stop);
+    return std::nullopt;
+}
+
+/// Makes the window exactly as large as the picture and puts the controls on it.
+void fitTo(Dialog& dialog, Size picture) {
+    const Size frame = dialog.frame().size();
+    const Size inside = dialog.inside().size();
+    dialog.resizeInside(
+        {picture.width - (frame.width - inside.width), picture.height - (frame.height - inside.height)});
+
+    const Window ok = dialog.window(okId);
+    const Size button = ok.size();
+    ok.setBounds(Rect::at(
+        {picture.width / 2 - button.width / 2, picture.height - button.height - okFromBottom}, button));
+
+    dialog.setText(about::version, std::string(versionText));
+    const Window version = dialog.window(about::version);
+    const Size label = version.size();
+    version.setBounds(Rect::at(
+        {picture.width - label.width - versionMargin, picture.height - label.height - versionMargin}, label));
+    dialog.centre();
+}
+
+} // namespace
+
+void runAboutDialog(Shell& shell) {
+    const std::optional<Bitmap> picture = loadPicture(shell);
+    DialogHandlers handlers;
+    handlers.escapeCommand = noEscape;
+    handlers.command = [](Dialog& dialog, const CommandInput& input) {
+        if (input.id == okId) {
+            dialog.end(okId);
+        }
+    };
+    if (picture) {
+        handlers.init = [&picture](Dialog& dialog) { fitTo(dialog, picture->size()); };
+        handlers.paint = [&picture](Dialog&, Canvas& canvas) { canvas.draw({0, 0}, *picture); };
+    }
+    runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, about::shape, std::move(handlers));
+}
+
+} // namespace ventrel

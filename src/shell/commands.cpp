@@ -1,0 +1,163 @@
+#include "shell/commands.h"
+
+#include <algorithm>
+#include <array>
+
+#include "shell/display_commands.h"
+#include "shell/game_flow.h"
+#include "shell/help_dialog.h"
+#include "shell/information_dialogs.h"
+#include "shell/new_game_dialog.h"
+#include "shell/popup_menus.h"
+#include "shell/selection.h"
+#include "sim/grid.h"
+#include "sim/orders.h"
+
+namespace ventrel {
+
+namespace {
+
+/// Whether a running game may be thrown away; the player is asked. Without one there is nothing to ask.
+bool mayQuitGame(Shell& shell) {
+    return !shell.game.gameRunning ||
+           shell.ask(TextId::confirmQuitGame, MessageButtons::okCancel) == MessageAnswer::ok;
+}
+
+void newGame(Shell& shell) {
+    if (!mayQuitGame(shell)) {
+        return;
+    }
+    if (shell.game.gameRunning) {
+        abandonGame(shell);
+    }
+    if (const auto setup = runNewGameDialog(shell)) {
+        startGame(shell, *setup);
+    }
+}
+
+void endGame(Shell& shell) {
+    if (mayQuitGame(shell)) {
+        abandonGame(shell);
+    }
+}
+
+void exitProgram(Shell& shell) {
+    if (mayQuitGame(shell)) {
+        shell.mainWindow.destroy();
+    }
+}
+
+void execute(Shell& shell) {
+    const ControlPanelState& panel = shell.panel.state;
+    if (panel.flight != noFlight) {
+        Simulation simulation = shell.simulation();
+        executeOrder(simulation, panel.flight, panel.pending);
+    }
+    shell.mainWindow.focus();
+}
+
+void hideFromBoss(Shell& shell) {
+    if (shell.game.gameRunning) {
+        shell.desktop.minimise();
+    }
+}
+
+struct Action {
+    int command;
+    void (*run)(Shell&);
+};
+
+constexpr std::array actions{std::to_array<Action>({
+    {command::fileMenu, showFileMenu},
+    {command::optionsMenu, showOptionsMenu},
+    {command::helpMenu, showHelpMenu},
+    {command::executeOrder, execute},
+    {command::newGame, newGame},
+    {command::endGame, endGame},
+    {command::exitProgram, exitProgram},
+    {command::minimise, [](Shell& shell) { shell.desktop.minimise(); }},
+    {command::schedule, runScheduleDialog},
+    {command::about, runAboutDialog},
+    {command::help, runHelpDialog},
+    {command::bossKey, hideFromBoss},
+    {command::pause, [](Shell& shell) { SetPause(shell, !shell.paused); }},
+    {command::toggleDirect, [](Shell& shell) { CtrlToggleDirect(shell.panel); }},
+    {command::nextStrip, selectNextStrip},
+    {command::previousStrip, selectPreviousStrip},
+    {command::directUp, [](Shell& shell) { CtrlStepDirect(shell.panel, true); }},
+    {command::directDown, [](Shell& shell) { CtrlStepDirect(shell.panel, false); }},
+    {command::altitudeUp, [](Shell& shell) { CtrlStepAltitude(shell.panel, true); }},
+    {command::altitudeDown, [](Shell& shell) { CtrlStepAltitude(shell.panel, false); }},
+    {command::skipClock, [](Shell& shell) { ClockSkip(shell.topBar); }},
+    {command::planeHold,
+     [](Shell& shell) {
+         CtrlSetDirect(shell.panel, noVor);
+         shell.mainWindow.postCommand(command::executeOrder);
+     }},
+})};
+
+/// Commands that give the panel one value.
+struct Setting {
+    int command;
+    int value;
+};
+
+constexpr std::array headings{std::to_array<Setting>({
+    {command::heading0, 0},
+    {command::heading45, 45},
+    {command::heading90, 90},
+    {command::heading135, 135},
+    {command::heading180, 180},
+    {command::heading225, 225},
+    {command::heading270, 270},
+    {command::heading315, 315},
+})};
+constexpr std::array speeds{std::to_array<Setting>({
+    {command::slow, slowSpeed},
+    {command::normal, normalSpeed},
+    {command::fast, fastSpeed},
+})};
+
+template <typename Table>
+auto findCommand(const Table& table, int id) {
+    const auto found = std::ranges::find_if(table, [id](const auto& row) { return row.command == id; });
+    return found == table.end() ? nullptr : &*found;
+}
+
+/// The number of a command within a series of `count` that starts at `first`.
+std::optional<int> placeInSeries(int id, int first, int count) {
+    return id >= first && id < first + count ? std::optional(id - first) : std::nullopt;
+}
+
+/// The order menu sets one thing on the panel and presses EXEC. False for a command of another kind.
+bool giveOrder(Shell& shell, int id) {
+    if (const auto heading = placeInSeries(id, command::planeHeading, command::planeHeadings)) {
+        CtrlSetHeading(shell.panel, *heading * headingStep);
+    } else if (const auto target = placeInSeries(id, command::planeDirect, command::planeTargets)) {
+        CtrlSetDirect(shell.panel, *target);
+    } else if (const auto altitude = placeInSeries(id, command::planeAltitude, command::planeAltitudes)) {
+        CtrlSetAltitude(shell.panel, *altitude + 1);
+    } else if (const auto speed = placeInSeries(id, command::planeSlow, command::planeSpeeds)) {
+        CtrlSetSpeed(shell.panel, *speed + slowSpeed);
+    } else {
+        return false;
+    }
+    shell.mainWindow.postCommand(command::executeOrder);
+    return true;
+}
+
+} // namespace
+
+void onCommand(Shell& shell, int id) {
+    if (const auto* action = findCommand(actions, id)) {
+        action->run(shell);
+    } else if (const auto* heading = findCommand(headings, id)) {
+        CtrlSetHeading(shell.panel, heading->value);
+    } else if (const auto* speed = findCommand(speeds, id)) {
+        CtrlSetSpeed(shell.panel, speed->value);
+    } else if (!giveOrder(shell, id)) {
+        changeDisplay(shell, id);
+    }
+}
+
+} // namespace ventrel

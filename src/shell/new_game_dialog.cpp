@@ -1,0 +1,161 @@
+#include "shell/new_game_dialog.h"
+
+#include "base/data_path.h"
+#include "platform/widgets/dialog.h"
+#include "resources/dialogs.h"
+#include "shell/airport_catalogue.h"
+#include "shell/airport_dialog.h"
+#include "shell/controller_name.h"
+#include "shell/custom_skill_dialog.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view gameSection = "Game";
+constexpr std::string_view skillKey = "Skill";
+constexpr std::string_view nameKey = "Name";
+constexpr int defaultSkill = 1;
+constexpr int easySkill = 0;
+constexpr int customSkill = 4;
+constexpr std::size_t nameLimit = longestControllerName + 1;
+
+/// The dialog while it is open.
+struct NewGame {
+    Shell& shell;
+    std::vector<CatalogueEntry> catalogue = {};
+    GameSetup setup = {};
+    // How the bonus boxes stood before Easy took them away.
+    bool wantsClouds = false;
+    bool wantsDirectEntry = false;
+};
+
+/// The entry that the player has chosen; an empty one when the number names none.
+CatalogueEntry chosenAirport(const NewGame& game) {
+    const auto index = static_cast<std::size_t>(game.shell.options.airportSelect);
+    return index < game.catalogue.size() ? game.catalogue[index] : CatalogueEntry{};
+}
+
+void setBonusBoxes(Dialog& dialog, bool clouds, bool directEntry, bool enabled) {
+    dialog.setChecked(new_game::clouds, clouds);
+    dialog.setChecked(new_game::directEntry, directEntry);
+    dialog.enable(new_game::clouds, enabled);
+    dialog.enable(new_game::directEntry, enabled);
+}
+
+void showSkill(const NewGame& game, Dialog& dialog, int skill) {
+    if (skill == easySkill) {
+        setBonusBoxes(dialog, false, true, false);
+    } else {
+        setBonusBoxes(dialog, game.wantsClouds, game.wantsDirectEntry, true);
+    }
+}
+
+void open(NewGame& game, Dialog& dialog) {
+    const ProfileFile profile(game.shell.profilePath);
+    const int skill = profile.integer(gameSection, skillKey, defaultSkill);
+    if (skill >= 0 && skill < new_game::skillCount) {
+        dialog.setChecked(new_game::firstSkill + skill, true);
+    }
+    dialog.edit(new_game::name).setLimit(nameLimit);
+    dialog.setText(new_game::name, properName(profile.text(gameSection, nameKey, "").substr(0, nameLimit)));
+    game.catalogue = BuildAirportCatalogue(DataPath(game.shell.programFolder, "apt"),
+                                           game.shell.windowSize().width, game.shell.reporter());
+    if (game.catalogue.empty()) {
+        game.shell.report(StringTableText(TextId::noAirports), MessageIcon::information);
+        dialog.end(cancelId);
+        return;
+    }
+    dialog.setText(new_game::airport, chosenAirport(game).name);
+    game.wantsClouds = game.shell.options.stormTrak != 0;
+    game.wantsDirectEntry = game.shell.options.directEntry != 0;
+    showSkill(game, dialog, skill);
+    dialog.focus(new_game::name);
+    dialog.edit(new_game::name).selectAll();
+}
+
+void chooseSkill(NewGame& game, Dialog& dialog, int skill) {
+    if (skill == easySkill) {
+        game.wantsClouds = dialog.isChecked(new_game::clouds);
+        game.wantsDirectEntry = dialog.isChecked(new_game::directEntry);
+    }
+    showSkill(game, dialog, skill);
+}
+
+void chooseAirport(NewGame& game, Dialog& dialog) {
+    if (const auto chosen = runAirportDialog(game.shell, game.catalogue)) {
+        game.shell.options.airportSelect = *chosen;
+        dialog.setText(new_game::airport, chosenAirport(game).name);
+    }
+}
+
+/// The level that is checked; Custom also when none is.
+int checkedSkill(const Dialog& dialog) {
+    int skill = easySkill;
+    while (skill < customSkill && !dialog.isChecked(new_game::firstSkill + skill)) {
+        ++skill;
+    }
+    return skill;
+}
+
+/// The name and the level are kept for the next time.
+void remember(const GameSetup& setup, Shell& shell) {
+    ProfileFile profile(shell.profilePath);
+    profile.set(gameSection, nameKey, setup.controllerName);
+    profile.set(gameSection, skillKey, std::to_string(static_cast<int>(setup.skill)));
+    profile.save();
+}
+
+/// Takes what the dialog shows. The dialog stays open when something is missing.
+void accept(NewGame& game, Dialog& dialog) {
+    Shell& shell = game.shell;
+    const bool isCustom = dialog.isChecked(new_game::firstSkill + customSkill);
+    if (isCustom && !runCustomSkillDialog(shell, dialog.frame())) {
+        return;
+    }
+    game.setup.controllerName = properName(dialog.text(new_game::name).substr(0, longestControllerName));
+    if (game.setup.controllerName.empty()) {
+        shell.report(StringTableText(TextId::pleaseEnterName), MessageIcon::information);
+        return;
+    }
+    shell.game.controllerName = game.setup.controllerName;
+    game.setup.skill = static_cast<Skill>(checkedSkill(dialog));
+    remember(game.setup, shell);
+    shell.options.stormTrak = dialog.isChecked(new_game::clouds) ? 1 : 0;
+    shell.options.directEntry = dialog.isChecked(new_game::directEntry) ? 1 : 0;
+    const CatalogueEntry airport = chosenAirport(game);
+    if (airport.name.empty()) {
+        shell.report(StringTableText(TextId::chooseAirport), MessageIcon::information);
+        return;
+    }
+    game.setup.airportName = airport.name;
+    game.setup.airportFile = airport.file;
+    dialog.end(okId);
+}
+
+void onCommand(NewGame& game, Dialog& dialog, int id) {
+    const int skill = id - new_game::firstSkill;
+    if (skill >= 0 && skill < new_game::skillCount) {
+        chooseSkill(game, dialog, skill);
+    } else if (id == new_game::choose) {
+        chooseAirport(game, dialog);
+    } else if (id == okId) {
+        accept(game, dialog);
+    } else if (id == cancelId) {
+        dialog.end(cancelId);
+    }
+}
+
+} // namespace
+
+std::optional<GameSetup> runNewGameDialog(Shell& shell) {
+    NewGame game{.shell = shell};
+    const int result =
+        runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, new_game::shape,
+                  {.init = [&game](Dialog& dialog) { open(game, dialog); },
+                   .command = [&game](Dialog& dialog,
+                                      const CommandInput& input) { onCommand(game, dialog, input.id); }});
+    return result == okId ? std::optional(std::move(game.setup)) : std::nullopt;
+}
+
+} // namespace ventrel

@@ -1,0 +1,119 @@
+#include "shell/popup_menus.h"
+
+#include <algorithm>
+#include <array>
+
+#include "base/format.h"
+#include "platform/widgets/menu.h"
+#include "resources/menus.h"
+#include "shell/display_commands.h"
+#include "sim/grid.h"
+
+namespace ventrel {
+
+namespace {
+
+// Just under the buttons and the system square.
+constexpr Point filePlace{31, 39};
+constexpr Point optionsPlace{93, 39};
+constexpr Point helpPlace{155, 39};
+constexpr Point systemPlace{2, 7};
+
+/// A menu item that shows whether an option is on.
+struct OptionCheck {
+    int command;
+    int Options::*option;
+};
+constexpr std::array optionChecks{std::to_array<OptionCheck>({
+    {command::autoSelect, &Options::autoSelect},
+    {command::grid, &Options::showGrid},
+    {command::music, &Options::music},
+    {command::soundEffects, &Options::effects},
+    {command::pilotVoices, &Options::voice},
+    {command::backgroundImage, &Options::mapDetails},
+    {command::sweep, &Options::radarSweep},
+    {command::routes, &Options::showRoutes},
+})};
+
+/// The items that ask for a running game.
+constexpr std::array gameCommands{command::bossKey, command::schedule, command::pause};
+
+void popUp(Shell& shell, const Menu& menu, Point place) {
+    const int chosen = trackMenu(shell.desktop, shell.widgetFonts, menu, shell.mainWindow.toScreen(place));
+    shell.mainWindow.focus();
+    if (chosen != noCommand) {
+        shell.mainWindow.postCommand(chosen);
+    }
+}
+
+void tickOrders(Menu& menu, const CurrentSettings& current) {
+    if (current.heading >= 0) {
+        checkMenuItem(menu, command::planeHeading + current.heading / headingStep, true);
+    }
+    if (current.altitude > 0) {
+        checkMenuItem(menu, command::planeAltitude + current.altitude - 1, true);
+    }
+    constexpr std::array speeds{command::planeSlow, command::planeNormal, command::planeFast};
+    checkMenuItem(menu, speeds[static_cast<std::size_t>(current.speed - slowSpeed)], true);
+    if (current.direct == noVor) {
+        checkMenuItem(menu, command::planeHold, true);
+    } else if (current.direct >= 0) {
+        checkMenuItem(menu, command::planeDirect + current.direct, true);
+    }
+}
+
+Menu orderMenu(const Shell& shell) {
+    Menu menu = makeMenu(planeMenuItems);
+    const int targets = std::min(shell.game.vorCount(), command::planeTargets);
+    for (VorIndex i = 0; i < targets; ++i) {
+        const Vor& vor = shell.game.vor(i);
+        MenuItem item;
+        item.text = FormatText("%s - %s", {std::string_view(vor.ident), std::string_view(vor.description)});
+        item.command = command::planeDirect + i;
+        menu[planeTargetMenu].items.push_back(std::move(item));
+    }
+    tickOrders(menu, currentSettings(shell.panel.state, shell.game));
+    return menu;
+}
+
+} // namespace
+
+void showFileMenu(Shell& shell) {
+    Menu menu = makeMenu(fileMenuItems);
+    greyMenuItem(menu, command::endGame, !shell.game.gameRunning);
+    popUp(shell, menu, filePlace);
+}
+
+void showOptionsMenu(Shell& shell) {
+    Menu menu = makeMenu(optionsMenuItems);
+    for (const OptionCheck& check : optionChecks) {
+        checkMenuItem(menu, check.command, shell.options.*check.option != 0);
+    }
+    checkMenuItem(menu, command::pause, shell.paused);
+    checkMenuItem(menu, command::smallResolution, shell.options.resolution == smallResolution);
+    checkMenuItem(menu, command::largeResolution, shell.options.resolution == largeResolution);
+    checkMenuItem(menu, command::fullScreen, shell.options.windowed == 0);
+    for (const int gameCommand : gameCommands) {
+        greyMenuItem(menu, gameCommand, !shell.game.gameRunning);
+    }
+    greyMenuItem(menu, command::highScores, true); // there is no table yet
+    popUp(shell, menu, optionsPlace);
+}
+
+void showHelpMenu(Shell& shell) {
+    popUp(shell, makeMenu(helpMenuItems), helpPlace);
+}
+
+void showSystemMenu(Shell& shell) {
+    popUp(shell, makeMenu(systemMenuItems), systemPlace);
+}
+
+void showOrderMenu(Shell& shell, Point screen) {
+    const int chosen = trackMenu(shell.desktop, shell.widgetFonts, orderMenu(shell), screen, true);
+    shell.radar.window.focus();
+    if (chosen != noCommand) {
+        shell.mainWindow.postCommand(chosen);
+    }
+}
+
+} // namespace ventrel

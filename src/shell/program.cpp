@@ -1,0 +1,66 @@
+#include "shell/program.h"
+
+#include "platform/widgets/message_box.h"
+#include "shell/display_commands.h"
+#include "shell/game_flow.h"
+#include "shell/main_window.h"
+#include "shell/tick.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr Size smallWindow{800, 600};
+constexpr Size largeWindow{1024, 768};
+constexpr FontRequest boxFont{Face::msSansSerif, -11, false};
+constexpr FontRequest boxCaptionFont{Face::msSansSerif, -11, true};
+
+} // namespace
+
+Size chooseWindowSize(Options& options, Size screen) {
+    if (options.resolution != smallResolution && options.resolution != largeResolution) {
+        options.resolution = screen.width < largeWindow.width ? smallResolution : largeResolution;
+    }
+    return options.resolution == smallResolution ? smallWindow : largeWindow;
+}
+
+Program::Program(ProgramParts parts, ProgramPlaces places, const Options& options, std::uint32_t seed)
+    : parts_(parts), places_(std::move(places)), options_(options), seed_(seed),
+      desktop_(parts.backend, options.resolution == smallResolution ? smallWindow : largeWindow) {}
+
+bool Program::startUp() {
+    const auto report = [this](std::string_view text, MessageIcon icon) {
+        const WidgetFonts fonts{parts_.fonts.font(boxFont), parts_.fonts.font(boxCaptionFont)};
+        showMessageBox(desktop_, fonts, {}, {.text = text, .title = programTitle, .icon = icon});
+    };
+    auto pictures = loadPictures(places_.programFolder, desktop_.size().width, report);
+    if (!pictures) {
+        return false;
+    }
+    shell_ = std::make_unique<Shell>(ShellParts{.desktop = desktop_,
+                                                .sounds = parts_.sounds,
+                                                .fonts = parts_.fonts,
+                                                .programFolder = places_.programFolder,
+                                                .profilePath = places_.profilePath,
+                                                .pictures = std::move(*pictures),
+                                                .options = options_,
+                                                .random = {seed_}});
+    createMainWindow(*shell_);
+    desktop_.setIdle([this] { return Tick(*shell_); });
+    shell_->mainWindow.post([this] { finishStartUp(); });
+    return true;
+}
+
+/// Whatever is shown before the console comes first; then the console appears.
+void Program::finishStartUp() {
+    shell_->mainWindow.releaseCapture();
+    shell_->mainWindow.show();
+    shell_->sounds.stopMusic();
+    shell_->sounds.playMusic(idleMusic, true);
+}
+
+void Program::run() {
+    desktop_.run();
+}
+
+} // namespace ventrel

@@ -1,0 +1,66 @@
+// The program from start-up to shutdown, over a machine that it is handed.
+//
+// main.cpp runs one on a real screen, tests run theirs in memory. Everything that lives between calls is
+// owned here.
+
+#pragma once
+
+#include <filesystem>
+#include <memory>
+
+#include "platform/desktop/desktop.h"
+#include "shell/game_sounds.h"
+#include "shell/shell.h"
+
+namespace ventrel {
+
+/// Where the program finds its data and keeps its options.
+struct ProgramPlaces {
+    std::filesystem::path programFolder;
+    std::filesystem::path profilePath;
+};
+
+/// The size of the main window that the option `resolution` asks for; without such a wish it follows from the
+/// screen's width and is noted in the option.
+Size chooseWindowSize(Options& options, Size screen);
+
+/// The machine and what was opened on it before there is a window. All of it outlives the program.
+struct ProgramParts {
+    Backend& backend;
+    FontSet& fonts; ///< complete
+    GameSounds& sounds;
+};
+
+class Program {
+public:
+    /// `options` have been read and their window size chosen; the backend was opened with it. `seed` starts
+    /// the generator of all chance.
+    Program(ProgramParts parts, ProgramPlaces places, const Options& options, std::uint32_t seed);
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+    ~Program() = default;
+
+    /// Loads what the console is made of and shows it. False, after a report, when something is missing.
+    bool startUp();
+
+    /// Runs until the player leaves.
+    void run();
+
+    /// There is one after a successful start.
+    Shell& shell() { return *shell_; }
+    Desktop& desktop() { return desktop_; }
+    /// As they stand now, for the options file.
+    const Options& options() const { return shell_ ? shell_->options : options_; }
+
+private:
+    void finishStartUp();
+
+    ProgramParts parts_;
+    ProgramPlaces places_;
+    Options options_;
+    std::uint32_t seed_;
+    Desktop desktop_;
+    std::unique_ptr<Shell> shell_;
+};
+
+} // namespace ventrel

@@ -1,0 +1,81 @@
+#include "base/format.h"
+#include "platform/widgets/dialog.h"
+#include "platform/widgets/widget_place.h"
+#include "resources/dialogs.h"
+#include "shell/information_dialogs.h"
+#include "sim/custom_skill.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view noOrigin = "----";
+constexpr std::string_view airportMark = "*";
+
+std::string_view markOf(const Vor& vor) {
+    return vor.isAirport ? airportMark : std::string_view();
+}
+
+/// Time, callsign, from where, to where, and the full name of that place, between tab characters.
+std::string rowOf(const Flight& flight, const Vor& origin, const Vor& destination) {
+    const std::string time = FormatMinutesSeconds(flight.scheduledAt);
+    const std::string_view entry = origin.ident.empty() ? noOrigin : std::string_view(origin.ident);
+    return FormatText("%s\t%s\t\t%s%s\t%s%s\t%s",
+                      {std::string_view(time), std::string_view(flight.callsign), entry, markOf(origin),
+                       std::string_view(destination.ident), markOf(destination),
+                       std::string_view(destination.description)});
+}
+
+/// Flights by kind; one from airport to airport counts twice.
+struct Counts {
+    unsigned landings = 0;
+    unsigned takeoffs = 0;
+    unsigned passThroughs = 0;
+
+    void add(const Vor& origin, const Vor& destination) {
+        takeoffs += origin.isAirport ? 1 : 0;
+        landings += destination.isAirport ? 1 : 0;
+        passThroughs += origin.isAirport || destination.isAirport ? 0 : 1;
+    }
+};
+
+Counts listFlights(const GameState& game, const ListBox& list) {
+    list.setTabWidth(dialogUnitsAcross(schedule::tabStop));
+    Counts counts;
+    for (const Flight& flight : game.flights) {
+        if (flight.inPlay) {
+            const Vor origin = copyVor(game, flight.origin);
+            const Vor destination = copyVor(game, flight.destination);
+            counts.add(origin, destination);
+            list.add(rowOf(flight, origin, destination));
+        }
+    }
+    return counts;
+}
+
+void open(const GameState& game, Dialog& dialog) {
+    const Counts counts = listFlights(game, dialog.list(schedule::list));
+    dialog.setNumber(schedule::possibleScore, static_cast<unsigned>(game.possibleScore));
+    dialog.setNumber(schedule::currentScore, static_cast<unsigned>(game.score));
+    dialog.setText(schedule::shiftLength, FormatText("%d:00", {long{game.shiftLength / secondsPerMinute}}));
+    dialog.setNumber(schedule::landings, counts.landings);
+    dialog.setNumber(schedule::takeoffs, counts.takeoffs);
+    dialog.setNumber(schedule::passThroughs, counts.passThroughs);
+}
+
+} // namespace
+
+void runScheduleDialog(Shell& shell) {
+    const auto onCommand = [](Dialog& dialog, const CommandInput& input) {
+        const bool isClosed = input.id == okId || input.id == cancelId; // the latter by the close box
+        if (isClosed) {
+            dialog.end(okId);
+        }
+    };
+    runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, schedule::shape,
+              {.init = [&shell](Dialog& dialog) { open(shell.game, dialog); },
+               .command = onCommand,
+               .escapeCommand = noEscape});
+}
+
+} // namespace ventrel

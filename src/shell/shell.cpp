@@ -1,0 +1,94 @@
+#include "shell/shell.h"
+
+#include "shell/game_flow.h"
+#include "shell/popup_menus.h"
+#include "shell/selection.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr FontRequest dialogFont{Face::msSansSerif, -11, false};
+constexpr FontRequest captionFont{Face::msSansSerif, -11, true};
+
+/// Clock seconds after a press on the panel in which a new flight does not take it away.
+constexpr ClockSeconds touchLasts = 10;
+
+bool isTouched(const Shell& shell) {
+    const ClockSeconds touch = CtrlTouchTime(shell.panel);
+    return touch != 0 && shell.topBar.clock.now < touch + touchLasts;
+}
+
+ScrollerSources scrollerSources(Shell& shell) {
+    return {shell.desktop, shell.fonts, shell.pictures.arrow};
+}
+
+RadarCallbacks radarCallbacks(Shell& shell) {
+    return {
+        .clockNow = [&shell] { return shell.topBar.clock.now; },
+        .isPaused = [&shell] { return shell.paused; },
+        .tickScroller = [&shell] { ScrollerTick(shell.scroller); },
+        .setLamp = [&shell](LampLevel level) { setLamp(shell.topBar.lamps, shell.events, level); },
+        .updateBlips = [&shell] { ScopeUpdateBlips(shell.topBar); },
+        .reportScore = [&shell] { reportScore(shell); },
+        .resetTouch = [&shell] { CtrlResetTouch(shell.panel); },
+        .isTouched = [&shell] { return isTouched(shell); },
+        .select = [&shell](const FlightHit& hit) { selectRadarFlight(shell, hit); },
+        .showOrderMenu = [&shell](Point screen) { showOrderMenu(shell, screen); },
+    };
+}
+
+ControlPanelCallbacks panelCallbacks(Shell& shell) {
+    return {
+        .clockNow = [&shell] { return shell.topBar.clock.now; },
+        .click = [&shell] { shell.sounds.clickControl(); },
+        .enableExec = [&shell](bool enabled) { shell.exec.enable(enabled); },
+    };
+}
+
+} // namespace
+
+Shell::Shell(ShellParts parts)
+    : desktop(parts.desktop), sounds(parts.sounds),
+      fonts(parts.fonts), widgetFonts{fonts.font(dialogFont), fonts.font(captionFont)},
+      programFolder(std::move(parts.programFolder)), profilePath(std::move(parts.profilePath)),
+      pictures(std::move(parts.pictures)), options(parts.options),
+      random(parts.random), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
+      scroller{.sources = scrollerSources(*this)},
+      strips{.sources = {game, fonts, pictures.arrow},
+             .callbacks = {.press = [this](int slot) { StripsPress(*this, slot); }}},
+      panel{.sources = {game, fonts, pictures.hand, pictures.arrow}, .callbacks = panelCallbacks(*this)},
+      radar{.desktop = desktop,
+            .sources = {game, options, fonts, pictures.hand},
+            .callbacks = radarCallbacks(*this),
+            .layout = radarLayoutFor(windowSize().width)},
+      events(*this) {
+    scroller.gameOverShown = [this] { mainWindow.post([this] { onGameOver(*this); }); };
+}
+
+Simulation Shell::simulation() {
+    return {.game = game,
+            .lamps = topBar.lamps,
+            .random = random,
+            .events = events,
+            .autoSelect = options.autoSelect != 0};
+}
+
+MessageAnswer Shell::showMessage(std::string_view text, MessageIcon icon, MessageButtons buttons) {
+    return showMessageBox(desktop, widgetFonts, mainWindow,
+                          {.text = text, .title = programTitle, .icon = icon, .buttons = buttons});
+}
+
+MessageAnswer Shell::ask(TextId question, MessageButtons buttons) {
+    return showMessage(StringTableText(question), MessageIcon::exclamation, buttons);
+}
+
+void Shell::report(std::string_view text, MessageIcon icon) {
+    showMessage(text, icon, MessageButtons::ok);
+}
+
+FailureReporter Shell::reporter() {
+    return [this](std::string_view text, MessageIcon icon) { report(text, icon); };
+}
+
+} // namespace ventrel

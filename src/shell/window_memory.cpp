@@ -1,0 +1,40 @@
+#include "shell/window_memory.h"
+
+#include <string>
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view section = "Window";
+constexpr std::string_view leftKey = "Left";
+constexpr std::string_view topKey = "Top";
+constexpr std::string_view widthKey = "Width";
+constexpr std::string_view heightKey = "Height";
+
+/// Larger than any desktop; keeps arithmetic with damaged numbers harmless.
+constexpr int farthest = 32767;
+
+bool isSound(int value) {
+    return value >= -farthest && value <= farthest;
+}
+
+} // namespace
+
+std::optional<Rect> readWindowPlace(const ProfileFile& profile) {
+    const auto number = [&](std::string_view key) { return profile.integer(section, key, 0); };
+    const Point corner{number(leftKey), number(topKey)};
+    const Size size{number(widthKey), number(heightKey)};
+    const bool isUsable = isSound(corner.x) && isSound(corner.y) && isSound(size.width) &&
+                          isSound(size.height) && size.width > 0 && size.height > 0;
+    return isUsable ? std::optional(Rect::at(corner, size)) : std::nullopt;
+}
+
+void writeWindowPlace(const Rect& place, ProfileFile& profile) {
+    profile.set(section, leftKey, std::to_string(place.left));
+    profile.set(section, topKey, std::to_string(place.top));
+    profile.set(section, widthKey, std::to_string(place.width()));
+    profile.set(section, heightKey, std::to_string(place.height()));
+}
+
+} // namespace ventrel

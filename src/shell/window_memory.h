@@ -1,0 +1,18 @@
+// Where the program's window stood, kept in the options file for the next start.
+
+#pragma once
+
+#include <optional>
+
+#include "base/geometry.h"
+#include "base/profile_file.h"
+
+namespace ventrel {
+
+/// None at the first start, or when the file tells of no window that could be seen.
+std::optional<Rect> readWindowPlace(const ProfileFile& profile);
+
+/// Sets the keys. The caller saves the file.
+void writeWindowPlace(const Rect& place, ProfileFile& profile);
+
+} // namespace ventrel
