@@ -1,0 +1,167 @@
+#include "shell/game_stage.h"
+
+#include <algorithm>
+
+#include "controls/control_panel_drawing.h"
+#include "shell/selection.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr Millis aMoment = 20; // in which the program does what was asked of it
+
+Size windowOf(int width) {
+    return width == 800 ? Size{800, 600} : Size{1024, 768};
+}
+
+Options optionsOf(const std::filesystem::path& profile, int width) {
+    Options options = ReadOptions(ProfileFile(profile));
+    options.resolution = width == 800 ? 2 : 3;
+    return options;
+}
+
+/// Where a press on the dial chooses a heading.
+Point dialPoint(int heading) {
+    switch (heading) {
+    case 0: return {46, 20};
+    case 45: return {65, 15};
+    case 90: return {60, 35};
+    case 135: return {65, 55};
+    case 180: return {46, 50};
+    case 225: return {25, 55};
+    case 270: return {30, 35};
+    default: return {25, 15};
+    }
+}
+
+} // namespace
+
+int HeardSounds::count(std::string_view sound) const {
+    return static_cast<int>(std::ranges::count(heard, sound));
+}
+
+GameStage::GameStage(int windowWidth, std::string_view profileText)
+    : backend(windowOf(windowWidth)), profile_(folder_ / "ventrel.ini"),
+      fonts_(std::filesystem::path(PROGRAM_FOLDER) / "fonts",
+             [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; }) {
+    writeText(profile_, profileText);
+    program_ = std::make_unique<Program>(ProgramParts{backend, fonts_, sounds},
+                                         ProgramPlaces{PROGRAM_FOLDER, profile_},
+                                         optionsOf(profile_, windowWidth), 1);
+}
+
+void GameStage::startNewGame(std::uint32_t seed) {
+    look([this, seed] { shell().random.state = seed; });
+    todo([](Script& script) { script.key(Key::f, withAlt).type("n").key(Key::enter).wait(aMoment); });
+    look([this] { ASSERT_TRUE(game().gameRunning) << "no game was started"; });
+}
+
+void GameStage::skip() {
+    todo([](Script& script) { script.key(Key::space).wait(aMoment); });
+}
+
+void GameStage::skipTo(ClockSeconds clock) {
+    todo([this, clock](Script& script) {
+        if (shell().topBar.clock.now < clock && game().gameRunning) {
+            script.key(Key::space).wait(aMoment);
+            skipTo(clock);
+        }
+    });
+}
+
+void GameStage::selectByStrip(FlightIndex flight) {
+    todo([this, flight](Script& script) {
+        const StripList& list = shell().strips.list;
+        const auto& flights = game().flights;
+        const auto place =
+            static_cast<int>(std::count_if(flights.begin(), flights.begin() + flight, isListed));
+        const int width = shell().windowSize().width;
+        const Point up{width - 170, 72};
+        const Point down{width - 170, width == 800 ? 440 : 608};
+        for (int i = place; i < list.scrollOffset; ++i) {
+            script.click(up);
+        }
+        for (int i = list.scrollOffset + shell().stripSlots(); i <= place; ++i) {
+            script.click(down);
+        }
+    });
+    todo([this, flight](Script& script) {
+        const int slot = StripsFlightSlot(shell().strips, flight);
+        ASSERT_NE(slot, noSlot) << "flight " << flight << " is on no strip";
+        const Rect button = stripButtonRect(shell(), slot);
+        script.click({button.left + 3, button.top + 3}).wait(1);
+    });
+}
+
+void GameStage::sendByPanel(const PlanStep& order) {
+    todo([this, order](Script& script) {
+        const Flight& flight = game().flight(shell().panel.state.flight);
+        if (!flight.isAirborne()) {
+            script.key(Key::enter);
+            return;
+        }
+        const PlanStep& pending = shell().panel.state.pending;
+        if (order.directTarget == noVor) {
+            script.click(onPanel(dialPoint(order.heading)));
+        } else {
+            const int start = pending.directTarget == noVor ? 0 : pending.directTarget;
+            if (pending.directTarget == noVor) {
+                script.click(onPanel({10, 80})); // the direct button
+            }
+            const int ring = game().vorCount() + 1;
+            for (int i = start; i != order.directTarget; i = (i + 1) % ring) {
+                script.click(onPanel({84, 87})); // the arrow down
+            }
+        }
+        script.click(onPanel({130, (10 - order.altitude) * 9 + 4}));
+        if (!flight.heavy) {
+            script.click(onPanel({97, 35 - 20 * order.speed}));
+        }
+        script.key(Key::enter);
+    });
+}
+
+void GameStage::play() {
+    ASSERT_TRUE(program_->startUp());
+    Script(backend).wait(aMoment).then([this] { perform(); });
+    program_->run();
+}
+
+void GameStage::perform() {
+    if (::testing::Test::HasFatalFailure()) {
+        tasks_.clear();
+    }
+    if (tasks_.empty()) {
+        desktop().quit();
+        return;
+    }
+    const Task task = std::move(tasks_.front());
+    tasks_.pop_front();
+    Script script(backend);
+    // What a task adds to the list comes right after it.
+    std::deque<Task> rest;
+    rest.swap(tasks_);
+    task(script);
+    std::ranges::move(rest, std::back_inserter(tasks_));
+    script.then([this] { perform(); });
+}
+
+Point GameStage::onRadar(Cell cell) {
+    const RadarLayout& layout = shell().radar.layout;
+    return layout.corner + radarPoint(layout, cell);
+}
+
+Point GameStage::onPanel(Point panel) {
+    return controlPanelCorner(shell().windowSize()) + panel;
+}
+
+Point GameStage::onFlight(FlightIndex flight) {
+    return onRadar(game().flight(flight).current().cell());
+}
+
+bool GameStage::isDialogOpen() {
+    return desktop().activeWindow() != shell().mainWindow;
+}
+
+} // namespace ventrel
