@@ -25,10 +25,16 @@ void pressDial(ControlPanel& panel, Point p) {
     }
 }
 
+/// The scale also answers for a flight that has just gone out of play.
+void pressScale(ControlPanel& panel, Point p) {
+    panel.state.pending.altitude = scaleAltitudeAt(p);
+    answer(panel, true);
+}
+
 void pressControl(ControlPanel& panel, PanelControl control, Point p) {
     switch (control) {
     case PanelControl::dial: pressDial(panel, p); break;
-    case PanelControl::altitude: CtrlSetAltitude(panel, scaleAltitudeAt(p)); break;
+    case PanelControl::altitude: pressScale(panel, p); break;
     case PanelControl::fast: CtrlSetSpeed(panel, fastSpeed); break;
     case PanelControl::normal: CtrlSetSpeed(panel, normalSpeed); break;
     case PanelControl::slow: CtrlSetSpeed(panel, slowSpeed); break;

@@ -6,7 +6,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr FontRequest lineFont{Face::arial, 16, true};
+constexpr FontRequest lineFont{Face::arial, -16, true};
 constexpr Colour black = Colour::rgb(0, 0, 0);
 
 constexpr Point corner{443, 19};
@@ -65,7 +65,8 @@ std::optional<Millis> ScrollerTick(Scroller& scroller) {
     case ScrollerStep::moved: scroller.window.canvas().draw({result.drawAt, lineTop}, scroller.line); break;
     case ScrollerStep::waiting: break;
     }
-    return scroller.state.lastStep + scroller.state.stepLength + 1;
+    const Millis nextStep = scroller.state.lastStep + scroller.state.stepLength + 1;
+    return result.done ? now : nextStep;
 }
 
 void ScrollerClear(Scroller& scroller) {

@@ -9,7 +9,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr FontRequest clockFont{Face::arial, 14, false};
+constexpr FontRequest clockFont{Face::arial, -14, false};
 
 std::size_t lampNumber(LampLevel level) {
     return static_cast<std::size_t>(level);

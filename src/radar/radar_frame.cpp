@@ -85,7 +85,9 @@ void blinkNewFlights(RadarWindow& radar, ClockSeconds now) {
         if (now % 2 == 0) {
             drawFlight(buffer, radar.layout, flight, coloursOf(game), radar.sources.fonts.font(tagFont));
         }
-        radar.window.canvas().draw(box, radar.backBuffer, box);
+        Canvas screen = radar.window.canvas();
+        screen.draw(box, radar.backBuffer, box);
+        mendSweep(radar.sweep, screen, box);
     }
 }
 

@@ -37,22 +37,35 @@ bool isSweeping(const RadarWindow& radar) {
     return radar.sources.options.radarSweep != 0 && radar.sources.game.gameRunning;
 }
 
+bool isSweepDue(const RadarWindow& radar) {
+    return isSweepDue(radar.sweep, radar.desktop.now());
+}
+
 void moveSweep(RadarWindow& radar) {
     Canvas screen = radar.window.canvas();
     stepSweep(radar.sweep, screen, radar.layout, radar.scope, radar.desktop.now());
 }
 
-/// The whole window is copied, whatever part needs it, and the sweep drawn again in the same breath: a frame
-/// never leaves a piece of the old line, nor a moment without one.
+/// After a frame the line moves on only when its time has come, but it is never missing.
+void bringSweepBack(RadarWindow& radar) {
+    if (isSweepDue(radar)) {
+        moveSweep(radar);
+    } else {
+        Canvas screen = radar.window.canvas();
+        showSweep(radar.sweep, screen, radar.layout, radar.scope);
+    }
+}
+
+/// The whole window is copied, whatever part needs it, so that a frame never leaves a piece of the sweep.
 void paint(RadarWindow& radar) {
     if (!radar.map) {
         return;
     }
     paintRadarFrame(radar);
     radar.window.canvas().draw({0, 0}, radar.backBuffer);
-    radar.sweep.wasPaintedOver = true;
+    coverSweep(radar.sweep);
     if (isSweeping(radar)) {
-        moveSweep(radar);
+        bringSweepBack(radar);
     }
 }
 
@@ -116,6 +129,7 @@ void RadarBuildMap(RadarWindow& radar, const Bitmap& frame) {
 
 void RadarHide(RadarWindow& radar) {
     radar.window.hide();
+    coverSweep(radar.sweep);
 }
 
 void RadarRepaint(RadarWindow& radar) {
@@ -126,7 +140,7 @@ std::optional<Millis> RadarTick(RadarWindow& radar) {
     if (!radar.window.isVisible()) {
         return std::nullopt;
     }
-    if (isSweeping(radar) && isSweepDue(radar.sweep, radar.desktop.now())) {
+    if (isSweeping(radar) && isSweepDue(radar)) {
         moveSweep(radar);
     }
     const ClockSeconds now = radar.callbacks.clockNow();
@@ -152,17 +166,16 @@ bool RadarCollisionRings(RadarWindow& radar, FlightIndex flight) {
     const Cell cell = radar.sources.game.flight(flight).current().cell();
     Rect ring = alertCircle(radarPoint(radar.layout, cell));
     const Millis end = radar.desktop.now() + ringsLast;
-    Millis next = radar.desktop.now();
     do {
+        const Millis next = radar.desktop.now() + ringInterval;
         Canvas screen = radar.window.canvas();
         screen.setClip(radar.scope);
         screen.ellipse(ring, ringColour, ringPen);
         ring = ring.grownBy(ringGrowth);
-        next += ringInterval;
         if (!radar.desktop.pumpUntil(next)) {
             return false;
         }
-    } while (next < end);
+    } while (radar.desktop.now() < end);
     return true;
 }
 

@@ -6,7 +6,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr int stepsAfterFrame = 9; // besides the ordinary one
+constexpr int advancesAfterFrame = 10; // pixels of one step
 
 } // namespace
 
@@ -44,16 +44,27 @@ bool isSweepDue(const Sweep& sweep, Millis now) {
 
 void stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now) {
     sweep.lastStep = now;
-    if (sweep.wasPaintedOver) {
-        sweep.wasPaintedOver = false;
-        for (int i = 0; i < stepsAfterFrame; ++i) {
-            SweepAdvance(sweep, layout.scopeSize);
-        }
-    } else {
-        screen.invert(sweepLine(sweep.end, layout, scope));
+    screen.invert(sweep.drawn);
+    const int advances = sweep.wasPaintedOver ? advancesAfterFrame : 1;
+    sweep.wasPaintedOver = false;
+    for (int i = 0; i < advances; ++i) {
+        SweepAdvance(sweep, layout.scopeSize);
     }
-    SweepAdvance(sweep, layout.scopeSize);
-    screen.invert(sweepLine(sweep.end, layout, scope));
+    showSweep(sweep, screen, layout, scope);
+}
+
+void coverSweep(Sweep& sweep) {
+    sweep.wasPaintedOver = true;
+    sweep.drawn = {};
+}
+
+void showSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope) {
+    sweep.drawn = sweepLine(sweep.end, layout, scope);
+    screen.invert(sweep.drawn);
+}
+
+void mendSweep(const Sweep& sweep, Canvas& screen, const Rect& area) {
+    screen.invert(sweep.drawn.intersectedWith(area));
 }
 
 } // namespace ventrel

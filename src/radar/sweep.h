@@ -1,7 +1,8 @@
 // The sweep: a thin line that swings across the scope about its lower-left corner, like a wiper.
 //
-// Drawn by inverting pixels straight on the screen, and erased by inverting the same pixels again; a frame
-// copied to the screen in between has erased it too, which `wasPaintedOver` records.
+// Drawn by inverting pixels straight on the screen, and erased by inverting the same pixels again, so that it
+// costs no frame. Whoever copies a picture over the line says so; the record knows which pixels of it are on
+// the screen.
 
 #pragma once
 
@@ -14,7 +15,8 @@ namespace ventrel {
 struct Sweep {
     Point end;                   ///< along the top edge and the right edge of the radar's square
     bool isOutward = false;      ///< to the right and down; otherwise back
-    bool wasPaintedOver = false; ///< the line that was on the screen is gone
+    bool wasPaintedOver = false; ///< by a frame, since the latest step
+    Region drawn;                ///< the pixels that are inverted on the screen at present
     Millis lastStep = 0;
 };
 
@@ -33,5 +35,14 @@ bool isSweepDue(const Sweep& sweep, Millis now);
 /// One step on the screen: erases the line where it stands and draws it one pixel on, or ten pixels on after
 /// a frame.
 void stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now);
+
+/// A frame covers all of the screen's scope: no line is there any more.
+void coverSweep(Sweep& sweep);
+
+/// Draws the line where it stands, after it was covered.
+void showSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope);
+
+/// Draws the line's pixels inside `area` again, over which a picture has just been copied.
+void mendSweep(const Sweep& sweep, Canvas& screen, const Rect& area);
 
 } // namespace ventrel

@@ -1,0 +1,300 @@
+// The control panel: composing an order by mouse and by operations, and what the panel shows of it.
+
+#include "controls/control_panel.h"
+
+#include <gtest/gtest.h>
+
+#include "console_stage.h"
+#include "controls/control_panel_drawing.h"
+#include "golden.h"
+
+namespace ventrel {
+namespace {
+
+struct PanelStage : ConsoleStage {
+    explicit PanelStage(Size size = smallWindow) : ConsoleStage(size) { CtrlCreate(panel, main, console); }
+
+    ControlPanel panel{
+        .sources = {game, fonts, hand, arrow},
+        .callbacks = {.clockNow = [this] { return clock; },
+                      .click = [this] { log.emplace_back("click"); },
+                      .enableExec = [this](bool on) { log.emplace_back(on ? "exec on" : "exec off"); }}};
+
+    const PlanStep& pending() const { return panel.state.pending; }
+    /// Where a point of the panel lies in the main window.
+    Point inMain(Point p) const { return p + panel.window.bounds().topLeft(); }
+    /// The same line as shown while the flight flies `step` and has been told `goal`.
+    std::string preview(Flight& flight, PlanStep step, PlanStep goal) {
+        flight.planLength = 2;
+        flight.plan[0] = step;
+        flight.plan[1] = goal;
+        return previewLine(panel.state, game);
+    }
+};
+
+PlanStep flying(int altitude, int heading, VorIndex target = noVor, int hold = 0) {
+    return {0, 0, altitude, heading, normalSpeed, target, hold};
+}
+
+TEST(PanelTest, StandsAtTheLowerRightAndTakesAFlightAsItFlies) {
+    PanelStage small;
+    EXPECT_EQ(small.panel.window.bounds(), (Rect{600, 472, 768, 581}));
+    PanelStage large(largeWindow);
+    EXPECT_EQ(large.panel.window.bounds(), (Rect{824, 640, 992, 749}));
+    Flight& flight = small.fly(45);
+    flight.planLength = 2;
+    flight.plan[1] = flying(3, 90);
+    CtrlSetFlight(small.panel, 0);
+    EXPECT_EQ(small.pending(), flight.plan[0]) << "the present heading, not the goal";
+    CtrlClearFlight(small.panel);
+    EXPECT_EQ(small.take(), (Lines{"exec on", "exec off"}));
+}
+
+TEST(PanelTest, TheSelectorRunsInARingOverThePointsAndHold) {
+    PanelStage stage;
+    stage.fly();
+    CtrlSetFlight(stage.panel, 0);
+    const auto selector = [&](bool up) {
+        CtrlStepDirect(stage.panel, up);
+        return std::pair(stage.pending().directTarget, stage.pending().hold);
+    };
+    using At = std::pair<int, int>;
+    EXPECT_EQ(selector(true), (At{0, 0})) << "either arrow first switches it on";
+    EXPECT_EQ(selector(true), (At{3, 1}));
+    EXPECT_EQ(selector(true), (At{2, 0}));
+    EXPECT_EQ(selector(false), (At{3, 1}));
+    EXPECT_EQ(selector(false), (At{0, 0}));
+    EXPECT_EQ(selector(false), (At{1, 0}));
+    CtrlSetDirect(stage.panel, noVor);
+    EXPECT_EQ(std::pair(stage.pending().directTarget, stage.pending().hold), (At{3, 1}));
+    CtrlToggleDirect(stage.panel);
+    EXPECT_EQ(std::pair(stage.pending().directTarget, stage.pending().hold), (At{noVor, 1}));
+    EXPECT_EQ(selector(false), (At{0, 0}));
+    CtrlSetDirect(stage.panel, 2);
+    CtrlSetHeading(stage.panel, 135);
+    EXPECT_EQ(stage.pending(), flying(5, 135));
+    CtrlSetAltitude(stage.panel, 10);
+    CtrlStepAltitude(stage.panel, true);
+    EXPECT_EQ(stage.pending().altitude, 10);
+    EXPECT_EQ(stage.take().size(), 14U) << "EXEC enabled once, and a click for every step";
+}
+
+TEST(PanelTest, NothingCanBeSetForAFlightThatIsNotInTheAir) {
+    PanelStage stage;
+    Flight& flight = stage.fly();
+    const auto trySettings = [&] {
+        CtrlSetHeading(stage.panel, 180);
+        CtrlSetAltitude(stage.panel, 9);
+        CtrlStepAltitude(stage.panel, true);
+        CtrlSetSpeed(stage.panel, fastSpeed);
+        CtrlToggleDirect(stage.panel);
+        CtrlStepDirect(stage.panel, true);
+        CtrlSetDirect(stage.panel, 1);
+        return stage.take();
+    };
+    EXPECT_EQ(trySettings(), Lines{}) << "without a flight";
+    CtrlSetFlight(stage.panel, 0);
+    stage.take();
+    const PlanStep before = stage.pending();
+    flight.groundState = GroundState::waiting;
+    EXPECT_EQ(trySettings(), Lines{});
+    flight.groundState = GroundState::airborne;
+    flight.inPlay = false;
+    EXPECT_EQ(trySettings(), Lines{});
+    EXPECT_EQ(stage.pending(), before);
+    flight.inPlay = true;
+    flight.groundState = GroundState::cleared;
+    stage.panel.state.pending.directTarget = 2;
+    CtrlStepDirect(stage.panel, true);
+    EXPECT_EQ(stage.pending().directTarget, 1) << "a selector that is on turns on the ground too";
+    EXPECT_EQ(stage.take(), Lines{"click"});
+}
+
+TEST(PanelTest, EveryControlAnswersToAPress) {
+    struct Press {
+        Point at;
+        PlanStep wanted;
+    };
+    const PlanStep low{0, 0, 1, 225, normalSpeed};
+    const std::array<Press, 14> presses{{
+        {{45, 20}, flying(5, 0)}, // the strip before the quarter
+        {{70, 60}, flying(5, 135)},
+        {{17, 64}, flying(5, 225)},
+        {{161, 50}, flying(5, 225)}, // right of the scale
+        {{111, 8}, flying(10, 225)},
+        {{160, 9}, flying(9, 225)},
+        {{120, 88}, low},
+        {{93, 11}, {0, 0, 1, 225, fastSpeed}},
+        {{95, 59}, {0, 0, 1, 225, slowSpeed}},
+        {{101, 39}, low},
+        {{3, 74}, flying(1, 225, 0)},
+        {{79, 83}, flying(1, 225, 1)},
+        {{84, 82}, flying(1, 225, 1)}, // between the arrows
+        {{89, 81}, flying(1, 225, 0)},
+    }};
+    PanelStage stage;
+    stage.fly(0);
+    CtrlSetFlight(stage.panel, 0);
+    for (const Press& press : presses) {
+        stage.script.click(stage.inMain(press.at)).then([&] {
+            EXPECT_EQ(stage.pending(), press.wanted) << press.at.x << ", " << press.at.y;
+        });
+    }
+    stage.script.click(stage.inMain({30, 34})).then([&] {
+        EXPECT_EQ(stage.pending(), flying(1, 270)) << "the dial switches the direct course off";
+        stage.game.flight(0).heavy = true;
+    });
+    stage.script.click(stage.inMain({97, 15})).then([&] {
+        CtrlSetSpeed(stage.panel, slowSpeed);
+        EXPECT_EQ(stage.pending().speed, normalSpeed) << "a heavy flight keeps its speed";
+    });
+    stage.take();
+    stage.play();
+    EXPECT_EQ(stage.take(), Lines(13, "click"));
+}
+
+TEST(PanelTest, ThePickOfTheDialAgreesWithItsPicture) {
+    // The needle of each heading ends in the field that chooses it.
+    const std::array<Point, 8> tips{
+        {{46, 10}, {64, 17}, {72, 35}, {66, 54}, {46, 62}, {28, 55}, {21, 35}, {30, 17}}};
+    for (std::size_t i = 0; i < tips.size(); ++i) {
+        EXPECT_EQ(dialHeadingAt(tips[i]), static_cast<int>(i) * headingStep);
+    }
+    for (int altitude = 1; altitude <= 10; ++altitude) {
+        EXPECT_EQ(scaleAltitudeAt({120, 94 - 9 * altitude}), altitude) << "the middle of the bar";
+    }
+}
+
+TEST(PanelTest, APressIsATouchWhateverElseItDoes) {
+    PanelStage stage;
+    stage.clock = 321;
+    stage.script.click(stage.inMain({160, 100}), MouseButton::right).then([&] {
+        EXPECT_EQ(CtrlTouchTime(stage.panel), 0);
+    });
+    stage.script.click(stage.inMain({160, 100})).then([&] {
+        EXPECT_EQ(CtrlTouchTime(stage.panel), 321);
+        CtrlResetTouch(stage.panel);
+    });
+    stage.script.doubleClick(stage.inMain({1, 1}));
+    stage.play();
+    EXPECT_EQ(CtrlTouchTime(stage.panel), 321);
+}
+
+TEST(PanelTest, TheHandShowsWhereAPressWouldDoSomething) {
+    PanelStage stage;
+    Flight& flight = stage.fly();
+    const auto isHand = [&](Point p, bool expected) {
+        stage.script.moveTo(stage.inMain(p)).then([&stage, p, expected] {
+            EXPECT_EQ(stage.backend.cursor() == &stage.hand, expected) << p.x << ", " << p.y;
+        });
+    };
+    isHand({130, 40}, false);
+    stage.script.then([&] { CtrlSetFlight(stage.panel, 0); });
+    isHand({130, 41}, true);
+    isHand({40, 30}, true);
+    isHand({84, 78}, false);
+    isHand({102, 20}, true);
+    isHand({100, 70}, false);
+    stage.script.then([&] { CtrlSetDirect(stage.panel, 1); });
+    isHand({40, 31}, false);
+    isHand({84, 77}, true);
+    isHand({84, 90}, true);
+    stage.script.then([&] { flight.groundState = GroundState::rolling; });
+    isHand({130, 42}, false);
+    stage.play();
+}
+
+TEST(PreviewTest, TellsWhatTheFlightIsDoing) {
+    PanelStage stage;
+    Flight& flight = stage.fly();
+    flight.callsign = "UA123";
+    EXPECT_EQ(previewLine(stage.panel.state, stage.game), "");
+    CtrlSetFlight(stage.panel, 0);
+    const auto line = [&](PlanStep now, PlanStep goal) { return stage.preview(flight, now, goal); };
+    EXPECT_EQ(line(flying(5, 45), flying(3, 90)), "UA123: Turn 90\xB0, descend 3000 ft");
+    EXPECT_EQ(line(flying(5, 90), flying(5, 90)), "UA123: 90\xB0, 5000 ft");
+    EXPECT_EQ(line(flying(9, 0), flying(10, 0)), "UA123: 0\xB0, up to 10000 ft");
+    EXPECT_EQ(line(flying(5, 0, 2), flying(5, 45)), "Direct to SEA, 5000 ft");
+    EXPECT_EQ(line(flying(5, 0, 0), flying(1, 45)), "Direct to ALB, descend 1000 ft");
+    EXPECT_EQ(line(flying(5, 0, 1, 1), flying(5, 45)), "Holding pattern at 5000 ft");
+    EXPECT_EQ(line(flying(5, 0, 1, 1), flying(4, 45)), "Holding pattern, descend 4000 ft");
+    EXPECT_EQ(line(flying(5, 0, 1, 1), flying(6, 45)), "Holding pattern. up to 6000 ft");
+    flight.groundState = GroundState::waiting;
+    EXPECT_EQ(previewLine(stage.panel.state, stage.game), "UA123: Waiting for takeoff");
+    for (const GroundState state : {GroundState::cleared, GroundState::rolling}) {
+        flight.groundState = state;
+        EXPECT_EQ(previewLine(stage.panel.state, stage.game), "UA123: Takeoff in progress");
+    }
+}
+
+TEST(PreviewTest, IsPaintedAnewOnceAfterEveryMoveOfTheFlights) {
+    PanelStage stage;
+    Flight& flight = stage.fly(90);
+    CtrlSetFlight(stage.panel, 0);
+    const Bitmap before = stage.picture(stage.panel.window);
+    flight.plan[0].heading = 45;
+    const auto changesAt = [&](ClockSeconds now) {
+        stage.clock = now;
+        CtrlTick(stage.panel);
+        return stage.picture(stage.panel.window) != before;
+    };
+    EXPECT_FALSE(changesAt(105));
+    EXPECT_TRUE(changesAt(106));
+}
+
+TEST(PreviewTest, TheMenuIsToldWhatIsFlownNotWhatIsPending) {
+    PanelStage stage;
+    Flight& flight = stage.fly(45);
+    const auto now = [&] {
+        const CurrentSettings is = currentSettings(stage.panel.state, stage.game);
+        return std::array{is.heading, is.altitude, is.speed, is.direct};
+    };
+    EXPECT_EQ(now(), (std::array{-1, -1, -1, -2}));
+    CtrlSetFlight(stage.panel, 0);
+    CtrlSetHeading(stage.panel, 180);
+    EXPECT_EQ(now(), (std::array{45, 5, 0, -2}));
+    flight.plan[0].directTarget = 2;
+    EXPECT_EQ(now(), (std::array{-1, 5, 0, 2}));
+    flight.plan[0].hold = 1;
+    EXPECT_EQ(now(), (std::array{-1, 5, 0, -1}));
+}
+
+/// A state of the panel for the sheet.
+struct PanelLook {
+    PlanStep pending;
+    GroundState ground = GroundState::airborne;
+    bool heavy = false;
+};
+
+TEST(PanelPictureTest, LooksAsItDidInEveryState) {
+    PanelStage stage;
+    Flight& flight = stage.fly(90);
+    std::vector<PanelLook> looks;
+    for (int i = 0; i < 8; ++i) {
+        looks.push_back({{0, 0, i + 1, i * headingStep, i % 3 - 1}, GroundState::airborne, i == 7});
+    }
+    looks.push_back({flying(9, 0, 0)});
+    looks.push_back({flying(10, 0, 1)});
+    looks.push_back({flying(10, 0, 3, 1)});
+    looks.push_back({flying(1, 0, 2), GroundState::waiting});
+    constexpr int columns = 3;
+    Bitmap sheet({columns * (controlPanelSize.width + 4), 4 * (controlPanelSize.height + 4)});
+    for (int i = 0; i < static_cast<int>(looks.size()); ++i) {
+        const PanelLook& look = looks[static_cast<std::size_t>(i)];
+        flight.groundState = look.ground;
+        flight.heavy = look.heavy;
+        CtrlSetFlight(stage.panel, 0);
+        stage.panel.state.pending = look.pending;
+        CtrlRepaint(stage.panel);
+        const Point corner{i % columns * (controlPanelSize.width + 4),
+                           i / columns * (controlPanelSize.height + 4)};
+        Canvas(sheet).draw(corner, stage.picture(stage.panel.window));
+    }
+    expectGolden(sheet, "controls_panel");
+    CtrlClearFlight(stage.panel);
+    const Bitmap idle = stage.picture(stage.panel.window);
+    EXPECT_EQ(count(idle, consoleGrey, idle.bounds()), idle.width() * idle.height());
+}
+
+} // namespace
+} // namespace ventrel

@@ -1,0 +1,143 @@
+// The ticker: its pace, the order of its lines, and the word it gives when all have passed.
+
+#include "controls/scroller.h"
+
+#include <gtest/gtest.h>
+
+#include "console_stage.h"
+
+namespace ventrel {
+namespace {
+
+struct ScrollerStage : ConsoleStage {
+    explicit ScrollerStage(Size size = smallWindow) : ConsoleStage(size) {
+        ScrollerCreate(scroller, main, size.width);
+        main.update();
+        scroller.window.update();
+    }
+
+    Scroller scroller{.sources = {desktop, fonts, arrow},
+                      .gameOverShown = [this] { log.emplace_back("game over"); }};
+
+    bool post(std::string_view text, MessageClass messageClass = MessageClass::information) {
+        return ScrollerPost(scroller, text, messageClass);
+    }
+    /// Lets time pass, in ticks of a millisecond.
+    void run(Millis time) {
+        for (Millis i = 0; i < time; ++i) {
+            backend.wait(1);
+            ScrollerTick(scroller);
+        }
+    }
+    /// The milliseconds until the slot is free, ticking every one of them.
+    Millis runUntilFree(std::size_t slot) {
+        const Millis start = backend.now();
+        while (scroller.queue.slots[slot].inUse && backend.now() - start < 100'000) {
+            run(1);
+        }
+        return backend.now() - start;
+    }
+    int inked() const {
+        const Bitmap shown = picture(scroller.window);
+        return shown.width() * shown.height() - count(shown, black, shown.bounds());
+    }
+};
+
+void expectPace(Size window, int stripWidth, Millis step) {
+    ScrollerStage stage(window);
+    EXPECT_EQ(stage.scroller.window.bounds(), Rect::at({443, 19}, {stripWidth, 20}));
+    stage.post("Welcome Pat");
+    ScrollerTick(stage.scroller);
+    const int lineWidth = stage.scroller.queue.slots[0].width;
+    EXPECT_EQ(stage.runUntilFree(0), step * (stripWidth + lineWidth + 1));
+    EXPECT_EQ(stage.inked(), 0) << "the line takes all its pixels along";
+    stage.run(1);
+    EXPECT_EQ(ScrollerTick(stage.scroller), std::nullopt) << "and the ticker rests";
+}
+
+TEST(ScrollerTest, ALinePassesPixelByPixelAtThePaceOfTheWindow) {
+    expectPace(smallWindow, 340, 14);
+    expectPace(largeWindow, 562, 11);
+}
+
+TEST(ScrollerTest, ALateTickMovesByOnePixelOnly) {
+    ScrollerStage stage;
+    stage.post("Late");
+    ScrollerTick(stage.scroller);
+    const auto deadline = ScrollerTick(stage.scroller);
+    EXPECT_EQ(deadline, stage.backend.now() + 14);
+    const int x = stage.scroller.state.x;
+    stage.backend.wait(5000);
+    ScrollerTick(stage.scroller);
+    EXPECT_EQ(stage.scroller.state.x, x - 1);
+}
+
+TEST(ScrollerTest, LinesFollowEachOtherInSlotOrderEachInItsColour) {
+    ScrollerStage stage;
+    constexpr Colour green = Colour::rgb(0, 200, 0);
+    constexpr Colour yellow = Colour::rgb(220, 220, 0);
+    constexpr Colour teal = Colour::rgb(36, 190, 188);
+    stage.post("first", MessageClass::success);
+    stage.post("second", MessageClass::trouble);
+    const auto expectOnly = [&](Colour colour) {
+        stage.run(14 * 200);
+        const Bitmap shown = stage.picture(stage.scroller.window);
+        EXPECT_GT(count(shown, colour, shown.bounds()), 40);
+        EXPECT_EQ(stage.inked(), count(shown, colour, shown.bounds()));
+    };
+    expectOnly(green);
+    stage.runUntilFree(0);
+    stage.post("third");
+    expectOnly(teal);
+    EXPECT_TRUE(stage.scroller.queue.slots[1].inUse) << "a line in a lower slot overtakes";
+    stage.runUntilFree(0);
+    expectOnly(yellow);
+    EXPECT_EQ(messageColour(MessageClass::emergency), Colour::rgb(220, 0, 0));
+}
+
+TEST(ScrollerTest, TheNextLineStartsAtOnce) {
+    ScrollerStage stage;
+    stage.post("a");
+    stage.post("b");
+    stage.desktop.setIdle([&] { return ScrollerTick(stage.scroller); });
+    const Millis start = stage.backend.now();
+    const int width = stage.scroller.queue.slots[0].width;
+    stage.script.wait(14 * (340 + width + 1) + 14).then([&] {
+        EXPECT_EQ(stage.scroller.state.slot, 1);
+        EXPECT_EQ(stage.scroller.state.x, 340);
+        EXPECT_LE(stage.scroller.state.lastStep - start, 14 * (340 + width + 1) + 2);
+    });
+    stage.play();
+}
+
+TEST(ScrollerTest, ClearingBlanksTheStripAndDropsWhatWaits) {
+    ScrollerStage stage;
+    stage.post("one");
+    stage.post("Near miss", MessageClass::emergency);
+    EXPECT_FALSE(stage.post("nobody hears of this")) << "an emergency waits";
+    stage.run(14 * 100);
+    EXPECT_GT(stage.inked(), 0);
+    ScrollerClear(stage.scroller);
+    EXPECT_EQ(stage.inked(), 0);
+    stage.run(100);
+    EXPECT_EQ(stage.inked(), 0);
+    EXPECT_TRUE(stage.post("heard again"));
+}
+
+TEST(ScrollerTest, TheGameIsOverOnceWhenTheLastLineHasPassed) {
+    ScrollerStage stage;
+    stage.post("Landed", MessageClass::success);
+    stage.runUntilFree(0);
+    stage.run(20);
+    EXPECT_EQ(stage.take(), Lines{}) << "nobody has asked";
+    ScrollerClear(stage.scroller);
+    stage.post("Game Over.");
+    ScrollerSetPostGameOver(stage.scroller, true);
+    stage.runUntilFree(0);
+    EXPECT_EQ(stage.take(), Lines{});
+    stage.run(100);
+    EXPECT_EQ(stage.take(), Lines{"game over"});
+}
+
+} // namespace
+} // namespace ventrel

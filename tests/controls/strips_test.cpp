@@ -1,0 +1,177 @@
+// The flight strips: who is listed where, what each strip says, and the button that goes with the selection.
+
+#include "controls/strips.h"
+
+#include <gtest/gtest.h>
+
+#include "console_stage.h"
+#include "golden.h"
+
+namespace ventrel {
+namespace {
+
+struct StripsStage : ConsoleStage {
+    explicit StripsStage(Size size = smallWindow) : ConsoleStage(size) { StripsCreate(strips, main, size); }
+
+    Strips strips{.sources = {game, fonts, arrow}, .callbacks = {.press = [this](int slot) {
+                                                       log.push_back("press " + std::to_string(slot));
+                                                   }}};
+
+    /// So many flights, each scheduled a quarter of a minute after the one before.
+    void flyMany(int number) {
+        for (int i = 0; i < number; ++i) {
+            fly().scheduledAt = i * stepInterval;
+        }
+        rebuild();
+    }
+    void rebuild() {
+        countListed();
+        StripsRebuild(strips);
+    }
+    const std::vector<FlightIndex>& slots() const { return strips.list.slots; }
+};
+
+TEST(StripsTest, TheNumberOfStripsFollowsTheWindow) {
+    StripsStage small;
+    EXPECT_EQ(small.slots().size(), 10U);
+    EXPECT_EQ(small.strips.window.bounds(), (Rect{645, 71, 784, 442}));
+    StripsStage large(largeWindow);
+    EXPECT_EQ(large.slots().size(), 14U);
+    EXPECT_EQ(large.strips.window.bounds(), (Rect{869, 71, 1008, 612}));
+}
+
+TEST(StripsTest, EachScreenfulIsOrderedByTimeWithTheEmptyStripsLast) {
+    StripsStage stage;
+    for (const ClockSeconds when : {60, 300, 15, 300}) {
+        stage.fly().scheduledAt = when;
+    }
+    stage.fly().inPlay = false;
+    Flight& announced = stage.fly();
+    announced.activatedAt = 0;
+    announced.announced = true;
+    announced.scheduledAt = 400;
+    stage.fly().activatedAt = 0;
+    stage.rebuild();
+    const std::vector<FlightIndex> wanted{5, 1, 3, 0, 2, -1, -1, -1, -1, -1};
+    EXPECT_EQ(stage.slots(), wanted);
+    EXPECT_EQ(StripsFlightSlot(stage.strips, 0), 3);
+    EXPECT_EQ(StripsFlightSlot(stage.strips, 4), noSlot);
+    EXPECT_TRUE(StripsSlotSelectable(stage.strips, 1));
+    EXPECT_FALSE(StripsSlotSelectable(stage.strips, 0)) << "only announced";
+    EXPECT_FALSE(StripsSlotSelectable(stage.strips, 5));
+    EXPECT_FALSE(StripsSlotSelectable(stage.strips, noSlot));
+    stage.game.gameRunning = false;
+    EXPECT_FALSE(StripsSlotSelectable(stage.strips, 1));
+}
+
+TEST(StripsTest, ElevenFlightsScrollByOneAndNoFurther) {
+    StripsStage stage;
+    stage.flyMany(11);
+    EXPECT_EQ(stage.slots(), (std::vector<FlightIndex>{9, 8, 7, 6, 5, 4, 3, 2, 1, 0}));
+    EXPECT_FALSE(StripsScrollUp(stage.strips));
+    EXPECT_TRUE(StripsScrollDown(stage.strips));
+    const std::vector<FlightIndex> scrolled{10, 9, 8, 7, 6, 5, 4, 3, 2, 1};
+    EXPECT_EQ(stage.slots(), scrolled);
+    EXPECT_FALSE(StripsScrollDown(stage.strips));
+    EXPECT_EQ(stage.slots(), scrolled);
+    EXPECT_TRUE(StripsScrollUp(stage.strips));
+    EXPECT_EQ(stage.slots().back(), 0);
+}
+
+TEST(StripsTest, TheListComesBackWhenFlightsLeave) {
+    StripsStage stage;
+    stage.flyMany(14);
+    for (int i = 0; i < 4; ++i) {
+        StripsScrollDown(stage.strips);
+    }
+    stage.game.flight(13).inPlay = false;
+    stage.game.flight(12).inPlay = false;
+    stage.rebuild();
+    EXPECT_EQ(stage.strips.list.scrollOffset, 2);
+    EXPECT_EQ(stage.slots().back(), 2) << "every strip is filled";
+    for (int i = 0; i < 3; ++i) {
+        stage.game.flight(i).inPlay = false;
+    }
+    stage.rebuild();
+    EXPECT_EQ(stage.strips.list.scrollOffset, 0);
+    EXPECT_EQ(stage.slots().front(), 11);
+    StripsReset(stage.strips);
+    EXPECT_EQ(stage.slots(), std::vector<FlightIndex>(10, noFlight));
+}
+
+TEST(StripsTest, EveryStateOfAFlightHasItsWords) {
+    StripsStage stage;
+    Flight& flight = stage.fly(90);
+    flight.callsign = "UA123";
+    EXPECT_EQ(stripRouteLine(flight, stage.game), "UA123  to  JFK*");
+    EXPECT_EQ(stripStateLine(flight), "90\xB0    5000 ft");
+    flight.plan[0].directTarget = 1;
+    flight.plan[0].altitude = 10;
+    EXPECT_EQ(stripStateLine(flight), "90\xB0  (direct)   10000 ft");
+    flight.origin = 1;
+    flight.destination = 2;
+    EXPECT_EQ(stripRouteLine(flight, stage.game), "UA123  JFK* to SEA ");
+    flight.groundState = GroundState::waiting;
+    EXPECT_EQ(stripStateLine(flight), "Request Takeoff");
+    flight.groundState = GroundState::cleared;
+    EXPECT_EQ(stripStateLine(flight), "Takeoff in progress");
+    flight.groundState = GroundState::rolling;
+    EXPECT_EQ(stripStateLine(flight), "Takeoff in progress");
+    flight.announced = true;
+    flight.scheduledAt = 4515;
+    EXPECT_EQ(stripStateLine(flight), "Arrives at: 75:15");
+}
+
+TEST(StripsTest, ColoursAndPressedButtonFollowTheFlight) {
+    StripsStage stage;
+    Flight& flight = stage.fly();
+    stage.rebuild();
+    constexpr Colour nearMissRed = Colour::rgb(255, 0, 0);
+    constexpr Colour successGreen = Colour::rgb(0, 220, 0);
+    constexpr Colour announcedGrey = Colour::rgb(164, 164, 164);
+    const auto colourOf = [&](Alert alert, bool selected, bool announced) {
+        flight.alert = alert;
+        flight.selected = selected;
+        flight.announced = announced;
+        stage.rebuild();
+        stage.take();
+        stage.picture(stage.strips.window);
+        EXPECT_EQ(stage.take(), selected ? Lines{"press 0"} : Lines{});
+        return stripColour(flight, stage.game);
+    };
+    EXPECT_EQ(colourOf(Alert::nearMiss, true, false), nearMissRed);
+    EXPECT_EQ(colourOf(Alert::success, true, false), successGreen);
+    EXPECT_EQ(colourOf(Alert::failure, true, false), selectedWhite);
+    EXPECT_EQ(colourOf(Alert::none, true, true), selectedWhite);
+    EXPECT_EQ(colourOf(Alert::none, false, true), announcedGrey);
+    EXPECT_EQ(colourOf(Alert::failure, false, false), flightGreen);
+}
+
+TEST(StripsPictureTest, TheColumnLooksAsItDid) {
+    StripsStage stage;
+    Flight& direct = stage.fly(315);
+    direct.plan[0].directTarget = 1;
+    direct.plan[0].altitude = 10;
+    direct.heavy = true;
+    direct.callsign = "DL274H";
+    stage.fly(45).selected = true;
+    Flight& departure = stage.fly(0);
+    departure.origin = 1;
+    departure.destination = 2;
+    departure.groundState = GroundState::waiting;
+    stage.fly(90).alert = Alert::nearMiss;
+    Flight& announced = stage.fly(90);
+    announced.announced = true;
+    announced.scheduledAt = 345;
+    stage.rebuild();
+    Bitmap top({139, 6 * 37});
+    Canvas(top).draw({0, 0}, stage.picture(stage.strips.window));
+    expectGolden(top, "controls_strips");
+    stage.game.gameRunning = false;
+    StripsRebuild(stage.strips);
+    const Bitmap empty = stage.picture(stage.strips.window);
+    EXPECT_EQ(count(empty, Colour::rgb(64, 8, 0), empty.bounds()), empty.width() * empty.height());
+}
+
+} // namespace
+} // namespace ventrel

@@ -1,0 +1,168 @@
+// Clock, small scope and alert lamps in the top bar.
+
+#include "controls/top_bar.h"
+
+#include <gtest/gtest.h>
+
+#include "console_stage.h"
+#include "controls/top_bar_drawing.h"
+#include "golden.h"
+
+namespace ventrel {
+namespace {
+
+LampPictures plainLamps() {
+    const auto lamp = [](unsigned red, unsigned green) {
+        Bitmap picture({28, 28});
+        Canvas(picture).fill(picture.bounds(), Colour::rgb(red, green, 0));
+        return picture;
+    };
+    return {.dark = {lamp(0, 80), lamp(80, 80), lamp(80, 0)},
+            .bright = {lamp(0, 255), lamp(255, 255), lamp(255, 0)}};
+}
+
+struct TopBarStage : ConsoleStage {
+    explicit TopBarStage() { TopBarCreate(bar, main, console, plainLamps()); }
+
+    TopBar bar{.sources = {desktop, game, fonts, hand, arrow}};
+
+    /// How a lamp shows: in its middle, since its rim lies outside the circle.
+    Colour lamp(std::size_t number) const { return toColour(picture(bar.lampWindows[number]).at(14, 14)); }
+};
+
+TEST(ClockTest, ShowsTheTimeWhileAGameRuns) {
+    TopBarStage stage;
+    const auto shows = [&](ClockSeconds now) {
+        stage.bar.clock.now = now;
+        stage.bar.clockWindow.invalidate();
+        return stage.picture(stage.bar.clockWindow);
+    };
+    const Bitmap later = shows(75);
+    EXPECT_EQ(later.size(), (Size{51, 15}));
+    EXPECT_NE(later, shows(76));
+    const Font& font = stage.fonts.font({Face::arial, -14, false});
+    EXPECT_EQ(8 + font.width("60:00"), 51 - 8 + 1) << "the time stands in the middle";
+    expectGolden(shows(3605), "controls_clock");
+    stage.game.gameRunning = false;
+    EXPECT_EQ(shows(75), Bitmap({51, 15})) << "a black box";
+}
+
+TEST(ClockTest, APressSkipsToTheNextMoveOfTheFlights) {
+    TopBarStage stage;
+    const Point onClock = clockWindowRect.topLeft() + Point{20, 7};
+    stage.bar.clock.now = 30;
+    stage.bar.clock.sweepIndex = 70;
+    stage.script.click(onClock).then([&] {
+        EXPECT_EQ(stage.bar.clock.now, 45);
+        EXPECT_EQ(stage.bar.clock.sweepIndex, sweepStraightUp);
+        EXPECT_EQ(stage.backend.cursor(), &stage.hand);
+        stage.bar.clock.now = 44;
+    });
+    stage.script.doubleClick(onClock).then([&] { EXPECT_EQ(stage.bar.clock.now, 60); });
+    stage.script.click(onClock, MouseButton::right).then([&] {
+        EXPECT_EQ(stage.bar.clock.now, 60);
+        stage.game.gameRunning = false;
+    });
+    stage.script.click(onClock).moveTo(onClock + Point{1, 0}).then([&] {
+        EXPECT_EQ(stage.bar.clock.now, 60);
+        EXPECT_EQ(stage.backend.cursor(), &stage.arrow);
+    });
+    stage.play();
+}
+
+TEST(ClockTest, IsPaintedAnewEveryFiveSecondsAndTheScopeWithEveryStep) {
+    TopBarStage stage;
+    stage.bar.clock.now = 8;
+    stage.bar.clock.lastClockTick = stage.backend.now();
+    const Bitmap atEight = stage.picture(stage.bar.clockWindow);
+    const Bitmap scope = stage.picture(stage.bar.scopeWindow);
+    const auto tickAfter = [&](Millis pause) {
+        stage.backend.wait(pause);
+        return ClockTick(stage.bar);
+    };
+    const auto next = tickAfter(81);
+    EXPECT_EQ(next, stage.backend.now() + 81) << "when the scope moves again";
+    EXPECT_NE(stage.picture(stage.bar.scopeWindow), scope);
+    tickAfter(320);
+    EXPECT_EQ(stage.bar.clock.now, 9);
+    EXPECT_EQ(stage.picture(stage.bar.clockWindow), atEight);
+    tickAfter(60'000);
+    EXPECT_EQ(stage.bar.clock.now, 10) << "a late tick makes up for nothing";
+    EXPECT_NE(stage.picture(stage.bar.clockWindow), atEight);
+    stage.game.gameRunning = false;
+    EXPECT_EQ(tickAfter(1000), std::nullopt);
+}
+
+TEST(SmallScopeTest, ShowsADotForEachOfTheFirst32FlightsInTheAir) {
+    TopBarStage stage;
+    for (int i = 0; i < 35; ++i) {
+        stage.fly().plan[0].setCell({i, 24});
+    }
+    stage.game.flight(0).groundState = GroundState::waiting;
+    stage.game.flight(2).selected = true;
+    stage.game.flight(34).plan[0].setCell({48, 48});
+    ScopeUpdateBlips(stage.bar);
+    ASSERT_EQ(stage.bar.blips.size(), 32U);
+    EXPECT_EQ(stage.bar.blips[0], (Blip{{4 + 24 / 49, 4 + 24 * 24 / 49}, false}));
+    EXPECT_EQ(stage.bar.blips[1], (Blip{{4 + 48 / 49, 15}, true}));
+    EXPECT_EQ(stage.bar.blips[31].position, (Point{4 + 24 * 32 / 49, 15}))
+        << "the 33rd and later are left out";
+    ClockReset(stage.bar);
+    EXPECT_TRUE(stage.bar.blips.empty());
+    EXPECT_EQ(stage.bar.clock.now, 0);
+}
+
+TEST(SmallScopeTest, TheSweepRunsAroundTheBorderWithItsTrailBehind) {
+    EXPECT_EQ(sweepPoint(0), (Point{0, 0}));
+    EXPECT_EQ(sweepPoint(15), (Point{15, 0}));
+    EXPECT_EQ(sweepPoint(30), (Point{30, 0}));
+    EXPECT_EQ(sweepPoint(60), (Point{30, 30}));
+    EXPECT_EQ(sweepPoint(89), (Point{1, 30}));
+    EXPECT_EQ(sweepPoint(119), (Point{0, 1}));
+    constexpr std::array<int, 6> positions{1, 15, 40, 70, 100, 119};
+    Bitmap sheet({static_cast<int>(positions.size()) * 32, 30});
+    TopBarStage stage;
+    stage.bar.blips = {{{20, 10}, false}, {{10, 20}, true}, {{5, 5}, true}};
+    for (std::size_t i = 0; i < positions.size(); ++i) {
+        stage.bar.clock.sweepIndex = positions[i];
+        stage.bar.scopeWindow.invalidate();
+        Canvas(sheet).draw({static_cast<int>(i) * 32, 0}, stage.picture(stage.bar.scopeWindow));
+    }
+    expectGolden(sheet, "controls_scope");
+    const auto shown = [&](int position) {
+        stage.bar.clock.sweepIndex = position;
+        stage.bar.scopeWindow.invalidate();
+        return count(stage.picture(stage.bar.scopeWindow), Colour::rgb(0, 225, 0), {0, 0, 30, 30});
+    };
+    EXPECT_EQ(shown(1), shown(0)) << "from both the trail goes on at 119";
+}
+
+TEST(LampTest, TheLitLampFlashesInsideItsRing) {
+    TopBarStage stage;
+    stage.bar.lamps = {.lit = LampLevel::yellow, .blinkOn = true, .lastBlink = stage.backend.now()};
+    LampsRepaint(stage.bar);
+    EXPECT_EQ(stage.lamp(0), Colour::rgb(0, 80, 0));
+    EXPECT_EQ(stage.lamp(1), Colour::rgb(255, 255, 0));
+    EXPECT_EQ(stage.lamp(2), Colour::rgb(80, 0, 0));
+    const Bitmap yellow = stage.picture(stage.bar.lampWindows[1]);
+    for (const Point rim : {Point{0, 14}, {27, 14}, {14, 0}, {14, 27}, {3, 3}}) {
+        EXPECT_EQ(toColour(yellow.at(rim.x, rim.y)), consoleGrey) << "the console shows around the glass";
+    }
+    for (const Point glass : {Point{1, 13}, {26, 13}, {13, 1}, {13, 26}}) {
+        EXPECT_EQ(toColour(yellow.at(glass.x, glass.y)), Colour::rgb(255, 255, 0));
+    }
+    const auto tickAfter = [&](Millis pause) {
+        stage.backend.wait(pause);
+        LampsTick(stage.bar);
+        return stage.lamp(1);
+    };
+    EXPECT_EQ(tickAfter(400), Colour::rgb(255, 255, 0));
+    EXPECT_EQ(tickAfter(1), Colour::rgb(80, 80, 0));
+    EXPECT_EQ(tickAfter(401), Colour::rgb(255, 255, 0));
+    LampsReset(stage.bar);
+    EXPECT_EQ(stage.lamp(1), Colour::rgb(80, 80, 0));
+    EXPECT_EQ(LampsTick(stage.bar), std::nullopt);
+}
+
+} // namespace
+} // namespace ventrel

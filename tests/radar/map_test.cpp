@@ -1,0 +1,120 @@
+// The map: where everything of a map point stands, and what the display options leave of it.
+
+#include "radar/map_drawing.h"
+
+#include <gtest/gtest.h>
+
+#include "golden.h"
+#include "radar/map_geometry.h"
+#include "radar_stage.h"
+
+namespace ventrel {
+namespace {
+
+constexpr Colour labelWhite = Colour::rgb(230, 230, 230);
+constexpr Colour symbolCyan = Colour::rgb(0, 200, 220);
+constexpr Colour runwayYellow = Colour::rgb(255, 255, 90);
+constexpr Colour gridYellow = Colour::rgb(0xD0, 0xD0, 0);
+constexpr Colour pictureGreen = Colour::rgb(10, 60, 20);
+
+Vor point(Point pixel, int labelPlace) {
+    Vor vor;
+    vor.ident = "KMG";
+    vor.pixel = pixel;
+    vor.labelPlace = labelPlace;
+    vor.labelColour = labelWhite;
+    vor.symbolColour = symbolCyan;
+    vor.runwayColour = runwayYellow;
+    return vor;
+}
+
+Vor airport(Point pixel, int runwayHeading, int labelPlace = 0) {
+    Vor vor = point(pixel, labelPlace);
+    vor.isAirport = true;
+    vor.runwayHeading = runwayHeading;
+    return vor;
+}
+
+class MapTest : public ::testing::Test {
+protected:
+    const Font& labels(const RadarLayout& layout) {
+        return fonts_.font({Face::smallFonts, -layout.labelHeight, false});
+    }
+
+    /// An airport of every heading with its label at two of its places, and a fix of each place.
+    Bitmap sheet(const RadarLayout& layout) {
+        constexpr int pitch = 110;
+        Bitmap picture({4 * pitch, 5 * pitch});
+        Canvas canvas(picture);
+        const auto middle = [](int i) { return Point{i % 4 * pitch + pitch / 2, i / 4 * pitch + pitch / 2}; };
+        for (int i = 0; i < 16; ++i) {
+            const int labelPlace = i < 8 ? i % 2 : 2 + i % 2;
+            DrawAirport(canvas, layout, airport(middle(i), i % 8 * headingStep, labelPlace), labels(layout));
+        }
+        for (int place = 0; place < 4; ++place) {
+            DrawVor(canvas, layout, point(middle(16 + place), place), labels(layout));
+        }
+        return picture;
+    }
+
+private:
+    FontSet fonts_{std::string(PROGRAM_FOLDER) + "/fonts", [](std::string_view, MessageIcon) {}};
+};
+
+TEST_F(MapTest, MapPointsLookAsTheyDid) {
+    expectGolden(sheet(smallRadarLayout), "radar_map_800");
+    expectGolden(sheet(largeRadarLayout), "radar_map_1024");
+}
+
+TEST_F(MapTest, LabelsStandBesideTheirSymbolsAndGiveWayToRunways) {
+    constexpr Size label{15, 10};
+    const auto fix = [&](int place) {
+        return labelCorner(smallRadarLayout, point({200, 200}, place), label);
+    };
+    EXPECT_EQ(fix(0), (Point{193, 183}));
+    EXPECT_EQ(fix(1), (Point{176, 195}));
+    EXPECT_EQ(fix(2), (Point{209, 195}));
+    EXPECT_EQ(fix(7), (Point{193, 209}));
+    const auto shift = [&](const RadarLayout& layout, int place, int heading) {
+        return labelCorner(layout, airport({200, 200}, heading, place), label) -
+               labelCorner(layout, airport({200, 200}, 90, place), label);
+    };
+    EXPECT_EQ(labelCorner(smallRadarLayout, airport({200, 200}, 90, 0), label), (Point{176, 188}));
+    EXPECT_EQ(labelCorner(largeRadarLayout, airport({200, 200}, 90, 9), label), (Point{212, 208}));
+    EXPECT_EQ(shift(smallRadarLayout, 0, 135), (Point{-6, 0}));
+    EXPECT_EQ(shift(largeRadarLayout, 0, 315), (Point{-9, 0}));
+    EXPECT_EQ(shift(largeRadarLayout, 1, 45), (Point{9, 0}));
+    EXPECT_EQ(shift(smallRadarLayout, 2, 225), (Point{-6, 0}));
+    EXPECT_EQ(shift(smallRadarLayout, 3, 135), (Point{6, 0}));
+    EXPECT_EQ(shift(smallRadarLayout, 0, 45), (Point{0, 0}));
+    EXPECT_EQ(shift(smallRadarLayout, 0, 17), (Point{0, 0}));
+}
+
+TEST_F(MapTest, TheOptionsDecideOnPictureAndGrid) {
+    RadarStage stage;
+    const auto isInside = [&](Point p) { return stage.radar.scope.contains(p); };
+    const auto map = [&](Point p) { return toColour(stage.radar.map->at(p.x, p.y)); };
+    const Point inside{270, 271};
+    EXPECT_EQ(map(inside), black) << "an airport without a picture";
+    Bitmap picture({539, 539});
+    Canvas(picture).fill(picture.bounds(), pictureGreen);
+    stage.radar.airportImage = std::move(picture);
+    stage.buildMap();
+    EXPECT_EQ(map(inside), pictureGreen);
+    stage.options.mapDetails = 0;
+    stage.options.showGrid = 1;
+    stage.buildMap();
+    int dots = 0;
+    for (int y = 0; y < 539; ++y) {
+        for (int x = 0; x < 539; ++x) {
+            const bool isDot = x % 11 == 0 && y % 11 == 0;
+            const Colour wanted = !isInside({x, y}) ? frameColour : isDot ? gridYellow : black;
+            ASSERT_EQ(map({x, y}), wanted) << x << ", " << y;
+            dots += isDot && isInside({x, y}) ? 1 : 0;
+        }
+    }
+    EXPECT_GT(dots, 1500);
+}
+
+} // namespace
+} // namespace ventrel

@@ -1,0 +1,140 @@
+// The radar's window: clicks, what the clock makes due, and the rings of a collision.
+
+#include "radar/radar_window.h"
+
+#include <gtest/gtest.h>
+
+#include "radar_stage.h"
+
+namespace ventrel {
+namespace {
+
+/// The flight at a radar pixel of the small scope, or -1.
+int hitAt(const RadarStage& stage, Point p) {
+    const auto hit = flightAt(stage.radar.layout, stage.game.flights, p);
+    return hit ? hit->flight : -1;
+}
+
+TEST(HitTest, AFlightIsHitInItsBoxOfEighteenPixels) {
+    RadarStage stage;
+    stage.fly({20, 20});
+    const Point at{220, 220};
+    for (const Point near : {Point{13, 0}, {-4, 0}, {0, -10}, {0, 7}}) {
+        EXPECT_EQ(hitAt(stage, at + near), 0);
+    }
+    for (const Point beside : {Point{14, 0}, {-5, 0}, {0, -11}, {0, 8}}) {
+        EXPECT_EQ(hitAt(stage, at + beside), -1);
+    }
+}
+
+TEST(HitTest, TheLowerNumberWinsAndPlacesCountTheListedFlights) {
+    RadarStage stage;
+    stage.fly({5, 20}).inPlay = false;
+    stage.fly({10, 20});
+    stage.fly({21, 20});
+    stage.fly({20, 20});
+    const auto hit = flightAt(stage.radar.layout, stage.game.flights, {229, 221});
+    ASSERT_TRUE(hit);
+    EXPECT_EQ(hit->flight, 2);
+    EXPECT_EQ(hit->listPlace, 2) << "the one out of play has no place";
+    EXPECT_EQ(hitAt(stage, {55, 220}), -1);
+}
+
+TEST(HitTest, WaitingAndAnnouncedFlightsAreHitWhereTheyAreNotDrawn) {
+    RadarStage stage;
+    stage.fly({20, 20}).groundState = GroundState::waiting;
+    Flight& announced = stage.fly({30, 20});
+    announced.activatedAt = 0;
+    announced.announced = true;
+    stage.fly({40, 20}).activatedAt = 0;
+    stage.frame();
+    EXPECT_EQ(stage.count(flightGreen, scopeSquare(stage.radar.layout)), 0);
+    EXPECT_EQ(hitAt(stage, {220, 220}), 0);
+    EXPECT_EQ(hitAt(stage, {330, 220}), 1);
+    EXPECT_EQ(hitAt(stage, {440, 220}), -1);
+}
+
+TEST(RadarClickTest, EitherButtonSelectsAndTheRightOneOpensTheMenu) {
+    RadarStage stage;
+    stage.fly({20, 20});
+    const Point onFlight = stage.radar.layout.corner + Point{222, 218};
+    const Point beside = stage.radar.layout.corner + Point{300, 218};
+    stage.frame();
+    stage.take();
+    stage.touched = true; // a press on the scope frees the selection
+    stage.script.click(onFlight).then([&] { EXPECT_EQ(stage.take(), (Lines{"reset", "select 0 place 1"})); });
+    stage.script.click(onFlight).then(
+        [&] { EXPECT_EQ(stage.take(), Lines{"reset"}) << "it is selected already"; });
+    stage.script.click(onFlight, MouseButton::right).then([&] {
+        EXPECT_EQ(stage.take(), (Lines{"reset", "menu 238,279"}));
+    });
+    stage.script.click(beside, MouseButton::right).click(beside).then([&] {
+        EXPECT_EQ(stage.take(), (Lines{"reset", "reset"}));
+        stage.game.flight(0).selected = false;
+        stage.game.gameRunning = false;
+    });
+    stage.script.click(onFlight).click(onFlight, MouseButton::right).then([&] {
+        EXPECT_EQ(stage.take(), Lines{});
+    });
+    stage.play();
+    EXPECT_EQ(stage.backend.cursor(), &stage.hand);
+}
+
+TEST(RadarClickTest, ASelectionThatNobodyClickedWaitsWhileThePanelIsTouched) {
+    RadarStage stage;
+    stage.fly({20, 20});
+    stage.touched = true;
+    EXPECT_FALSE(RadarSelectAt(stage.radar, {220, 220}));
+    EXPECT_EQ(stage.take(), Lines{});
+    stage.touched = false;
+    EXPECT_TRUE(RadarSelectAt(stage.radar, {220, 220}));
+    EXPECT_FALSE(RadarSelectAt(stage.radar, {120, 220}));
+    EXPECT_EQ(stage.take(), Lines{"select 0 place 1"});
+}
+
+TEST(RadarTickTest, FramesAndDotsAreDueEveryFiveSecondsAndTheScoreEveryQuarterOfAnHour) {
+    RadarStage stage;
+    stage.frame();
+    stage.take();
+    const auto tickAt = [&](ClockSeconds now) {
+        stage.clock = now;
+        RadarTick(stage.radar);
+        stage.main.update();
+        return stage.take();
+    };
+    EXPECT_EQ(tickAt(899), Lines{});
+    EXPECT_EQ(tickAt(900), (Lines{"blips", "report", "lamp 3"}));
+    EXPECT_EQ(tickAt(900), Lines{}) << "once for each new value";
+    EXPECT_EQ(tickAt(905), (Lines{"blips", "lamp 3"}));
+    EXPECT_EQ(tickAt(1800), (Lines{"blips", "report", "lamp 3"}));
+    RadarHide(stage.radar);
+    EXPECT_EQ(tickAt(2700), Lines{}) << "a hidden radar rests";
+}
+
+TEST(CollisionTest, RingsSpreadOverTheScopeForEightSeconds) {
+    constexpr Colour ringRed = Colour::rgb(255, 0, 0);
+    RadarStage stage;
+    stage.fly({24, 24});
+    stage.frame();
+    const Millis start = stage.backend.now();
+    EXPECT_TRUE(RadarCollisionRings(stage.radar, 0));
+    EXPECT_EQ(stage.backend.now() - start, 8000);
+    const int row = 264 - 4; // through the rings' common middle
+    int rings = 0;
+    for (int x = 28; x < 534; ++x) {
+        const bool isEdge = stage.at({x, row}) == ringRed && stage.at({x + 1, row}) != ringRed;
+        rings += isEdge ? 1 : 0;
+    }
+    EXPECT_NEAR(rings, 2 * 58, 4) << "one every four pixels to both sides, as far as the scope goes";
+    EXPECT_EQ(stage.count(ringRed, {0, 0, 27, 539}), 0);
+}
+
+TEST(CollisionTest, RingsEndAtOnceWhenTheProgramQuits) {
+    RadarStage stage;
+    stage.fly({24, 24});
+    stage.script.wait(500).then([&] { stage.desktop.quit(); });
+    EXPECT_FALSE(RadarCollisionRings(stage.radar, 0));
+}
+
+} // namespace
+} // namespace ventrel
