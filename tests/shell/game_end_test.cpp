@@ -1,0 +1,176 @@
+// What becomes of flights, and the ways in which a shift ends.
+
+#include <algorithm>
+
+#include "shell/quiet_shift.h"
+
+namespace ventrel {
+namespace {
+
+class GameEndTest : public ::testing::Test {
+protected:
+    GameStage stage;
+
+    /// The airport and the exit that come first in the table.
+    const Vor& airport() { return *std::ranges::find(stage.game().vors, true, &Vor::isAirport); }
+    VorIndex indexOf(const Vor& vor) { return static_cast<VorIndex>(&vor - stage.game().vors.data()); }
+
+    /// The line that the ticker shows or will show.
+    bool isOnTicker(std::string_view part) {
+        return std::ranges::any_of(stage.shell().scroller.queue.slots, [part](const MessageSlot& slot) {
+            return slot.inUse && slot.text.find(part) != std::string::npos;
+        });
+    }
+
+    void finishAllBut(FlightIndex first) {
+        stage.look([this, first] {
+            for (FlightIndex i = first; i < stage.game().planeCount(); ++i) {
+                stage.game().flight(i).inPlay = false;
+            }
+        });
+    }
+};
+
+TEST_F(GameEndTest, ALandingIsAnnouncedScoredAndTakenOffTheStrips) {
+    QuietShift shift(stage);
+    stage.todo([&](Script&) {
+        const Vor field = airport();
+        const Cell before = stepCell(field.cell, turned(field.runwayHeading, 180));
+        shift.enter(0, {.x = before.x, .y = before.y, .altitude = 1, .heading = field.runwayHeading});
+        shift.enter(1, {.x = 40, .y = 40, .altitude = 9, .heading = 0}); // somebody stays
+        stage.look([this, field] {
+            stage.game().flight(0).destination = indexOf(airport());
+            stage.game().flight(0).destinationKind = DestinationKind::airport;
+        });
+        stage.skipTo(90);
+        stage.look([this, field] {
+            EXPECT_TRUE(isOnTicker("F0 is landing at " + field.ident));
+            EXPECT_EQ(stage.shell().topBar.lamps.lit, LampLevel::green);
+        });
+        stage.skipTo(120);
+        stage.look([this] {
+            EXPECT_EQ(stage.game().score, 150);
+            EXPECT_FALSE(stage.game().flight(0).inPlay);
+            EXPECT_EQ(StripsFlightSlot(stage.shell().strips, 0), noSlot);
+        });
+    });
+    stage.play();
+}
+
+TEST_F(GameEndTest, ALostFlightLightsTheYellowLampOnce) {
+    QuietShift shift(stage);
+    shift.enter(0, {.x = 1, .y = 23, .altitude = 5, .heading = 315, .speed = fastSpeed});
+    shift.enter(1, {.x = 1, .y = 21, .altitude = 6, .heading = 315, .speed = fastSpeed});
+    stage.skipTo(360);
+    stage.look([this] {
+        EXPECT_FALSE(stage.game().flight(0).inPlay);
+        EXPECT_EQ(stage.game().score, 0);
+        EXPECT_GE(stage.sounds.count("snd\\yellow.snd"), 1);
+    });
+    stage.play();
+}
+
+TEST_F(GameEndTest, ANearMissLightsTheRedLampAndFlashesIt) {
+    QuietShift shift(stage);
+    shift.enter(0, {.x = 10, .y = 10, .altitude = 5, .heading = 90});
+    shift.enter(1, {.x = 30, .y = 30, .altitude = 5, .heading = 90});
+    stage.skipTo(60);
+    stage.look([this] {
+        stage.game().flight(0).plan[0].altitude = 5;
+        stage.game().flight(1).plan[0] = {.x = 11, .y = 11, .altitude = 5, .heading = 90};
+    });
+    stage.skipTo(90);
+    stage.look([this] {
+        EXPECT_TRUE(isOnTicker("F0, Emergency! Near miss with F1"));
+        EXPECT_EQ(stage.shell().topBar.lamps.lit, LampLevel::red);
+        EXPECT_EQ(stage.sounds.count("snd\\red.snd"), 1);
+    });
+    const auto lamp = [this] { return stage.desktop().picture().at(390, 30); };
+    auto first = std::make_shared<Pixel>();
+    stage.look([lamp, first] { *first = lamp(); });
+    stage.wait(420);
+    stage.look([lamp, first] { EXPECT_NE(lamp(), *first); });
+    stage.play();
+}
+
+TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
+    QuietShift shift(stage);
+    stage.skipTo(60);
+    finishAllBut(0);
+    stage.look([this] {
+        stage.game().score = 500;
+        stage.game().bonus = 75;
+    });
+    stage.skip();
+    stage.look([this] {
+        EXPECT_FALSE(stage.game().gameRunning);
+        EXPECT_TRUE(isOnTicker("Game Over.   Score: 575 out of a possible"));
+        EXPECT_TRUE(stage.shell().radar.window.isVisible());
+    });
+    stage.wait(4000);
+    stage.look([this] { EXPECT_TRUE(isOnTicker("Game Over.")) << "it is still scrolling"; });
+    stage.wait(15000);
+    stage.look([this] {
+        EXPECT_FALSE(stage.shell().radar.window.isVisible());
+        EXPECT_EQ(stage.shell().topBar.clock.now, 0);
+        EXPECT_EQ(stage.shell().panel.state.flight, noFlight);
+    });
+    stage.startNewGame(); // and the next game begins as the first one did
+    stage.play();
+}
+
+TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
+    QuietShift shift(stage);
+    shift.enter(0, {.x = 10, .y = 10, .altitude = 5, .heading = 90});
+    shift.enter(1, {.x = 30, .y = 30, .altitude = 5, .heading = 90});
+    stage.skipTo(60);
+    stage.look([this] {
+        stage.game().flight(0).plan[0].altitude = 5;
+        stage.game().flight(1).plan[0] = {.x = 10, .y = 10, .altitude = 5, .heading = 90};
+    });
+    stage.skip();
+    stage.skip();
+    stage.look([this] {
+        EXPECT_FALSE(stage.game().gameRunning);
+        EXPECT_EQ(stage.game().collisionFlights, (std::array<FlightIndex, 2>{1, 0}));
+        EXPECT_EQ(stage.sounds.count("snd\\collide.snd"), 1);
+    });
+    stage.wait(7000);
+    stage.look([this] {
+        const Point ring = stage.onRadar({10, 10}) + Point{10, -4} + Point{0, -24 - 4 * 70};
+        int red = 0;
+        for (int y = -8; y < 8; ++y) {
+            red += stage.desktop().picture().at(ring.x + 250, ring.y + 250 + y) == 0xFF0000 ? 1 : 0;
+        }
+        EXPECT_GT(red, 0) << "no rings";
+        EXPECT_TRUE(stage.shell().radar.window.isVisible());
+    });
+    stage.wait(1500);
+    stage.look([this] {
+        EXPECT_FALSE(stage.shell().radar.window.isVisible());
+        EXPECT_EQ(stage.sounds.heard.back(), "mci\\faa.mci");
+        EXPECT_FALSE(isOnTicker("Game Over"));
+    });
+    stage.startNewGame();
+    stage.play();
+}
+
+TEST_F(GameEndTest, ClosingTheWindowWhileRingsSpreadEndsTheProgram) {
+    QuietShift shift(stage);
+    shift.enter(0, {.x = 10, .y = 10, .altitude = 5, .heading = 90});
+    shift.enter(1, {.x = 30, .y = 30, .altitude = 5, .heading = 90});
+    stage.skipTo(60);
+    stage.look([this] {
+        stage.game().flight(0).plan[0].altitude = 5;
+        stage.game().flight(1).plan[0] = {.x = 10, .y = 10, .altitude = 5, .heading = 90};
+    });
+    stage.skip();
+    stage.skip();
+    stage.todo([](Script& script) { script.window(WindowEvent::closeRequested).wait(100); });
+    stage.look([] { ADD_FAILURE() << "it went on"; });
+    stage.play();
+    EXPECT_TRUE(stage.desktop().isQuitting());
+}
+
+} // namespace
+} // namespace ventrel

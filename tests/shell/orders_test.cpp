@@ -1,0 +1,210 @@
+// Choosing flights and sending them orders, in every way that the console has.
+
+#include "shell/quiet_shift.h"
+#include "shell/selection.h"
+
+namespace ventrel {
+namespace {
+
+class OrdersTest : public ::testing::Test {
+protected:
+    GameStage stage;
+
+    /// Three flights well apart, in the air at 60.
+    void begin() {
+        QuietShift shift(stage);
+        shift.enter(0, {.x = 10, .y = 20, .altitude = 5, .heading = 90});
+        shift.enter(1, {.x = 30, .y = 12, .altitude = 7, .heading = 180});
+        shift.enter(2, {.x = 20, .y = 35, .altitude = 9, .heading = 0});
+        stage.skipTo(QuietShift::entryTime);
+    }
+
+    void expectSelected(FlightIndex flight, const char* how) {
+        stage.look([this, flight, how] {
+            for (FlightIndex i = 0; i < stage.game().planeCount(); ++i) {
+                EXPECT_EQ(stage.game().flight(i).selected, i == flight) << "flight " << i << ", " << how;
+            }
+            EXPECT_EQ(stage.shell().panel.state.flight, flight) << how;
+            EXPECT_EQ(pressedSlot(stage.shell()), StripsFlightSlot(stage.shell().strips, flight)) << how;
+            EXPECT_TRUE(stage.shell().exec.window.isEnabled()) << how;
+        });
+    }
+
+    void press(Key key, int times = 1) {
+        stage.todo([key, times](Script& script) {
+            for (int i = 0; i < times; ++i) {
+                script.key(key);
+            }
+            script.wait(1);
+        });
+    }
+
+    const Flight& flight(FlightIndex index) { return stage.game().flight(index); }
+};
+
+TEST_F(OrdersTest, RadarStripsAndKeysChooseFlights) {
+    begin();
+    stage.todo([this](Script& script) { script.click(stage.onFlight(1)).wait(1); });
+    expectSelected(1, "by the radar");
+    stage.todo([this](Script& script) { script.click(stage.onFlight(1)).wait(1); });
+    stage.look([this] { EXPECT_EQ(stage.sounds.count("select"), 1) << "it was selected already"; });
+    stage.selectByStrip(2);
+    expectSelected(2, "by its strip");
+    stage.todo([this](Script& script) {
+        const int slot = StripsFlightSlot(stage.shell().strips, 0);
+        const int from = pressedSlot(stage.shell());
+        for (int i = from; i != slot; i += slot > from ? 1 : -1) {
+            script.key(slot > from ? Key::down : Key::up);
+        }
+        script.wait(1);
+    });
+    expectSelected(0, "by keys");
+    stage.todo([this](Script& script) { script.click(stage.onRadar({40, 40})).wait(1); });
+    expectSelected(0, "a click on nothing");
+    stage.play();
+}
+
+TEST_F(OrdersTest, ThePanelSendsEveryKindOfOrder) {
+    begin();
+    stage.selectByStrip(0);
+    stage.sendByPanel({.altitude = 3, .heading = 180, .speed = fastSpeed});
+    stage.look([this] {
+        EXPECT_EQ(flight(0).lastStep().heading, 180);
+        EXPECT_EQ(flight(0).lastStep().altitude, 3);
+        EXPECT_EQ(flight(0).current().speed, fastSpeed);
+    });
+    stage.sendByPanel({.altitude = 10, .directTarget = 3});
+    stage.look([this] {
+        EXPECT_EQ(flight(0).current().directTarget, 3);
+        EXPECT_EQ(flight(0).lastStep().cell(), stage.game().vor(3).cell);
+    });
+    const auto hold = [this] { return stage.game().vorCount(); };
+    stage.todo([this, hold](Script&) { stage.sendByPanel({.altitude = 4, .directTarget = hold()}); });
+    stage.look([this] {
+        EXPECT_EQ(flight(0).planLength, 9);
+        EXPECT_EQ(flight(0).current().hold, 1);
+        EXPECT_EQ(stage.sounds.count("set"), 3);
+    });
+    stage.play();
+}
+
+TEST_F(OrdersTest, KeysComposeAnOrderAndEnterSendsIt) {
+    begin();
+    stage.selectByStrip(1);
+    press(Key::keypad3);
+    press(Key::keypadMinus, 2);
+    press(Key::f);
+    stage.look([this] { EXPECT_EQ(flight(1).planLength, 1) << "nothing is sent yet"; });
+    press(Key::keypadEnter);
+    stage.look([this] {
+        EXPECT_EQ(flight(1).lastStep().heading, 135);
+        EXPECT_EQ(flight(1).lastStep().altitude, 9);
+        EXPECT_EQ(flight(1).current().speed, fastSpeed);
+    });
+    // The same without a keypad: direct, two targets on, lower by one, slow.
+    press(Key::k);
+    press(Key::rightBracket, 2);
+    press(Key::pageDown);
+    press(Key::s);
+    press(Key::enter);
+    stage.look([this] {
+        EXPECT_EQ(flight(1).current().directTarget, 2);
+        EXPECT_EQ(flight(1).current().speed, slowSpeed);
+        // At 45 degrees the order is turned back into a heading.
+    });
+    press(Key::o);
+    press(Key::enter);
+    stage.look([this] { EXPECT_EQ(flight(1).lastStep().heading, 45); });
+    stage.play();
+}
+
+TEST_F(OrdersTest, TheRightButtonsMenuSendsAtOnce) {
+    begin();
+    const auto choose = [this](int submenu, int item) {
+        stage.todo([this, submenu, item](Script& script) {
+            script.click(stage.onFlight(2), MouseButton::right).wait(1);
+            for (int i = 0; i < submenu; ++i) {
+                script.key(Key::down);
+            }
+            script.key(Key::right);
+            for (int i = 0; i < item; ++i) {
+                script.key(Key::down);
+            }
+            script.key(Key::enter).wait(1);
+        });
+    };
+    choose(1, 6); // heading 270
+    expectSelected(2, "by the right button");
+    stage.look([this] { EXPECT_EQ(flight(2).lastStep().heading, 270); });
+    choose(3, 2); // altitude 3K
+    stage.look([this] { EXPECT_EQ(flight(2).lastStep().altitude, 3); });
+    choose(4, 0); // fast
+    stage.look([this] { EXPECT_EQ(flight(2).current().speed, fastSpeed); });
+    choose(2, 2); // the second map point, after the hold
+    stage.look([this] { EXPECT_EQ(flight(2).current().directTarget, 1); });
+    choose(2, 0);
+    stage.look([this] { EXPECT_EQ(flight(2).current().hold, 1); });
+    stage.todo([this](Script& script) { script.click(stage.onRadar({40, 40}), MouseButton::right).wait(1); });
+    stage.look([this] {
+        EXPECT_EQ(stage.desktop().topLevels().size(), 1U) << "no menu where there is no flight";
+        EXPECT_EQ(stage.sounds.count("set"), 5);
+    });
+    stage.play();
+}
+
+TEST_F(OrdersTest, ExecIsGreyUntilAFlightIsChosenAndSendsByMouse) {
+    begin();
+    const Point exec{1024 - 25, 768 - 80};
+    stage.todo([exec](Script& script) { script.click(exec).wait(1); });
+    stage.look([this] { EXPECT_EQ(stage.sounds.count("set"), 0); });
+    stage.selectByStrip(0);
+    stage.todo([this, exec](Script& script) {
+        script.click(stage.onPanel({46, 20})).click(exec).wait(1);
+        script.key(Key::keypad1).key(Key::enter).wait(1); // the keyboard is back on the console
+    });
+    stage.look([this] {
+        EXPECT_EQ(stage.sounds.count("set"), 2);
+        EXPECT_EQ(flight(0).lastStep().heading, 225);
+    });
+    stage.play();
+}
+
+TEST_F(OrdersTest, APressOnThePanelHoldsBackAutomaticSelection) {
+    stage.look([this] { stage.shell().options.autoSelect = 1; });
+    QuietShift shift(stage);
+    shift.enter(0, {.x = 10, .y = 20, .altitude = 5, .heading = 90});
+    stage.skipTo(QuietShift::entryTime);
+    expectSelected(0, "by entering");
+    stage.look([this] {
+        Flight& second = stage.game().flight(1);
+        second.scheduledAt = 75;
+        second.plan[0] = {.x = 30, .y = 30, .altitude = 5, .heading = 90};
+        second.planLength = 1;
+    });
+    stage.todo([this](Script& script) {
+        const ClockSeconds now = stage.shell().topBar.clock.now;
+        // Close before the next step the player touches the panel.
+        script.wait(401 * (73 - now)).click(stage.onPanel({46, 50})).wait(1300);
+    });
+    stage.look([this] { EXPECT_TRUE(flight(1).isActive()); });
+    expectSelected(0, "the player was busy with it");
+    stage.play();
+}
+
+TEST_F(OrdersTest, TheWheelScrollsTheStrips) {
+    stage.startNewGame();
+    stage.look([this] {
+        for (Flight& flight : stage.game().flights) {
+            flight.scheduledAt = QuietShift::entryTime;
+        }
+    });
+    stage.skip();
+    stage.todo([](Script& script) { script.moveTo({900, 300}).wheel({900, 300}, -3).wait(1); });
+    stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 3); });
+    stage.todo([](Script& script) { script.wheel({850, 300}, 2).wheel({400, 300}, 1).wait(1); });
+    stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 1); });
+    stage.play();
+}
+
+} // namespace
+} // namespace ventrel
