@@ -128,8 +128,11 @@ std::optional<ProfileFile::Place> ProfileFile::find(std::string_view section, st
         } else if (place) {
             const auto keyOfLine = keyName(line.text);
             if (keyOfLine && sameName(*keyOfLine, key)) {
-                const std::size_t valueAt = line.text.find('=') + 1;
-                return Place{true, line.start + valueAt, line.text.size() - valueAt, line.start};
+                const std::size_t pastEquals = line.text.find('=') + 1;
+                const std::size_t valueAt =
+                    std::min(line.text.find_first_not_of(blanks, pastEquals), line.text.size());
+                const std::size_t valueLength = trimmed(line.text.substr(valueAt)).size();
+                return Place{true, line.start + valueAt, valueLength, line.start};
             }
             if (!trimmed(line.text).empty()) {
                 place->insertAt = line.next; // blank lines stay between the sections
@@ -144,7 +147,7 @@ std::optional<std::string_view> ProfileFile::value(std::string_view section, std
     if (!place || !place->hasKey) {
         return std::nullopt;
     }
-    return withoutQuotes(trimmed(std::string_view(text_).substr(place->valueStart, place->valueLength)));
+    return withoutQuotes(std::string_view(text_).substr(place->valueStart, place->valueLength));
 }
 
 int ProfileFile::integer(std::string_view section, std::string_view key, int missing) const {

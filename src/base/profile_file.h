@@ -47,7 +47,7 @@ private:
     /// Where a section has a key, as offsets into the text.
     struct Place {
         bool hasKey = false;
-        std::size_t valueStart = 0; // all that follows the "=" on the key's line
+        std::size_t valueStart = 0; // what follows the "=" on the key's line, without the blanks around it
         std::size_t valueLength = 0;
         std::size_t insertAt = 0; // the line start at which a new key of the section goes
     };

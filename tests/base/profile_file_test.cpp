@@ -34,10 +34,9 @@ TEST(Profile, RewritingKeepsEverythingElseAsItStands) {
     profile.set("Options", "Voice", "1");
     profile.set("Last", "z", "2");
     profile.set("Game", "Name", " Mary ");
-    EXPECT_EQ(
-        profile.toText(),
-        "; mine\r\n\r\n[Other]\r\nMusic=9\r\n[options]\r\n;Music=3\r\nmusic =0\r\nOdd line\r\nVoice=1\r\n\r\n"
-        "[Last]\r\nx=y\r\nz=2\r\n[Game]\r\nName=\" Mary \"\r\n");
+    EXPECT_EQ(profile.toText(), "; mine\r\n\r\n[Other]\r\nMusic=9\r\n[options]\r\n;Music=3\r\nmusic = 0 "
+                                "\r\nOdd line\r\nVoice=1\r\n\r\n"
+                                "[Last]\r\nx=y\r\nz=2\r\n[Game]\r\nName=\" Mary \"\r\n");
     EXPECT_EQ(profile.text("Game", "name", ""), " Mary ");
 }
 
