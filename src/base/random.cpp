@@ -23,4 +23,9 @@ int Random(RandomGenerator& generator, int a, int b) {
     return static_cast<int>(from + (count == 0 ? 0 : drawn % count));
 }
 
+int RandomPercent(RandomGenerator& generator) {
+    constexpr int percents = 100;
+    return Random(generator, percents);
+}
+
 } // namespace ventrel

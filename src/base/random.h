@@ -21,4 +21,7 @@ struct RandomGenerator {
 /// as a damaged file may ask for, draws all the same and gives 0 or `a`.
 int Random(RandomGenerator& generator, int a, int b = 0);
 
+/// A number from 0 to 99, to be compared with a chance in percent.
+int RandomPercent(RandomGenerator& generator);
+
 } // namespace ventrel

@@ -1,5 +1,5 @@
 // The airport file (".apt"): its layout, byte for byte, and its reader.
-
+//
 // A 76-byte header, a table of 56-byte map point records anywhere behind it, and an embedded picture.
 // All numbers are little-endian; a text is cut at its first NUL or at the end of its field.
 // The reader never decodes the picture: it only says where in the file it lies.
@@ -84,8 +84,8 @@ struct AirportHeader {
 /// A checked airport: it has an exit and an airport, and its table and picture lie within the file.
 struct AirportFile {
     AirportHeader header;
-    std::vector<Vor>
-        vors; ///< cells are all (0, 0) and runways as drawn, until the airport is loaded for a shift
+    /// Cells are all (0, 0) and runways as drawn, until the airport is loaded for a shift.
+    std::vector<Vor> vors;
 };
 
 /// Decodes a header; nothing when there are fewer than 76 bytes.

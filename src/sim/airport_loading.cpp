@@ -6,8 +6,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr int percent = 100;
-
 /// Turns a runway round. A heading that no flight can fly stays.
 int reversedRunway(int heading) {
     constexpr int half = fullCircle / 2;
@@ -16,7 +14,7 @@ int reversedRunway(int heading) {
 
 void settle(Vor& vor, const ScopeLayout& layout, RandomGenerator& random) {
     vor.cell = {vor.pixel.x / layout.cellSize, vor.pixel.y / layout.cellSize};
-    if (vor.isAirport && vor.reverseChance != 0 && Random(random, percent) < vor.reverseChance) {
+    if (vor.isAirport && vor.reverseChance != 0 && RandomPercent(random) < vor.reverseChance) {
         vor.runwayHeading = reversedRunway(vor.runwayHeading);
     }
 }

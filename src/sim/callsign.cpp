@@ -7,7 +7,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr int percent = 100;
 constexpr int radioIds = 32768;
 constexpr int threeDigitsBelow = 80; // percent of the flights with a three-digit number
 constexpr int heavyBelow = 25;       // percent of the candidates that are heavy
@@ -44,7 +43,7 @@ void makeCallsign(const GameState& game, Flight& flight, RandomGenerator& random
     const int second = drawDigitOtherThan(first, random);
     const int third = drawDigitOtherThan(second, random);
     flight.radioId = Random(random, radioIds);
-    const bool threeDigits = Random(random, percent) < threeDigitsBelow;
+    const bool threeDigits = RandomPercent(random) < threeDigitsBelow;
 
     flight.callsign = AIRLINES[static_cast<std::size_t>(row)].code;
     flight.callsignPhrase = VoiceAirlineCode(row);
@@ -54,8 +53,7 @@ void makeCallsign(const GameState& game, Flight& flight, RandomGenerator& random
         appendDigit(flight, third);
     }
     // Light aircraft are never heavy, and nothing is drawn for them.
-    flight.heavy =
-        row < firstLightAircraft && Random(random, percent) < heavyBelow && mayBeHeavy(game, flight);
+    flight.heavy = row < firstLightAircraft && RandomPercent(random) < heavyBelow && mayBeHeavy(game, flight);
     if (flight.heavy) {
         flight.callsign += 'H';
         VoiceAppend(flight.callsignPhrase, snippet::heavy);

@@ -9,7 +9,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr int percent = 100;
 constexpr int repeatAbove = 50;
 
 /// What is posted and said about an arrival, and the lamp that belongs to it.
@@ -62,7 +61,7 @@ void post(Simulation& simulation, TextId text, const Flight& flight, VorIndex pl
 }
 
 TextId drawComplaint(RandomGenerator& random) {
-    const int draw = Random(random, percent);
+    const int draw = RandomPercent(random);
     if (draw < 30) {
         return TextId::towerWaiting;
     }
@@ -118,7 +117,7 @@ void reportComplaint(Simulation& simulation, const Flight& flight) {
         return;
     }
     // The word is drawn only when the call is made.
-    if (Random(simulation.random, percent) > repeatAbove) {
+    if (RandomPercent(simulation.random) > repeatAbove) {
         callOnRadio(simulation.events, flight, {snippet::repeat, snippet::still});
     } else {
         callOnRadio(simulation.events, flight, {snippet::still});

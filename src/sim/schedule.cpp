@@ -13,11 +13,11 @@ namespace ventrel {
 
 namespace {
 
-constexpr int percent = 100;
 constexpr ClockSeconds firstFlightAt = 60;
 constexpr int freeOrdersPerPlane = 5;
 constexpr int cloudCoverBonus = 300;
 constexpr int directEntryBonus = -100;
+constexpr int voicesUpwardAbove = 50;
 constexpr int exitDrawLimit = 80;         // departures drawing more than this fly to another airport
 constexpr int mostDestinationDraws = 100; // until the destination differs from the origin
 constexpr int majorAirportFrom = 51;      // arrivals drawing this or more go to the first major airport
@@ -61,7 +61,7 @@ void setRoute(const GameState& game, Flight& flight, Traffic traffic, RandomGene
         flight.groundState = GroundState::waiting;
         flight.originKind = OriginKind::airport;
         flight.origin = pickVor(game, VorKind::departureAirport, random);
-        toAirport = Random(random, percent) > exitDrawLimit;
+        toAirport = RandomPercent(random) > exitDrawLimit;
     }
     flight.destinationKind = toAirport ? DestinationKind::airport : DestinationKind::exit;
     if (toAirport && traffic == Traffic::departure) {
@@ -143,7 +143,7 @@ ShiftSize shiftSizeFor(Skill skill, const Options& options) {
 
 void setUpShift(GameState& game, const ShiftSetup& setup, const Options& options, RandomGenerator& random) {
     const int voiceCursor = setup.voiceSetCount > 0 ? Random(random, setup.voiceSetCount) : 0;
-    const bool voicesUpward = Random(random, percent) > percent / 2;
+    const bool voicesUpward = RandomPercent(random) > voicesUpwardAbove;
     const ShiftSize size = shiftSizeFor(setup.skill, options);
     const bool isEasy = setup.skill == Skill::easy;
 
@@ -173,7 +173,7 @@ VorIndex pickVor(const GameState& game, VorKind kind, RandomGenerator& random) {
             candidates.push_back(i);
         }
     }
-    if (kind == VorKind::arrivalAirport && Random(random, percent) >= majorAirportFrom) {
+    if (kind == VorKind::arrivalAirport && RandomPercent(random) >= majorAirportFrom) {
         const auto major = std::find_if(candidates.begin(), candidates.end(),
                                         [&](VorIndex i) { return game.vor(i).isMajor; });
         if (major != candidates.end()) {

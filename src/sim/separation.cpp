@@ -10,11 +10,10 @@ namespace ventrel {
 
 namespace {
 
-constexpr int percent = 100;
 constexpr int deadAheadAbove = 50;
 
 void callMayday(Simulation& simulation, const Flight& flight) {
-    const bool deadAhead = Random(simulation.random, percent) > deadAheadAbove;
+    const bool deadAhead = RandomPercent(simulation.random) > deadAheadAbove;
     callOnRadio(simulation.events, flight,
                 {snippet::mayday, deadAhead ? snippet::deadAhead : snippet::airVector});
 }
