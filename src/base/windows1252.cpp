@@ -74,6 +74,12 @@ char32_t takeCharacter(std::string_view& text) {
     return c;
 }
 
+bool isControl(char32_t c) {
+    constexpr char32_t firstPrintable = 0x20;
+    constexpr char32_t deletion = 0x7F; // and the 32 after it, as far as they are no characters
+    return c < firstPrintable || (c >= deletion && c < pastSpecial);
+}
+
 } // namespace
 
 char32_t toUnicode(char windows1252) {
@@ -87,6 +93,13 @@ std::string toUtf8(std::string_view windows1252) {
         appendUtf8(utf8, toUnicode(c));
     }
     return utf8;
+}
+
+std::string toTerminal(std::string_view windows1252) {
+    std::string text(windows1252);
+    std::ranges::replace_if(
+        text, [](char c) { return c != '\n' && isControl(toUnicode(c)); }, '?');
+    return toUtf8(text);
 }
 
 std::string fromUtf8(std::string_view utf8, char missing) {

@@ -11,6 +11,10 @@ namespace ventrel {
 /// Every byte as its character; the five bytes that have none become the control characters of their numbers.
 std::string toUtf8(std::string_view windows1252);
 
+/// The same for a terminal: control characters, with which a hostile file could take it over, become "?".
+/// Line feeds stay.
+std::string toTerminal(std::string_view windows1252);
+
 /// Every character as its byte. One that has none, and a broken sequence, becomes `missing`; a `missing` of
 /// NUL leaves it out.
 std::string fromUtf8(std::string_view utf8, char missing = '?');

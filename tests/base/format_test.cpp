@@ -56,5 +56,9 @@ TEST(Windows1252, GoesToUtf8AndBack) {
     EXPECT_EQ(fromUtf8("\xE0\x81\x81"), "???"); // an "A" in disguise
 }
 
+TEST(Windows1252, NeverCommandsATerminal) {
+    EXPECT_EQ(toTerminal("a\x1B[2J\r\nb\x7F\x9D\xB0"), "a?[2J?\nb??°");
+}
+
 } // namespace
 } // namespace ventrel

@@ -99,6 +99,20 @@ TEST(AirspaceTool, WhatIsShownBuildsTheSameFileAgain) {
     EXPECT_FALSE(fs::exists(folder / "x.apt"));
 }
 
+TEST(AirspaceTool, ShowsPlacesBesideTheGridAndOddLettersToo) {
+    const TempFolder folder;
+    const std::string odd =
+        "\n[[point]]\nident = \"\\\\\\\"€\"\nname = \"Über\"\nexit = true\nlabel = \"left\"\n";
+    std::string source = "layout = 800\n" + readText(planted("sound"));
+    source += odd + "pixel = [539, 0]\n"; // the corner of a cell, but of none on the grid
+    writeText(folder / "odd.toml", source);
+    ASSERT_EQ(apt::build(folder / "odd.toml", folder / "first.apt", 800), apt::success);
+    writeText(folder / "shown.toml",
+              printedBy([&] { return apt::show(folder / "first.apt", {}); }, apt::success));
+    ASSERT_EQ(apt::build(folder / "shown.toml", folder / "again.apt", 800), apt::success);
+    EXPECT_EQ(readText(folder / "first.apt"), readText(folder / "again.apt"));
+}
+
 TEST(AirspaceTool, PictureTravelsWithTheFileAndMustFit) {
     const TempFolder folder;
     // The head of a JPEG: start of image, then a frame of the given height and width.

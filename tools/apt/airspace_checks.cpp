@@ -12,9 +12,10 @@ namespace ventrel::apt {
 
 namespace {
 
-constexpr int leastDistance = 3;       // cells between two points, as a king moves
-constexpr std::size_t mostPoints = 32; // that the order menu can offer
-constexpr int leastBrightness = 72;    // of 255, for a colour to be seen on black
+constexpr int leastDistance = 3;          // cells between two points, as a king moves
+constexpr std::size_t mostPoints = 32;    // that the order menu can offer
+constexpr std::size_t mostLookedAt = 256; // one by one and in pairs; a file with more is no use anyway
+constexpr int leastBrightness = 72;       // of 255, for a colour to be seen on black
 constexpr int leastColourDifference =
     96; // between the selected aircraft and the others, all channels together
 
@@ -35,7 +36,7 @@ public:
     std::vector<std::string> run() {
         checkHeader();
         checkPicture();
-        for (std::size_t i = 0; i < vors_.size(); ++i) {
+        for (std::size_t i = 0; i < lookedAt_; ++i) {
             checkNames(i);
             checkPlace(vors_[i]);
             checkRunway(vors_[i]);
@@ -51,7 +52,7 @@ public:
 private:
     void add(const std::string& problem) { problems_.push_back(problem); }
     void add(const Vor& vor, const std::string& problem) {
-        add("point '" + toUtf8(vor.ident) + "': " + problem);
+        add("point '" + toTerminal(vor.ident) + "': " + problem);
     }
 
     void checkHeader() {
@@ -172,7 +173,7 @@ private:
         const Cell q = cellOf(b);
         const int distance = std::max(std::abs(p.x - q.x), std::abs(p.y - q.y));
         if (distance < leastDistance) {
-            add(b, "it is only " + std::to_string(distance) + " cells from '" + toUtf8(a.ident) + "'");
+            add(b, "it is only " + std::to_string(distance) + " cells from '" + toTerminal(a.ident) + "'");
         }
     }
 
@@ -189,7 +190,7 @@ private:
     }
 
     void checkColours(const Vor& vor) {
-        const std::string of = " of '" + toUtf8(vor.ident) + '\'';
+        const std::string of = " of '" + toTerminal(vor.ident) + '\'';
         checkBrightness("label" + of, vor.labelColour);
         checkBrightness("symbol" + of, vor.symbolColour);
         if (vor.isAirport) {
@@ -254,20 +255,20 @@ private:
         if (meetsAny(label, coneBoxes(vor))) {
             add(vor, "its label lies in its own approach cone");
         }
-        for (std::size_t k = 0; k < vors_.size(); ++k) {
+        for (std::size_t k = 0; k < lookedAt_; ++k) {
             const Vor& other = vors_[k];
             if (k < index && label.intersects(labelBox(other))) {
-                add(vor, "its label collides with that of '" + toUtf8(other.ident) + '\'');
+                add(vor, "its label collides with that of '" + toTerminal(other.ident) + '\'');
             }
-            const auto boxes = drawnBoxes(other);
             if (k != index && meetsAny(label, drawnBoxes(other))) {
-                add(vor, "its label covers '" + toUtf8(other.ident) + '\'');
+                add(vor, "its label covers '" + toTerminal(other.ident) + '\'');
             }
         }
     }
 
     const AirportFile& airport_;
     const std::vector<Vor>& vors_;
+    const std::size_t lookedAt_ = std::min(vors_.size(), mostLookedAt);
     std::span<const std::byte> picture_;
     const RadarLayout& layout_;
     std::vector<std::string> problems_;

@@ -11,13 +11,25 @@ namespace ventrel::apt {
 
 namespace {
 
+/// A control character as TOML wants it; every other one as it stands.
+std::string escaped(char c) {
+    constexpr unsigned deletion = 0x7F;
+    const char32_t unicode = toUnicode(c);
+    if (unicode >= ' ' && unicode != deletion) {
+        return toUtf8({&c, 1});
+    }
+    std::array<char, 16> text{};
+    std::snprintf(text.data(), text.size(), "\\u%04x", static_cast<unsigned>(unicode));
+    return text.data();
+}
+
 std::string inQuotes(std::string_view windows1252) {
     std::string text = "\"";
-    for (const char c : toUtf8(windows1252)) {
+    for (const char c : windows1252) {
         if (c == '"' || c == '\\') {
             text += '\\';
         }
-        text += c;
+        text += escaped(c);
     }
     return text + '"';
 }
@@ -46,7 +58,8 @@ std::string labelName(const Vor& vor) {
 
 void writePlace(std::string& text, const RadarLayout& layout, Point pixel) {
     const Point cell{pixel.x / layout.cellSize, pixel.y / layout.cellSize};
-    const bool isCorner = radarPoint(layout, {cell.x, cell.y}) == pixel;
+    const bool isOnGrid = cell.x < gridSize && cell.y < gridSize;
+    const bool isCorner = isOnGrid && radarPoint(layout, {cell.x, cell.y}) == pixel;
     line(text, isCorner ? "cell" : "pixel", pairText(isCorner ? cell : pixel));
 }
 

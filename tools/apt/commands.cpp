@@ -75,7 +75,7 @@ struct OpenedAirport {
 OpenedAirport open(std::vector<std::byte> bytes, const fs::path& file) {
     std::string refusal;
     auto airport =
-        readAirportFile(bytes, file, [&](std::string_view text, MessageIcon) { refusal = toUtf8(text); });
+        readAirportFile(bytes, file, [&](std::string_view text, MessageIcon) { refusal = toTerminal(text); });
     if (!airport) {
         throw SourceFault{refusal};
     }

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "base/format.h"
+#include "base/windows1252.h"
 #include "sim/phrase.h"
 #include "sim/shift_texts.h"
 
@@ -37,7 +38,7 @@ std::string describeOrder(const GameState& game, const Flight& flight, const Pan
 void LogWriter::line(std::string_view kind, std::string_view text) {
     output_ << FormatMinutesSeconds(clock()) << "  " << kind;
     output_ << std::string(kindWidth - kind.size(), ' ');
-    output_.encoded(text);
+    output_ << toTerminal(text);
     output_.endLine();
 }
 

@@ -29,8 +29,8 @@ void setUp(GameState& game, const Arguments& arguments, RandomGenerator& random)
 }
 
 ExitStatus play(const Arguments& arguments) {
-    auto loaded =
-        openAirport(arguments.airport, [](std::string_view text, MessageIcon) { complain(toUtf8(text)); });
+    auto loaded = openAirport(arguments.airport,
+                              [](std::string_view text, MessageIcon) { complain(toTerminal(text)); });
     if (!loaded) {
         return scenarioRefused;
     }
