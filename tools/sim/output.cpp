@@ -33,21 +33,22 @@ Output& Output::operator<<(int number) {
     return *this;
 }
 
-Output& Output::encoded(std::string_view text) {
-    const bool isPlain = std::all_of(text.begin(), text.end(), [](char c) { return c >= 0; });
+void Output::appendEncoded(std::string_view text) {
+    constexpr unsigned char pastAscii = 0x80;
+    const bool isPlain =
+        std::ranges::all_of(text, [](char c) { return static_cast<unsigned char>(c) < pastAscii; });
     if (isPlain) {
         text_ += text;
     } else {
         text_ += toUtf8(text);
     }
-    return *this;
 }
 
 Output& Output::quoted(std::string_view text) {
     text_ += '"';
     while (!text.empty()) {
         const auto length = std::min(text.find_first_of("\"\\"), text.size());
-        encoded(text.substr(0, length));
+        appendEncoded(text.substr(0, length));
         text.remove_prefix(length);
         if (!text.empty()) {
             text_ += '\\';

@@ -16,9 +16,7 @@ public:
     Output& operator<<(std::string_view plain);
     Output& operator<<(char plain);
     Output& operator<<(int number);
-    /// Windows-1252 as UTF-8, otherwise as it stands.
-    Output& encoded(std::string_view text);
-    /// A JSON string: quotes around it, double quote and backslash escaped.
+    /// Windows-1252 as a JSON string: quotes around it, double quote and backslash escaped.
     Output& quoted(std::string_view text);
 
     /// Marks the end of a line; writes the text out now and then.
@@ -30,6 +28,7 @@ public:
     const std::string& text() const { return text_; }
 
 private:
+    void appendEncoded(std::string_view text);
     void writeOut();
 
     std::FILE* file_;
