@@ -1,6 +1,8 @@
 #include "tools/art/cloud_art.h"
 
+#include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 #include "base/random.h"
@@ -10,62 +12,75 @@ namespace ventrel::art {
 
 namespace {
 
-/// The seed scatters the puffs and chooses the noise that frays their edges.
+/// The seed scatters the puffs and chooses the noise that makes their billows.
 struct Cloud {
     Size size;
     int puffs = 0;
     unsigned seed = 0;
+    double slant = 0; ///< how far the bank of puffs leans, as a part of the height: -0.3 to 0.3
 };
 
 constexpr std::array<Cloud, cloudCount> clouds{{
-    {{96, 64}, 6, 3},
-    {{60, 40}, 4, 8},
-    {{140, 84}, 8, 15},
-    {{120, 96}, 8, 27},
-    {{180, 120}, 11, 4},
-    {{72, 56}, 5, 62},
-    {{160, 72}, 9, 19},
-    {{110, 76}, 7, 71},
-    {{84, 48}, 5, 33},
-    {{172, 104}, 10, 56},
-    {{128, 64}, 8, 90},
-    {{66, 44}, 4, 41},
-    {{150, 110}, 9, 12},
-    {{104, 88}, 7, 77},
-    {{176, 88}, 10, 38},
-    {{90, 60}, 6, 99},
+    {{96, 64}, 7, 3, 0.1},
+    {{60, 40}, 5, 8, -0.1},
+    {{140, 84}, 10, 15, 0.2},
+    {{120, 96}, 9, 27, -0.25},
+    {{180, 120}, 14, 4, 0.05},
+    {{72, 56}, 6, 62, 0.15},
+    {{160, 72}, 12, 19, -0.15},
+    {{110, 76}, 8, 71, 0.25},
+    {{84, 48}, 7, 33, -0.2},
+    {{172, 104}, 12, 56, 0.3},
+    {{128, 64}, 9, 90, -0.05},
+    {{66, 44}, 5, 41, 0.2},
+    {{150, 110}, 11, 12, -0.3},
+    {{104, 88}, 8, 77, 0},
+    {{176, 88}, 13, 38, -0.2},
+    {{90, 60}, 7, 99, 0},
 }};
-
-/// The rim that the puffs keep clear, as a part of each side, so that no edge is cut straight.
-constexpr double margin = 0.16;
 
 double drawn(RandomGenerator& random, double from, double to) {
     constexpr int steps = 1000;
     return from + (to - from) * Random(random, steps) / (steps - 1);
 }
 
+/// Shape, billows, light: the blurred shape times cloudy noise is the cloud's thickness. Thin parts are dark
+/// and let the hard edge sink into the map below; what is thinner still is clear.
 std::string softness(const Cloud& cloud) {
-    const double blur = cloud.size.height * 0.075;
-    const double fray = cloud.size.height * 0.32;
-    const double grain = 3.4 / cloud.size.height;
+    const double height = cloud.size.height;
     const std::string area = "x=\"0\" y=\"0\" width=\"" + std::to_string(cloud.size.width) + "\" height=\"" +
                              std::to_string(cloud.size.height) + '"';
     return "<filter id=\"cloud\" filterUnits=\"userSpaceOnUse\" " + area +
            " color-interpolation-filters=\"sRGB\">\n"
            "<feGaussianBlur in=\"SourceAlpha\" stdDeviation=\"" +
-           number(blur) +
-           "\" result=\"blurred\"/>\n"
+           number(height * 0.055 + 1.5) +
+           "\" result=\"mass\"/>\n"
            "<feTurbulence type=\"fractalNoise\" baseFrequency=\"" +
-           number(grain) + "\" numOctaves=\"4\" seed=\"" + std::to_string(cloud.seed) +
+           number(1 / (height * 0.16 + 7)) + "\" numOctaves=\"4\" seed=\"" + std::to_string(cloud.seed) +
            "\" result=\"noise\"/>\n"
-           "<feDisplacementMap in=\"blurred\" in2=\"noise\" scale=\"" +
-           number(fray) +
-           "\" xChannelSelector=\"R\" yChannelSelector=\"G\" result=\"frayed\"/>\n"
-           "<feDiffuseLighting in=\"frayed\" surfaceScale=\"" +
-           number(cloud.size.height * 0.13) +
-           "\" diffuseConstant=\"1.12\" lighting-color=\"#eef1f6\" result=\"lit\">"
-           "<feDistantLight azimuth=\"235\" elevation=\"54\"/></feDiffuseLighting>\n"
-           "<feComposite in=\"lit\" in2=\"frayed\" operator=\"in\"/></filter>\n";
+           "<feDisplacementMap in=\"mass\" in2=\"noise\" scale=\"" +
+           number(6 + height * 0.12) +
+           "\" xChannelSelector=\"R\" yChannelSelector=\"G\" result=\"torn\"/>\n"
+           "<feColorMatrix in=\"noise\" values=\"0 0 0 0 0  0 0 0 0 0  0 0 0 0 0  1.5 1 0 0 -.74\" "
+           "result=\"billows\"/>\n"
+           "<feComposite in=\"torn\" in2=\"billows\" operator=\"arithmetic\" k1=\".95\" k2=\".40\" k3=\"0\" "
+           "k4=\"0\" result=\"thickness\"/>\n"
+           "<feGaussianBlur in=\"thickness\" stdDeviation=\"2.3\" result=\"smooth\"/>\n"
+           "<feDiffuseLighting in=\"smooth\" surfaceScale=\"" +
+           number(4 + height * 0.03) +
+           "\" diffuseConstant=\"1.24\" lighting-color=\"#fffdf6\" result=\"lit\">"
+           "<feDistantLight azimuth=\"225\" elevation=\"52\"/></feDiffuseLighting>\n"
+           "<feColorMatrix in=\"thickness\" values=\"0 0 0 1 0  0 0 0 1 0  0 0 0 1 0  0 0 0 0 1\"/>\n"
+           "<feComponentTransfer result=\"shade\">"
+           "<feFuncR type=\"table\" tableValues=\".12 .24 .40 .60 .78 .93\"/>"
+           "<feFuncG type=\"table\" tableValues=\".15 .28 .44 .64 .81 .94\"/>"
+           "<feFuncB type=\"table\" tableValues=\".19 .33 .50 .70 .85 .96\"/></feComponentTransfer>\n"
+           "<feComposite in=\"lit\" in2=\"shade\" operator=\"arithmetic\" k1=\".62\" k2=\"0\" k3=\".42\" "
+           "k4=\"0\" "
+           "result=\"shaded\"/>\n"
+           "<feComponentTransfer in=\"thickness\" result=\"cut\">"
+           "<feFuncA type=\"linear\" slope=\"14\" intercept=\"-2.6\"/></feComponentTransfer>\n"
+           "<feComposite in=\"shaded\" in2=\"cut\" operator=\"in\"/></filter>\n";
 }
 
 } // namespace
@@ -78,11 +93,15 @@ std::string drawCloud(int index) {
     Svg svg(cloud.size);
     svg.define(softness(cloud));
     svg.open("filter=\"url(#cloud)\"");
-    svg.ellipse({width * margin, height * 0.42, width * (1 - 2 * margin), height * 0.32}, "fill=\"#000\"");
     for (int i = 0; i < cloud.puffs; ++i) {
-        const double radius = height * drawn(random, 0.12, 0.2);
-        const double x = drawn(random, width * margin + radius / 2, width * (1 - margin) - radius / 2);
-        const double y = drawn(random, height * (margin + 0.12), height * (1 - margin - 0.12));
+        // Along the bank from end to end, thickest in its middle.
+        const double along = (i + drawn(random, 0.2, 0.8)) / cloud.puffs;
+        const double girth = 1 - std::abs(2 * along - 1);
+        const double radius = height * (0.13 + 0.15 * girth * drawn(random, 0.6, 1.0));
+        const double reach = 0.5 - 0.09 - radius / height;
+        const double x = width * 0.07 + radius + (width * 0.86 - 2 * radius) * along;
+        const double bend = cloud.slant * (2 * along - 1) + drawn(random, -0.14, 0.14);
+        const double y = height * (0.5 + std::clamp(bend, -reach, reach));
         svg.circle({x, y}, radius, "fill=\"#000\"");
     }
     svg.close();

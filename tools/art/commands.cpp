@@ -8,6 +8,7 @@
 #include "platform/canvas/canvas.h"
 #include "platform/canvas/image.h"
 #include "platform/canvas/png_writer.h"
+#include "tools/art/about_art.h"
 #include "tools/art/cloud_art.h"
 #include "tools/art/console_art.h"
 #include "tools/art/small_art.h"
@@ -24,6 +25,7 @@ constexpr int halfCovered = 128;
 constexpr int fullyCovered = 255;
 
 constexpr std::string_view cloudName = "cloud";
+constexpr std::string_view aboutName = "about";
 
 struct SmallDrawing {
     std::string_view name;
@@ -100,6 +102,7 @@ std::vector<std::string> drawingNames() {
     for (int i = 0; i < cloudCount; ++i) {
         names.push_back(std::string(cloudName) + std::to_string(i));
     }
+    names.emplace_back(aboutName);
     for (const SmallDrawing& small : smallDrawings) {
         names.emplace_back(small.name);
     }
@@ -111,6 +114,9 @@ std::string drawing(std::string_view name, std::string_view materials) {
         if (name == console.name) {
             return drawConsole(console.layout, materials);
         }
+    }
+    if (name == aboutName) {
+        return drawAbout(materials);
     }
     for (int i = 0; i < cloudCount; ++i) {
         if (name == std::string(cloudName) + std::to_string(i)) {

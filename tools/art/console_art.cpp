@@ -1,41 +1,20 @@
 #include "tools/art/console_art.h"
 
-#include <cmath>
-#include <numbers>
+#include <string>
 
-#include "base/format.h"
 #include "tools/art/console_parts.h"
 #include "tools/art/control_art.h"
+#include "tools/art/scope_art.h"
 
 namespace ventrel::art {
 
 namespace {
 
 constexpr double topBarBottom = 49;
-constexpr double labelMargin = 7; // a number nearer to an edge is left out
-
-void drawSheet(Svg& svg, const ConsoleLayout& layout) {
-    const Box whole(0, 0, layout.size.width, layout.size.height);
-    svg.rect(whole, 0, "fill=\"url(#base)\"");
-    svg.rect(whole, 0, "filter=\"url(#brush)\"");
-    svg.rect(whole, 0, "filter=\"url(#brushDark)\"");
-    const std::string right = number(whole.width - 1.5);
-    const std::string bottom = number(whole.height - 1.5);
-    svg.path("M1.5," + bottom + " V1.5 H" + right,
-             "fill=\"none\" stroke=\"#c9d3d6\" stroke-width=\"3\" opacity=\".55\"");
-    svg.path("M1.5," + bottom + " H" + right + " V1.5",
-             "fill=\"none\" stroke=\"#0a0d0e\" stroke-width=\"3\" opacity=\".7\"");
-}
-
-/// Light falls from the top left over the metal, under glass and wells.
-void drawLight(Svg& svg, const ConsoleLayout& layout) {
-    svg.define("<radialGradient id=\"light\" gradientUnits=\"userSpaceOnUse\" cx=\"" +
-               number(layout.size.width * 0.235) + "\" cy=\"-60\" r=\"" + number(layout.size.width * 1.12) +
-               "\"><stop offset=\"0\" stop-color=\"#fff6e2\" stop-opacity=\".20\"/><stop offset=\".45\" "
-               "stop-color=\"#fff6e2\" stop-opacity=\".03\"/><stop offset=\"1\" stop-color=\"#000\" "
-               "stop-opacity=\".30\"/></radialGradient>\n");
-    svg.rect({0, 0, double(layout.size.width), double(layout.size.height)}, 0, "fill=\"url(#light)\"");
-}
+constexpr double topBarLabels = 14; // what the labels over its wells stand on
+/// A number of a bearing that would come nearer to the top bar or an edge is left out.
+constexpr double underTopBar = 14;
+constexpr double numberMargin = 9;
 
 void drawSystemSquare(Svg& svg, const ConsoleLayout& layout) {
     svg.rect({0, 0, double(layout.size.width), double(dragStripHeight)}, 0, "fill=\"#22292d\"");
@@ -51,81 +30,52 @@ void drawSystemSquare(Svg& svg, const ConsoleLayout& layout) {
 }
 
 void drawTopBar(Svg& svg, const ConsoleLayout& layout) {
-    drawWell(svg, Box(menuButtons).grownBy(1.5), "#1b2124");
-    drawEngraved(svg, {119, 15.6}, "COMMAND", 7.5, 2.2);
+    for (const Rect& button : menuButtons) {
+        drawWell(svg, Box(button), "#14191b");
+    }
+    drawEngraved(svg, {Box(menuButtons[1]).middle().x, topBarLabels}, "COMMAND", 2.2);
     drawRoundWell(svg, Box(smallScopeFace));
-    drawWell(svg, Box(clockWindow));
-    drawEngraved(svg, {286.5, 16.2}, "UTC", 7.5, 1.5);
+    drawWell(svg, Box(clockWindow), "#000");
+    drawEngraved(svg, {Box(clockWindow).middle().x, topBarLabels}, "SHIFT TIME", 0.6);
     svg.rect({317, 14, 90, 32}, 16, "fill=\"url(#lip)\"");
-    svg.rect({318.2, 15.2, 87.6, 29.6}, 14.8, "fill=\"#171c1f\"");
+    svg.rect({318, 15, 88, 30}, 15, "fill=\"#171c1f\"");
     for (const Point corner : lampCorners) {
         svg.ellipse({corner.x + 0.2, corner.y + 0.2, lampSize - 0.4, lampSize - 0.4}, "fill=\"url(#rim)\"");
         svg.ellipse({corner.x + 2.0, corner.y + 2.0, lampSize - 4.0, lampSize - 4.0}, "fill=\"#0d1012\"");
     }
     drawWell(svg, Box(layout.messageStrip), "#000");
-    drawEngraved(svg, {Box(layout.messageStrip).middle().x, 15.2}, "MESSAGES", 7.5, 2.2);
-    svg.use("screwHead", {19, 29}, 20);
-    svg.use("screwHead", {425, 29}, 60);
+    drawEngraved(svg, {Box(layout.messageStrip).middle().x, topBarLabels}, "MESSAGES", 2.2);
+    svg.use("screwHead", {18.5, 28.5}, 20);
+    svg.use("screwHead", {424, 28.5}, 60);
 }
 
-Spot onRim(const Box& scope, double outward, double degrees) {
-    const double angle = degrees * std::numbers::pi / 180;
-    const Spot middle = scope.middle();
-    return {middle.x + (scope.width / 2 + outward) * std::sin(angle),
-            middle.y - (scope.height / 2 + outward) * std::cos(angle)};
-}
-
-void drawBearingMarks(Svg& svg, const Box& scope) {
-    for (int degrees = 0; degrees < 360; degrees += 2) {
-        const bool isTen = degrees % 10 == 0;
-        const bool isThirty = degrees % 30 == 0;
-        svg.line(onRim(scope, 3.6, degrees), onRim(scope, isTen ? 8.2 : 6.2, degrees),
-                 isThirty ? "stroke=\"#ffb066\" stroke-width=\"1.5\""
-                 : isTen  ? "stroke=\"#e6e1ce\" stroke-width=\"1.1\""
-                          : "stroke=\"#d9d5c4\" stroke-width=\".8\" opacity=\".7\"");
-    }
-}
-
-void drawBearingNumbers(Svg& svg, const ConsoleLayout& layout, const Box& scope) {
-    constexpr double distance = 20;
-    for (int degrees = layout.labelStep; degrees < 360; degrees += layout.labelStep) {
-        const Spot place = onRim(scope, distance, degrees);
-        const bool isInside = place.y > topBarBottom + labelMargin + 8 &&
-                              place.y < layout.size.height - labelMargin && place.x > labelMargin + 2;
-        if (!isInside) {
-            continue;
-        }
-        const std::string words = FormatText("%03d", {long{degrees}});
-        const bool isThirty = degrees % 30 == 0;
-        drawPrinted(svg, {place.x, place.y + 3}, words, isThirty ? 9 : 8, 0.2, isThirty ? amber : "#d5d1c0");
-    }
+/// The scope's numbers keep clear of the top bar, the edges and the modules.
+Box sheetAroundScope(const ConsoleLayout& layout) {
+    const double top = topBarBottom + underTopBar;
+    return {numberMargin, top, layout.stripModule.left - 2 * numberMargin,
+            layout.size.height - numberMargin - top};
 }
 
 void drawScope(Svg& svg, const ConsoleLayout& layout) {
     const Box scope(layout.scope);
-    const Box shadow(scope.x + 3, scope.y + 4, scope.width, scope.height);
-    svg.ellipse(shadow.grownBy(13),
-                "fill=\"none\" stroke=\"#000\" stroke-width=\"8\" opacity=\".55\" filter=\"url(#soft)\"");
-    svg.ellipse(scope.grownBy(10.5), "fill=\"url(#ringOut)\"");
-    svg.ellipse(scope.grownBy(8.6), "fill=\"url(#ringFace)\"");
-    svg.ellipse(scope.grownBy(2.6), "fill=\"url(#ringIn)\"");
-    svg.ellipse(scope, "fill=\"url(#glass)\"");
-    drawBearingMarks(svg, scope);
-    drawBearingNumbers(svg, layout, scope);
+    drawScopeBezel(svg, scope);
+    drawScopeTube(svg, scope);
+    drawScopeReflections(svg, scope);
+    drawBearingNumbers(svg, scope, sheetAroundScope(layout));
 }
 
 void drawStrips(Svg& svg, const ConsoleLayout& layout) {
     const double left = layout.size.width - stripButtonFromRight;
     drawWell(svg, Box(layout.stripPanel));
-    drawEngraved(svg, {Box(layout.stripPanel).middle().x, 65.2}, "FLIGHT PROGRESS", 8, 1.6);
-    drawEngraved(svg, {left + stripButton.width / 2.0, 65.6}, "SEL", 7.5, 1);
+    drawEngraved(svg, {Box(layout.stripPanel).middle().x, 65}, "FLIGHT PROGRESS", 1.6);
+    drawEngraved(svg, {left + stripButton.width / 2.0, 65}, "SEL", 1);
     for (int i = 0; i < layout.strips; ++i) {
         const Box button(left, stripButtonTop + stripPitch * i, stripButton.width, stripButton.height);
-        drawWell(svg, button, "#1b2124");
+        drawWell(svg, button, "#14191b");
         const double y = button.middle().y;
-        svg.line({button.right() + 3.4, y}, {Box(layout.stripPanel).x - 3.2, y},
-                 "stroke=\"#ffb066\" stroke-width=\"1.1\" opacity=\".75\"");
-        drawPrinted(svg, {left - 7.4, y + 2.7}, std::to_string(i + 1), 7.4, 0, ivory);
+        svg.line({button.right() + 4, y + 0.5}, {Box(layout.stripPanel).x - 4, y + 0.5},
+                 "stroke=\"#ffb066\" opacity=\".8\"");
+        drawNumber(svg, {left - 10, y}, std::to_string(i + 1), ivory);
     }
     const Box up(layout.size.width - scrollFromRight, scrollUpTop, scrollArrow.width, scrollArrow.height);
     drawArrowKey(svg, up, true);
@@ -133,11 +83,14 @@ void drawStrips(Svg& svg, const ConsoleLayout& layout) {
 }
 
 void drawControlModule(Svg& svg, const ConsoleLayout& layout) {
+    constexpr double inset = 7.5;
     drawControls(svg, layout.controlPanel);
-    drawWell(svg, Box(layout.execButton).grownBy(1), "#1b2124");
-    const Box module(layout.controlModule);
-    svg.use("smallScrew", {module.right() - 7.5, module.y + 8}, 30);
-    svg.use("smallScrew", {module.right() - 7.5, module.bottom() - 8}, -20);
+    drawWell(svg, Box(layout.execButton), "#14191b");
+    const Box screws = Box(layout.controlModule).grownBy(-inset);
+    svg.use("smallScrew", {screws.x, screws.y}, 70);
+    svg.use("smallScrew", {screws.right(), screws.y}, 30);
+    svg.use("smallScrew", {screws.x, screws.bottom()}, 10);
+    svg.use("smallScrew", {screws.right(), screws.bottom()}, -20);
 }
 
 } // namespace
@@ -145,12 +98,12 @@ void drawControlModule(Svg& svg, const ConsoleLayout& layout) {
 std::string drawConsole(const ConsoleLayout& layout, std::string_view materials) {
     Svg svg(layout.size);
     svg.define(materials);
-    drawSheet(svg, layout);
+    drawSheet(svg, layout.size);
     drawSystemSquare(svg, layout);
     drawModule(svg, {8, 7, layout.size.width - 16.0, 42}, "url(#bar)");
     drawModule(svg, Box(layout.stripModule), "url(#module)");
     drawModule(svg, Box(layout.controlModule), "url(#module)");
-    drawLight(svg, layout);
+    drawLight(svg, layout.size);
     for (const Vent& vent : layout.vents) {
         drawVent(svg, vent);
     }

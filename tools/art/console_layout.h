@@ -53,11 +53,10 @@ struct ConsoleLayout {
     std::span<const Vent> vents;
     std::span<const Plate> plates;
     std::span<const Box> handles;
-    int labelStep = 0; ///< degrees between the numbers around the scope
 };
 
 // The same at both sizes.
-inline constexpr Rect menuButtons{31, 20, 207, 39};
+inline constexpr std::array<Rect, 3> menuButtons{{{31, 20, 83, 39}, {93, 20, 145, 39}, {155, 20, 207, 39}}};
 inline constexpr Rect smallScopeFace{219, 18, 243, 42};
 inline constexpr Rect clockWindow{261, 21, 312, 36};
 inline constexpr std::array<Point, 3> lampCorners{{{320, 16}, {348, 16}, {376, 16}}};
@@ -74,25 +73,27 @@ inline constexpr int scrollFromRight = 172;
 inline constexpr Size scrollArrow{11, 9};
 inline constexpr int scrollUpTop = 69;
 
+// The fittings around the scope stand on two axes, left and right of it, and mirror each other about its
+// middle as far as the modules leave room.
 inline constexpr std::array<Knob, 4> largeKnobs{{
-    {{{104, 104}, -38}, "BRILLIANCE"},
-    {{{722, 104}, 35}, "FOCUS"},
-    {{{104, 710}, 5}, "VIDEO GAIN"},
-    {{{722, 710}, -70}, "RANGE RINGS"},
+    {{{104, 106}, -38}, "BRILLIANCE"},
+    {{{722, 106}, 35}, "FOCUS"},
+    {{{104, 700}, 5}, "VIDEO GAIN"},
+    {{{722, 700}, -70}, "RANGE RINGS"},
 }};
 inline constexpr std::array<Turned, 4> largeScrews{
-    {{{64, 66}, 15}, {{762, 66}, 70}, {{64, 752}, -30}, {{762, 752}, 40}}};
+    {{{26, 64}, 15}, {{794, 64}, 70}, {{26, 753}, -30}, {{794, 753}, 40}}};
 inline constexpr std::array<Vent, 4> largeVents{{
-    {{11, 86, 30, 80}, 9},
-    {{11, 664, 30, 80}, 9},
-    {{786, 140, 24, 107}, 12},
-    {{786, 588, 20, 107}, 12},
+    {{11, 92, 30, 80}, 9},
+    {{11, 654, 30, 80}, 9},
+    {{783, 92, 22, 134}, 15},
+    {{783, 600, 22, 134}, 15},
 }};
 inline constexpr std::array<Plate, 2> largePlates{{
-    {{792, 264, 18, 112}, "VENTREL  MK IV", 1.4},
-    {{792, 452, 18, 118}, "APPROACH CONTROL", 1.1},
+    {{785, 252, 18, 122}, "VENTREL  MK IV", 1.4},
+    {{785, 452, 18, 122}, "APPROACH CONTROL", 1.0},
 }};
-inline constexpr std::array<Box, 2> largeHandles{{{17, 236, 18, 150}, {17, 440, 18, 150}}};
+inline constexpr std::array<Box, 2> largeHandles{{{17, 222, 18, 150}, {17, 454, 18, 150}}};
 
 inline constexpr ConsoleLayout largeConsole{
     .size = {1024, 768},
@@ -100,7 +101,7 @@ inline constexpr ConsoleLayout largeConsole{
     .scope = {70, 70, 756, 756},
     .strips = 14,
     .stripPanel = {869, 71, 1008, 612},
-    .stripModule = {820, 54, 1016, 622},
+    .stripModule = {812, 56, 1016, 622},
     .messageStrip = {443, 19, 1005, 39},
     .controlModule = {812, 629, 1016, 762},
     .controlPanel = {824, 640},
@@ -111,18 +112,21 @@ inline constexpr ConsoleLayout largeConsole{
     .vents = largeVents,
     .plates = largePlates,
     .handles = largeHandles,
-    .labelStep = 10,
 };
 
 inline constexpr std::array<Knob, 4> smallKnobs{{
-    {{{48, 98}, -38}, "BRILLIANCE"},
-    {{{541, 98}, 35}, "FOCUS"},
-    {{{48, 549}, 5}, "VIDEO GAIN"},
-    {{{541, 549}, -70}, "RANGE RINGS"},
+    {{{56, 102}, -38}, "BRILLIANCE"},
+    {{{538, 102}, 35}, "FOCUS"},
+    {{{56, 534}, 5}, "VIDEO GAIN"},
+    {{{538, 534}, -70}, "RANGE RINGS"},
 }};
-inline constexpr std::array<Turned, 2> smallScrews{{{{14, 62}, 15}, {{14, 588}, -30}}};
-inline constexpr std::array<Vent, 2> smallVents{{{{567, 156, 21, 80}, 9}, {{565, 448, 18, 53}, 6}}};
-inline constexpr std::array<Plate, 1> smallPlates{{{{573, 57, 15, 84}, "VENTREL  MK IV", 0.9}}};
+inline constexpr std::array<Turned, 4> smallScrews{
+    {{{18, 64}, 15}, {{574, 64}, 70}, {{18, 588}, -30}, {{574, 588}, 40}}};
+inline constexpr std::array<Vent, 2> smallVents{{{{9, 158, 18, 71}, 8}, {{9, 428, 18, 71}, 8}}};
+inline constexpr std::array<Plate, 2> smallPlates{{
+    {{566, 150, 16, 84}, "VENTREL  MK IV", 0.9},
+    {{566, 408, 16, 98}, "APPROACH CONTROL", 0.4},
+}};
 
 inline constexpr ConsoleLayout smallConsole{
     .size = {800, 600},
@@ -130,7 +134,7 @@ inline constexpr ConsoleLayout smallConsole{
     .scope = {43, 76, 551, 581},
     .strips = 10,
     .stripPanel = {645, 71, 784, 442},
-    .stripModule = {596, 54, 792, 454},
+    .stripModule = {588, 56, 792, 454},
     .messageStrip = {443, 19, 783, 39},
     .controlModule = {588, 461, 792, 594},
     .controlPanel = {600, 472},
@@ -141,7 +145,6 @@ inline constexpr ConsoleLayout smallConsole{
     .vents = smallVents,
     .plates = smallPlates,
     .handles = {},
-    .labelStep = 30,
 };
 
 } // namespace ventrel::art

@@ -23,6 +23,28 @@ std::string moved(Spot from, Spot to) {
 
 } // namespace
 
+void drawSheet(Svg& svg, Size size) {
+    const Box whole(0, 0, size.width, size.height);
+    svg.rect(whole, 0, "fill=\"url(#base)\"");
+    svg.rect(whole, 0, "filter=\"url(#brush)\"");
+    svg.rect(whole, 0, "filter=\"url(#brushDark)\"");
+    const std::string right = number(whole.width - 1);
+    const std::string bottom = number(whole.height - 1);
+    svg.path("M1," + bottom + " V1 H" + right,
+             "fill=\"none\" stroke=\"#c9d3d6\" stroke-width=\"2\" opacity=\".45\"");
+    svg.path("M1," + bottom + " H" + right + " V1",
+             "fill=\"none\" stroke=\"#0a0d0e\" stroke-width=\"2\" opacity=\".7\"");
+}
+
+void drawLight(Svg& svg, Size size) {
+    svg.define("<radialGradient id=\"light\" gradientUnits=\"userSpaceOnUse\" cx=\"" +
+               number(size.width * 0.235) + "\" cy=\"-60\" r=\"" + number(size.width * 1.12) +
+               "\"><stop offset=\"0\" stop-color=\"#fff6e2\" stop-opacity=\".20\"/><stop offset=\".45\" "
+               "stop-color=\"#fff6e2\" stop-opacity=\".03\"/><stop offset=\"1\" stop-color=\"#000\" "
+               "stop-opacity=\".30\"/></radialGradient>\n");
+    svg.rect({0, 0, double(size.width), double(size.height)}, 0, "fill=\"url(#light)\"");
+}
+
 void drawModule(Svg& svg, const Box& area, std::string_view paint) {
     constexpr double corner = 5;
     svg.open("filter=\"url(#shadow)\"");
@@ -31,17 +53,17 @@ void drawModule(Svg& svg, const Box& area, std::string_view paint) {
     svg.open("opacity=\".20\" style=\"mix-blend-mode:overlay\"");
     svg.rect(area.grownBy(-2), corner, "filter=\"url(#grain)\"");
     svg.close();
-    svg.rect(area.grownBy(-0.5), corner, "fill=\"none\" stroke=\"url(#rim)\" stroke-width=\"1.4\"");
-    svg.rect(area.grownBy(-2), corner - 2,
-             "fill=\"none\" stroke=\"#fff\" stroke-width=\".7\" opacity=\".16\"");
+    svg.rect(area.grownBy(-0.5), corner, "fill=\"none\" stroke=\"url(#rim)\"");
+    svg.rect(area.grownBy(-1.5), corner - 1, "fill=\"none\" stroke=\"#fff\" opacity=\".10\"");
 }
 
-void drawWell(Svg& svg, const Box& area, std::string_view floor) {
-    svg.rect(area.grownBy(2.2), 3, "fill=\"url(#lip)\"");
-    svg.rect(area.grownBy(0.8), 1.6, "fill=\"" + std::string(floor) + '"');
-    const std::string corner = 'M' + number(area.x - 0.4) + ',' + number(area.bottom()) + " V" +
-                               number(area.y - 0.4) + " H" + number(area.right());
-    svg.path(corner, "fill=\"none\" stroke=\"#000\" stroke-width=\"1\" opacity=\".8\"");
+void drawWell(Svg& svg, const Box& area, std::string_view floor, double lip) {
+    svg.rect(area.grownBy(lip), lip, "fill=\"url(#lip)\"");
+    svg.rect(area.grownBy(lip / 2), lip / 2, "fill=\"#07090a\"");
+    svg.rect(area, 0, "fill=\"" + std::string(floor) + '"');
+    const std::string corner = 'M' + number(area.x + 0.5) + ',' + number(area.bottom()) + " V" +
+                               number(area.y + 0.5) + " H" + number(area.right());
+    svg.path(corner, "fill=\"none\" stroke=\"#000\" opacity=\".6\"");
 }
 
 void drawRoundWell(Svg& svg, const Box& face) {
@@ -69,7 +91,7 @@ void drawKnob(Svg& svg, const Knob& knob) {
     svg.circle(at, 18.6, "fill=\"none\" stroke=\"#8f9a9f\" stroke-width=\".6\" opacity=\".55\"");
     svg.path(moved(around(at, 8, knob.place.degrees), around(at, 18, knob.place.degrees)),
              "stroke=\"#ffb066\" stroke-width=\"2.4\" stroke-linecap=\"round\"");
-    drawPrinted(svg, {at.x, at.y + 43}, knob.label, 7.5, 0.9, ivory);
+    drawPrinted(svg, {at.x, at.y + 43}, knob.label, fivePixelCapitals, 0.9, ivory);
 }
 
 void drawVent(Svg& svg, const Vent& vent) {
@@ -89,9 +111,9 @@ void drawPlate(Svg& svg, const Plate& plate) {
     svg.close();
     svg.rect(plate.area.grownBy(-0.5), 2, "fill=\"none\" stroke=\"url(#rim)\"");
     const Spot middle = plate.area.middle();
-    const Spot base{middle.x + 3, middle.y};
+    const Spot base{std::round(middle.x + 3), std::round(middle.y)};
     svg.open("transform=\"rotate(-90 " + number(base.x) + ' ' + number(base.y) + ")\"");
-    drawPrinted(svg, base, plate.words, 8.5, plate.spacing, amber);
+    drawPrinted(svg, base, plate.words, sixPixelCapitals, plate.spacing, amber);
     svg.close();
 }
 
@@ -104,27 +126,41 @@ void drawHandle(Svg& svg, const Box& area) {
     svg.close();
 }
 
-void drawArrowKey(Svg& svg, const Box& area, bool up) {
-    svg.rect(area.grownBy(0.8), 1.5, "fill=\"#0c0f11\"");
+void drawKey(Svg& svg, const Box& area) {
+    svg.rect(area.grownBy(1), 1.5, "fill=\"#0c0f11\"");
     svg.rect(area, 1, "fill=\"url(#key)\"");
-    svg.rect(area.grownBy(-0.5), 1, "fill=\"none\" stroke=\"url(#rim)\" stroke-width=\"1\"");
+    svg.rect(area.grownBy(-0.5), 0.5, "fill=\"none\" stroke=\"url(#rim)\"");
+}
+
+void drawArrowKey(Svg& svg, const Box& area, bool up) {
+    constexpr double half = 2;
+    drawKey(svg, area);
     const Spot middle = area.middle();
-    const double half = 2.2;
     const double tip = up ? -half : half;
     svg.path('M' + number(middle.x - 3) + ',' + number(middle.y - tip) + " h6 L" + number(middle.x) + ',' +
                  number(middle.y + tip) + " z",
              "fill=\"#ffb066\" stroke=\"#2a1a08\" stroke-width=\".5\"");
 }
 
-void drawEngraved(Svg& svg, Spot middle, std::string_view words, double size, double spacing) {
-    svg.text({middle.x, middle.y + 0.9}, words, size, spacing, "fill=\"#d5dfe2\" opacity=\".6\"");
-    svg.text(middle, words, size, spacing, "fill=\"#0d1214\"");
+void drawEngraved(Svg& svg, Spot middle, std::string_view words, double spacing) {
+    svg.text({middle.x, middle.y + 1}, words, fivePixelCapitals, spacing, "fill=\"#d5dfe2\" opacity=\".45\"");
+    svg.text(middle, words, fivePixelCapitals, spacing, "fill=\"#0b1012\"");
 }
 
 void drawPrinted(Svg& svg, Spot middle, std::string_view words, double size, double spacing,
                  std::string_view colour) {
-    svg.text({middle.x, middle.y - 0.8}, words, size, spacing, "fill=\"#0c0f10\" opacity=\".75\"");
+    svg.text({middle.x, middle.y - 1}, words, size, spacing, "fill=\"#0c0f10\" opacity=\".55\"");
     svg.text(middle, words, size, spacing, "fill=\"" + std::string(colour) + '"');
+}
+
+void drawNumber(Svg& svg, Spot middle, std::string_view figures, std::string_view colour) {
+    constexpr double size = sixPixelCapitals;
+    constexpr double toFourPixels = 0.027; // a figure's own width is 0.4556 of its size
+    constexpr double halfHeight = 3;
+    constexpr double sharpest = 0.6; // where the upright strokes of the figures fall on whole pixels
+    const Spot base{std::round(middle.x - sharpest) + sharpest, std::round(middle.y + halfHeight)};
+    svg.text({base.x, base.y - 1}, figures, size, toFourPixels, "fill=\"#0c0f10\" opacity=\".45\"");
+    svg.text(base, figures, size, toFourPixels, "fill=\"" + std::string(colour) + '"');
 }
 
 } // namespace ventrel::art

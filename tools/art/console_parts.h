@@ -7,11 +7,17 @@
 
 namespace ventrel::art {
 
+/// The brushed metal of the whole picture, with its edges.
+void drawSheet(Svg& svg, Size size);
+
+/// Light that falls from the top left over the metal. Wells and glass are drawn after it.
+void drawLight(Svg& svg, Size size);
+
 /// A sheet of painted metal that stands proud of the console.
 void drawModule(Svg& svg, const Box& area, std::string_view paint);
 
-/// A dark recess with a lip; its floor is exactly `area`.
-void drawWell(Svg& svg, const Box& area, std::string_view floor = "url(#well)");
+/// A dark recess with a lip of `lip` pixels around it; its floor is exactly `area`.
+void drawWell(Svg& svg, const Box& area, std::string_view floor = "url(#well)", double lip = 2);
 
 /// A round recess whose floor is exactly `face`.
 void drawRoundWell(Svg& svg, const Box& face);
@@ -21,17 +27,26 @@ void drawVent(Svg& svg, const Vent& vent);
 void drawPlate(Svg& svg, const Plate& plate);
 void drawHandle(Svg& svg, const Box& area);
 
-/// A raised key with a triangle that points up or down.
+/// A raised key that takes exactly `area`.
+void drawKey(Svg& svg, const Box& area);
+/// The same with a triangle that points up or down.
 void drawArrowKey(Svg& svg, const Box& area, bool up);
 
+/// Sizes of letters whose capitals are exactly five and six pixels tall.
+inline constexpr double fivePixelCapitals = 7.27;
+inline constexpr double sixPixelCapitals = 8.72;
+
 /// Words engraved into metal: dark, with a light lower edge.
-void drawEngraved(Svg& svg, Spot middle, std::string_view words, double size, double spacing);
+void drawEngraved(Svg& svg, Spot middle, std::string_view words, double spacing);
 
 /// Words printed on metal: light or coloured, with a dark upper edge.
 void drawPrinted(Svg& svg, Spot middle, std::string_view words, double size, double spacing,
                  std::string_view colour);
 
-inline constexpr std::string_view ivory = "#e9e4d2";
+/// A printed number whose figures all stand on whole pixels. `middle` is that of its figures.
+void drawNumber(Svg& svg, Spot middle, std::string_view figures, std::string_view colour);
+
+inline constexpr std::string_view ivory = "#f0ebda";
 inline constexpr std::string_view amber = "#ffb570";
 
 } // namespace ventrel::art

@@ -11,26 +11,28 @@ namespace ventrel::art {
 namespace {
 
 // All in the panel's own pixels.
-constexpr Spot dialMiddle{47, 35.3};
+constexpr Spot dialMiddle{47, 35.5}; // the needle's pivot
 constexpr double dialRadius = 30;
-constexpr double dialNumberRadius = 37.5;
-constexpr double lowestNumberRadius = 34.6; // that of 180, above the selector
+constexpr double sideNumberRadius = 38.4;
+constexpr double topNumberRadius = 37;
+constexpr double bottomNumberRadius = 35; // close above the selector
 constexpr std::array<std::string_view, 8> dialNumbers{"360", "045", "090", "135", "180", "225", "270", "315"};
 
 struct SpeedLamp {
-    Box socket;
+    Box lens;
     std::string_view label;
 };
 constexpr std::array<SpeedLamp, 3> speedLamps{{
-    {{93, 11, 10, 9}, "FAST"},
-    {{93, 31, 10, 9}, "NORM"},
-    {{93, 51, 10, 9}, "SLOW"},
+    {{95, 13, 6, 5}, "FAST"},
+    {{95, 33, 6, 5}, "NORM"},
+    {{95, 53, 6, 5}, "SLOW"},
 }};
+constexpr std::string_view unlit = "#402813";
 
-constexpr Box altitudeWell{112, 1, 40, 87};
+constexpr Box altitudeWell{111, 1, 41, 87};
+constexpr Box altitudeZero{113, 93, 37, 3}; // where the bar of altitude 0 would be, were there one
 constexpr double altitudeRow = 9;
-constexpr double altitudeMiddle = 94.5; // of altitude 0, were there one
-constexpr double altitudeNumberX = 158.2;
+constexpr double altitudeNumberX = 160;
 
 constexpr Box directButton{3, 75, 15, 15};
 constexpr Box directLamp{5, 77, 10, 10};
@@ -52,34 +54,38 @@ Spot around(Spot centre, double radius, double degrees) {
     return {centre.x + radius * std::sin(angle), centre.y - radius * std::cos(angle)};
 }
 
+double numberRadius(int degrees) {
+    return degrees == 0 ? topNumberRadius : degrees == 180 ? bottomNumberRadius : sideNumberRadius;
+}
+
 void drawDial(Svg& svg, Point corner) {
     const Spot middle = at(corner, dialMiddle);
-    svg.circle(middle, dialRadius + 2.4, "fill=\"url(#rim)\"");
-    svg.circle(middle, dialRadius + 0.9, "fill=\"#14181a\"");
+    svg.circle(middle, dialRadius + 2, "fill=\"url(#rim)\"");
+    svg.circle(middle, dialRadius + 1, "fill=\"#14181a\"");
     svg.circle(middle, dialRadius, "fill=\"url(#glass)\"");
     for (int degrees = 0; degrees < 360; degrees += 15) {
         const bool isHeading = degrees % 45 == 0;
-        svg.line(around(middle, dialRadius - (isHeading ? 4.5 : 2.5), degrees),
-                 around(middle, dialRadius - 0.6, degrees),
-                 isHeading ? "stroke=\"#ffb066\" stroke-width=\"1.3\""
-                           : "stroke=\"#c9c4b2\" stroke-width=\".8\" opacity=\".65\"");
+        svg.line(around(middle, dialRadius - (isHeading ? 5 : 3), degrees),
+                 around(middle, dialRadius - 1, degrees),
+                 isHeading ? "stroke=\"#ffb066\" stroke-width=\"1.6\""
+                           : "stroke=\"#c9c4b2\" stroke-width=\"1\" opacity=\".5\"");
     }
     svg.circle(middle, 2.6, "fill=\"url(#screw)\"");
     for (std::size_t i = 0; i < dialNumbers.size(); ++i) {
-        const double degrees = 45.0 * static_cast<double>(i);
-        const double radius = degrees == 180 ? lowestNumberRadius : dialNumberRadius;
-        const Spot place = around(middle, radius, degrees);
-        drawPrinted(svg, {place.x, place.y + 2.6}, dialNumbers[i], 7.6, 0.1, ivory);
+        const int degrees = 45 * static_cast<int>(i);
+        drawNumber(svg, around(middle, numberRadius(degrees), degrees), dialNumbers[i], ivory);
     }
 }
 
 void drawSpeedLamps(Svg& svg, Point corner) {
+    constexpr double labelBelow = 9;
     for (const SpeedLamp& lamp : speedLamps) {
-        const Box socket = at(corner, lamp.socket);
-        svg.rect(socket.grownBy(0.4), 2, "fill=\"url(#lip)\"");
-        svg.rect(socket.grownBy(-0.7), 1.4, "fill=\"#0b0908\"");
-        svg.ellipse({socket.x + 2, socket.y + 2, 6, 5}, "fill=\"#3a2412\"");
-        drawPrinted(svg, {socket.middle().x, socket.bottom() + 7.6}, lamp.label, 7.2, 0.2, ivory);
+        const Box lens = at(corner, lamp.lens);
+        drawWell(svg, lens.grownBy(1), "#0b0908", 1);
+        svg.rect(lens, 0, "fill=\"" + std::string(unlit) + '"');
+        svg.line({lens.x, lens.y + 0.5}, {lens.right(), lens.y + 0.5}, "stroke=\"#7a5230\" opacity=\".6\"");
+        drawPrinted(svg, {lens.middle().x, lens.bottom() + labelBelow}, lamp.label, fivePixelCapitals, 0.2,
+                    ivory);
     }
 }
 
@@ -87,22 +93,24 @@ void drawAltitudeScale(Svg& svg, Point corner) {
     const Box well = at(corner, altitudeWell);
     drawWell(svg, well);
     for (int altitude = 1; altitude <= 10; ++altitude) {
-        const double y = corner.y + altitudeMiddle - altitudeRow * altitude;
-        svg.line({well.x, y}, {well.right(), y}, "stroke=\"#272d30\" stroke-width=\"3\"");
-        svg.line({well.right() + 0.6, y}, {well.right() + 2.4, y}, "stroke=\"#ffb066\" stroke-width=\"1\"");
-        drawPrinted(svg, {corner.x + altitudeNumberX, y + 2.7}, std::to_string(altitude), 7.6, 0, ivory);
+        Box bar = at(corner, altitudeZero);
+        bar.y -= altitudeRow * altitude;
+        const double y = bar.middle().y;
+        svg.rect(bar, 0, "fill=\"#2c1e12\"");
+        svg.line({bar.x, bar.y + 0.5}, {bar.right(), bar.y + 0.5}, "stroke=\"#6b4a2c\" opacity=\".5\"");
+        svg.line({well.right() + 2, y}, {well.right() + 3, y}, "stroke=\"#ffb066\"");
+        drawNumber(svg, {corner.x + altitudeNumberX, y}, std::to_string(altitude), ivory);
     }
 }
 
 void drawSelector(Svg& svg, Point corner) {
-    const Box button = at(corner, directButton);
-    svg.rect(button.grownBy(0.8), 1.5, "fill=\"#0c0f11\"");
-    svg.rect(button, 1, "fill=\"url(#key)\"");
-    svg.rect(button.grownBy(-0.5), 1, "fill=\"none\" stroke=\"url(#rim)\" stroke-width=\"1\"");
-    svg.ellipse(at(corner, directLamp).grownBy(0.7), "fill=\"#0b0908\"");
-    svg.ellipse(at(corner, directLamp).grownBy(-0.3), "fill=\"#3a2412\"");
-    drawPrinted(svg, at(corner, Spot{34.5, 85.4}), "DIRECT", 7.6, 0.5, ivory);
-    drawWell(svg, at(corner, targetBox), "#000");
+    const Box lamp = at(corner, directLamp);
+    drawKey(svg, at(corner, directButton));
+    svg.ellipse(lamp.grownBy(1), "fill=\"#0b0908\"");
+    svg.ellipse(lamp, "fill=\"" + std::string(unlit) + '"');
+    svg.ellipse({lamp.x + 2, lamp.y + 1.5, 4.5, 3}, "fill=\"#a97748\" opacity=\".45\"");
+    drawPrinted(svg, at(corner, Spot{34.5, 85}), "DIRECT", fivePixelCapitals, 0.6, ivory);
+    drawWell(svg, at(corner, targetBox), "#000", 1.5);
     drawArrowKey(svg, at(corner, targetUp), true);
     drawArrowKey(svg, at(corner, targetDown), false);
 }
@@ -110,11 +118,12 @@ void drawSelector(Svg& svg, Point corner) {
 } // namespace
 
 void drawControls(Svg& svg, Point corner) {
+    drawWell(svg, at(corner, previewWell), "#000", 1.5);
     drawDial(svg, corner);
     drawSpeedLamps(svg, corner);
     drawAltitudeScale(svg, corner);
     drawSelector(svg, corner);
-    drawWell(svg, at(corner, previewWell), "#000");
+    drawPrinted(svg, at(corner, Spot{84.5, 117}), "FLIGHT ORDERS", fivePixelCapitals, 1.8, ivory);
 }
 
 } // namespace ventrel::art

@@ -3,8 +3,9 @@
 #include <array>
 #include <cmath>
 #include <cstddef>
-#include <numbers>
+#include <span>
 
+#include "tools/art/scope_art.h"
 #include "tools/art/svg.h"
 
 namespace ventrel::art {
@@ -29,9 +30,10 @@ constexpr std::array<std::array<LampGlass, 2>, 3> lampGlasses{{
     {{{"#7c2a24", "#48100d", "#1d0504"}, {"#ffeae4", "#ff4a36", "#9a0d06"}}},
 }};
 
-std::string stops(const LampGlass& glass) {
-    return "<radialGradient id=\"glass\" cx=\".44\" cy=\".4\" r=\".62\"><stop offset=\"0\" stop-color=\"" +
-           std::string(glass.middle) + "\"/><stop offset=\".45\" stop-color=\"" + std::string(glass.body) +
+std::string stops(std::string_view id, const LampGlass& glass) {
+    return "<radialGradient id=\"" + std::string(id) +
+           "\" cx=\".44\" cy=\".4\" r=\".62\"><stop offset=\"0\" stop-color=\"" + std::string(glass.middle) +
+           "\"/><stop offset=\".45\" stop-color=\"" + std::string(glass.body) +
            "\"/><stop offset=\"1\" stop-color=\"" + std::string(glass.rim) + "\"/></radialGradient>\n";
 }
 
@@ -49,42 +51,103 @@ constexpr std::string_view keyPaint = "<linearGradient id=\"up\" x1=\"0\" y1=\"0
                                       "<stop offset=\".5\" stop-color=\"#e89a45\"/><stop offset=\"1\" "
                                       "stop-color=\"#ffc27a\"/></linearGradient>\n";
 
-/// The hand stands upright with its first finger raised.
-constexpr std::string_view handShape = "M5.5,1.6 q1.4,-1.6 2.8,0 V9.2 q1.5,-1.1 2.7,.3 q1.6,-1 2.7,.5 "
-                                       "q1.9,-.8 2.5,1.2 V16 q0,2.6 -1.7,4.6 V22.5 "
-                                       "H7 V20.8 L2.1,14.2 q-.9,-1.8 .7,-2.5 q1.2,-.3 2.7,1.7 z";
+// The pointers are drawn pixel by pixel: '#' black, 'o' white, the rest clear.
+// clang-format off
+constexpr std::array<std::string_view, 21> handRows{
+    "      ##",
+    "     #oo#",
+    "     #oo#",
+    "     #oo#",
+    "     #oo#",
+    "     #oo###",
+    "     #oo#oo###",
+    "     #oo#oo#oo##",
+    " ##  #oo#oo#oo#o#",
+    "#oo# #oo#oo#oo#oo#",
+    "#ooo##oooooooo#oo#",
+    " #ooo#ooooooooooo#",
+    "  #oo#ooooooooooo#",
+    "  #oooooooooooooo#",
+    "   #ooooooooooooo#",
+    "   #oooooooooooo#",
+    "    #ooooooooooo#",
+    "    #oooooooooo#",
+    "     #ooooooooo#",
+    "     #ooooooooo#",
+    "     ###########",
+};
+constexpr std::array<std::string_view, 18> arrowRows{
+    "#",
+    "##",
+    "#o#",
+    "#oo#",
+    "#ooo#",
+    "#oooo#",
+    "#ooooo#",
+    "#oooooo#",
+    "#ooooooo#",
+    "#oooooooo#",
+    "#oooooo####",
+    "#ooo#oo#",
+    "#oo##oo#",
+    "#o#  #oo#",
+    "##   #oo#",
+    "#     #oo#",
+    "      #oo#",
+    "       ##",
+};
+// clang-format on
+constexpr Point handCorner{0, 0};
+constexpr Point arrowCorner{7, 9};
 
-constexpr std::string_view arrowShape = "M7.5,9.5 V24.4 L11,21.2 L13.6,27 L16.2,25.9 L13.7,20.3 L18.5,20 z";
-
-std::string drawPointer(std::string_view shape) {
+std::string drawPixels(std::span<const std::string_view> rows, Point corner) {
     Svg svg(pointerPicture);
-    svg.path(shape, "fill=\"#fff\" stroke=\"#000\" stroke-width=\"1.1\" stroke-linejoin=\"round\" "
-                    "shape-rendering=\"crispEdges\"");
+    for (std::size_t row = 0; row < rows.size(); ++row) {
+        for (std::size_t column = 0; column < rows[row].size(); ++column) {
+            const char mark = rows[row][column];
+            if (mark != ' ') {
+                svg.rect({corner.x + double(column), corner.y + double(row), 1, 1}, 0,
+                         mark == '#' ? "fill=\"#000\"" : "fill=\"#fff\"");
+            }
+        }
+    }
     return svg.text();
 }
 
+/// An airliner from above, flying towards the upper right from (0, 0) as its middle.
+constexpr std::string_view airliner =
+    "M13,-13 c-1.6,-1.6 -4.2,-.4 -6,1.4 L3.6,-8.2 L-9.5,-11.6 L-12,-9.2 L-1.8,-2.8 L-6.6,2.2 L-10.6,1.6 "
+    "L-12.4,3.4 L-7.4,6 L-6,7.4 L-3.4,12.4 L-1.6,10.6 L-2.2,6.6 L2.8,1.8 L9.2,12 L11.6,9.5 L8.2,-3.6 "
+    "L11.6,-7 c1.8,-1.8 3,-4.4 1.4,-6 z";
+
 } // namespace
 
-std::string drawLamp(LampColour colour, bool bright) {
-    const LampGlass& glass = lampGlasses[static_cast<std::size_t>(colour)][bright ? 1 : 0];
-    Svg svg(lampPicture);
-    svg.define(stops(glass));
-    svg.define(lampMetal);
-    svg.rect({0, 0, 28, 28}, 0, "fill=\"#171c1f\"");
-    svg.circle({14, 14}, 13, "fill=\"url(#rim)\"");
-    svg.circle({14, 14}, 11.6, "fill=\"#0a0d0e\"");
-    svg.circle({14, 14}, 10.8, "fill=\"url(#glass)\"");
-    for (int i = 0; i < 4; ++i) {
-        // The ribs of the lens.
-        const double y = 8 + 4.0 * i;
-        const double half = std::sqrt(10.2 * 10.2 - (y - 14) * (y - 14));
-        svg.line({14 - half, y}, {14 + half, y}, "stroke=\"#000\" stroke-width=\".6\" opacity=\".22\"");
+void drawLampAt(Svg& svg, Spot middle, LampColour colour, bool bright) {
+    constexpr std::array<std::string_view, 3> ids{"greenGlass", "yellowGlass", "redGlass"};
+    const auto index = static_cast<std::size_t>(colour);
+    const auto [x, y] = middle;
+    svg.define(stops(ids[index], lampGlasses[index][bright ? 1 : 0]));
+    svg.circle(middle, 13, "fill=\"url(#rim)\"");
+    svg.circle(middle, 11.6, "fill=\"#0a0d0e\"");
+    svg.circle(middle, 10.8, "fill=\"url(#" + std::string(ids[index]) + ")\"");
+    for (const double rib : {-6.0, -2.0, 2.0, 6.0}) {
+        const double half = std::sqrt(10.2 * 10.2 - rib * rib);
+        svg.line({x - half, y + rib}, {x + half, y + rib},
+                 "stroke=\"#000\" stroke-width=\".6\" opacity=\".22\"");
     }
-    svg.ellipse({7.2, 5.2, 9.2, 5.6},
+    svg.ellipse({x - 6.8, y - 8.8, 9.2, 5.6},
                 bright ? "fill=\"#fff\" opacity=\".62\"" : "fill=\"#fff\" opacity=\".28\"");
-    svg.path("M20.6,18.4 A8.4,8.4 0 0 1 14.8,22.4",
+    svg.path('M' + number(x + 6.6) + ',' + number(y + 4.4) + " A8.4,8.4 0 0 1 " + number(x + 0.8) + ',' +
+                 number(y + 8.4),
              bright ? "fill=\"none\" stroke=\"#fff\" stroke-width=\"1\" opacity=\".5\""
                     : "fill=\"none\" stroke=\"#fff\" stroke-width=\"1\" opacity=\".16\"");
+}
+
+std::string drawLamp(LampColour colour, bool bright) {
+    Svg svg(lampPicture);
+    svg.define(lampMetal);
+    svg.rect({0, 0, 28, 28}, 0, "fill=\"#171c1f\"");
+    drawLampAt(svg, {14, 14}, colour, bright);
     return svg.text();
 }
 
@@ -108,11 +171,11 @@ std::string drawStripButton(bool pressed) {
 }
 
 std::string drawHandPointer() {
-    return drawPointer(handShape);
+    return drawPixels(handRows, handCorner);
 }
 
 std::string drawArrowPointer() {
-    return drawPointer(arrowShape);
+    return drawPixels(arrowRows, arrowCorner);
 }
 
 std::string drawIcon() {
@@ -121,16 +184,20 @@ std::string drawIcon() {
     svg.define("<radialGradient id=\"tube\" cx=\".42\" cy=\".36\" r=\".75\"><stop offset=\"0\" "
                "stop-color=\"#1f5a38\"/><stop offset=\"1\" stop-color=\"#04120a\"/></radialGradient>\n");
     constexpr Spot middle{32, 32};
-    svg.circle(middle, 31, "fill=\"url(#rim)\"");
+    constexpr double tube = 25.5;
+    svg.circle(middle, 31, "fill=\"#14181a\"");
+    svg.circle(middle, 30.2, "fill=\"url(#rim)\"");
     svg.circle(middle, 27, "fill=\"#0a0d0e\"");
-    svg.circle(middle, 25.5, "fill=\"url(#tube)\"");
-    for (const double radius : {9.0, 17.0, 24.5}) {
-        svg.circle(middle, radius, "fill=\"none\" stroke=\"#4fd684\" stroke-width=\"1.2\" opacity=\".55\"");
+    svg.circle(middle, tube, "fill=\"url(#tube)\"");
+    for (const double radius : {8.5, 17.0, 25.0}) {
+        svg.circle(middle, radius, "fill=\"none\" stroke=\"#4fd684\" stroke-width=\"1\" opacity=\".5\"");
     }
-    svg.path("M32,32 L32,6.5 A25.5,25.5 0 0 1 53,17.6 z", "fill=\"#58ff9a\" opacity=\".30\"");
-    svg.line(middle, {53, 17.6}, "stroke=\"#9dffc4\" stroke-width=\"2\"");
-    svg.path("M24,40 l-7,7 M20.5,43.5 l-5.5,-3 M20.5,43.5 l3,5.5 M17,47 l-3,-1 M17,47 l1,3",
-             "stroke=\"#ffd53a\" stroke-width=\"2.4\" stroke-linecap=\"round\"");
+    drawSweep(svg, middle, tube, {.direction = 62, .trail = 70});
+    svg.open("transform=\"translate(27 37) scale(1.05)\"");
+    svg.path(airliner, "fill=\"#fff6e0\" stroke=\"#08170d\" stroke-width=\"1.6\" stroke-linejoin=\"round\" "
+                       "paint-order=\"stroke\"");
+    svg.close();
+    svg.path("M11,27 A21.8,21.8 0 0 1 26,11.2 A25,25 0 0 0 11,27 z", "fill=\"#fff\" opacity=\".25\"");
     return svg.text();
 }
 

@@ -5,9 +5,14 @@
 #include <string>
 #include <string_view>
 
+#include "tools/art/svg.h"
+
 namespace ventrel::art {
 
 enum class LampColour { green, yellow, red };
+
+/// A lamp 26 pixels across, in a drawing that knows the material "rim". One of each colour to a drawing.
+void drawLampAt(Svg& svg, Spot middle, LampColour colour, bool bright);
 
 /// A lamp of 28 x 28 pixels, to be shown through a round opening.
 std::string drawLamp(LampColour colour, bool bright);

@@ -1,6 +1,7 @@
 #include "tools/art/svg.h"
 
 #include <array>
+#include <cmath>
 #include <cstdio>
 
 namespace ventrel::art {
@@ -62,8 +63,9 @@ void Svg::use(std::string_view symbol, Spot at, double degrees) {
 void Svg::text(Spot middle, std::string_view words, double size, double spacing, std::string_view look) {
     body_ += "<text font-family=\"" + std::string(labelFace) +
              "\" font-weight=\"bold\" text-anchor=\"middle\"" + attribute("font-size", size) +
-             attribute("letter-spacing", spacing) + attribute("x", middle.x) + attribute("y", middle.y) +
-             ' ' + std::string(look) + '>' + std::string(words) + "</text>\n";
+             attribute("letter-spacing", spacing) + attribute("x", middle.x + spacing / 2) +
+             attribute("y", std::round(middle.y)) + ' ' + std::string(look) + '>' + std::string(words) +
+             "</text>\n";
 }
 
 void Svg::open(std::string_view look) {

@@ -53,7 +53,8 @@ public:
     /// A symbol defined before, moved to `at` and turned by `degrees`.
     void use(std::string_view symbol, Spot at, double degrees = 0);
 
-    /// Text centred on `middle` across and standing on it, in the console's narrow bold face.
+    /// Text centred on `middle` across and standing on it, in the console's narrow bold face. It stands on a
+    /// whole pixel, so that the feet and heads of its letters stay sharp.
     void text(Spot middle, std::string_view words, double size, double spacing, std::string_view look);
 
     void open(std::string_view look); ///< a group

@@ -1,0 +1,230 @@
+// The pictures that the build has drawn, against the code that draws over them.
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "base/format.h"
+#include "controls/console_piece.h"
+#include "controls/control_panel_drawing.h"
+#include "controls/top_bar_drawing.h"
+#include "platform/canvas/image.h"
+#include "radar/clouds.h"
+#include "radar/radar_layout.h"
+
+using namespace ventrel;
+
+namespace {
+
+constexpr int cloudPictures = 16;
+
+Bitmap picture(const std::string& name) {
+    Image image;
+    Bitmap bitmap;
+    EXPECT_EQ(ImageLoadFile(image, std::string(PROGRAM_FOLDER) + "/grf/" + name + ".grf", ImageFormat::png),
+              ImageError::none)
+        << name;
+    EXPECT_EQ(ImageToBitmap(image, bitmap), ImageError::none) << name;
+    return bitmap;
+}
+
+int brightness(Colour colour) {
+    return (colour.red() * 3 + colour.green() * 6 + colour.blue()) / 10;
+}
+
+int brightness(const Bitmap& bitmap, const Rect& area) {
+    int sum = 0;
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
+            sum += brightness(toColour(bitmap.at(x, y)));
+        }
+    }
+    return sum / (area.width() * area.height());
+}
+
+struct Console {
+    const char* picture;
+    const char* frame;
+    const RadarLayout& radar;
+    int messageWidth;
+};
+
+const std::array<Console, 2> consoles{{
+    {"bkgnd8", "r8frame", smallRadarLayout, 340},
+    {"bkgnd10", "r10frame", largeRadarLayout, 562},
+}};
+
+/// The console's piece under the control panel.
+Bitmap panelGround(const Bitmap& console) {
+    const Point corner = controlPanelCorner(console.size());
+    return consolePiece(
+        console, {corner.x, corner.y, corner.x + controlPanelSize.width, corner.y + controlPanelSize.height});
+}
+
+std::string cloudName(int index) {
+    return FormatText("cloud%d", {long{index}});
+}
+
+std::vector<std::string> keyedNames() {
+    std::vector<std::string> names{"pointer_hand", "pointer_arrow", "icon"};
+    for (int i = 0; i < cloudPictures; ++i) {
+        names.push_back(cloudName(i));
+    }
+    return names;
+}
+
+bool isKey(const Bitmap& bitmap, int x, int y) {
+    return toColour(bitmap.at(x, y)) == cloudTransparent;
+}
+
+} // namespace
+
+TEST(Art, PicturesHaveTheSizesThatTheWindowsExpect) {
+    struct Expected {
+        const char* name;
+        Size size;
+    };
+    for (const auto& [name, size] : std::initializer_list<Expected>{{"bkgnd8", {800, 600}},
+                                                                    {"bkgnd10", {1024, 768}},
+                                                                    {"r8frame", {539, 539}},
+                                                                    {"r10frame", {686, 686}},
+                                                                    {"lamp_green_dark", {28, 28}},
+                                                                    {"lamp_green_bright", {28, 28}},
+                                                                    {"lamp_yellow_dark", {28, 28}},
+                                                                    {"lamp_yellow_bright", {28, 28}},
+                                                                    {"lamp_red_dark", {28, 28}},
+                                                                    {"lamp_red_bright", {28, 28}},
+                                                                    {"strip_button_up", {20, 12}},
+                                                                    {"strip_button_down", {20, 12}},
+                                                                    {"about", {480, 320}}}) {
+        EXPECT_EQ(picture(name).size(), size) << name;
+    }
+}
+
+TEST(Art, ClearPartsAreExactlyTheKeyAndNothingElseComesNearIt) {
+    for (const std::string& name : keyedNames()) {
+        const Bitmap bitmap = picture(name);
+        int nearKey = 0;
+        int drawn = 0;
+        for (int y = 0; y < bitmap.height(); ++y) {
+            for (int x = 0; x < bitmap.width(); ++x) {
+                const Colour colour = toColour(bitmap.at(x, y));
+                const bool isYellow = colour.red() > 180 && colour.green() > 180 && colour.blue() < 100;
+                drawn += isKey(bitmap, x, y) ? 0 : 1;
+                nearKey += isYellow && !isKey(bitmap, x, y) ? 1 : 0;
+            }
+        }
+        const int area = bitmap.width() * bitmap.height();
+        EXPECT_EQ(nearKey, 0) << name;
+        EXPECT_GT(drawn * 100, area * 10) << name;
+        EXPECT_LT(drawn * 100, area * 85) << name;
+    }
+}
+
+TEST(Art, CloudsDifferAndAreNowhereCutStraight) {
+    std::set<std::pair<int, int>> sizes;
+    for (int i = 0; i < cloudPictures; ++i) {
+        const Bitmap cloud = picture(cloudName(i));
+        sizes.insert({cloud.width(), cloud.height()});
+        bool isCut = false;
+        for (int x = 0; x < cloud.width(); ++x) {
+            isCut = isCut || !isKey(cloud, x, 0) || !isKey(cloud, x, cloud.height() - 1);
+        }
+        for (int y = 0; y < cloud.height(); ++y) {
+            isCut = isCut || !isKey(cloud, 0, y) || !isKey(cloud, cloud.width() - 1, y);
+        }
+        EXPECT_FALSE(isCut) << cloudName(i);
+    }
+    EXPECT_EQ(sizes.size(), std::size_t{cloudPictures});
+}
+
+TEST(Art, PointersPointWithTheirTips) {
+    const Bitmap hand = picture("pointer_hand");
+    const Bitmap arrow = picture("pointer_arrow");
+    EXPECT_FALSE(isKey(hand, 6, 0));
+    EXPECT_TRUE(isKey(hand, 5, 0));
+    EXPECT_FALSE(isKey(arrow, 7, 9));
+    for (int i = 0; i < arrow.width(); ++i) {
+        EXPECT_TRUE(isKey(arrow, i, 8) && isKey(arrow, 6, i)) << i;
+    }
+}
+
+TEST(Art, ALitLampIsMuchBrighterThanADarkOne) {
+    for (const std::string colour : {"green", "yellow", "red"}) {
+        const Rect lens{8, 8, 20, 20};
+        EXPECT_GT(brightness(picture("lamp_" + colour + "_bright"), lens),
+                  3 * brightness(picture("lamp_" + colour + "_dark"), lens))
+            << colour;
+    }
+}
+
+TEST(Art, TheRadarFrameContinuesTheConsoleAndItsGlassIsDark) {
+    for (const Console& console : consoles) {
+        const Bitmap whole = picture(console.picture);
+        const Bitmap frame = picture(console.frame);
+        const Region tube = Region::ellipse(console.radar.scopeEllipse);
+        int differing = 0;
+        int brightest = 0;
+        for (int y = 0; y < frame.height(); ++y) {
+            for (int x = 0; x < frame.width(); ++x) {
+                const Point corner = console.radar.corner;
+                differing += frame.at(x, y) != whole.at(corner.x + x, corner.y + y) ? 1 : 0;
+                const bool isInside = tube.contains({x, y}) && tube.contains({x - 2, y}) &&
+                                      tube.contains({x + 2, y}) && tube.contains({x, y - 2}) &&
+                                      tube.contains({x, y + 2});
+                brightest = isInside ? std::max(brightest, brightness(toColour(frame.at(x, y)))) : brightest;
+            }
+        }
+        EXPECT_EQ(differing, 0) << console.frame;
+        EXPECT_LT(brightest, 90) << console.frame;
+    }
+}
+
+TEST(Art, WellsUnderTextAreDarkToTheirEdges) {
+    for (const Console& console : consoles) {
+        const Bitmap whole = picture(console.picture);
+        const Bitmap panel = panelGround(whole);
+        const Rect messages{443, 19, 443 + console.messageWidth, 39};
+        constexpr int dark = 12;
+        EXPECT_LT(brightness(whole, messages), dark) << console.picture;
+        EXPECT_LT(brightness(whole, clockWindowRect), dark) << console.picture;
+        EXPECT_LT(brightness(panel, {2, 93, 167, 105}), dark) << console.picture;
+        EXPECT_LT(brightness(panel, {52, 76, 76, 89}), dark) << console.picture;
+    }
+}
+
+TEST(Art, TheAltitudeBarCoversTheMarkOfItsAltitude) {
+    for (const Console& console : consoles) {
+        const Bitmap panel = panelGround(picture(console.picture));
+        for (int altitude = 1; altitude <= 10; ++altitude) {
+            const int top = 93 - 9 * altitude;
+            const auto row = [&](int y) { return brightness(panel, {113, y, 150, y + 1}); };
+            EXPECT_LT(row(top), 70) << console.picture << ' ' << altitude;
+            EXPECT_GT(row(top), 8 + row(top - 1)) << console.picture << ' ' << altitude;
+            EXPECT_GT(row(top + 2), 8 + row(top + 3)) << console.picture << ' ' << altitude;
+        }
+    }
+}
+
+TEST(Art, SpeedLampsAndNeedleLieOnTheirArtwork) {
+    for (const Console& console : consoles) {
+        const Bitmap panel = panelGround(picture(console.picture));
+        for (const int lens : {13, 33, 53}) {
+            const int unlit = brightness(panel, {95, lens, 101, lens + 5});
+            EXPECT_LT(unlit, 70) << console.picture;
+            EXPECT_GT(unlit, 15 + brightness(panel, {95, lens - 1, 101, lens})) << console.picture;
+            EXPECT_GT(unlit, 15 + brightness(panel, {94, lens, 95, lens + 5})) << console.picture;
+            EXPECT_GT(unlit, 15 + brightness(panel, {101, lens, 102, lens + 5})) << console.picture;
+        }
+        EXPECT_LT(brightness(panel, {38, 27, 44, 44}), 40) << console.picture;
+        // The needle points at a mark on each of its eight headings.
+        for (const Point tip :
+             {Point{47, 9}, {66, 16}, {74, 35}, {66, 54}, {47, 62}, {28, 54}, {20, 35}, {28, 16}}) {
+            const Rect mark{tip.x - 1, tip.y - 1, tip.x + 1, tip.y + 1};
+            EXPECT_GT(brightness(panel, mark), 70) << console.picture << ' ' << tip.x << ' ' << tip.y;
+        }
+    }
+}

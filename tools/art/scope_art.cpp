@@ -1,0 +1,128 @@
+#include "tools/art/scope_art.h"
+
+#include <cmath>
+#include <numbers>
+
+#include "base/format.h"
+#include "tools/art/console_parts.h"
+
+namespace ventrel::art {
+
+namespace {
+
+constexpr double bezelOuter = 9.5; // pixels outside the scope
+constexpr double bezelFace = 8;
+constexpr double bezelInner = 2;
+
+Box ringAt(const Box& scope, double part) {
+    const Spot middle = scope.middle();
+    return {middle.x - scope.width * part / 2, middle.y - scope.height * part / 2, scope.width * part,
+            scope.height * part};
+}
+
+void drawGraticule(Svg& svg, const Box& scope) {
+    constexpr int rings = 4;
+    svg.open("fill=\"none\" stroke=\"#8ff0b8\" opacity=\".13\"");
+    for (int i = 1; i < rings; ++i) {
+        svg.ellipse(ringAt(scope, double(i) / rings), "");
+    }
+    const Spot middle = scope.middle();
+    svg.line({scope.x, middle.y}, {scope.right(), middle.y}, "stroke-dasharray=\"2 4\"");
+    svg.line({middle.x, scope.y}, {middle.x, scope.bottom()}, "stroke-dasharray=\"2 4\"");
+    for (int degrees = 0; degrees < 360; degrees += 10) {
+        const double length = degrees % 30 == 0 ? 12 : 6;
+        svg.line(onScopeRim(scope, -2, degrees), onScopeRim(scope, -2 - length, degrees), "");
+    }
+    svg.close();
+}
+
+} // namespace
+
+Spot onScopeRim(const Box& scope, double outward, double degrees) {
+    const double angle = degrees * std::numbers::pi / 180;
+    const Spot middle = scope.middle();
+    return {middle.x + (scope.width / 2 + outward) * std::sin(angle),
+            middle.y - (scope.height / 2 + outward) * std::cos(angle)};
+}
+
+void drawScopeTube(Svg& svg, const Box& scope) {
+    const Spot middle = scope.middle();
+    svg.define("<clipPath id=\"scopeEdge\"><ellipse cx=\"" + number(middle.x) + "\" cy=\"" +
+               number(middle.y) + "\" rx=\"" + number(scope.width / 2) + "\" ry=\"" +
+               number(scope.height / 2) + "\"/></clipPath>\n");
+    svg.ellipse(scope, "fill=\"url(#tube)\"");
+    drawGraticule(svg, scope);
+}
+
+void drawScopeReflections(Svg& svg, const Box& scope) {
+    const double depth = scope.width / 45;
+    svg.open("clip-path=\"url(#scopeEdge)\"");
+    svg.ellipse(Box(scope.x + depth / 3, scope.y + depth / 2, scope.width, scope.height).grownBy(depth / 2),
+                "fill=\"none\" stroke=\"#000\" stroke-width=\"" + number(depth * 1.6) +
+                    "\" opacity=\".75\" filter=\"url(#softer)\"");
+    svg.close();
+    const double inset = -scope.width / 28;
+    const Spot from = onScopeRim(scope, inset, 276);
+    const Spot to = onScopeRim(scope, inset, 354);
+    const auto arc = [](double radius, const char* sweep, Spot end) {
+        return " A" + number(radius) + ',' + number(radius) + " 0 0 " + sweep + ' ' + number(end.x) + ',' +
+               number(end.y);
+    };
+    const double radius = scope.width / 2 + inset;
+    const double flatter = 1.22;
+    svg.path('M' + number(from.x) + ',' + number(from.y) + arc(radius, "1", to) +
+                 arc(radius * flatter, "0", from) + " z",
+             "fill=\"url(#glare)\" filter=\"url(#soften)\"");
+}
+
+void drawSweep(Svg& svg, Spot middle, double radius, const Sweep& sweep) {
+    constexpr int slice = 2; // degrees
+    constexpr double brightest = 0.42;
+    const Box tube(middle.x - radius, middle.y - radius, 2 * radius, 2 * radius);
+    const std::string from = 'M' + number(middle.x) + ',' + number(middle.y) + " L";
+    const std::string arc = " A" + number(radius) + ',' + number(radius) + " 0 0 1 ";
+    for (int behind = 0; behind < sweep.trail; behind += slice) {
+        const double fade = 1 - double(behind) / sweep.trail;
+        const Spot first = onScopeRim(tube, 0, sweep.direction - behind - slice);
+        const Spot last = onScopeRim(tube, 0, sweep.direction - behind);
+        svg.path(from + number(first.x) + ',' + number(first.y) + arc + number(last.x) + ',' +
+                     number(last.y) + " z",
+                 "fill=\"#58ff9a\" opacity=\"" + number(brightest * fade * fade) + '"');
+    }
+    svg.line(middle, onScopeRim(tube, 0, sweep.direction), "stroke=\"#a8ffcb\" stroke-width=\"1.6\"");
+}
+
+void drawScopeBezel(Svg& svg, const Box& scope) {
+    const Box shadow(scope.x + 3, scope.y + 4, scope.width, scope.height);
+    svg.ellipse(shadow.grownBy(bezelOuter + 2),
+                "fill=\"none\" stroke=\"#000\" stroke-width=\"8\" opacity=\".55\" filter=\"url(#soft)\"");
+    svg.ellipse(scope.grownBy(bezelOuter), "fill=\"url(#ringOut)\"");
+    svg.ellipse(scope.grownBy(bezelFace), "fill=\"url(#ringFace)\"");
+    svg.ellipse(scope.grownBy(bezelInner), "fill=\"url(#ringIn)\"");
+    for (int degrees = 0; degrees < 360; degrees += 2) {
+        const bool isTen = degrees % 10 == 0;
+        const bool isThirty = degrees % 30 == 0;
+        svg.line(onScopeRim(scope, 3, degrees), onScopeRim(scope, isTen ? 7.4 : 5.6, degrees),
+                 isThirty ? "stroke=\"#ffb066\" stroke-width=\"1.6\""
+                 : isTen  ? "stroke=\"#e6e1ce\" stroke-width=\"1.2\""
+                          : "stroke=\"#d9d5c4\" stroke-width=\".8\" opacity=\".7\"");
+    }
+    const Spot north = onScopeRim(scope, bezelOuter, 0);
+    svg.path('M' + number(north.x - 5) + ',' + number(north.y - 6) + " h10 l-5,6.5 z",
+             "fill=\"#ffb066\" stroke=\"#1a1206\" stroke-width=\".8\"");
+}
+
+void drawBearingNumbers(Svg& svg, const Box& scope, const Box& area) {
+    constexpr double distance = 20;
+    for (int degrees = 10; degrees < 360; degrees += 10) {
+        const Spot place = onScopeRim(scope, distance, degrees);
+        const bool isInside =
+            place.x > area.x && place.x < area.right() && place.y > area.y && place.y < area.bottom();
+        if (isInside) {
+            drawNumber(svg, place, FormatText("%03d", {long{degrees}}),
+                       degrees % 30 == 0 ? amber : "#d5d1c0");
+        }
+    }
+}
+
+} // namespace ventrel::art
