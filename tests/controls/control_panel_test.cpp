@@ -102,6 +102,10 @@ TEST(PanelTest, NothingCanBeSetForAFlightThatIsNotInTheAir) {
     flight.inPlay = false;
     EXPECT_EQ(trySettings(), Lines{});
     EXPECT_EQ(stage.pending(), before);
+    stage.script.click(stage.inMain({130, 9}));
+    stage.play();
+    EXPECT_EQ(stage.pending().altitude, 9) << "but the scale does not ask whether it is still in play";
+    EXPECT_EQ(stage.take(), Lines{"click"});
     flight.inPlay = true;
     flight.groundState = GroundState::cleared;
     stage.panel.state.pending.directTarget = 2;

@@ -1,0 +1,177 @@
+// What the moving displays cost: radar, sweep, strips and control panel, on the larger screen.
+
+#include <benchmark/benchmark.h>
+
+#include <algorithm>
+#include <string>
+
+#include "controls/control_panel.h"
+#include "controls/strips.h"
+#include "platform/canvas/image.h"
+#include "platform/headless/headless_backend.h"
+#include "radar/radar_window.h"
+
+namespace {
+
+using namespace ventrel;
+
+constexpr Size screen{1024, 768};
+constexpr int flightCount = 99;
+constexpr int cloudCount = 10;
+constexpr int routeSteps = 30;
+constexpr Colour consoleGrey = Colour::rgb(110, 112, 108);
+
+std::vector<Bitmap> cloudPictures() {
+    std::vector<Bitmap> clouds(cloudPictureCount);
+    for (int i = 0; i < cloudPictureCount; ++i) {
+        Image image;
+        ImageLoadFile(image, PROGRAM_FOLDER "/grf/cloud" + std::to_string(i) + ".grf", ImageFormat::png);
+        ImageToBitmap(image, clouds[static_cast<std::size_t>(i)]);
+    }
+    return clouds;
+}
+
+/// Somewhere on the scope, another cell for every flight, with a queued path ahead.
+Flight flightNumber(int number) {
+    Flight flight;
+    flight.inPlay = true;
+    flight.activatedAt = 1;
+    flight.scheduledAt = number * stepInterval;
+    flight.callsign = "UA" + std::to_string(100 + number);
+    flight.destination = 0;
+    flight.planLength = routeSteps;
+    Cell cell{8 + number * 7 % 33, 8 + number * 11 % 33};
+    const int heading = number % 8 * headingStep;
+    for (int k = 0; k < routeSteps; ++k) {
+        flight.plan[static_cast<std::size_t>(k)] = {cell.x, cell.y, 5, heading, normalSpeed, 0, 0};
+        cell = stepCell(cell, k < routeSteps / 2 ? heading : turned(heading, headingStep));
+    }
+    return flight;
+}
+
+/// A crowded game in its window.
+struct Play {
+    Play() {
+        game.gameRunning = true;
+        Vor fix;
+        fix.ident = "JFK";
+        game.vors = {fix};
+        for (int i = 0; i < flightCount; ++i) {
+            game.flights.push_back(flightNumber(i));
+        }
+        game.listedCount = flightCount;
+        refillClouds();
+        RadarCreate(radar, main, cloudPictures());
+        Bitmap console(screen);
+        Canvas(console).fill(console.bounds(), consoleGrey);
+        StripsCreate(strips, main, screen);
+        CtrlCreate(panel, main, console);
+        RadarBuildMap(radar, console);
+        StripsRebuild(strips);
+        CtrlSetFlight(panel, 0);
+        desktop.pumpMessages();
+    }
+
+    void refillClouds() {
+        game.clouds.clear();
+        for (int i = 0; i < cloudCount; ++i) {
+            const Point corner{i * 97 % 600, 50 + i * 131 % 500};
+            game.clouds.push_back({.start = corner, .position = corner, .image = i});
+        }
+    }
+
+    HeadlessBackend backend{screen};
+    Desktop desktop{backend, screen};
+    FontSet fonts{PROGRAM_FOLDER "/fonts", [](std::string_view, MessageIcon) {}};
+    GameState game;
+    Options options;
+    CursorImage hand;
+    CursorImage arrow;
+    Window main = desktop.create({.bounds = Rect::at({}, screen), .background = Colour::rgb(90, 90, 90)});
+    RadarWindow radar{.desktop = desktop,
+                      .sources = {game, options, fonts, hand},
+                      .callbacks = {.clockNow = [] { return 101; },
+                                    .isPaused = [] { return false; },
+                                    .tickScroller = [] {},
+                                    .setLamp = [](LampLevel) {},
+                                    .updateBlips = [] {},
+                                    .reportScore = [] {},
+                                    .resetTouch = [] {},
+                                    .isTouched = [] { return false; },
+                                    .select = [](const FlightHit&) {},
+                                    .showOrderMenu = [](Point) {}},
+                      .layout = largeRadarLayout};
+    Strips strips{.sources = {game, fonts, arrow}, .callbacks = {.press = [](int) {}}};
+    ControlPanel panel{
+        .sources = {game, fonts, hand, arrow},
+        .callbacks = {.clockNow = [] { return 101; }, .click = [] {}, .enableExec = [](bool) {}}};
+};
+
+/// All of the scope painted anew, 99 flights with tags and routes under 10 clouds, until it is in the
+/// window's picture.
+void RadarFrame(benchmark::State& state) {
+    Play play;
+    for (auto _ : state) {
+        play.refillClouds(); // they would drift away
+        RadarRepaint(play.radar);
+        play.radar.window.update();
+    }
+}
+BENCHMARK(RadarFrame)->Name("RadarFrame/99flights");
+
+/// The same until it is on the screen of a machine in memory.
+void RadarFrameUntilSent(benchmark::State& state) {
+    Play play;
+    for (auto _ : state) {
+        play.refillClouds();
+        RadarRepaint(play.radar);
+        play.desktop.pumpMessages();
+    }
+}
+BENCHMARK(RadarFrameUntilSent)->Name("RadarFrameUntilSent/99flights");
+
+/// One step of the sweep; the argument is where on its way it starts.
+void SweepStep(benchmark::State& state) {
+    Play play;
+    play.radar.sweep.isOutward = true;
+    const Point start{static_cast<int>(std::min<std::int64_t>(state.range(0), 686)),
+                      static_cast<int>(std::max<std::int64_t>(state.range(0) - 686, 0))};
+    for (auto _ : state) {
+        play.radar.sweep.end = start;
+        play.backend.wait(sweepStepInterval + 1);
+        RadarTick(play.radar);
+        play.desktop.pumpMessages();
+    }
+}
+BENCHMARK(SweepStep)->Name("SweepStepUntilSent")->Arg(100)->Arg(400)->Arg(686)->Arg(1200);
+
+void StripsRepaint(benchmark::State& state) {
+    Play play;
+    for (auto _ : state) {
+        StripsRebuild(play.strips);
+        play.strips.window.update();
+    }
+}
+BENCHMARK(StripsRepaint)->Name("StripsRepaint/14strips");
+
+void PanelRepaint(benchmark::State& state) {
+    Play play;
+    for (auto _ : state) {
+        CtrlRepaint(play.panel);
+        play.panel.window.update();
+    }
+}
+BENCHMARK(PanelRepaint);
+
+/// What a new game or the grid's switch waits for.
+void MapBuilt(benchmark::State& state) {
+    Play play;
+    Bitmap frame({686, 686});
+    play.options.showGrid = 1;
+    for (auto _ : state) {
+        RadarBuildMap(play.radar, frame);
+    }
+}
+BENCHMARK(MapBuilt);
+
+} // namespace
