@@ -18,7 +18,7 @@ constexpr Box scope{32, 30, 196, 196};
 constexpr Spot scopeMiddle = scope.middle();
 constexpr Sweep sweep{.direction = 76, .trail = 80};
 
-constexpr std::array<Spot, 4> screws{{{14, 14}, {466, 14}, {14, 242}, {466, 242}}};
+constexpr std::array<Spot, 4> screws{{{14, 14}, {460, 14}, {14, 242}, {460, 242}}};
 constexpr double wordsMiddle = 357;
 
 /// A coast across the scope; land lies to its left.
