@@ -41,13 +41,14 @@ int HeardSounds::count(std::string_view sound) const {
     return static_cast<int>(std::ranges::count(heard, sound));
 }
 
-GameStage::GameStage(int windowWidth, std::string_view profileText)
+GameStage::GameStage(int windowWidth, std::string_view profileText,
+                     const std::filesystem::path& programFolder)
     : backend(windowOf(windowWidth)), profile_(folder_ / "ventrel.ini"),
       fonts_(std::filesystem::path(PROGRAM_FOLDER) / "fonts",
              [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; }) {
     writeText(profile_, profileText);
     program_ = std::make_unique<Program>(ProgramParts{backend, fonts_, sounds},
-                                         ProgramPlaces{PROGRAM_FOLDER, profile_},
+                                         ProgramPlaces{programFolder, profile_},
                                          optionsOf(profile_, windowWidth), 1);
 }
 

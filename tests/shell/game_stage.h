@@ -47,7 +47,8 @@ public:
     using Task = std::function<void(Script&)>;
 
     /// The program at that window width, with an options file of that text.
-    explicit GameStage(int windowWidth = 1024, std::string_view profileText = "[Game]\nName=mary\nSkill=1\n");
+    explicit GameStage(int windowWidth = 1024, std::string_view profileText = "[Game]\nName=mary\nSkill=1\n",
+                       const std::filesystem::path& programFolder = PROGRAM_FOLDER);
 
     HeadlessBackend backend;
     HeardSounds sounds;
