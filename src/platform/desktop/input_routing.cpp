@@ -161,7 +161,12 @@ void routeMouse(DesktopState& state, const MouseEvent& event) {
 
 // The machine's window ------------------------------------------------------------------------------------
 
+/// Dialogs wait for answers that a closed window can no longer give, so they end with the program.
 void routeClose(DesktopState& state) {
+    if (runningModal(state) != nullptr) {
+        state.desktop.quit();
+        return;
+    }
     WindowPtr asked = activeTopLevel(state);
     while (asked != nullptr && !asked->handlers->close) {
         asked = asked->owner == nullptr ? nullptr : asked->owner->shared_from_this();

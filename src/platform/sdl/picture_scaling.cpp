@@ -15,6 +15,10 @@ int wholeMultiple(Size room, Size picture) {
     return std::min(room.width / picture.width, room.height / picture.height);
 }
 
+Size multiplied(Size picture, int multiple) {
+    return {picture.width * multiple, picture.height * multiple};
+}
+
 /// The largest size of the picture's shape within the room.
 Size fitted(Size room, Size picture) {
     const bool isWide = room.width * picture.height > room.height * picture.width;
@@ -29,16 +33,17 @@ int floorDiv(int a, int b) {
 } // namespace
 
 Rect pictureArea(Size window, Size picture) {
-    const int multiple = wholeMultiple(window, picture);
-    const Size size =
-        multiple >= 1 ? Size{picture.width * multiple, picture.height * multiple} : fitted(window, picture);
+    const Size largest = fitted(window, picture);
+    const Size sharp = multiplied(picture, wholeMultiple(window, picture));
+    const bool isLargeEnough = sharp.height * whole >= largest.height * leastPart;
+    const Size size = isLargeEnough ? sharp : largest;
     return Rect::at({(window.width - size.width) / 2, (window.height - size.height) / 2}, size);
 }
 
 Size firstWindowSize(Size screen, Size picture) {
     const Size room{screen.width * comfortablePart / whole, screen.height * comfortablePart / whole};
     const int multiple = std::max(wholeMultiple(room, picture), std::min(1, wholeMultiple(screen, picture)));
-    return multiple >= 1 ? Size{picture.width * multiple, picture.height * multiple} : fitted(room, picture);
+    return multiple >= 1 ? multiplied(picture, multiple) : fitted(screen, picture);
 }
 
 Point toPicture(Point window, const Rect& area, Size picture) {

@@ -1,5 +1,5 @@
-// How the picture lies in the machine's window: as large as fits with its shape kept, by whole multiples
-// where they fit.
+// How the picture lies in the machine's window: with its shape kept, by whole multiples where they nearly
+// fill it.
 
 #pragma once
 
@@ -7,8 +7,8 @@
 
 namespace ventrel {
 
-/// The part of a window of that size that the picture takes. Whole multiples from 1 up; a smaller window
-/// shrinks it.
+/// The part of a window of that size that the picture takes: the largest whole multiple, or, when that would
+/// leave most of the window empty, as much as fits. A smaller window shrinks it.
 Rect pictureArea(Size window, Size picture);
 
 /// A comfortable size for the first time: the largest whole multiple that leaves some of the screen free, 1

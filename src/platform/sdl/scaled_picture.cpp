@@ -1,6 +1,7 @@
 #include "platform/sdl/scaled_picture.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace ventrel {
 
@@ -35,7 +36,20 @@ Between between(int shown, int shownLength, int length) {
         ((2 * std::int64_t{shown} + 1) * length * fullWeight / shownLength - fullWeight) / 2;
     const auto clamped = std::clamp<std::int64_t>(at, 0, std::int64_t{length - 1} * fullWeight);
     const int first = static_cast<int>(clamped >> weightBits);
-    return {first, std::min(first + 1, length - 1), static_cast<unsigned>(clamped & (fullWeight - 1))};
+    const int weight = static_cast<int>(clamped & (fullWeight - 1));
+    // Enlarged, two pixels mix only where they meet, over the width of one shown pixel: edges stay crisp.
+    const int fromEdge = (weight - fullWeight / 2) * std::max(shownLength, length) / length;
+    const int crisp = std::clamp(fromEdge + fullWeight / 2, 0, fullWeight);
+    return {first, std::min(first + 1, length - 1), static_cast<unsigned>(crisp)};
+}
+
+/// For the shown pixels from `first` to `end` of a side that is shown `shownLength` long.
+std::vector<Between> betweenAll(int first, int end, int shownLength, int length) {
+    std::vector<Between> result;
+    for (int shown = first; shown < end; ++shown) {
+        result.push_back(between(shown, shownLength, length));
+    }
+    return result;
 }
 
 void repeatPixels(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown,
@@ -50,17 +64,18 @@ void repeatPixels(const PixelRows& target, const Rect& area, const Bitmap& pictu
 }
 
 void mixPixels(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown) {
+    const std::vector<Between> columns =
+        betweenAll(shown.left - area.left, shown.right - area.left, area.width(), picture.width());
     for (int y = shown.top; y < shown.bottom; ++y) {
         const Between down = between(y - area.top, area.height(), picture.height());
         const auto upper = picture.row(down.first);
         const auto lower = picture.row(down.second);
-        std::uint32_t* row = rowOf(target, y);
-        for (int x = shown.left; x < shown.right; ++x) {
-            const Between across = between(x - area.left, area.width(), picture.width());
+        std::uint32_t* to = rowOf(target, y) + shown.left;
+        for (const Between& across : columns) {
             const auto left = static_cast<std::size_t>(across.first);
             const auto right = static_cast<std::size_t>(across.second);
-            row[x] = mixed(mixed(upper[left], upper[right], across.weight),
-                           mixed(lower[left], lower[right], across.weight), down.weight);
+            *to++ = mixed(mixed(upper[left], upper[right], across.weight),
+                          mixed(lower[left], lower[right], across.weight), down.weight);
         }
     }
 }

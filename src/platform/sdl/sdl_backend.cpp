@@ -2,102 +2,28 @@
 
 #include <SDL.h>
 
-#include <array>
-#include <cstdlib>
-#include <deque>
+#include <algorithm>
 #include <limits>
 #include <map>
+#include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "base/windows1252.h"
 #include "platform/sdl/picture_scaling.h"
 #include "platform/sdl/scaled_picture.h"
-#include "platform/sdl/sdl_keys.h"
+#include "platform/sdl/sdl_beeper.h"
+#include "platform/sdl/sdl_input.h"
+#include "platform/sdl/sdl_system.h"
 
 namespace ventrel {
 
 namespace {
 
-constexpr int resizeEdge = 4; // pixels of the window by which a person resizes it
-constexpr int notShared = 0;
-
-struct WindowDeleter {
-    void operator()(SDL_Window* window) const { SDL_DestroyWindow(window); }
-};
-struct SurfaceDeleter {
-    void operator()(SDL_Surface* surface) const { SDL_FreeSurface(surface); }
-};
-struct CursorDeleter {
-    void operator()(SDL_Cursor* cursor) const { SDL_FreeCursor(cursor); }
-};
-using SurfacePointer = std::unique_ptr<SDL_Surface, SurfaceDeleter>;
-using CursorPointer = std::unique_ptr<SDL_Cursor, CursorDeleter>;
-
-/// SDL's video part, for as long as the object lives.
-class VideoSystem {
-public:
-    VideoSystem() {
-        SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
-        // Plain pictures in memory: through a graphics driver every small change would cost a whole frame.
-        SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
-        SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
-        SDL_SetHint(SDL_HINT_MOUSE_FOCUS_CLICKTHROUGH, "1");
-        isOpen_ = SDL_InitSubSystem(SDL_INIT_VIDEO) == 0;
-    }
-    VideoSystem(const VideoSystem&) = delete;
-    VideoSystem& operator=(const VideoSystem&) = delete;
-    ~VideoSystem() {
-        if (isOpen_) {
-            SDL_QuitSubSystem(SDL_INIT_VIDEO);
-        }
-    }
-
-    /// Whether there is a screen. Without one SDL falls back to drivers that show nothing; these count only
-    /// when they were asked for by name.
-    bool hasScreen() const {
-        if (!isOpen_) {
-            return false;
-        }
-        const std::string_view driver = SDL_GetCurrentVideoDriver();
-        const bool showsNothing = driver == "dummy" || driver == "offscreen" || driver == "evdev";
-        const char* wanted = std::getenv("SDL_VIDEODRIVER");
-        return !showsNothing || (wanted != nullptr && driver == wanted);
-    }
-
-private:
-    bool isOpen_ = false;
-};
-
-/// A picture with clear parts, `multiple` times as large.
-SurfacePointer surfaceOf(const CursorImage& image, int multiple) {
-    const Size size{image.picture.width() * multiple, image.picture.height() * multiple};
-    SurfacePointer surface(
-        SDL_CreateRGBSurfaceWithFormat(notShared, size.width, size.height, 32, SDL_PIXELFORMAT_ARGB8888));
-    if (!surface) {
-        return nullptr;
-    }
-    constexpr std::uint32_t opaque = 0xFF000000;
-    for (int y = 0; y < size.height; ++y) {
-        auto* row = reinterpret_cast<std::uint32_t*>(static_cast<std::uint8_t*>(surface->pixels) +
-                                                     static_cast<std::ptrdiff_t>(y) * surface->pitch);
-        for (int x = 0; x < size.width; ++x) {
-            const Point from{x / multiple, y / multiple};
-            const bool isDrawn = image.mask.at(from.x, from.y) != 0;
-            row[x] = isDrawn ? image.picture.at(from.x, from.y) | opaque : 0;
-        }
-    }
-    return surface;
-}
-
-MouseButton buttonOf(std::uint8_t button) {
-    switch (button) {
-    case SDL_BUTTON_LEFT: return MouseButton::left;
-    case SDL_BUTTON_RIGHT: return MouseButton::right;
-    case SDL_BUTTON_MIDDLE: return MouseButton::middle;
-    default: return MouseButton::none;
-    }
-}
+constexpr int resizeEdge = 4;        // pixels of the window by which a person resizes it
+constexpr int doubleClickRadius = 4; // pixels of the picture between two clicks that count as one
+constexpr std::size_t bytesPerPixel = sizeof(Pixel);
 
 class SdlWindow final : public SdlBackend {
 public:
@@ -110,6 +36,7 @@ public:
         if (!window_) {
             return;
         }
+        adaptToScale();
         SDL_SetWindowHitTest(window_.get(), &SdlWindow::hitTest, this);
         SDL_SetWindowMinimumSize(window_.get(), picture_.width / 2, picture_.height / 2);
         if (options.icon != nullptr) {
@@ -138,12 +65,16 @@ public:
     std::optional<InputEvent> wait(std::optional<Millis> limit) override {
         const std::optional<Millis> end = limit ? std::optional(now() + *limit) : std::nullopt;
         for (;;) {
-            SDL_Event event;
-            if (!waitFor(event, end)) {
-                return std::nullopt;
+            if (const auto typed = std::exchange(typed_, std::nullopt)) {
+                return *typed;
             }
-            if (const auto input = translate(event)) {
-                return input;
+            SDL_Event event;
+            if (waitFor(event, end)) {
+                if (const auto input = translate(event)) {
+                    return input;
+                }
+            } else if (end && now() >= *end) {
+                return std::nullopt;
             }
         }
     }
@@ -163,8 +94,9 @@ public:
         if (screen == nullptr || !prepareScaled(screen)) {
             return;
         }
-        const PixelRows rows{
-            static_cast<std::uint32_t*>(scaled_->pixels), scaled_->pitch / 4, {scaled_->w, scaled_->h}};
+        const PixelRows rows{static_cast<Pixel*>(scaled_->pixels),
+                             static_cast<int>(static_cast<std::size_t>(scaled_->pitch) / bytesPerPixel),
+                             {scaled_->w, scaled_->h}};
         const Rect area = pictureArea(rows.size, picture_);
         std::vector<SDL_Rect> sent;
         for (const Rect& part : changed) {
@@ -199,6 +131,7 @@ public:
     }
 
     void setCursor(const CursorImage* cursor) override {
+        cursor_ = cursor;
         if (cursor == nullptr) {
             SDL_ShowCursor(SDL_DISABLE);
             return;
@@ -239,8 +172,7 @@ public:
 
     void setClipboard(std::string_view text) override { SDL_SetClipboardText(toUtf8(text).c_str()); }
 
-    /// The machine has no sounds for message boxes: SDL knows none.
-    void beep(MessageIcon) override {}
+    void beep(MessageIcon kind) override { beeper_.beep(kind, now()); }
 
 private:
     Rect firstBounds(const SdlOptions& options) const {
@@ -277,92 +209,48 @@ private:
 
     Rect area() const { return pictureArea(windowSize(), picture_); }
 
-    /// The next event of SDL; false when there was none until `end`.
+    /// The next event of SDL. False when there was none until `end`, or before that, when something of ours
+    /// was to be seen to.
     bool waitFor(SDL_Event& event, std::optional<Millis> end) {
-        if (!end) {
+        beeper_.rest(now());
+        const std::optional<Millis> tone = beeper_.end();
+        const std::optional<Millis> until = tone && (!end || *tone < *end) ? tone : end;
+        if (!until) {
             return SDL_WaitEvent(&event) == 1;
         }
         // The clock counts whole milliseconds: waiting one less than asked for would spin through the rest.
-        const Millis left = std::clamp<Millis>(*end - now(), 0, std::numeric_limits<int>::max());
+        const Millis left = std::clamp<Millis>(*until - now(), 0, std::numeric_limits<int>::max());
         return left == 0 ? SDL_PollEvent(&event) == 1
                          : SDL_WaitEventTimeout(&event, static_cast<int>(left)) == 1;
     }
 
     std::optional<InputEvent> translate(const SDL_Event& event) {
-        switch (event.type) {
-        case SDL_QUIT: return WindowEvent::closeRequested;
-        case SDL_KEYDOWN:
-        case SDL_KEYUP: return keyEvent(event.key);
-        case SDL_TEXTINPUT: return textEvent(event.text);
-        case SDL_MOUSEMOTION: return mouseAt({event.motion.x, event.motion.y});
-        case SDL_MOUSEBUTTONDOWN:
-        case SDL_MOUSEBUTTONUP: return buttonEvent(event.button);
-        case SDL_MOUSEWHEEL: return wheelEvent(event.wheel);
-        case SDL_WINDOWEVENT: return windowEvent(event.window);
-        case SDL_DISPLAYEVENT: return WindowEvent::displayChanged;
-        default: return std::nullopt;
+        if (event.type == SDL_WINDOWEVENT) {
+            noteWindowChange(event.window);
+        }
+        typed_ = keypadText(event);
+        return inputOf(event, {area(), picture_, captured_});
+    }
+
+    void noteWindowChange(const SDL_WindowEvent& event) {
+        const bool isResized = event.event == SDL_WINDOWEVENT_SIZE_CHANGED;
+        showsBars_ = showsBars_ || isResized || event.event == SDL_WINDOWEVENT_EXPOSED;
+        if (isResized) {
+            adaptToScale();
         }
     }
 
-    static std::optional<InputEvent> keyEvent(const SDL_KeyboardEvent& event) {
-        return KeyEvent{keyOf(event.keysym), modifiersOf(static_cast<SDL_Keymod>(event.keysym.mod)),
-                        event.type == SDL_KEYDOWN, event.repeat != 0};
-    }
-
-    static std::optional<InputEvent> textEvent(const SDL_TextInputEvent& event) {
-        const bool isCommand = (SDL_GetModState() & (KMOD_LALT | KMOD_CTRL)) != 0;
-        std::string text = isCommand ? std::string() : fromUtf8(event.text, '\0');
-        return text.empty() ? std::nullopt : std::optional<InputEvent>(TextEvent{std::move(text)});
-    }
-
-    /// A move of the mouse, or the start of anything else it does there. Beside the picture it counts only
-    /// while it is captured.
-    std::optional<MouseEvent> mouseAt(Point window) const {
-        const Point position = toPicture(window, area(), picture_);
-        if (!captured_ && !Rect::at({}, picture_).contains(position)) {
-            return std::nullopt;
+    /// Pointers, and how far apart two clicks may be, grow with the picture.
+    void adaptToScale() {
+        const int multiple = std::max(1, area().width() / picture_.width);
+        if (multiple == multiple_) {
+            return;
         }
-        return MouseEvent{.position = position, .modifiers = modifiersOf(SDL_GetModState())};
-    }
-
-    std::optional<InputEvent> buttonEvent(const SDL_MouseButtonEvent& event) const {
-        auto mouse = mouseAt({event.x, event.y});
-        const MouseButton button = buttonOf(event.button);
-        if (!mouse || button == MouseButton::none) {
-            return std::nullopt;
-        }
-        mouse->button = button;
-        mouse->down = event.type == SDL_MOUSEBUTTONDOWN;
-        mouse->doubleClick = mouse->down && event.clicks % 2 == 0;
-        return *mouse;
-    }
-
-    std::optional<InputEvent> wheelEvent(const SDL_MouseWheelEvent& event) {
-        Point at;
-        SDL_GetMouseState(&at.x, &at.y);
-        auto mouse = mouseAt(at);
-        const int notches = event.direction == SDL_MOUSEWHEEL_FLIPPED ? -event.y : event.y;
-        if (!mouse || notches == 0) {
-            return std::nullopt;
-        }
-        mouse->wheel = notches;
-        return *mouse;
-    }
-
-    std::optional<InputEvent> windowEvent(const SDL_WindowEvent& event) {
-        switch (event.event) {
-        case SDL_WINDOWEVENT_SIZE_CHANGED:
-        case SDL_WINDOWEVENT_EXPOSED:
-            cursors_.clear();
-            showsBars_ = true;
-            return WindowEvent::exposed;
-        case SDL_WINDOWEVENT_FOCUS_GAINED: return WindowEvent::activated;
-        case SDL_WINDOWEVENT_FOCUS_LOST: return WindowEvent::deactivated;
-        case SDL_WINDOWEVENT_MINIMIZED: return WindowEvent::minimised;
-        case SDL_WINDOWEVENT_RESTORED: return WindowEvent::restored;
-        case SDL_WINDOWEVENT_CLOSE: return std::nullopt; // SDL asks to quit after its last window
-        case SDL_WINDOWEVENT_DISPLAY_CHANGED: return WindowEvent::displayChanged;
-        default: return std::nullopt;
+        multiple_ = multiple;
+        SDL_SetHint(SDL_HINT_MOUSE_DOUBLE_CLICK_RADIUS, std::to_string(doubleClickRadius * multiple).c_str());
+        cursors_.clear();
+        if (cursor_ != nullptr) {
+            SDL_SetCursor(shownCursor(*cursor_));
         }
     }
 
@@ -371,8 +259,10 @@ private:
         if (scaled_ && scaled_->w == screen->w && scaled_->h == screen->h) {
             return true;
         }
-        scaled_.reset(
-            SDL_CreateRGBSurfaceWithFormat(notShared, screen->w, screen->h, 32, SDL_PIXELFORMAT_RGB888));
+        constexpr Uint32 noFlags = 0;
+        constexpr int bitsPerPixel = 32;
+        scaled_.reset(SDL_CreateRGBSurfaceWithFormat(noFlags, screen->w, screen->h, bitsPerPixel,
+                                                     SDL_PIXELFORMAT_RGB888));
         showsBars_ = true;
         return scaled_ != nullptr;
     }
@@ -380,10 +270,9 @@ private:
     SDL_Cursor* shownCursor(const CursorImage& image) {
         CursorPointer& cursor = cursors_[&image];
         if (!cursor) {
-            const int multiple = std::max(1, area().width() / picture_.width);
-            const SurfacePointer surface = surfaceOf(image, multiple);
-            cursor.reset(
-                SDL_CreateColorCursor(surface.get(), image.hotSpot.x * multiple, image.hotSpot.y * multiple));
+            const SurfacePointer surface = surfaceOf(image, multiple_);
+            cursor.reset(SDL_CreateColorCursor(surface.get(), image.hotSpot.x * multiple_,
+                                               image.hotSpot.y * multiple_));
         }
         return cursor.get();
     }
@@ -392,8 +281,9 @@ private:
         return static_cast<const SdlWindow*>(data)->partAt({point->x, point->y});
     }
 
+    /// A press that a menu waits for must arrive, wherever it is made.
     SDL_HitTestResult partAt(Point p) const {
-        if ((SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0) {
+        if (captured_ || (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0) {
             return SDL_HITTEST_NORMAL;
         }
         if (dragStrip_ && dragStrip_->contains(toPicture(p, area(), picture_))) {
@@ -412,10 +302,14 @@ private:
 
     std::unique_ptr<VideoSystem> video_;
     Size picture_;
-    std::unique_ptr<SDL_Window, WindowDeleter> window_;
+    WindowPointer window_;
     SurfacePointer scaled_;
     bool showsBars_ = true; // the whole window is to be sent, also beside the picture
+    int multiple_ = 0;      // by which pointers are drawn; 0: not known yet
     std::map<const CursorImage*, CursorPointer> cursors_;
+    const CursorImage* cursor_ = nullptr;
+    std::optional<TextEvent> typed_; // comes after the key that typed it
+    Beeper beeper_;
     std::optional<Rect> dragStrip_;
     bool captured_ = false;
 };

@@ -69,6 +69,18 @@ Key keyBehind(Key first, int offset) {
     return static_cast<Key>(static_cast<int>(first) + offset);
 }
 
+/// What a key that writes something else bears on the keyboard of the United States: the letters of another
+/// script and the digits behind accents stand where one's hands look for them.
+Key keyAtPlace(SDL_Scancode code) {
+    if (code >= SDL_SCANCODE_A && code <= SDL_SCANCODE_Z) {
+        return keyBehind(Key::a, code - SDL_SCANCODE_A);
+    }
+    if (code >= SDL_SCANCODE_1 && code <= SDL_SCANCODE_9) {
+        return keyBehind(Key::digit1, code - SDL_SCANCODE_1);
+    }
+    return code == SDL_SCANCODE_0 ? Key::digit0 : Key::unknown;
+}
+
 } // namespace
 
 Key keyOf(const SDL_Keysym& sym) {
@@ -89,7 +101,7 @@ Key keyOf(const SDL_Keysym& sym) {
         return keyBehind(Key::digit0, sym.sym - SDLK_0);
     }
     const auto* const sign = std::ranges::find(signs, sym.sym, &Sign::code);
-    return sign == signs.end() ? Key::unknown : sign->key;
+    return sign != signs.end() ? sign->key : keyAtPlace(sym.scancode);
 }
 
 Modifiers modifiersOf(SDL_Keymod mod) {

@@ -30,6 +30,18 @@ struct Button::State {
         }
     }
 
+    /// The keyboard came or went; the space bar does not hold on to a button that it left.
+    void turn(bool gained) {
+        if (!gained && isHeld && !window.hasCapture()) {
+            isHeld = false;
+            isPressed = false;
+        }
+        window.invalidate();
+        if (setup.onFocus) {
+            setup.onFocus(gained);
+        }
+    }
+
     void paint(Canvas& canvas) const {
         Rect rect = window.area();
         canvas.fill(rect, look::face);
@@ -92,7 +104,7 @@ WindowHandlers buttonHandlers(const std::shared_ptr<State>& state) {
         state->setPressed(false);
     };
     handlers.key = [state](const KeyEvent& event) { return state->key(event); };
-    handlers.focus = [state](bool) { state->window.invalidate(); };
+    handlers.focus = [state](bool gained) { state->turn(gained); };
     handlers.cursor = [state](Point) -> std::optional<Cursor> {
         if (state->setup.cursor != nullptr) {
             return state->setup.cursor;

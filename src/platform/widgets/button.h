@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 
@@ -20,6 +21,7 @@ struct ButtonSetup {
     bool isDefault = false;              ///< drawn with a dark frame: Enter presses it
     bool takesFocus = true;              ///< false: a press leaves the keyboard where it is
     const CursorImage* cursor = nullptr; ///< none: the arrow
+    std::function<void(bool gained)> onFocus = nullptr;
 };
 
 /// A handle: copies name the same button. A press sends the command with the button's id.

@@ -3,41 +3,14 @@
 #include <algorithm>
 #include <cassert>
 
-#include "platform/widgets/menu.h"
 #include "platform/widgets/widget_place.h"
 
 namespace ventrel {
 
 namespace {
 
-constexpr int border = 3;
-constexpr int captionHeight = 18;
-constexpr int captionTextIndent = 4;
-constexpr Size closeBoxSize{16, 14};
-
-WindowHandlers forwarding(std::function<void(const CommandInput&)> command,
-                          std::function<bool(const KeyEvent&)> key,
-                          std::function<bool(std::string_view)> text) {
-    WindowHandlers handlers;
-    handlers.command = std::move(command);
-    handlers.key = std::move(key);
-    handlers.text = std::move(text);
-    return handlers;
-}
-
 Align alignOf(unsigned style) {
     return (style & rightAligned) != 0 ? Align::far : (style & centred) != 0 ? Align::middle : Align::near;
-}
-
-/// A command that no control has sent.
-CommandInput commandOf(int id) {
-    CommandInput input;
-    input.id = id;
-    return input;
-}
-
-bool isButton(ControlKind kind) {
-    return kind == ControlKind::pushButton || kind == ControlKind::defaultButton;
 }
 
 } // namespace
@@ -56,55 +29,6 @@ Dialog::~Dialog() {
     frame_.destroy();
 }
 
-int Dialog::frameTop() const {
-    return border + (title_.empty() ? 0 : captionHeight);
-}
-
-void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
-    hasCloseBox_ = hasCloseBox && !title_.empty();
-    WindowHandlers handlers = forwarding(
-        nullptr, [this](const KeyEvent& event) { return key(event); },
-        [this](std::string_view words) { return type(words); });
-    handlers.paint = [this](Canvas& canvas, const Rect&) { paintFrame(canvas); };
-    handlers.press = [this](const MouseInput& mouse) { pressFrame(mouse); };
-    handlers.move = [this](const MouseInput& mouse) {
-        if (grip_) {
-            frame_.setBounds(frame_.bounds().movedBy(mouse.position - *grip_));
-        }
-    };
-    handlers.release = [this](const MouseInput&) {
-        grip_.reset();
-        frame_.releaseCapture();
-    };
-    handlers.captureLost = [this] { grip_.reset(); };
-    handlers.activate = [this](Activation activation) {
-        isActive_ = activation.active;
-        frame_.invalidate();
-    };
-    handlers.close = [this] { cancel(); };
-    frame_ = desktop_.create({.owner = owner, .visible = false, .handlers = std::move(handlers)});
-
-    WindowHandlers insideHandlers;
-    insideHandlers.command = [this](const CommandInput& input) { command(input); };
-    insideHandlers.paint = [this](Canvas& canvas, const Rect&) {
-        canvas.fill(inside_.area(), look::face);
-        if (handlers_.paint) {
-            handlers_.paint(*this, canvas);
-        }
-    };
-    inside_ = desktop_.create({.parent = frame_, .handlers = std::move(insideHandlers)});
-}
-
-void Dialog::resizeInside(Size size) {
-    const Point corner = frame_.bounds().topLeft();
-    frame_.setBounds(Rect::at(corner, {size.width + 2 * border, size.height + frameTop() + border}));
-    inside_.setBounds(Rect::at({border, frameTop()}, size));
-}
-
-void Dialog::centre() {
-    frame_.setBounds(centredIn(desktop_.area(), frame_.size()));
-}
-
 void Dialog::createControl(const ControlTemplate& shape) {
     const Rect place = dialogUnitsToPixels(shape.place);
     const std::string text(shape.text);
@@ -121,7 +45,8 @@ void Dialog::createControl(const ControlTemplate& shape) {
                                     .bounds = place,
                                     .text = text,
                                     .font = &fonts_.text,
-                                    .isDefault = shape.kind == ControlKind::defaultButton}));
+                                    .isDefault = shape.kind == ControlKind::defaultButton,
+                                    .onFocus = [this](bool) { markDefault(); }}));
         break;
     case ControlKind::checkBox:
     case ControlKind::radioButton: {
@@ -163,7 +88,7 @@ int Dialog::run(int whenQuitting) {
         handlers_.init(*this);
     }
     if (!isDone_ && !desktop_.focusWindow().isWithin(frame_)) {
-        moveFocus(1, false);
+        moveFocus(1);
     }
     if (!isDone_ && !desktop_.runModal(frame_, [this] { return isDone_; })) {
         return whenQuitting;
@@ -247,173 +172,25 @@ Window Dialog::window(int id) const {
     return placed(id).window;
 }
 
-/// The others of its group are let go: a group begins at a control marked so, or after one that is no radio
-/// button.
-void Dialog::chooseRadio(std::size_t index) {
+/// A group begins at a radio button marked so, or after a control that is none.
+Dialog::Group Dialog::radioGroup(std::size_t index) const {
     const auto isRadio = [&](std::size_t i) { return controls_[i].shape.kind == ControlKind::radioButton; };
-    std::size_t first = index;
-    while (first > 0 && (controls_[first].shape.style & groupStart) == 0 && isRadio(first - 1)) {
-        --first;
+    const auto isStart = [&](std::size_t i) { return (controls_[i].shape.style & groupStart) != 0; };
+    Group group{index, index + 1};
+    while (group.first > 0 && !isStart(group.first) && isRadio(group.first - 1)) {
+        --group.first;
     }
-    for (std::size_t i = first; i < controls_.size() && isRadio(i); ++i) {
-        const bool isNextGroup = i > first && (controls_[i].shape.style & groupStart) != 0;
-        if (isNextGroup) {
-            break;
-        }
+    while (group.end < controls_.size() && isRadio(group.end) && !isStart(group.end)) {
+        ++group.end;
+    }
+    return group;
+}
+
+/// The others of its group are let go.
+void Dialog::chooseRadio(std::size_t index) {
+    const Group group = radioGroup(index);
+    for (std::size_t i = group.first; i < group.end; ++i) {
         std::get<Toggle>(controls_[i].control).setChecked(i == index);
-    }
-}
-
-// Frame -----------------------------------------------------------------------------------------------------
-
-Rect Dialog::captionBox() const {
-    return {border, border, frame_.size().width - border, border + captionHeight};
-}
-
-Rect Dialog::closeBox() const {
-    const Rect caption = captionBox();
-    return Rect::at({caption.right - closeBoxSize.width - 2, caption.top + 2}, closeBoxSize);
-}
-
-void Dialog::paintFrame(Canvas& canvas) const {
-    canvas.fill(frame_.area(), look::face);
-    drawRaisedEdge(canvas, frame_.area());
-    if (title_.empty()) {
-        return;
-    }
-    const Rect caption = captionBox();
-    canvas.fill(caption, isActive_ ? look::caption : look::idleCaption);
-    const Rect words{caption.left + captionTextIndent, caption.top, caption.right, caption.bottom};
-    drawTextBox(canvas, fonts_.caption, words, title_, {isActive_ ? look::captionText : look::face, {}},
-                {.down = Align::middle, .singleLine = true});
-    if (hasCloseBox_) {
-        canvas.fill(closeBox(), look::face);
-        drawButtonEdge(canvas, closeBox(), false);
-        drawCloseCross(canvas, closeBox());
-    }
-}
-
-void Dialog::pressFrame(const MouseInput& mouse) {
-    if (mouse.button != MouseButton::left || title_.empty()) {
-        return;
-    }
-    if (hasCloseBox_ && closeBox().contains(mouse.position)) {
-        cancel();
-    } else if (captionBox().contains(mouse.position)) {
-        grip_ = mouse.position;
-        frame_.capture();
-    }
-}
-
-// Keys ------------------------------------------------------------------------------------------------------
-
-bool Dialog::canFocus(const Placed& control) const {
-    const bool isStill =
-        control.shape.kind == ControlKind::staticText || control.shape.kind == ControlKind::groupBox;
-    return !isStill && control.window.isVisible() && control.window.isEnabled();
-}
-
-std::size_t Dialog::focusIndex() const {
-    const auto found =
-        std::ranges::find_if(controls_, [](const Placed& control) { return control.window.hasFocus(); });
-    return static_cast<std::size_t>(found - controls_.begin());
-}
-
-/// To the next control that can have the keyboard, round the ends. A group of radio buttons counts as one:
-/// its chosen button gets the keyboard. Within a group the buttons are walked, and chosen.
-void Dialog::moveFocus(int direction, bool withinGroup) {
-    const auto count = static_cast<int>(controls_.size());
-    const int start = static_cast<int>(focusIndex());
-    int index = start == count && direction > 0 ? -1 : start;
-    for (int step = 0; step < count; ++step) {
-        index = (index + direction + count) % count;
-        const Placed& control = controls_[static_cast<std::size_t>(index)];
-        const bool isRadio = control.shape.kind == ControlKind::radioButton;
-        if (!canFocus(control) || (withinGroup && !isRadio)) {
-            continue;
-        }
-        if (withinGroup) {
-            control.window.focus();
-            std::get<Toggle>(control.control).choose();
-            return;
-        }
-        const bool isOther = !isRadio || std::get<Toggle>(control.control).isChecked();
-        if (isOther) {
-            control.window.focus();
-            if (control.shape.kind == ControlKind::edit) {
-                std::get<Edit>(control.control).selectAll();
-            }
-            return;
-        }
-    }
-}
-
-bool Dialog::key(const KeyEvent& event) {
-    if (!event.down) {
-        return false;
-    }
-    const std::size_t focused = focusIndex();
-    const bool isOnRadio =
-        focused < controls_.size() && controls_[focused].shape.kind == ControlKind::radioButton;
-    switch (event.key) {
-    case Key::tab: moveFocus(event.modifiers.shift ? -1 : 1, false); return true;
-    case Key::left:
-    case Key::up: moveFocus(-1, isOnRadio); return true;
-    case Key::right:
-    case Key::down: moveFocus(1, isOnRadio); return true;
-    case Key::enter:
-    case Key::keypadEnter: pressDefault(); return true;
-    case Key::escape:
-        if (handlers_.escapeCommand != noEscape) {
-            command(commandOf(handlers_.escapeCommand));
-        }
-        return true;
-    default: break;
-    }
-    const bool isLetter = event.key >= Key::a && event.key <= Key::z;
-    if (event.modifiers.alt && isLetter) {
-        const int letter = static_cast<int>(event.key) - static_cast<int>(Key::a);
-        return takeMnemonic(static_cast<char>('a' + letter));
-    }
-    return false;
-}
-
-/// Letters that no field has taken are mnemonics too.
-bool Dialog::type(std::string_view words) {
-    if (!words.empty()) {
-        takeMnemonic(mnemonicOf("&" + std::string(words.substr(0, 1))));
-    }
-    return true;
-}
-
-bool Dialog::takeMnemonic(char letter) {
-    for (const Placed& control : controls_) {
-        if (letter == '\0' || mnemonicOf(control.shape.text) != letter || !canFocus(control)) {
-            continue;
-        }
-        control.window.focus();
-        if (const auto* button = std::get_if<Button>(&control.control)) {
-            button->press();
-        } else if (const auto* toggle = std::get_if<Toggle>(&control.control)) {
-            toggle->choose();
-        }
-        return true;
-    }
-    return false;
-}
-
-/// The button that has the keyboard, else the default one.
-void Dialog::pressDefault() {
-    const std::size_t focused = focusIndex();
-    if (focused < controls_.size() && isButton(controls_[focused].shape.kind)) {
-        std::get<Button>(controls_[focused].control).press();
-        return;
-    }
-    for (const Placed& control : controls_) {
-        if (control.shape.kind == ControlKind::defaultButton) {
-            std::get<Button>(control.control).press();
-            return;
-        }
     }
 }
 
@@ -423,8 +200,10 @@ void Dialog::command(const CommandInput& input) {
     }
 }
 
-void Dialog::cancel() {
-    command(commandOf(cancelId));
+void Dialog::commandOf(int id) {
+    CommandInput input;
+    input.id = id;
+    command(input);
 }
 
 int runDialog(Desktop& desktop, const WidgetFonts& fonts, const Window& owner, const DialogTemplate& shape,

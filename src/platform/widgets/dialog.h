@@ -85,10 +85,19 @@ private:
     void createFrame(const Window& owner, bool hasCloseBox);
     void createControl(const ControlTemplate& shape);
     void chooseRadio(std::size_t index);
+    struct Group {
+        std::size_t first = 0;
+        std::size_t end = 0;
+    };
+    Group radioGroup(std::size_t index) const;
     const Placed& placed(int id) const;
 
     void paintFrame(Canvas& canvas) const;
     void pressFrame(const MouseInput& mouse);
+    void moveOnFrame(const MouseInput& mouse);
+    void releaseFrame();
+    void letGoOfFrame();
+    void showCloseBoxPressed(bool pressed);
     Rect captionBox() const;
     Rect closeBox() const;
     int frameTop() const;
@@ -96,12 +105,19 @@ private:
     bool key(const KeyEvent& event);
     bool type(std::string_view words);
     bool takeMnemonic(char letter);
-    void moveFocus(int direction, bool withinGroup);
+    void takeMnemonicOf(std::size_t index);
+    void moveFocus(int direction);
+    void moveWithinGroup(int direction);
+    void focusControl(const Placed& control);
+    bool isTabStop(std::size_t index) const;
     std::size_t focusIndex() const;
     bool canFocus(const Placed& control) const;
+    void markDefault();
     void pressDefault();
     void command(const CommandInput& input);
-    void cancel();
+    /// A command that no control has sent.
+    void commandOf(int id);
+    void cancel() { commandOf(cancelId); }
 
     Desktop& desktop_;
     const WidgetFonts& fonts_;
@@ -111,7 +127,9 @@ private:
     Window frame_;
     Window inside_;
     std::vector<Placed> controls_;
-    std::optional<Point> grip_; // where the caption is held
+    std::optional<Point> grip_;      // where the caption is held
+    bool isClosing_ = false;         // the close box is held
+    bool isCloseBoxPressed_ = false; // held, and the mouse is over it
     bool isActive_ = false;
     bool isDone_ = false;
     int result_ = 0;

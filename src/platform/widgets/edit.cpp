@@ -83,9 +83,10 @@ struct Edit::State {
             return copies || cuts || pastes;
         }
         if (cuts) {
-            if (line.hasSelection()) {
-                line.erase(true);
+            if (!line.hasSelection()) {
+                return true;
             }
+            line.erase(true);
         } else if (pastes) {
             line.insert(window.desktop()->backend().clipboard());
         } else if (event.key == Key::backspace || event.key == Key::del) {
@@ -101,9 +102,11 @@ struct Edit::State {
         const bool control = event.modifiers.control;
         const bool extend = event.modifiers.shift;
         switch (event.key) {
+        case Key::up:
         case Key::left:
             move(control ? line.wordLeft() : line.caret - (line.caret > 0 ? 1 : 0), extend);
             return true;
+        case Key::down:
         case Key::right: move(control ? line.wordRight() : line.caret + 1, extend); return true;
         case Key::home: move(0, extend); return true;
         case Key::end: move(line.text.size(), extend); return true;
@@ -138,8 +141,7 @@ struct Edit::State {
         }
         window.focus();
         if (mouse.doubleClick) {
-            line.moveTo(line.wordLeft(), false);
-            line.moveTo(line.wordRight(), true);
+            line.selectWordAt(line.caret);
             refresh();
             return;
         }
@@ -160,7 +162,7 @@ struct Edit::State {
 
     void paint(Canvas& canvas) const {
         const Rect area = window.area();
-        canvas.fill(area, setup.readOnly ? look::face : look::field);
+        canvas.fill(area, setup.readOnly || !window.isEnabled() ? look::face : look::field);
         drawSunkenEdge(canvas, area);
         const Rect inner = area.grownBy(-2);
         const Point corner{inset - scrolled, (area.height() - setup.font->lineHeight()) / 2};

@@ -42,6 +42,13 @@ void EditText::erase(bool forward) {
     }
 }
 
+void EditText::selectWordAt(std::size_t place) {
+    // From behind the word's first letter, or the place before it would count.
+    moveTo(place + 1, false);
+    moveTo(wordLeft(), false);
+    moveTo(wordRight(), true);
+}
+
 std::size_t EditText::wordLeft() const {
     std::size_t place = caret;
     while (place > 0 && text[place - 1] == ' ') {

@@ -29,6 +29,9 @@ struct EditText {
     /// Removes the selection, or the character before or after the caret.
     void erase(bool forward);
 
+    /// Selects the word at that place with the blanks behind it.
+    void selectWordAt(std::size_t place);
+
     std::size_t wordLeft() const;
     std::size_t wordRight() const;
 };

@@ -12,8 +12,22 @@ constexpr int textIndent = 2;
 constexpr int shortestThumb = 8;
 constexpr int wheelLines = 3;
 
+// A part of the scroll bar that is held scrolls on.
+constexpr int repeatTimer = 1;
+constexpr Millis firstRepeat = 400;
+constexpr Millis nextRepeats = 60;
+
+// Letters that follow each other faster make one word to look for.
+constexpr Millis typingPause = 900;
+
+enum class BarPart { none, up, down, pageUp, pageDown };
+
 char lowered(char c) {
     return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
+bool beginsWith(std::string_view line, std::string_view word) {
+    return std::ranges::equal(line.substr(0, word.size()), word, {}, lowered, lowered);
 }
 
 bool comesFirst(std::string_view a, std::string_view b) {
@@ -31,6 +45,10 @@ struct ListBox::State {
     int tabWidth = 0;
     bool isChoosing = false;      // the mouse is held over the lines
     std::optional<int> thumbGrip; // pixels from the thumb's top to the mouse that holds it
+    BarPart held = BarPart::none; // of the scroll bar, by the mouse
+    Point heldAt;                 // where the mouse is meanwhile
+    std::string typed;            // letters of the word that is looked for
+    Millis typedAt = 0;
 
     int count() const { return static_cast<int>(lines.size()); }
     int lineHeight() const { return setup.font->lineHeight(); }
@@ -80,16 +98,48 @@ struct ListBox::State {
         }
     }
 
-    void pressBar(Point p) {
+    BarPart barPartAt(Point p) const {
+        if (lastTop() == 0 || !bar().contains(p) || thumb().contains(p)) {
+            return BarPart::none;
+        }
         if (upArrow().contains(p)) {
-            scrollTo(top - 1);
-        } else if (downArrow().contains(p)) {
-            scrollTo(top + 1);
-        } else if (thumb().contains(p)) {
+            return BarPart::up;
+        }
+        if (downArrow().contains(p)) {
+            return BarPart::down;
+        }
+        return p.y < thumb().top ? BarPart::pageUp : BarPart::pageDown;
+    }
+
+    void pressBar(Point p) {
+        window.capture();
+        if (thumb().contains(p)) {
             thumbGrip = p.y - thumb().top;
-            window.capture();
-        } else if (lastTop() > 0) {
-            scrollTo(p.y < thumb().top ? top - page() : top + page());
+            return;
+        }
+        held = barPartAt(p);
+        heldAt = p;
+        if (held != BarPart::none) {
+            scrollHeld();
+            window.startTimer(repeatTimer, firstRepeat);
+        }
+    }
+
+    /// The held part scrolls on for as long as the mouse is over it.
+    void repeatHeld() {
+        window.startTimer(repeatTimer, nextRepeats);
+        if (barPartAt(heldAt) == held) {
+            scrollHeld();
+        }
+    }
+
+    void scrollHeld() {
+        switch (held) {
+        case BarPart::up: scrollTo(top - 1); break;
+        case BarPart::down: scrollTo(top + 1); break;
+        case BarPart::pageUp: scrollTo(top - page()); break;
+        case BarPart::pageDown: scrollTo(top + page()); break;
+        case BarPart::none: break;
         }
     }
 
@@ -122,6 +172,9 @@ struct ListBox::State {
             const int way = track().height() - thumb().height();
             const int at = mouse.position.y - *thumbGrip - track().top;
             scrollTo(way > 0 ? (at * lastTop() + way / 2) / way : 0);
+        } else if (held != BarPart::none) {
+            heldAt = mouse.position;
+            window.invalidate(bar());
         } else if (isChoosing) {
             select(lineAt(mouse.position), true);
         }
@@ -130,6 +183,11 @@ struct ListBox::State {
     void letGo() {
         isChoosing = false;
         thumbGrip.reset();
+        if (held != BarPart::none) {
+            held = BarPart::none;
+            window.stopTimer(repeatTimer);
+            window.invalidate(bar());
+        }
     }
 
     bool key(const KeyEvent& event) {
@@ -147,17 +205,31 @@ struct ListBox::State {
         }
     }
 
-    /// The next line that begins with the letter.
+    /// Chooses a line by its first letters; the same letter again and again walks the lines that begin with
+    /// it.
     bool type(std::string_view words) {
-        for (int step = 1; step <= count() && !words.empty(); ++step) {
-            const int index = (std::max(selected, noListItem) + step) % count();
-            const std::string& line = lines[static_cast<std::size_t>(index)];
-            if (!line.empty() && lowered(line.front()) == lowered(words.front())) {
-                select(index, true);
-                break;
-            }
+        const Millis now = window.desktop()->now();
+        if (now - typedAt > typingPause) {
+            typed.clear();
+        }
+        typedAt = now;
+        for (const char letter : words) {
+            const bool isAgain = typed.size() == 1 && lowered(typed.front()) == lowered(letter);
+            typed += isAgain ? std::string_view() : std::string_view(&letter, 1);
+            chooseTyped();
         }
         return true;
+    }
+
+    void chooseTyped() {
+        const int first = typed.size() == 1 ? selected + 1 : std::max(selected, 0);
+        for (int step = 0; step < count(); ++step) {
+            const int index = (first + step) % count();
+            if (beginsWith(lines[static_cast<std::size_t>(index)], typed)) {
+                select(index, true);
+                return;
+            }
+        }
     }
 
     void paintLines(Canvas& canvas) const {
@@ -184,13 +256,14 @@ struct ListBox::State {
         canvas.fill(bar(), look::softLight);
         const bool canScroll = lastTop() > 0;
         const Colour arrow = canScroll ? look::text : look::greyText;
-        const std::pair<Rect, ArrowDirection> arrows[]{{upArrow(), ArrowDirection::up},
-                                                       {downArrow(), ArrowDirection::down}};
-        for (const auto& [box, direction] : arrows) {
+        const auto paintArrow = [&](const Rect& box, ArrowDirection direction, BarPart part) {
+            const bool isPressed = held == part && barPartAt(heldAt) == part;
             canvas.fill(box, look::face);
-            drawRaisedEdge(canvas, box);
-            drawArrow(canvas, box, direction, arrow);
-        }
+            isPressed ? drawButtonEdge(canvas, box, true) : drawRaisedEdge(canvas, box);
+            drawArrow(canvas, isPressed ? box.movedBy({1, 1}) : box, direction, arrow);
+        };
+        paintArrow(upArrow(), ArrowDirection::up, BarPart::up);
+        paintArrow(downArrow(), ArrowDirection::down, BarPart::down);
         if (canScroll) {
             canvas.fill(thumb(), look::face);
             drawRaisedEdge(canvas, thumb());
@@ -217,6 +290,7 @@ ListBox createListBox(Desktop& desktop, ListBoxSetup setup) {
         state->window.releaseCapture();
     };
     handlers.captureLost = [state] { state->letGo(); };
+    handlers.timer = [state](int) { state->repeatHeld(); };
     handlers.wheel = [state](int notches) {
         state->scrollTo(state->top - notches * wheelLines);
         return true;

@@ -178,21 +178,22 @@ void drawCheckMark(Canvas& canvas, Point corner, Colour colour) {
     drawSigns(canvas, corner, checkMark, {{'o', colour}});
 }
 
-void drawCheckBox(Canvas& canvas, Point corner, bool checked, bool enabled) {
+void drawCheckBox(Canvas& canvas, Point corner, bool checked, ToggleLook toggle) {
     const Rect box = Rect::at(corner, {toggleMarkSize, toggleMarkSize});
-    canvas.fill(box, enabled ? field : face);
+    canvas.fill(box, toggle == ToggleLook::ready ? field : face);
     drawSunkenEdge(canvas, box);
     if (checked) {
-        drawCheckMark(canvas, corner + Point{3, 3}, enabled ? text : greyText);
+        drawCheckMark(canvas, corner + Point{3, 3}, toggle == ToggleLook::greyed ? greyText : text);
     }
 }
 
-void drawRadioRing(Canvas& canvas, Point corner, bool checked, bool enabled) {
-    drawSigns(
-        canvas, corner, radioRing,
-        {{'s', shadow}, {'d', darkShadow}, {'f', enabled ? field : face}, {'g', softLight}, {'l', light}});
+void drawRadioRing(Canvas& canvas, Point corner, bool checked, ToggleLook toggle) {
+    const Colour inside = toggle == ToggleLook::ready ? field : face;
+    drawSigns(canvas, corner, radioRing,
+              {{'s', shadow}, {'d', darkShadow}, {'f', inside}, {'g', softLight}, {'l', light}});
     if (checked) {
-        drawSigns(canvas, corner + Point{4, 4}, radioDot, {{'o', enabled ? text : greyText}});
+        drawSigns(canvas, corner + Point{4, 4}, radioDot,
+                  {{'o', toggle == ToggleLook::greyed ? greyText : text}});
     }
 }
 

@@ -56,9 +56,10 @@ void drawLabel(Canvas& canvas, const Font& font, const Rect& box, std::string_vi
 
 /// A check mark of 7 x 7 pixels.
 void drawCheckMark(Canvas& canvas, Point corner, Colour colour);
-/// The box of a check box and the ring of a radio button, 13 x 13 pixels.
-void drawCheckBox(Canvas& canvas, Point corner, bool checked, bool enabled);
-void drawRadioRing(Canvas& canvas, Point corner, bool checked, bool enabled);
+enum class ToggleLook { ready, pressed, greyed };
+/// The box of a check box, 13 x 13 pixels, and the ring of a radio button, 12 x 12.
+void drawCheckBox(Canvas& canvas, Point corner, bool checked, ToggleLook look);
+void drawRadioRing(Canvas& canvas, Point corner, bool checked, ToggleLook look);
 inline constexpr int toggleMarkSize = 13;
 
 enum class ArrowDirection { up, down, right };

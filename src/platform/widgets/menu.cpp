@@ -54,4 +54,14 @@ char mnemonicOf(std::string_view label) {
     return '\0';
 }
 
+char letterOf(Key key) {
+    if (key >= Key::a && key <= Key::z) {
+        return static_cast<char>('a' + (static_cast<int>(key) - static_cast<int>(Key::a)));
+    }
+    if (key >= Key::digit0 && key <= Key::digit9) {
+        return static_cast<char>('0' + (static_cast<int>(key) - static_cast<int>(Key::digit0)));
+    }
+    return '\0';
+}
+
 } // namespace ventrel

@@ -44,5 +44,7 @@ int trackMenu(Desktop& desktop, const WidgetFonts& fonts, const Menu& menu, Poin
 
 /// The letter behind the mark of a label, in lower case; NUL without one.
 char mnemonicOf(std::string_view label);
+/// The letter or digit that a key bears, in lower case; NUL when it bears none.
+char letterOf(Key key);
 
 } // namespace ventrel

@@ -24,6 +24,11 @@ ItemTexts textsOf(const MenuItem& item) {
     return {text.substr(0, tab), tab == std::string_view::npos ? std::string_view() : text.substr(tab + 1)};
 }
 
+char shortcutOf(const std::string& text) {
+    const char marked = mnemonicOf(text);
+    return marked != '\0' || text.empty() ? marked : mnemonicOf("&" + text.substr(0, 1));
+}
+
 constexpr TextLayout labelLayout{.down = Align::middle, .singleLine = true, .mnemonics = true};
 
 int widthOf(const Font& font, const MenuItem& item) {
@@ -71,6 +76,17 @@ int MenuLevel::neighbour(int item, int direction) const {
     for (int step = 0; step < count; ++step) {
         next = (next + direction + count) % count;
         if (!(*menu)[static_cast<std::size_t>(next)].text.empty()) {
+            return next;
+        }
+    }
+    return noItem;
+}
+
+int MenuLevel::itemWith(char letter, int item) const {
+    const int count = static_cast<int>(menu->size());
+    for (int step = 1; step <= count && letter != '\0'; ++step) {
+        const int next = (item + step) % count;
+        if (shortcutOf((*menu)[static_cast<std::size_t>(next)].text) == letter) {
             return next;
         }
     }

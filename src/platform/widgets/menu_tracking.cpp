@@ -67,20 +67,21 @@ private:
         handlers.press = [this](const MouseInput& mouse) { press(mouse); };
         handlers.release = [this](const MouseInput& mouse) { release(mouse); };
         handlers.move = [this](const MouseInput& mouse) { move(mouse); };
-        handlers.key = [this](const KeyEvent& event) {
-            if (event.down) {
-                key(event);
-            }
-            return !isLetter(event);
-        };
+        handlers.key = [this](const KeyEvent& event) { return event.down && key(event); };
         handlers.text = [this](std::string_view text) {
             type(text);
             return true;
         };
         handlers.timer = [this](int) { openHot(); };
+        handlers.captureLost = [this] { hideAll(); };
     }
 
-    static bool isLetter(const KeyEvent& event) { return event.key >= Key::a && event.key <= Key::digit9; }
+    /// The menu has ended, though the loop around it may end only later.
+    void hideAll() {
+        for (const auto& level : levels_) {
+            level->window.hide();
+        }
+    }
 
     void closeFrom(std::size_t depth) {
         while (levels_.size() > depth) {
@@ -124,6 +125,7 @@ private:
             }
             return;
         }
+        showWayTo(*depth);
         MenuLevel& level = *levels_[*depth];
         const int item = level.itemAt(mouse.screen);
         if (item == level.hot) {
@@ -132,6 +134,13 @@ private:
         setHot(*depth, item);
         hotDepth_ = *depth;
         levels_.front()->window.startTimer(openTimer, openDelay);
+    }
+
+    /// On its way into a popup the mouse may have crossed other items of those before it.
+    void showWayTo(std::size_t depth) {
+        for (std::size_t before = 0; before < depth; ++before) {
+            setHot(before, levels_[before]->opened);
+        }
     }
 
     /// The mouse has rested on an item: what it left is closed, and its own submenu opened.
@@ -213,41 +222,64 @@ private:
         }
     }
 
-    void key(const KeyEvent& event) {
+    /// Whether the key was one of those that walk a menu; others may type a mnemonic.
+    bool key(const KeyEvent& event) {
         const std::size_t last = levels_.size() - 1;
+        levels_.front()->window.stopTimer(openTimer);
         switch (event.key) {
-        case Key::down: setHot(last, deepest().neighbour(deepest().hot, 1)); break;
-        case Key::up: setHot(last, deepest().neighbour(deepest().hot, -1)); break;
-        case Key::right: openItem(last, true); break;
+        case Key::down: setHot(last, deepest().neighbour(deepest().hot, 1)); return true;
+        case Key::up: setHot(last, deepest().neighbour(deepest().hot, -1)); return true;
+        case Key::home: setHot(last, deepest().neighbour(noItem, 1)); return true;
+        case Key::end: setHot(last, deepest().neighbour(noItem, -1)); return true;
+        case Key::right: openItem(last, true); return true;
         case Key::enter:
-        case Key::keypadEnter: chooseHot(last, true); break;
+        case Key::keypadEnter: chooseHot(last, true); return true;
         case Key::left:
             if (last > 0) {
                 closeFrom(last);
             }
-            break;
+            return true;
         case Key::escape:
             if (last > 0) {
                 closeFrom(last);
             } else {
                 finish(noCommand);
             }
-            break;
+            return true;
+        case Key::alt:
+            if (!event.repeat) {
+                finish(noCommand);
+            }
+            return true;
         default: break;
         }
+        // With Alt held no text follows.
+        if (event.modifiers.alt) {
+            takeLetter(letterOf(event.key));
+        }
+        return event.modifiers.alt;
     }
 
     void type(std::string_view text) {
-        const std::size_t last = levels_.size() - 1;
         for (const char typed : text) {
-            const char letter = mnemonicOf(std::string("&") + typed);
-            for (std::size_t i = 0; i < deepest().menu->size(); ++i) {
-                if (letter != '\0' && mnemonicOf((*deepest().menu)[i].text) == letter) {
-                    setHot(last, static_cast<int>(i));
-                    chooseHot(last, true);
-                    return;
-                }
+            const std::size_t depth = levels_.size();
+            takeLetter(mnemonicOf(std::string("&") + typed));
+            if (isDone_ || levels_.size() != depth) {
+                return;
             }
+        }
+    }
+
+    /// The only item with that letter is chosen; among several the next one becomes hot.
+    void takeLetter(char letter) {
+        const std::size_t last = levels_.size() - 1;
+        const int item = deepest().itemWith(letter, deepest().hot);
+        if (item == noItem) {
+            return;
+        }
+        setHot(last, item);
+        if (deepest().itemWith(letter, item) == item) {
+            chooseHot(last, true);
         }
     }
 

@@ -6,7 +6,31 @@ struct Toggle::State {
     ToggleSetup setup;
     Window window;
     bool checked = false;
+    bool isHeld = false;    // by the mouse
+    bool isPressed = false; // held, and the mouse is over it
     std::function<void()> onChosen;
+
+    void setPressed(bool pressed) {
+        if (isPressed != pressed) {
+            isPressed = pressed;
+            window.invalidate();
+        }
+    }
+
+    void press() {
+        window.focus();
+        window.capture();
+        isHeld = true;
+        setPressed(true);
+    }
+
+    /// Lets go; whether the mouse was still over it.
+    bool letGo() {
+        const bool isChosen = isHeld && isPressed;
+        isHeld = false;
+        setPressed(false);
+        return isChosen;
+    }
 
     void choose() {
         checked = setup.kind == ToggleKind::radioButton || !checked;
@@ -22,10 +46,13 @@ struct Toggle::State {
         const Rect area = window.area();
         canvas.fill(area, look::face);
         const Point mark{0, (area.height() - toggleMarkSize) / 2};
+        const ToggleLook look = !window.isEnabled() ? ToggleLook::greyed
+                                : isPressed         ? ToggleLook::pressed
+                                                    : ToggleLook::ready;
         if (setup.kind == ToggleKind::checkBox) {
-            drawCheckBox(canvas, mark, checked, window.isEnabled());
+            drawCheckBox(canvas, mark, checked, look);
         } else {
-            drawRadioRing(canvas, mark, checked, window.isEnabled());
+            drawRadioRing(canvas, mark, checked, look);
         }
         const Rect box{toggleMarkSize + gap, 0, area.right, area.bottom};
         const TextLayout layout{.down = Align::middle, .singleLine = true, .mnemonics = true};
@@ -45,18 +72,23 @@ Toggle createToggle(Desktop& desktop, ToggleSetup setup) {
     handlers.paint = [state](Canvas& canvas, const Rect&) { state->paint(canvas); };
     handlers.press = [state](const MouseInput& mouse) {
         if (mouse.button == MouseButton::left) {
-            state->window.focus();
-            state->window.capture();
+            state->press();
+        }
+    };
+    handlers.move = [state](const MouseInput& mouse) {
+        if (state->isHeld) {
+            state->setPressed(state->window.area().contains(mouse.position));
         }
     };
     handlers.release = [state](const MouseInput& mouse) {
-        if (mouse.button == MouseButton::left && state->window.hasCapture()) {
+        if (mouse.button == MouseButton::left && state->isHeld) {
             state->window.releaseCapture();
-            if (state->window.area().contains(mouse.position)) {
+            if (state->letGo()) {
                 state->choose();
             }
         }
     };
+    handlers.captureLost = [state] { state->letGo(); };
     handlers.key = [state](const KeyEvent& event) {
         const bool isSpace = event.key == Key::space;
         if (isSpace && event.down && !event.repeat) {

@@ -86,26 +86,20 @@ TEST(Activation, SwitchingProgramsUnderADialogConcernsTheDialogAlone) {
               (Log{"dialog blur", "dialog minimised", "dialog active", "dialog focus", "broken off"}));
 }
 
-TEST(Close, AsksTheDialogFirstThenItsOwnersAndQuitsAtLast) {
+TEST(Close, AsksTheOwnersInTurnAndQuitsInsideDialogsAtOnce) {
     Stage stage;
-    Window main;
-    main = stage.open({.close =
-                           [&] {
-                               stage.log.emplace_back("main asked");
-                               stage.runDialog(main, {.close = [&] { stage.dialogIsFinished = true; }});
-                               main.destroy();
-                           },
-                       .destroyed =
-                           [&] {
-                               stage.log.emplace_back("main gone");
-                               stage.desktop.quit();
-                           }});
+    const Window main = stage.open({.close = [&] { stage.log.emplace_back("main asked"); }});
     stage.desktop.setMainWindow(main);
-    // Two dialogs over each other; the inner one does not know what closing is.
-    main.post([&] { stage.runDialog(main); });
-    stage.script.wait(1).window(WindowEvent::closeRequested).window(WindowEvent::closeRequested);
+    const Window owned = stage.desktop.create({.owner = main, .bounds = {20, 20, 60, 60}});
+    stage.script.window(WindowEvent::closeRequested).then([&] {
+        EXPECT_EQ(stage.desktop.activeWindow(), owned);
+        // Two dialogs over each other: both end with the program, whatever they do when they are closed.
+        main.post([&] { stage.runDialog(main, {.close = [&] { stage.dialogIsFinished = true; }}); });
+        main.post([&] { stage.runDialog(main, {.close = [&] { stage.dialogIsFinished = true; }}); });
+    });
+    stage.script.wait(1).window(WindowEvent::closeRequested);
     stage.desktop.run();
-    EXPECT_EQ(stage.log, (Log{"main asked", "ended", "main gone", "broken off"}));
+    EXPECT_EQ(stage.log, (Log{"main asked", "broken off", "broken off"}));
 
     Stage bare;
     bare.open();
