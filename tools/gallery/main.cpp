@@ -24,7 +24,9 @@ constexpr const char* usage = "Shows the controls, menus, boxes, faces and drawi
                               "    ventrel-gallery [--large] [--picture OUT.png]\n"
                               "\n"
                               "    --large            1024 x 768 instead of 800 x 600\n"
-                              "    --picture OUT.png  into a file, without a window\n";
+                              "    --picture OUT.png  into a file, without a window\n"
+                              "\n"
+                              "In its window it says what happens, a line each, on the standard output.\n";
 
 struct Arguments {
     Size size = smallScreen;
@@ -48,10 +50,16 @@ void complain(std::string_view text, MessageIcon) {
     std::fprintf(stderr, "ventrel-gallery: %.*s\n", static_cast<int>(text.size()), text.data());
 }
 
+/// At once, for somebody who reads along.
+void sayAloud(const std::string& line) {
+    std::puts(line.c_str());
+    std::fflush(stdout);
+}
+
 int intoFile(const Arguments& arguments, FontSet& fonts) {
     HeadlessBackend backend(arguments.size);
     Desktop desktop(backend, arguments.size);
-    const Gallery gallery(desktop, fonts);
+    const Gallery gallery(desktop, fonts, [](const std::string&) {});
     Script(backend).then([&] { desktop.quit(); });
     desktop.run();
     if (!writePng(arguments.picture, backend.screen())) {
@@ -67,7 +75,7 @@ int inWindow(const Arguments& arguments, FontSet& fonts) {
         return failure;
     }
     Desktop desktop(*backend, arguments.size);
-    const Gallery gallery(desktop, fonts);
+    const Gallery gallery(desktop, fonts, sayAloud);
     desktop.setDragStrip(Rect{0, 0, arguments.size.width, 8});
     desktop.run();
     return 0;

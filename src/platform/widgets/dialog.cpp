@@ -87,7 +87,7 @@ int Dialog::run(int whenQuitting) {
     if (handlers_.init) {
         handlers_.init(*this);
     }
-    if (!isDone_ && !desktop_.focusWindow().isWithin(frame_)) {
+    if (!isDone_ && focusIndex() == controls_.size()) {
         moveFocus(1);
     }
     if (!isDone_ && !desktop_.runModal(frame_, [this] { return isDone_; })) {

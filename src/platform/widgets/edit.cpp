@@ -8,7 +8,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr int inset = 3; // of the text inside the field's edge
+constexpr int inset = 4; // of the text inside the field's edge
 constexpr int blinkTimer = 1;
 constexpr Millis blinkPeriod = 530;
 
@@ -45,9 +45,16 @@ struct Edit::State {
         } else if (caret > scrolled + innerWidth() - 1) {
             scrolled = caret - innerWidth() + 1;
         }
-        caretShown = window.hasFocus();
+        blink();
+    }
+
+    /// The caret blinks from now on, unless there is none: without the keyboard, or with a selection.
+    void blink() {
+        caretShown = window.hasFocus() && !line.hasSelection();
         if (caretShown) {
             window.startTimer(blinkTimer, blinkPeriod);
+        } else {
+            window.stopTimer(blinkTimer);
         }
         window.invalidate();
     }
@@ -202,15 +209,7 @@ Edit createEdit(Desktop& desktop, EditSetup setup) {
         state->caretShown = !state->caretShown;
         state->window.invalidate();
     };
-    handlers.focus = [state](bool gained) {
-        state->caretShown = gained;
-        if (gained) {
-            state->window.startTimer(blinkTimer, blinkPeriod);
-        } else {
-            state->window.stopTimer(blinkTimer);
-        }
-        state->window.invalidate();
-    };
+    handlers.focus = [state](bool) { state->blink(); };
     state->window = desktop.create({.parent = state->setup.parent,
                                     .id = state->setup.id,
                                     .bounds = state->setup.bounds,

@@ -32,7 +32,7 @@ struct Label::State {
         Rect box = area;
         if (setup.sunken) {
             drawThinSunkenEdge(canvas, area);
-            box = area.grownBy(-2);
+            box = area.grownBy(-3);
         }
         const TextLayout layout{.across = setup.across,
                                 .down = setup.sunken ? Align::middle : Align::near,

@@ -61,6 +61,10 @@ constexpr std::array<std::string_view, 7> checkMark{
 constexpr std::array<std::string_view, 7> closeCross{
     {"oo    oo", " oo  oo ", "  oooo  ", "   oo   ", "  oooo  ", " oo  oo ", "oo    oo"}};
 
+constexpr std::array<std::string_view, 16> questionMark{
+    {"  ooooo  ", " ooooooo ", "ooo   ooo", "oo     oo", "       oo", "      ooo", "     ooo ", "    ooo  ",
+     "   ooo   ", "   ooo   ", "   ooo   ", "         ", "         ", "   ooo   ", "   ooo   ", "   ooo   "}};
+
 constexpr Colour iconRed = Colour::rgb(0xE0, 0, 0);
 constexpr Colour iconDarkRed = Colour::rgb(0x80, 0, 0);
 constexpr Colour iconYellow = Colour::rgb(0xFF, 0xE0, 0);
@@ -93,10 +97,14 @@ void drawWarning(Canvas& canvas, Point corner) {
 
 /// The balloon of a question or of a note, with its tail.
 void drawBalloon(Canvas& canvas, Point corner) {
-    const std::array<Point, 3> tail{{corner + Point{13, 22}, corner + Point{21, 22}, corner + Point{19, 32}}};
+    const auto tail = [&](Point left, Point right, Point tip) {
+        const std::array<Point, 3> corners{{corner + left, corner + right, corner + tip}};
+        return Region::polygon(corners);
+    };
     canvas.filledEllipse(Rect::at(corner + Point{1, 1}, {31, 27}), shadow, shadow);
-    canvas.fill(Region::polygon(tail), black);
+    canvas.fill(tail({12, 22}, {22, 22}, {20, 32}), black);
     canvas.filledEllipse(Rect::at(corner, {31, 27}), black, white);
+    canvas.fill(tail({14, 22}, {20, 22}, {19, 29}), white);
 }
 
 void drawInformation(Canvas& canvas, Point corner) {
@@ -107,12 +115,9 @@ void drawInformation(Canvas& canvas, Point corner) {
     canvas.fill(Rect::at(corner + Point{12, 20}, {7, 2}), iconBlue);
 }
 
-void drawQuestion(Canvas& canvas, Point corner, const Font& font) {
+void drawQuestion(Canvas& canvas, Point corner) {
     drawBalloon(canvas, corner);
-    const TextLayout middle{.across = Align::middle, .down = Align::middle, .singleLine = true};
-    for (const Point by : {Point{0, 0}, Point{1, 0}}) {
-        drawTextBox(canvas, font, Rect::at(corner + by, {31, 27}), "?", {iconBlue, {}}, middle);
-    }
+    drawSigns(canvas, corner + Point{11, 5}, questionMark, {{'o', iconBlue}});
 }
 
 } // namespace
@@ -220,12 +225,12 @@ void drawCloseCross(Canvas& canvas, const Rect& box) {
     drawSigns(canvas, corner, closeCross, {{'o', text}});
 }
 
-void drawMessageIcon(Canvas& canvas, Point corner, MessageIcon icon, const Font& font) {
+void drawMessageIcon(Canvas& canvas, Point corner, MessageIcon icon) {
     switch (icon) {
     case MessageIcon::stop: drawStop(canvas, corner); break;
     case MessageIcon::exclamation: drawWarning(canvas, corner); break;
     case MessageIcon::information: drawInformation(canvas, corner); break;
-    case MessageIcon::question: drawQuestion(canvas, corner, font); break;
+    case MessageIcon::question: drawQuestion(canvas, corner); break;
     case MessageIcon::none: break;
     }
 }

@@ -70,7 +70,7 @@ void drawArrow(Canvas& canvas, const Rect& box, ArrowDirection direction, Colour
 void drawCloseCross(Canvas& canvas, const Rect& box);
 
 /// The picture of a message box, 32 x 32 pixels; nothing for none.
-void drawMessageIcon(Canvas& canvas, Point corner, MessageIcon icon, const Font& font);
+void drawMessageIcon(Canvas& canvas, Point corner, MessageIcon icon);
 inline constexpr int messageIconSize = 32;
 
 } // namespace ventrel

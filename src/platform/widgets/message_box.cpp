@@ -90,7 +90,7 @@ MessageAnswer showMessageBox(Desktop& desktop, const WidgetFonts& fonts, const W
     DialogHandlers handlers;
     handlers.escapeCommand = escapeNumber(message.buttons);
     handlers.paint = [&](Dialog&, Canvas& canvas) {
-        drawMessageIcon(canvas, places.icon, message.icon, fonts.caption);
+        drawMessageIcon(canvas, places.icon, message.icon);
         drawTextBox(canvas, fonts.text, places.text, message.text, {look::text, {}}, textLayout);
     };
     const int onClose = escapeNumber(message.buttons);

@@ -1,0 +1,165 @@
+// Fields, lists and check boxes on a window of their own.
+
+#include "widget_stage.h"
+
+namespace ventrel {
+namespace {
+
+struct FieldTest : ::testing::Test {
+    WidgetStage stage;
+    Edit field = createEdit(stage.desktop, {stage.main, 5, {20, 20, 120, 41}, &stage.fonts.text, false});
+
+    void expectText(const std::string& text) {
+        stage.script.then([this, text] { EXPECT_EQ(field.text(), text); });
+    }
+};
+
+TEST_F(FieldTest, ClicksPlaceTheCaretAndDoubleClicksTakeAWord) {
+    field.setText("one two three");
+    stage.script.click({22, 30}).type("X");
+    expectText("Xone two three");
+    const int word = 24 + stage.fonts.text.width("Xone t");
+    stage.script.doubleClick({word, 30}).type("-");
+    expectText("Xone -three");
+    stage.script.click({118, 30}).press({118, 30}).moveTo({10, 30}).release({10, 30}).type("all");
+    expectText("all");
+    stage.play();
+}
+
+TEST_F(FieldTest, TheClipboardKeepsToTheLimitAndToOneLine) {
+    field.setLimit(6);
+    field.window.focus();
+    stage.script.type("abcdefgh");
+    expectText("abcdef");
+    stage.script.key(Key::home)
+        .key(Key::right, withShift)
+        .key(Key::right, withShift)
+        .key(Key::x, withControl);
+    expectText("cdef");
+    stage.script.then([this] { EXPECT_EQ(stage.backend.clipboard(), "ab"); });
+    stage.script.then([this] { stage.backend.setClipboard("1\n2345"); });
+    stage.script.key(Key::v, withControl);
+    expectText("12cdef");
+    stage.script.key(Key::a, withControl).key(Key::v, withControl);
+    expectText("12345");
+    stage.script.key(Key::backspace).key(Key::home).key(Key::del);
+    expectText("234");
+    stage.play();
+}
+
+TEST_F(FieldTest, WhatIsReadOnlyCanBeCopiedAndNothingElse) {
+    const Edit shown = createEdit(stage.desktop, {stage.main, 6, {20, 60, 120, 81}, &stage.fonts.text, true});
+    shown.setText("1125");
+    stage.script.click({30, 70}).key(Key::a, withControl).key(Key::x, withControl).type("9").key(Key::del);
+    stage.script.then([&] {
+        EXPECT_EQ(shown.text(), "1125");
+        EXPECT_EQ(stage.backend.clipboard(), "1125");
+    });
+    stage.play();
+    EXPECT_TRUE(stage.commands.empty()) << "nothing has changed";
+}
+
+TEST_F(FieldTest, AFieldThatRestsWakesNobody) {
+    field.setText("chosen");
+    field.window.focus();
+    field.selectAll();
+    stage.script.wait(10'000);
+    const std::size_t before = stage.backend.sleeps();
+    stage.play();
+    EXPECT_LE(stage.backend.sleeps() - before, 4U) << "with a selection there is no caret to blink";
+}
+
+struct ListTest : ::testing::Test {
+    WidgetStage stage;
+    std::vector<int> notifications;
+    Window panel = stage.desktop.create({.parent = stage.main,
+                                         .bounds = {0, 0, 200, 200},
+                                         .handlers = {.command = [this](const CommandInput& input) {
+                                             notifications.push_back(input.notification);
+                                         }}});
+    // Five rows of 13 pixels.
+    ListBox list = createListBox(stage.desktop, {panel, 5, {10, 10, 110, 79}, &stage.fonts.text, true});
+
+    void SetUp() override {
+        for (const char* name :
+             {"Zurich", "london", "Miami", "Lisbon", "atlanta", "Paris", "Hong Kong", "Chicago", "Boston"}) {
+            list.add(name);
+        }
+    }
+    void expectLine(const std::string& line) {
+        stage.script.then([this, line] {
+            ASSERT_NE(list.selected(), noListItem);
+            EXPECT_EQ(list.line(list.selected()), line);
+        });
+    }
+};
+
+TEST_F(ListTest, SortsWithoutRegardToCase) {
+    EXPECT_EQ(list.line(0), "atlanta");
+    EXPECT_EQ(list.line(5), "london");
+    EXPECT_EQ(list.line(8), "Zurich");
+    EXPECT_EQ(list.selected(), noListItem);
+    stage.play();
+}
+
+TEST_F(ListTest, KeysWalkPageAndKeepTheLineInView) {
+    list.window.focus();
+    stage.script.key(Key::down);
+    expectLine("atlanta");
+    stage.script.key(Key::pageDown).key(Key::down);
+    expectLine("Miami");
+    stage.script.key(Key::end).key(Key::down);
+    expectLine("Zurich");
+    stage.script.click({50, 14});
+    expectLine("Lisbon"); // the topmost of the last page
+    stage.play();
+}
+
+TEST_F(ListTest, LettersFindLinesAndTheSameLetterWalksThem) {
+    list.window.focus();
+    stage.script.type("l");
+    expectLine("Lisbon");
+    stage.script.type("l");
+    expectLine("london");
+    stage.script.wait(2000).type("lo");
+    expectLine("london");
+    stage.script.wait(2000).type("mi");
+    expectLine("Miami");
+    stage.script.type("x");
+    expectLine("Miami");
+    stage.play();
+}
+
+TEST_F(ListTest, WheelAndScrollBarMoveTheLinesAndChooseNothing) {
+    stage.script.wheel({50, 40}, -1).then([this] { EXPECT_EQ(list.selected(), noListItem); });
+    stage.script.click({50, 14});
+    expectLine("Hong Kong");
+    // The upper arrow, held down, goes on by itself.
+    stage.script.press({100, 18}).wait(2000).release({100, 18}).click({50, 14});
+    expectLine("atlanta");
+    // The thumb, dragged to the end.
+    stage.script.drag({100, 32}, {100, 90}).click({50, 14});
+    expectLine("Lisbon");
+    stage.play();
+}
+
+TEST_F(ListTest, ADoubleClickIsToldAfterItsChoice) {
+    stage.script.doubleClick({50, 30});
+    expectLine("Boston");
+    stage.play();
+    EXPECT_EQ(notifications,
+              (std::vector<int>{listSelectionChanged, listSelectionChanged, listDoubleClicked}));
+}
+
+TEST(CheckBox, FlipsWhereItIsReleased) {
+    WidgetStage stage;
+    const Toggle box = createToggle(
+        stage.desktop, {stage.main, 7, {20, 20, 120, 36}, ToggleKind::checkBox, "Clouds", &stage.fonts.text});
+    stage.script.click({30, 28}).drag({30, 28}, {30, 90}).click({30, 28}, MouseButton::right);
+    stage.play();
+    EXPECT_TRUE(box.isChecked());
+    EXPECT_EQ(stage.commands, std::vector<int>{7});
+}
+
+} // namespace
+} // namespace ventrel

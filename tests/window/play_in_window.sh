@@ -1,0 +1,151 @@
+#!/usr/bin/env bash
+# Plays a program in a real window, by real keys and mouse events, on a display of its own.
+#
+#     play_in_window.sh PLAY PROGRAM [ARGUMENTS...]
+#
+# A play is a text file, one step a line:
+#
+#     key alt+f              a key as xdotool names it, with its modifiers (alt+ ctrl+ shift+)
+#     type mary              a text
+#     move X Y               the mouse, in the pixels of the window
+#     click X Y [right]      doubleclick X Y     wheel X Y up|down     drag X Y X Y
+#     says LINE              the program writes that line, after those that were found before
+#     sees X Y RRGGBB        that pixel of the window gets that colour
+#     titled TITLE           the window gets that title
+#     close                  the person closes the window
+#     ends CODE              the program ends with that code
+#
+# Steps that look (says, sees, titled, ends) wait until it is so; nothing else waits, and nothing is timed. The
+# same plays run without a window too (tests/platform/window_play.h).
+# When a step fails, the screen and what the program wrote are left in the current folder.
+set -euo pipefail
+
+patience=60 # seconds until a step that looks gives up
+screen=1280x1024x24
+
+play=$1
+shift
+name=$(basename "$play" .play)
+work=$(mktemp -d)
+jobs_to_end=()
+
+cleanup() {
+    local job
+    for job in "${jobs_to_end[@]}"; do
+        kill "$job" 2>/dev/null || true
+    done
+    wait 2>/dev/null || true
+    rm -rf "$work"
+}
+trap cleanup EXIT
+
+fail() {
+    echo "$play: $1" >&2
+    if [ -n "${DISPLAY:-}" ]; then
+        import -silent -window root "$name.failed.png" 2>/dev/null &&
+            echo "The screen: $PWD/$name.failed.png" >&2
+    fi
+    echo "The program wrote:" >&2
+    cat "$work/said" "$work/complaints" >&2 2>/dev/null || true
+    exit 1
+}
+
+# until_true WHAT COMMAND...: until the command succeeds.
+until_true() {
+    local what=$1 end=$((SECONDS + patience))
+    shift
+    until "$@"; do
+        [ "$SECONDS" -lt "$end" ] || fail "waited $patience seconds for this: $what"
+        sleep 0.05
+    done
+}
+
+for tool in Xvfb openbox xdotool import; do
+    command -v "$tool" >/dev/null || fail "$tool is missing; packages.txt names its package"
+done
+
+# The display: the server finds a free number by itself.
+Xvfb -displayfd 3 -screen 0 "$screen" -nolisten tcp 3>"$work/display" 2>"$work/server" &
+jobs_to_end+=($!)
+unset WAYLAND_DISPLAY SDL_VIDEODRIVER DISPLAY
+until_true "a display" test -s "$work/display"
+DISPLAY=:$(cat "$work/display")
+export DISPLAY SDL_VIDEODRIVER=x11 SDL_AUDIODRIVER=dummy
+export SDL_MOUSE_DOUBLE_CLICK_TIME=5000 # a busy machine is slow with the second click
+export HOME=$work XDG_CONFIG_HOME=$work XDG_CACHE_HOME=$work XDG_DATA_HOME=$work
+openbox >"$work/manager" 2>&1 &
+jobs_to_end+=($!)
+has_manager() { xdotool get_num_desktops >/dev/null 2>&1; }
+until_true "a window manager" has_manager
+
+: >"$work/said"
+"$@" >"$work/said" 2>"$work/complaints" &
+program=$!
+jobs_to_end+=("$program")
+window=
+is_open() {
+    window=$(xdotool search --onlyvisible --pid "$program" 2>/dev/null | tail -n 1)
+    [ -n "$window" ] && [ "$(xdotool getactivewindow 2>/dev/null)" = "$window" ]
+}
+until_true "the window, active" is_open
+
+said=0 # lines that were found
+says() {
+    local line
+    line=$(tail -n "+$((said + 1))" "$work/said" | grep -Fxn -m 1 -- "$1") || return 1
+    said=$((said + ${line%%:*}))
+}
+sees() {
+    import -silent -window "$window" -crop "1x1+$1+$2" -depth 8 txt:- 2>/dev/null | grep -qi "#$3"
+}
+titled() { [ "$(xdotool getwindowname "$window" 2>/dev/null)" = "$1" ]; }
+has_ended() { ! kill -0 "$program" 2>/dev/null; }
+move() { xdotool mousemove --window "$window" "$1" "$2"; }
+
+step() {
+    local verb=$1 rest=$2
+    # shellcheck disable=SC2086 # the words of the rest are the step's arguments
+    set -- $rest
+    case $verb in
+    key) xdotool key "$1" ;;
+    type) xdotool type --delay 20 "$rest" ;;
+    move) move "$1" "$2" ;;
+    click)
+        move "$1" "$2"
+        if [ "${3:-left}" = right ]; then xdotool click 3; else xdotool click 1; fi
+        ;;
+    doubleclick)
+        move "$1" "$2"
+        xdotool click --repeat 2 --delay 40 1
+        ;;
+    wheel)
+        move "$1" "$2"
+        if [ "$3" = up ]; then xdotool click 4; else xdotool click 5; fi
+        ;;
+    drag)
+        move "$1" "$2"
+        xdotool mousedown 1
+        move "$3" "$4"
+        xdotool mouseup 1
+        ;;
+    says) until_true "says $rest" says "$rest" ;;
+    sees) until_true "sees $rest" sees "$@" ;;
+    titled) until_true "titled $rest" titled "$rest" ;;
+    close) xdotool key alt+F4 ;;
+    ends)
+        until_true "ends $rest" has_ended
+        local code=0
+        wait "$program" || code=$?
+        [ "$code" -eq "$1" ] || fail "ended with $code instead of $1"
+        ;;
+    *) fail "no such step: $verb" ;;
+    esac
+}
+
+steps=0
+while read -r verb rest <&4 || [ -n "$verb" ]; do
+    case $verb in '' | '#'*) continue ;; esac
+    step "$verb" "$rest"
+    steps=$((steps + 1))
+done 4<"$play"
+echo "$play: $steps steps, as they should be."

@@ -1,0 +1,19 @@
+// The gallery's pictures that are no windows: every face and every drawing operation, with their names.
+
+#pragma once
+
+#include "platform/canvas/canvas.h"
+#include "platform/canvas/font.h"
+
+namespace ventrel {
+
+/// Of the dark panels that both are painted on.
+inline constexpr Colour darkGround = Colour::rgb(8, 14, 12);
+
+/// Every face in every size that the windows ask for, and how lines are laid out.
+void paintFaces(Canvas& canvas, const Rect& panel, FontSet& fonts);
+
+/// One cell for each drawing operation.
+void paintDrawing(Canvas& canvas, const Rect& panel, int columns, const Font& captions);
+
+} // namespace ventrel
