@@ -24,11 +24,6 @@ ItemTexts textsOf(const MenuItem& item) {
     return {text.substr(0, tab), tab == std::string_view::npos ? std::string_view() : text.substr(tab + 1)};
 }
 
-char shortcutOf(const std::string& text) {
-    const char marked = mnemonicOf(text);
-    return marked != '\0' || text.empty() ? marked : mnemonicOf("&" + text.substr(0, 1));
-}
-
 constexpr TextLayout labelLayout{.down = Align::middle, .singleLine = true, .mnemonics = true};
 
 int widthOf(const Font& font, const MenuItem& item) {
@@ -83,10 +78,16 @@ int MenuLevel::neighbour(int item, int direction) const {
 }
 
 int MenuLevel::itemWith(char letter, int item) const {
+    const auto isMarked = [letter](const MenuItem& each) { return mnemonicOf(each.text) == letter; };
+    const auto begins = [letter](const MenuItem& each) {
+        return mnemonicOf(each.text) == '\0' && mnemonicOf("&" + each.text.substr(0, 1)) == letter;
+    };
+    const bool byMark = std::ranges::any_of(*menu, isMarked);
     const int count = static_cast<int>(menu->size());
     for (int step = 1; step <= count && letter != '\0'; ++step) {
         const int next = (item + step) % count;
-        if (shortcutOf((*menu)[static_cast<std::size_t>(next)].text) == letter) {
+        const MenuItem& each = (*menu)[static_cast<std::size_t>(next)];
+        if (byMark ? isMarked(each) : begins(each)) {
             return next;
         }
     }

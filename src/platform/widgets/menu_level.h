@@ -23,8 +23,8 @@ struct MenuLevel {
     bool canChoose(int item) const;
     /// The next item in that direction that is no separator, round the ends.
     int neighbour(int item, int direction) const;
-    /// The next item behind `item`, round the end, that goes by that letter: its mnemonic, or its first
-    /// letter when it has none. Never a separator.
+    /// The next item behind `item`, round the end, that goes by that letter: one with that mnemonic, or, when
+    /// there is none, one without any that begins with it. Never a separator.
     int itemWith(char letter, int item) const;
     /// The item at a point of the screen, separators included.
     int itemAt(Point screen) const;

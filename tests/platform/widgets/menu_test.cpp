@@ -22,6 +22,7 @@ constexpr std::array orders{std::to_array<MenuItemTemplate>({
     {"&Never", 4, {}, true},
     {""},
     {"Speed", 0, speeds},
+    {"Done", 5},
 })};
 
 struct MenuTest : ::testing::Test {
@@ -38,7 +39,7 @@ struct MenuTest : ::testing::Test {
     }
 };
 
-TEST_F(MenuTest, AMarkedLetterChoosesAtOnce) {
+TEST_F(MenuTest, AMarkedLetterChoosesAtOnceWhateverElseBeginsWithIt) {
     stage.script.type("D");
     EXPECT_EQ(track(), 3);
 }
@@ -56,8 +57,8 @@ TEST_F(MenuTest, LettersWorkWithAltHeldAndInSubmenus) {
 }
 
 TEST_F(MenuTest, ArrowsSkipSeparatorsAndStopAtNeitherEnd) {
-    // From the last item round to the first, back onto "Speed", into it, and out again.
-    stage.script.key(Key::end).key(Key::down).key(Key::up).key(Key::right);
+    // From the last item round to the first, back past the last onto "Speed", into it, and out again.
+    stage.script.key(Key::end).key(Key::down).key(Key::up).key(Key::up).key(Key::right);
     expectWindows(2);
     stage.script.key(Key::left);
     expectWindows(1);
