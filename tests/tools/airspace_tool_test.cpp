@@ -58,7 +58,7 @@ INSTANTIATE_TEST_SUITE_P(
                       PlantedFault{"exit_and_airport", "'BTH': it is both an exit and an airport"},
                       PlantedFault{"dark_colours", "aircraft colour cannot be seen"},
                       PlantedFault{"same_colours", "a selected aircraft looks like the others"},
-                      PlantedFault{"unknown_key", ":12: point 1: a 'cell', a 'latitude'"},
+                      PlantedFault{"unknown_key", ":15: point 1: unknown key 'cells'"},
                       PlantedFault{"long_name", ":2: airspace: 'name' must have 1 to 31 characters"},
                       PlantedFault{"bad_heading", ":17: point 1: 'runway' must be a multiple of 45"},
                       PlantedFault{"duplicate_ident", ":29: point 3: another point is called 'NNN'"},

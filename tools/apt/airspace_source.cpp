@@ -162,6 +162,7 @@ private:
         if (hasPlaceOnEarth) {
             readPlaceOnEarth(reader, point);
         } else if (!point.cell) {
+            reader.finish(); // a misspelt key says more than the one that it was meant for
             reader.fail("a 'cell', a 'latitude' and 'longitude', or a 'pixel' is missing");
         }
     }

@@ -1,76 +1,18 @@
 #include "tools/sim/autopilot.h"
 
 #include <algorithm>
-#include <array>
-#include <cstdlib>
 #include <optional>
 
 #include "sim/course_planner.h"
 #include "sim/flight_reports.h"
-#include "sim/flight_step.h"
+#include "tools/sim/outlook.h"
 
 namespace ventrel {
 
 namespace {
 
-constexpr int lookAhead = 24; // steps of 15 clock seconds
-
-// What the autopilot wants to avoid, in units of its own.
-constexpr int collisionCost = 10000;
-constexpr int nearMissCost = 1000;
-constexpr int missedGoalCost = 800;
-constexpr int lostCost = 1500;
-constexpr int orderCost = 5; // staying with a plan that is not the best one is worth a little
-
-/// Where a flight will be after one of the coming steps.
-struct Spot {
-    Cell cell;
-    int altitude = 0;
-    bool isThere = false; ///< airborne and not yet finished
-};
-
-struct Forecast {
-    std::array<Spot, lookAhead> spots{};
-    int cost = 0; ///< of what the flight does wrong by itself
-};
-
-Forecast forecastOf(const GameState& game, Flight flight, ClockSeconds now) {
-    Forecast forecast;
-    if (!flight.isOnScope()) {
-        return forecast;
-    }
-    for (Spot& spot : forecast.spots) {
-        now += stepInterval;
-        if (isDue(flight, now)) {
-            const Arrival arrival = arrivalOf(game, flight);
-            if (isSuccess(arrival)) {
-                break;
-            }
-            if (isOutsideScope(flight.current().cell())) {
-                forecast.cost += lostCost;
-                break;
-            }
-            forecast.cost += arrival == Arrival::none ? 0 : missedGoalCost;
-            moveAlongPlan(flight);
-        }
-        spot = {flight.current().cell(), flight.current().altitude, true};
-    }
-    return forecast;
-}
-
-/// The sooner two flights come together, the more it counts.
-int conflictCost(const Forecast& a, const Forecast& b) {
-    for (int i = 0; i < lookAhead; ++i) {
-        const Spot& here = a.spots[static_cast<std::size_t>(i)];
-        const Spot& there = b.spots[static_cast<std::size_t>(i)];
-        if (here.isThere && there.isThere && here.altitude == there.altitude &&
-            areNeighbours(here.cell, there.cell)) {
-            const int cost = here.cell == there.cell ? collisionCost : nearMissCost;
-            return cost - cost / (2 * lookAhead) * i;
-        }
-    }
-    return 0;
-}
+/// In the units of the outlook's costs: staying with a plan that is not the best one is worth a little.
+constexpr int orderCost = 5;
 
 bool isOnCourse(const GameState& game, const Flight& flight) {
     return flight.current().directTarget == flight.destination && flight.current().hold == 0 &&
@@ -196,50 +138,6 @@ bool fliesAlike(const Flight& a, const Flight& b) {
     return next(a) == next(b) && a.lastStep().altitude == b.lastStep().altitude &&
            a.current().speed == b.current().speed;
 }
-
-/// One look at the traffic: what every flight will do unless it is told otherwise.
-class Outlook {
-public:
-    Outlook(const GameState& game, ClockSeconds now) : game_{game}, now_{now} {
-        for (const Flight& flight : game.flights) {
-            forecasts_.push_back(forecastOf(game, flight, now));
-        }
-    }
-
-    void update(FlightIndex index) {
-        forecasts_[static_cast<std::size_t>(index)] = forecastOf(game_, game_.flight(index), now_);
-    }
-
-    /// What it would cost if the flight of that index flew this plan.
-    int costOf(FlightIndex index, const Flight& plan) const {
-        const Forecast forecast = forecastOf(game_, plan, now_);
-        int cost = forecast.cost;
-        for (FlightIndex i = 0; i < game_.planeCount(); ++i) {
-            if (i != index) {
-                cost += conflictCost(forecast, forecasts_[static_cast<std::size_t>(i)]);
-            }
-        }
-        return cost;
-    }
-
-    /// Whether nothing is about to fly low near the airport.
-    bool isClear(Cell airport) const {
-        constexpr int radius = 3;
-        constexpr int low = 3;
-        constexpr int soon = 8;
-        return std::none_of(forecasts_.begin(), forecasts_.end(), [&](const Forecast& forecast) {
-            return std::any_of(forecast.spots.begin(), forecast.spots.begin() + soon, [&](const Spot& spot) {
-                return spot.isThere && spot.altitude <= low && std::abs(spot.cell.x - airport.x) <= radius &&
-                       std::abs(spot.cell.y - airport.y) <= radius;
-            });
-        });
-    }
-
-private:
-    const GameState& game_;
-    ClockSeconds now_;
-    std::vector<Forecast> forecasts_;
-};
 
 bool isRunwayFree(const GameState& game, const Flight& departure) {
     return std::none_of(game.flights.begin(), game.flights.end(), [&](const Flight& other) {
