@@ -39,6 +39,13 @@ void bringIntoView(Shell& shell, const FlightHit& hit) {
     }
 }
 
+/// The strip on which the selected flight stands now; none when it is on none.
+std::optional<int> selectedSlot(const Shell& shell) {
+    const FlightIndex selected = shell.panel.state.flight;
+    const int slot = selected == noFlight ? noSlot : StripsFlightSlot(shell.strips, selected);
+    return slot == noSlot ? std::nullopt : std::optional(slot);
+}
+
 } // namespace
 
 Rect stripButtonRect(const Shell& shell, int slot) {
@@ -106,15 +113,14 @@ void selectRadarFlight(Shell& shell, const FlightHit& hit) {
 }
 
 void selectNextStrip(Shell& shell) {
+    const int last = shell.stripSlots() - 1;
     int current = std::max(pressedSlot(shell), 0);
     if (!StripsSlotSelectable(shell.strips, current)) {
         return;
     }
-    const int last = shell.stripSlots() - 1;
     if (current == last) {
         StripsScrollDown(shell.strips);
-        const FlightIndex selected = shell.panel.state.flight;
-        current = std::min(StripsFlightSlot(shell.strips, selected), last - 1);
+        current = std::min(selectedSlot(shell).value_or(last), last - 1);
     }
     if (StripsSlotFlight(shell.strips, current + 1) != noFlight) {
         SelectStripFlight(shell, current + 1);
@@ -125,11 +131,9 @@ void selectPreviousStrip(Shell& shell) {
     int current = std::max(pressedSlot(shell), 0);
     if (current == 0) {
         StripsScrollUp(shell.strips);
-        const int moved = StripsFlightSlot(shell.strips, shell.panel.state.flight);
-        SelectStripFlight(shell, std::max(moved, 1) - 1);
-        return;
-    }
-    if (StripsSlotSelectable(shell.strips, current - 1)) {
+        current = std::max(selectedSlot(shell).value_or(0), 1);
+        SelectStripFlight(shell, current - 1);
+    } else if (StripsSlotSelectable(shell.strips, current - 1)) {
         SelectStripFlight(shell, current - 1);
     }
 }
