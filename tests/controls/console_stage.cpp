@@ -80,4 +80,10 @@ int count(const Bitmap& picture, Colour colour, const Rect& area) {
     return found;
 }
 
+Bitmap crop(const Bitmap& picture, const Rect& area) {
+    Bitmap part(area.size());
+    Canvas(part).draw(part.bounds(), picture, area);
+    return part;
+}
+
 } // namespace ventrel

@@ -51,4 +51,7 @@ struct ConsoleStage {
 /// How many pixels of the picture have that colour.
 int count(const Bitmap& picture, Colour colour, const Rect& area);
 
+/// A part of a picture.
+Bitmap crop(const Bitmap& picture, const Rect& area);
+
 } // namespace ventrel

@@ -157,18 +157,6 @@ TEST(PanelTest, EveryControlAnswersToAPress) {
     EXPECT_EQ(stage.take(), Lines(13, "click"));
 }
 
-TEST(PanelTest, ThePickOfTheDialAgreesWithItsPicture) {
-    // The needle of each heading ends in the field that chooses it.
-    const std::array<Point, 8> tips{
-        {{46, 10}, {64, 17}, {72, 35}, {66, 54}, {46, 62}, {28, 55}, {21, 35}, {30, 17}}};
-    for (std::size_t i = 0; i < tips.size(); ++i) {
-        EXPECT_EQ(dialHeadingAt(tips[i]), static_cast<int>(i) * headingStep);
-    }
-    for (int altitude = 1; altitude <= 10; ++altitude) {
-        EXPECT_EQ(scaleAltitudeAt({120, 94 - 9 * altitude}), altitude) << "the middle of the bar";
-    }
-}
-
 TEST(PanelTest, APressIsATouchWhateverElseItDoes) {
     PanelStage stage;
     stage.clock = 321;

@@ -68,26 +68,14 @@ TEST_F(MapTest, MapPointsLookAsTheyDid) {
 
 TEST_F(MapTest, LabelsStandBesideTheirSymbolsAndGiveWayToRunways) {
     constexpr Size label{15, 10};
-    const auto fix = [&](int place) {
-        return labelCorner(smallRadarLayout, point({200, 200}, place), label);
+    EXPECT_EQ(labelCorner(smallRadarLayout, point({200, 200}, 0), label), (Point{193, 183}));
+    EXPECT_EQ(labelCorner(smallRadarLayout, point({200, 200}, 7), label), (Point{193, 209}));
+    const auto left = [&](const RadarLayout& layout, int place, int heading) {
+        return labelCorner(layout, airport({200, 200}, heading, place), label).x;
     };
-    EXPECT_EQ(fix(0), (Point{193, 183}));
-    EXPECT_EQ(fix(1), (Point{176, 195}));
-    EXPECT_EQ(fix(2), (Point{209, 195}));
-    EXPECT_EQ(fix(7), (Point{193, 209}));
-    const auto shift = [&](const RadarLayout& layout, int place, int heading) {
-        return labelCorner(layout, airport({200, 200}, heading, place), label) -
-               labelCorner(layout, airport({200, 200}, 90, place), label);
-    };
-    EXPECT_EQ(labelCorner(smallRadarLayout, airport({200, 200}, 90, 0), label), (Point{176, 188}));
-    EXPECT_EQ(labelCorner(largeRadarLayout, airport({200, 200}, 90, 9), label), (Point{212, 208}));
-    EXPECT_EQ(shift(smallRadarLayout, 0, 135), (Point{-6, 0}));
-    EXPECT_EQ(shift(largeRadarLayout, 0, 315), (Point{-9, 0}));
-    EXPECT_EQ(shift(largeRadarLayout, 1, 45), (Point{9, 0}));
-    EXPECT_EQ(shift(smallRadarLayout, 2, 225), (Point{-6, 0}));
-    EXPECT_EQ(shift(smallRadarLayout, 3, 135), (Point{6, 0}));
-    EXPECT_EQ(shift(smallRadarLayout, 0, 45), (Point{0, 0}));
-    EXPECT_EQ(shift(smallRadarLayout, 0, 17), (Point{0, 0}));
+    EXPECT_EQ(left(smallRadarLayout, 0, 90) - left(smallRadarLayout, 0, 135), 6);
+    EXPECT_EQ(left(largeRadarLayout, 2, 90) - left(largeRadarLayout, 2, 225), 9);
+    EXPECT_EQ(left(largeRadarLayout, 1, 45) - left(largeRadarLayout, 1, 135), 9);
 }
 
 TEST_F(MapTest, TheOptionsDecideOnPictureAndGrid) {

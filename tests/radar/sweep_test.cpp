@@ -60,9 +60,9 @@ TEST(SweepTest, RunsAlongTheTopAndTheRightEdgeAndBack) {
 void expectNoTrail(const RadarLayout& layout) {
     SweepStage stage(layout);
     for (int i = 0; i < 30; ++i) {
-        stage.fly({6 + i % 6 * 6, 8 + i / 6 * 7}, i % 8 * 45).activatedAt = stage.clock;
+        stage.flyAt({6 + i % 6 * 6, 8 + i / 6 * 7}, i % 8 * 45).activatedAt = stage.clock;
     }
-    constexpr int looks = 150;
+    constexpr int looks = 100;
     for (int look = 0; look < looks; ++look) {
         stage.script.wait(5 + look % 7).then([&, look] {
             ASSERT_EQ(stage.sent(), stage.wanted()) << "look " << look;
