@@ -170,18 +170,18 @@ TEST(FrameTest, HandsTheLampsTheLevelOfItsFlightsAndTheTickerItsTurns) {
 
 TEST(BlinkTest, ANewFlightShowsOnEvenSecondsUntilItsFifteenth) {
     RadarStage stage;
-    stage.flyAt({20, 20}, 90).activatedAt = 302;
+    stage.flyAt({20, 20}, 90).activatedAt = 304;
     stage.flyAt({30, 20}, 90).activatedAt = 200;
     const Rect box = blinkBox({220, 220});
-    stage.clock = 301;
+    stage.clock = 303;
     stage.frame();
     const int shown = stage.count(flightGreen, box);
     const int other = stage.count(flightGreen, blinkBox({330, 220}));
     EXPECT_GT(shown, 20);
-    for (stage.clock = 302; stage.clock <= 320; ++stage.clock) {
+    for (stage.clock = 304; stage.clock <= 322; ++stage.clock) {
         RadarTick(stage.radar);
         const bool isFrame = stage.clock % 5 == 0;
-        const bool isHidden = stage.clock < 317 && stage.clock % 2 != 0 && !isFrame;
+        const bool isHidden = stage.clock < 319 && stage.clock % 2 != 0 && !isFrame;
         EXPECT_EQ(stage.count(flightGreen, box), isHidden ? 0 : shown) << stage.clock;
         EXPECT_EQ(stage.count(flightGreen, blinkBox({330, 220})), other) << "it is long in the air";
     }
