@@ -2,6 +2,7 @@
 
 #include <chrono>
 #include <cstdio>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -20,6 +21,8 @@ namespace {
 constexpr std::string_view programName = "ventrel";
 constexpr std::string_view instanceName = "VNTL_MUTEX";
 constexpr std::uint32_t seedMask = 0xFFFF;
+
+constexpr int decimal = 10;
 
 constexpr int ended = 0;
 constexpr int cannotStart = 1;
@@ -71,9 +74,13 @@ std::unique_ptr<SdlBackend> openScreen(const Settings& settings, Size window,
     return openSdlBackend(options, complain);
 }
 
-/// Another one at every start: milliseconds since the machine was started.
+/// Another one at every start, milliseconds since the machine was started; or the one that the environment
+/// asks for, with which a game can be played again.
 std::uint32_t seedOfChance() {
     using namespace std::chrono;
+    if (const char* wanted = std::getenv("VENTREL_SEED")) {
+        return static_cast<std::uint32_t>(std::strtoul(wanted, nullptr, decimal));
+    }
     const auto sinceStart = duration_cast<milliseconds>(steady_clock::now().time_since_epoch());
     return static_cast<std::uint32_t>(sinceStart.count()) & seedMask;
 }

@@ -44,6 +44,12 @@ protected:
 
 TEST_F(OrdersTest, RadarStripsAndKeysChooseFlights) {
     begin();
+    press(Key::up);
+    stage.look([this] {
+        EXPECT_EQ(stage.shell().panel.state.flight, StripsSlotFlight(stage.shell().strips, 0))
+            << "with none chosen the first strip comes first";
+    });
+    stage.look([this] { stage.sounds.heard.clear(); });
     stage.todo([this](Script& script) { script.click(stage.onFlight(1)).wait(1); });
     expectSelected(1, "by the radar");
     stage.todo([this](Script& script) { script.click(stage.onFlight(1)).wait(1); });
