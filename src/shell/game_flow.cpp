@@ -1,6 +1,7 @@
 #include "shell/game_flow.h"
 
 #include "base/data_path.h"
+#include "shell/selection.h"
 #include "sim/airport_loading.h"
 #include "sim/schedule.h"
 #include "sim/shift_texts.h"
@@ -56,9 +57,14 @@ void endWithCollision(Shell& shell) {
     EndGame(shell);
 }
 
+void emptyStrips(Shell& shell) {
+    StripsReset(shell.strips);
+    StripsPress(shell, noSlot);
+}
+
 void endWithScore(Shell& shell) {
     ScrollerClear(shell.scroller);
-    StripsReset(shell.strips);
+    emptyStrips(shell);
     ScrollerPost(shell.scroller, gameOverText(shell.game), MessageClass::information);
     ScrollerSetPostGameOver(shell.scroller, true);
 }
@@ -92,7 +98,7 @@ void EndGame(Shell& shell) {
     shell.game.gameRunning = false;
     shell.mainWindow.invalidate();
     ScrollerClear(shell.scroller);
-    StripsReset(shell.strips);
+    emptyStrips(shell);
     ClockReset(shell.topBar);
     CtrlClearFlight(shell.panel);
     LampsReset(shell.topBar);

@@ -1,0 +1,81 @@
+// The whole game in memory: what a player waits for at the start, and what a minute of play costs.
+
+#include <benchmark/benchmark.h>
+
+#include <filesystem>
+
+#include "platform/headless/script.h"
+#include "shell/program.h"
+
+namespace {
+
+using namespace ventrel;
+
+namespace fs = std::filesystem;
+
+constexpr Size smallWindow{800, 600};
+constexpr Size largeWindow{1024, 768};
+constexpr Millis aMinute = 60000;
+constexpr Millis aMoment = 20;
+
+void complain(std::string_view, MessageIcon) {}
+
+/// A program of its own on a machine in memory, with options that nobody keeps.
+struct Game {
+    HeadlessBackend backend;
+    FontSet fonts{fs::path(PROGRAM_FOLDER) / "fonts", complain};
+    SilentSounds sounds;
+    fs::path profile = fs::temp_directory_path() / "ventrel-bench.ini";
+    Program program;
+
+    explicit Game(Size window)
+        : backend(window),
+          program({backend, fonts, sounds}, {PROGRAM_FOLDER, profile}, optionsFor(window), 3) {}
+    ~Game() { fs::remove(profile); }
+    Game(const Game&) = delete;
+    Game& operator=(const Game&) = delete;
+
+    static Options optionsFor(Size window) { return Options{.resolution = window == smallWindow ? 2 : 3}; }
+};
+
+/// From nothing to the console on the screen.
+void StartToFirstFrame(benchmark::State& state) {
+    const Size window = state.range(0) == smallWindow.width ? smallWindow : largeWindow;
+    for (auto _ : state) {
+        Game game(window);
+        game.program.startUp();
+        Script(game.backend).then([&] { game.program.desktop().quit(); });
+        game.program.run();
+        benchmark::DoNotOptimize(game.backend.screen().pixels().data());
+    }
+}
+BENCHMARK(StartToFirstFrame)->Arg(800)->Arg(1024)->Unit(benchmark::kMillisecond);
+
+/// A minute of a Hard shift with its traffic in the air: everything that moves, until it is on a screen in
+/// memory.
+void MinuteOfPlay(benchmark::State& state) {
+    for (auto _ : state) {
+        state.PauseTiming();
+        Game game(largeWindow);
+        game.program.startUp();
+        ProfileFile profile(game.profile);
+        profile.set("Game", "Name", "Mary");
+        profile.set("Game", "Skill", "3");
+        profile.save();
+        Script script(game.backend);
+        script.wait(aMoment).key(Key::f, withAlt).type("n").key(Key::enter).wait(aMoment);
+        for (int i = 0; i < 40; ++i) {
+            script.key(Key::space).wait(aMoment);
+        }
+        script.then([&] { state.ResumeTiming(); }).wait(aMinute);
+        script.then([&] {
+            state.PauseTiming();
+            game.program.desktop().quit();
+        });
+        game.program.run();
+        state.ResumeTiming();
+    }
+}
+BENCHMARK(MinuteOfPlay)->Unit(benchmark::kMillisecond);
+
+} // namespace
