@@ -58,6 +58,7 @@ void endWithCollision(Shell& shell) {
 }
 
 void emptyStrips(Shell& shell) {
+    shell.game.listedCount = 0;
     StripsReset(shell.strips);
     StripsPress(shell, noSlot);
 }
