@@ -64,6 +64,17 @@ void ScopeFrameCopiedInsideItsCircle(benchmark::State& state) {
 }
 BENCHMARK(ScopeFrameCopiedInsideItsCircle);
 
+void InvertedCircle(benchmark::State& state) {
+    Bitmap screen({scopeSize, scopeSize});
+    Canvas canvas(screen);
+    const Region round = scope();
+    for (auto _ : state) {
+        canvas.invert(round);
+        benchmark::DoNotOptimize(screen.row(0).data());
+    }
+}
+BENCHMARK(InvertedCircle);
+
 /// One step of the sweep: the old line inverted back, the new one inverted. The argument is the height of
 /// its end on the right edge.
 void SweepStep(benchmark::State& state) {

@@ -82,13 +82,21 @@ void Gallery::openMenu() {
     const Rect button = main_.child(galleryMenuCommand).screenBounds();
     say_("menu opens");
     const int chosen = trackMenu(desktop_, widgetFonts_, menu_, {button.left, button.bottom});
-    if (chosen == galleryGridCommand) {
-        const bool isChecked = findMenuItem(menu_, chosen)->checked;
-        checkMenuItem(menu_, chosen, !isChecked);
-        say_(isChecked ? "grid off" : "grid on");
-    }
     say_("menu chose " + std::to_string(chosen));
+    switch (chosen) {
+    case galleryGridCommand: say_(flip(chosen) ? "grid on" : "grid off"); break;
+    case galleryFullScreenCommand: desktop_.setFullScreen(flip(chosen)); break;
+    case galleryExitCommand: desktop_.quit(); break;
+    default: break;
+    }
     main_.focus();
+}
+
+/// Whether the item is ticked now.
+bool Gallery::flip(int command) {
+    MenuItem* item = findMenuItem(menu_, command);
+    item->checked = !item->checked;
+    return item->checked;
 }
 
 void Gallery::openDialog() {

@@ -43,6 +43,7 @@ private:
 
     void command(const CommandInput& input);
     void openMenu();
+    bool flip(int command);
     void openDialog();
     void openBox(const Window& owner);
     void endDialog(Dialog& dialog, int result);

@@ -13,6 +13,8 @@ inline constexpr int galleryMenuCommand = 500;
 inline constexpr int galleryDialogCommand = 501;
 inline constexpr int galleryBoxCommand = 502;
 inline constexpr int galleryGridCommand = 601;
+inline constexpr int galleryExitCommand = 607;
+inline constexpr int galleryFullScreenCommand = 608;
 
 namespace gallery_tables {
 
@@ -27,9 +29,9 @@ inline constexpr std::array menuItems{std::to_array<MenuItemTemplate>({
     {"Sc&hedule...\tCtrl+S", 606, {}, true},
     {""},
     {"&Display", 0, displayItems},
-    {"Full Screen", 608},
+    {"Full Screen", galleryFullScreenCommand},
     {""},
-    {"Exit\tAlt+F4", 607},
+    {"Exit\tAlt+F4", galleryExitCommand},
 })};
 
 inline constexpr std::array accelerators{std::to_array<Accelerator>({

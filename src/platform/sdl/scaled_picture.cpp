@@ -52,13 +52,35 @@ std::vector<Between> betweenAll(int first, int end, int shownLength, int length)
     return result;
 }
 
+/// Each pixel of `from` so many times, as far as `to` reaches; the first of them `skipped` times less.
+void repeatAcross(std::span<std::uint32_t> to, std::span<const Pixel> from, int multiple, int skipped) {
+    auto next = to.begin();
+    int times = multiple - skipped;
+    for (const Pixel pixel : from) {
+        const auto end = next + std::min<std::ptrdiff_t>(times, to.end() - next);
+        std::fill(next, end, pixel);
+        next = end;
+        times = multiple;
+    }
+}
+
 void repeatPixels(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown,
                   int multiple) {
+    const Point first{(shown.left - area.left) / multiple, (shown.top - area.top) / multiple};
+    const int skipped = (shown.left - area.left) % multiple;
+    const auto width = static_cast<std::size_t>(shown.width());
+    int repeated = -1; // the picture's row that the row above shows
     for (int y = shown.top; y < shown.bottom; ++y) {
-        const auto source = picture.row((y - area.top) / multiple);
-        std::uint32_t* row = rowOf(target, y);
-        for (int x = shown.left; x < shown.right; ++x) {
-            row[x] = source[static_cast<std::size_t>((x - area.left) / multiple)];
+        std::uint32_t* row = rowOf(target, y) + shown.left;
+        const int wanted = (y - area.top) / multiple;
+        if (wanted == repeated) {
+            std::copy_n(rowOf(target, y - 1) + shown.left, width, row);
+        } else {
+            const auto source = picture.row(wanted).subspan(static_cast<std::size_t>(first.x));
+            const auto needed = (width + static_cast<std::size_t>(skipped + multiple - 1)) /
+                                static_cast<std::size_t>(multiple);
+            repeatAcross({row, width}, source.first(needed), multiple, skipped);
+            repeated = wanted;
         }
     }
 }

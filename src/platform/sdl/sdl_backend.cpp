@@ -91,26 +91,20 @@ public:
 
     void present(const Bitmap& picture, std::span<const Rect> changed) override {
         SDL_Surface* screen = SDL_GetWindowSurface(window_.get());
-        if (screen == nullptr || !prepareScaled(screen)) {
+        SDL_Surface* drawn = screen == nullptr ? nullptr : surfaceToDrawOn(*screen);
+        if (drawn == nullptr) {
             return;
         }
-        const PixelRows rows{static_cast<Pixel*>(scaled_->pixels),
-                             static_cast<int>(static_cast<std::size_t>(scaled_->pitch) / bytesPerPixel),
-                             {scaled_->w, scaled_->h}};
-        const Rect area = pictureArea(rows.size, picture_);
-        std::vector<SDL_Rect> sent;
-        for (const Rect& part : changed) {
-            const Rect shown = scalePicture(rows, area, picture, part);
-            if (!shown.isEmpty()) {
-                sent.push_back({shown.left, shown.top, shown.width(), shown.height()});
-            }
-        }
+        std::vector<SDL_Rect> sent = drawParts(*drawn, picture, changed);
         if (showsBars_) {
-            sent.assign(1, {0, 0, scaled_->w, scaled_->h});
+            paintBars(*drawn);
+            sent.assign(1, {0, 0, drawn->w, drawn->h});
             showsBars_ = false;
         }
-        for (SDL_Rect part : sent) {
-            SDL_BlitSurface(scaled_.get(), &part, screen, &part);
+        if (drawn != screen) {
+            for (SDL_Rect part : sent) {
+                SDL_BlitSurface(drawn, &part, screen, &part);
+            }
         }
         if (!sent.empty()) {
             SDL_UpdateWindowSurfaceRects(window_.get(), sent.data(), static_cast<int>(sent.size()));
@@ -254,17 +248,48 @@ private:
         }
     }
 
-    /// A picture of the window's own size, with black beside the shown one.
-    bool prepareScaled(const SDL_Surface* screen) {
-        if (scaled_ && scaled_->w == screen->w && scaled_->h == screen->h) {
-            return true;
+    /// The window's own surface, or one of its size when its pixels are of another kind than ours.
+    SDL_Surface* surfaceToDrawOn(SDL_Surface& screen) {
+        if (screen.format->format == SDL_PIXELFORMAT_RGB888) {
+            return &screen;
         }
-        constexpr Uint32 noFlags = 0;
-        constexpr int bitsPerPixel = 32;
-        scaled_.reset(SDL_CreateRGBSurfaceWithFormat(noFlags, screen->w, screen->h, bitsPerPixel,
-                                                     SDL_PIXELFORMAT_RGB888));
-        showsBars_ = true;
-        return scaled_ != nullptr;
+        if (!scaled_ || scaled_->w != screen.w || scaled_->h != screen.h) {
+            constexpr Uint32 noFlags = 0;
+            constexpr int bitsPerPixel = 32;
+            scaled_.reset(SDL_CreateRGBSurfaceWithFormat(noFlags, screen.w, screen.h, bitsPerPixel,
+                                                         SDL_PIXELFORMAT_RGB888));
+            showsBars_ = true;
+        }
+        return scaled_.get();
+    }
+
+    std::vector<SDL_Rect> drawParts(const SDL_Surface& target, const Bitmap& picture,
+                                    std::span<const Rect> changed) const {
+        const PixelRows rows{static_cast<Pixel*>(target.pixels),
+                             static_cast<int>(static_cast<std::size_t>(target.pitch) / bytesPerPixel),
+                             {target.w, target.h}};
+        const Rect place = pictureArea(rows.size, picture_);
+        std::vector<SDL_Rect> drawn;
+        for (const Rect& part : changed) {
+            const Rect shown = scalePicture(rows, place, picture, part);
+            if (!shown.isEmpty()) {
+                drawn.push_back({shown.left, shown.top, shown.width(), shown.height()});
+            }
+        }
+        return drawn;
+    }
+
+    /// Black beside the picture.
+    void paintBars(SDL_Surface& target) const {
+        constexpr Uint32 black = 0;
+        const Rect place = pictureArea({target.w, target.h}, picture_);
+        const SDL_Rect bars[]{{0, 0, target.w, place.top},
+                              {0, place.bottom, target.w, target.h - place.bottom},
+                              {0, place.top, place.left, place.height()},
+                              {place.right, place.top, target.w - place.right, place.height()}};
+        for (const SDL_Rect& bar : bars) {
+            SDL_FillRect(&target, &bar, black);
+        }
     }
 
     SDL_Cursor* shownCursor(const CursorImage& image) {
@@ -303,7 +328,7 @@ private:
     std::unique_ptr<VideoSystem> video_;
     Size picture_;
     WindowPointer window_;
-    SurfacePointer scaled_;
+    SurfacePointer scaled_; // only for a screen with other pixels than ours
     bool showsBars_ = true; // the whole window is to be sent, also beside the picture
     int multiple_ = 0;      // by which pointers are drawn; 0: not known yet
     std::map<const CursorImage*, CursorPointer> cursors_;
