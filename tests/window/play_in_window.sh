@@ -72,6 +72,8 @@ until_true "a display" test -s "$work/display"
 DISPLAY=:$(cat "$work/display")
 export DISPLAY SDL_VIDEODRIVER=x11 SDL_AUDIODRIVER=dummy
 export SDL_MOUSE_DOUBLE_CLICK_TIME=5000 # a busy machine is slow with the second click
+LSAN_OPTIONS=suppressions=$(dirname "${BASH_SOURCE[0]}")/known_leaks.txt:print_suppressions=0
+export LSAN_OPTIONS
 export HOME=$work XDG_CONFIG_HOME=$work XDG_CACHE_HOME=$work XDG_DATA_HOME=$work
 openbox >"$work/manager" 2>&1 &
 jobs_to_end+=($!)
