@@ -21,15 +21,17 @@ constexpr int wrongUsage = 2;
 
 constexpr const char* usage = "Shows the controls, menus, boxes, faces and drawing of the virtual desktop.\n"
                               "\n"
-                              "    ventrel-gallery [--large] [--picture OUT.png]\n"
+                              "    ventrel-gallery [--large] [--full-screen | --picture OUT.png]\n"
                               "\n"
                               "    --large            1024 x 768 instead of 800 x 600\n"
+                              "    --full-screen      the whole screen, without a change of its mode\n"
                               "    --picture OUT.png  into a file, without a window\n"
                               "\n"
                               "In its window it says what happens, a line each, on the standard output.\n";
 
 struct Arguments {
     Size size = smallScreen;
+    bool fullScreen = false;
     std::string picture;
 };
 
@@ -37,6 +39,8 @@ bool readArguments(const std::vector<std::string>& words, Arguments& arguments) 
     for (std::size_t i = 0; i < words.size(); ++i) {
         if (words[i] == "--large") {
             arguments.size = largeScreen;
+        } else if (words[i] == "--full-screen") {
+            arguments.fullScreen = true;
         } else if (words[i] == "--picture" && i + 1 < words.size()) {
             arguments.picture = words[++i];
         } else {
@@ -70,7 +74,8 @@ int intoFile(const Arguments& arguments, FontSet& fonts) {
 }
 
 int inWindow(const Arguments& arguments, FontSet& fonts) {
-    const auto backend = openSdlBackend({.title = "Gallery", .picture = arguments.size}, complain);
+    const auto backend = openSdlBackend(
+        {.title = "Gallery", .picture = arguments.size, .fullScreen = arguments.fullScreen}, complain);
     if (!backend) {
         return failure;
     }

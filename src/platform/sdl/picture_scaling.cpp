@@ -9,7 +9,7 @@ namespace {
 // Hundredths.
 constexpr int whole = 100;
 constexpr int comfortablePart = 85; ///< of the screen, at most, for the first window
-constexpr int leastPart = 70;       ///< of what would fit: less than that is not worth sharp pixels
+constexpr int leastPart = 75;       ///< of what would fit: less than that is not worth sharp pixels
 
 int wholeMultiple(Size room, Size picture) {
     return std::min(room.width / picture.width, room.height / picture.height);

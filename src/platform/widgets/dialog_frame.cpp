@@ -1,5 +1,7 @@
 // The window of a dialog: its frame, caption and close box, and the part inside.
 
+#include <algorithm>
+
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/widget_place.h"
 
@@ -104,7 +106,11 @@ void Dialog::pressFrame(const MouseInput& mouse) {
 
 void Dialog::moveOnFrame(const MouseInput& mouse) {
     if (grip_) {
-        frame_.setBounds(frame_.bounds().movedBy(mouse.position - *grip_));
+        // The held point stays on the screen, or nobody could take hold of it again.
+        const Size screen = desktop_.size();
+        const Point held{std::clamp(mouse.screen.x, 0, screen.width - 1),
+                         std::clamp(mouse.screen.y, 0, screen.height - 1)};
+        frame_.setBounds(Rect::at(held - *grip_, frame_.size()));
     } else if (isClosing_) {
         showCloseBoxPressed(closeBox().contains(mouse.position));
     }

@@ -18,6 +18,7 @@ TEST(PictureArea, TakesWholeMultiplesUnlessTheyWasteTheWindow) {
     EXPECT_EQ(pictureArea({3840, 2160}, small).size(), (Size{2400, 1800}));
     EXPECT_EQ(pictureArea({1280, 1024}, small), (Rect{0, 32, 1280, 992}))
         << "once would waste more than half";
+    EXPECT_EQ(pictureArea({1920, 1080}, large), (Rect{240, 0, 1680, 1080}));
     EXPECT_EQ(pictureArea({400, 400}, small), (Rect{0, 50, 400, 350}));
     EXPECT_FALSE(pictureArea({1, 1}, large).isEmpty());
 }

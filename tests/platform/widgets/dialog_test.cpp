@@ -130,13 +130,16 @@ TEST_F(DialogTest, EscMayBeDeafAndTheCloseBoxAnswersOnlyWhereItIsReleased) {
     EXPECT_EQ(pressed, std::vector<int>{cancelId});
 }
 
-TEST_F(DialogTest, ItsCaptionMovesIt) {
+TEST_F(DialogTest, ItsCaptionMovesItButNeverOutOfReach) {
     Point before;
     stage.script.then([&] {
         before = open->frame().bounds().topLeft();
         Script late(stage.backend);
         late.drag(before + Point{30, 10}, before + Point{50, 40}).then([&] {
             EXPECT_EQ(open->frame().bounds().topLeft(), before + (Point{20, 30}));
+        });
+        late.drag(before + Point{50, 40}, {900, -200}).then([&] {
+            EXPECT_EQ(open->frame().bounds().topLeft(), (Point{399, 0} - Point{30, 10}));
         });
         late.key(Key::escape);
     });
