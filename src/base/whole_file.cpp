@@ -10,7 +10,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr std::size_t pieceSize = 64 * 1024;
+constexpr std::size_t pieceSize = std::size_t{64} << 10;
 
 /// Where the new content stands until it is whole.
 fs::path besides(const fs::path& file) {

@@ -20,8 +20,9 @@ constexpr int directionTo(Cell from, Cell to) {
         {225, 180, 135},
     }};
     const auto sign = [](int value) { return (value > 0) - (value < 0); };
-    return directions[static_cast<std::size_t>(sign(to.y - from.y) + 1)]
-                     [static_cast<std::size_t>(sign(to.x - from.x) + 1)];
+    const int row = sign(to.y - from.y) + 1;
+    const int column = sign(to.x - from.x) + 1;
+    return directions[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)];
 }
 
 /// The heading of the next step for a flight that steers toward a target lying in that direction.

@@ -125,7 +125,7 @@ private:
         vor.reverseChance = reader.has("reverse_chance") ? reader.integer("reverse_chance", 0, 100) : 0;
     }
 
-    void readLook(TableReader& reader, Vor& vor) {
+    void readLook(TableReader& reader, Vor& vor) const {
         const auto own = [&](std::string_view key, Colour shared) {
             return reader.has(key) ? reader.colour(key) : shared;
         };

@@ -49,7 +49,7 @@ std::string TableReader::text(std::string_view key, std::size_t longest) {
     if (value == nullptr) {
         fail(quoted(key) + " must be a text", key);
     }
-    const std::string text = fromUtf8(value->get(), '\0');
+    std::string text = fromUtf8(value->get(), '\0');
     if (toUtf8(text) != value->get()) {
         fail(quoted(key) + " has a character that Windows-1252 lacks", key);
     }

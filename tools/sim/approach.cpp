@@ -10,6 +10,7 @@ namespace ventrel {
 namespace {
 
 constexpr int headingCount = fullCircle / headingStep;
+constexpr std::size_t placeCount = std::size_t{gridSize} * gridSize * headingCount;
 constexpr int straight = 0;
 constexpr int left = -headingStep;
 constexpr int right = headingStep;
@@ -33,7 +34,7 @@ std::optional<std::size_t> indexOf(const Place& place) {
 
 } // namespace
 
-Approach::Approach(const Vor& airport) : moves_(gridSize * gridSize * headingCount, outOfReach) {
+Approach::Approach(const Vor& airport) : moves_(placeCount, outOfReach) {
     const Place end{airport.cell, airport.runwayHeading};
     if (!airport.isAirport || end.heading >= fullCircle || !indexOf(end)) {
         return;

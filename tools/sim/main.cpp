@@ -79,7 +79,7 @@ int main(int count, char** words) {
         complain(*fault + " (see --help)");
         return wrongUsage;
     }
-    const Arguments& arguments = std::get<Arguments>(parsed);
+    const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.help) {
         std::fputs(helpText().data(), stdout);
         return played;
