@@ -66,8 +66,7 @@ void WrappedParagraph(benchmark::State& state) {
     Bitmap page({450, 580});
     Canvas canvas(page);
     for (auto _ : state) {
-        int height =
-            drawTextBox(canvas, font, {5, 130, 400, 580}, paragraph, {black, {}}, {.wrap = true});
+        int height = drawTextBox(canvas, font, {5, 130, 400, 580}, paragraph, {black, {}}, {.wrap = true});
         benchmark::DoNotOptimize(height);
     }
 }

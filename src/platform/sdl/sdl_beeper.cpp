@@ -9,7 +9,8 @@ namespace ventrel {
 
 namespace {
 
-constexpr int rate = 22050; // samples a second
+constexpr int rate = 22050;   // samples a second
+constexpr int forPlaying = 0; ///< as SDL counts its devices
 constexpr Uint16 blockSize = 512;
 constexpr Millis toneLength = 180;
 constexpr Millis deviceTail = 150; ///< what the machine may still hold of it
@@ -50,12 +51,18 @@ bool Beeper::open() {
         return false;
     }
     isOpen_ = true;
+    // Where nothing can play, trying all the same would only make the sound library complain.
+    if (SDL_GetNumAudioDevices(forPlaying) == 0) {
+        isMissing_ = true;
+        close();
+        return false;
+    }
     SDL_AudioSpec wanted{};
     wanted.freq = rate;
     wanted.format = AUDIO_S16SYS;
     wanted.channels = 1;
     wanted.samples = blockSize;
-    device_ = SDL_OpenAudioDevice(nullptr, 0, &wanted, nullptr, 0);
+    device_ = SDL_OpenAudioDevice(nullptr, forPlaying, &wanted, nullptr, 0);
     isMissing_ = device_ == 0;
     if (isMissing_) {
         close();

@@ -335,6 +335,11 @@ int ListBox::selected() const {
 }
 
 void ListBox::select(int index) const {
+    if (index == noListItem) {
+        state_->selected = noListItem;
+        window.invalidate();
+        return;
+    }
     state_->select(index, false);
 }
 

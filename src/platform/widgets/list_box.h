@@ -36,7 +36,7 @@ public:
     const std::string& line(int index) const;
     /// The chosen line, or `noListItem`.
     int selected() const;
-    /// Chooses a line and brings it into view.
+    /// Chooses a line and brings it into view; `noListItem` lets go of the chosen one.
     void select(int index) const;
     /// Columns at tab characters, every that many pixels.
     void setTabWidth(int pixels) const;
