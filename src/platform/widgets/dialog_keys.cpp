@@ -95,6 +95,8 @@ bool Dialog::key(const KeyEvent& event) {
     const bool isOnRadio =
         focused < controls_.size() && controls_[focused].shape.kind == ControlKind::radioButton;
     const auto walk = [&](int direction) { isOnRadio ? moveWithinGroup(direction) : moveFocus(direction); };
+    // A key that is still held since before must not press what has opened under it.
+    const bool isHeldOn = event.repeat;
     switch (event.key) {
     case Key::tab: moveFocus(event.modifiers.shift ? -1 : 1); return true;
     case Key::left:
@@ -102,15 +104,19 @@ bool Dialog::key(const KeyEvent& event) {
     case Key::right:
     case Key::down: walk(1); return true;
     case Key::enter:
-    case Key::keypadEnter: pressDefault(); return true;
+    case Key::keypadEnter:
+        if (!isHeldOn) {
+            pressDefault();
+        }
+        return true;
     case Key::escape:
-        if (handlers_.escapeCommand != noEscape) {
+        if (!isHeldOn && handlers_.escapeCommand != noEscape) {
             commandOf(handlers_.escapeCommand);
         }
         return true;
     default: break;
     }
-    return event.modifiers.alt && takeMnemonic(letterOf(event.key));
+    return event.modifiers.alt && !isHeldOn && takeMnemonic(letterOf(event.key));
 }
 
 /// Letters that no field has taken are mnemonics too.

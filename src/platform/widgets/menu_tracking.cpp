@@ -222,10 +222,15 @@ private:
         }
     }
 
+    static bool isArrow(Key key) { return key == Key::up || key == Key::down; }
+
     /// Whether the key was one of those that walk a menu; others may type a mnemonic.
     bool key(const KeyEvent& event) {
         const std::size_t last = levels_.size() - 1;
         levels_.front()->window.stopTimer(openTimer);
+        if (event.repeat && !isArrow(event.key)) {
+            return true; // held since before the menu opened, or since it chose
+        }
         switch (event.key) {
         case Key::down: setHot(last, deepest().neighbour(deepest().hot, 1)); return true;
         case Key::up: setHot(last, deepest().neighbour(deepest().hot, -1)); return true;

@@ -103,6 +103,12 @@ TEST_F(DialogTest, MnemonicsChooseAndALabelsLeadsToItsField) {
     EXPECT_EQ(pressed, (std::vector<int>{askId, cancelId}));
 }
 
+TEST_F(DialogTest, AKeyHeldSinceBeforePressesNothing) {
+    stage.script.keyDown(Key::enter, {}, true).keyDown(Key::escape, {}, true).keyDown(Key::a, withAlt, true);
+    stage.script.then([this] { EXPECT_TRUE(pressed.empty()); }).key(Key::escape);
+    EXPECT_EQ(run(), cancelId);
+}
+
 TEST_F(DialogTest, DisabledControlsAreLeftOut) {
     stage.script.then([this] {
         open->enable(easyId + 1, false);

@@ -125,6 +125,14 @@ TEST_F(MenuTest, OpensInsideTheScreenWithItsSubmenus) {
     track({395, 295});
 }
 
+TEST_F(MenuTest, AKeyHeldSinceBeforeChoosesNothing) {
+    stage.script.keyDown(Key::d, withAlt, true).keyDown(Key::enter, {}, true).keyDown(Key::down);
+    stage.script.keyDown(Key::down, {}, true).keyDown(Key::enter, {}, true);
+    expectWindows(1);
+    stage.script.key(Key::enter);
+    EXPECT_EQ(track(), 2);
+}
+
 TEST_F(MenuTest, VanishesWhenTheProgramIsLeft) {
     stage.script.window(WindowEvent::deactivated).then([this] { EXPECT_EQ(stage.openWindows(), 1U); });
     EXPECT_EQ(track(), noCommand);
