@@ -22,6 +22,20 @@ protected:
         });
     }
 
+    /// Two flights at 5K, one in (10, 10), the other there; on to their first move.
+    void meet(Cell other) {
+        QuietShift shift(stage);
+        shift.enter(0, {.x = 10, .y = 10, .altitude = 5, .heading = 90});
+        shift.enter(1, {.x = 30, .y = 30, .altitude = 5, .heading = 90});
+        stage.skipTo(QuietShift::entryTime);
+        stage.look([this, other] {
+            stage.game().flight(0).plan[0].altitude = 5;
+            stage.game().flight(1).plan[0] = {.x = other.x, .y = other.y, .altitude = 5, .heading = 90};
+        });
+        stage.skip();
+        stage.skip();
+    }
+
     void finishAllBut(FlightIndex first) {
         stage.look([this, first] {
             for (FlightIndex i = first; i < stage.game().planeCount(); ++i) {
@@ -71,15 +85,7 @@ TEST_F(GameEndTest, ALostFlightLightsTheYellowLampOnce) {
 }
 
 TEST_F(GameEndTest, ANearMissLightsTheRedLampAndFlashesIt) {
-    QuietShift shift(stage);
-    shift.enter(0, {.x = 10, .y = 10, .altitude = 5, .heading = 90});
-    shift.enter(1, {.x = 30, .y = 30, .altitude = 5, .heading = 90});
-    stage.skipTo(60);
-    stage.look([this] {
-        stage.game().flight(0).plan[0].altitude = 5;
-        stage.game().flight(1).plan[0] = {.x = 11, .y = 11, .altitude = 5, .heading = 90};
-    });
-    stage.skipTo(90);
+    meet({11, 11});
     stage.look([this] {
         EXPECT_TRUE(isOnTicker("F0, Emergency! Near miss with F1"));
         EXPECT_EQ(stage.shell().topBar.lamps.lit, LampLevel::red);
@@ -120,16 +126,7 @@ TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
 }
 
 TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
-    QuietShift shift(stage);
-    shift.enter(0, {.x = 10, .y = 10, .altitude = 5, .heading = 90});
-    shift.enter(1, {.x = 30, .y = 30, .altitude = 5, .heading = 90});
-    stage.skipTo(60);
-    stage.look([this] {
-        stage.game().flight(0).plan[0].altitude = 5;
-        stage.game().flight(1).plan[0] = {.x = 10, .y = 10, .altitude = 5, .heading = 90};
-    });
-    stage.skip();
-    stage.skip();
+    meet({10, 10});
     stage.look([this] {
         EXPECT_FALSE(stage.game().gameRunning);
         EXPECT_EQ(stage.game().collisionFlights, (std::array<FlightIndex, 2>{1, 0}));
@@ -156,16 +153,7 @@ TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
 }
 
 TEST_F(GameEndTest, ClosingTheWindowWhileRingsSpreadEndsTheProgram) {
-    QuietShift shift(stage);
-    shift.enter(0, {.x = 10, .y = 10, .altitude = 5, .heading = 90});
-    shift.enter(1, {.x = 30, .y = 30, .altitude = 5, .heading = 90});
-    stage.skipTo(60);
-    stage.look([this] {
-        stage.game().flight(0).plan[0].altitude = 5;
-        stage.game().flight(1).plan[0] = {.x = 10, .y = 10, .altitude = 5, .heading = 90};
-    });
-    stage.skip();
-    stage.skip();
+    meet({10, 10});
     stage.todo([](Script& script) { script.window(WindowEvent::closeRequested).wait(100); });
     stage.look([] { ADD_FAILURE() << "it went on"; });
     stage.play();
