@@ -6,7 +6,7 @@
 #include <array>
 
 #include "platform/desktop/window.h"
-#include "resources/commands.h"
+#include "resources/command_ids.h"
 
 namespace ventrel {
 

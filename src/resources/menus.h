@@ -5,7 +5,7 @@
 #include <array>
 
 #include "platform/widgets/templates.h"
-#include "resources/commands.h"
+#include "resources/command_ids.h"
 
 namespace ventrel {
 

@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "resources/commands.h"
+#include "resources/command_ids.h"
 #include "shell/shell.h"
 
 namespace ventrel {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "resources/commands.h"
+#include "resources/command_ids.h"
 #include "shell/game_flow.h"
 
 namespace ventrel {
