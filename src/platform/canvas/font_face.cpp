@@ -2,6 +2,7 @@
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
+#include FT_TRUETYPE_TABLES_H
 
 #include <algorithm>
 #include <cstdlib>
@@ -17,6 +18,8 @@ constexpr std::size_t largestFontFile = std::size_t{16} << 20;
 
 /// Below this, 6 and 8 and 3 and 9 run into one another (docs/fonts.md).
 constexpr int smallestPixels = 9;
+/// From here on strokes are thick enough to stay even by whatever hints.
+constexpr int firstRoomyPixels = 15;
 /// From here on stairs show, and shades between black and white no longer blur thin strokes.
 constexpr int firstSmoothPixels = 24;
 
@@ -66,6 +69,31 @@ int averageWidth(const std::array<Glyph, Font::glyphCount>& glyphs) {
     return (sum + count / 2) / count;
 }
 
+/// Up to its release 1 the faces' own hints make even letters in black and white; later ones are hinted for
+/// shades, and leave bumps and gaps (docs/fonts.md).
+bool isHintedForShades(FT_FaceRec_* face) {
+    constexpr FT_Fixed releaseTwo = 2 << 16;
+    const auto* head = static_cast<const TT_Header*>(FT_Get_Sfnt_Table(face, FT_SFNT_HEAD));
+    return head != nullptr && head->Font_Revision >= releaseTwo;
+}
+
+FT_Int32 loadFlags(FT_FaceRec_* face, int pixels) {
+    if (pixels >= firstSmoothPixels) {
+        return FT_LOAD_RENDER | FT_LOAD_TARGET_NORMAL;
+    }
+    const bool needsOtherHints = pixels < firstRoomyPixels && isHintedForShades(face);
+    return FT_LOAD_RENDER | FT_LOAD_TARGET_MONO |
+           (needsOtherHints ? FT_LOAD_FORCE_AUTOHINT : FT_LOAD_DEFAULT);
+}
+
+/// How far a character moves the pen: what its hints say, but where they are not the face's own its true
+/// width, which they would stretch.
+int advanceOf(const FT_GlyphSlotRec_& slot, FT_Int32 flags) {
+    constexpr int fixedToSixtyFourths = 10;
+    const bool isStretched = (flags & FT_LOAD_FORCE_AUTOHINT) != 0;
+    return wholePixels(isStretched ? slot.linearHoriAdvance >> fixedToSixtyFourths : slot.advance.x);
+}
+
 /// Appends the pixels of a drawn character, spreading bits to bytes where it was drawn in black and white.
 void appendCoverage(const FT_Bitmap& bitmap, std::vector<std::uint8_t>& coverage) {
     for (unsigned y = 0; y < bitmap.rows; ++y) {
@@ -86,7 +114,7 @@ Glyph renderGlyph(FT_FaceRec_* face, char32_t character, int ascent, FT_Int32 fl
     }
     const FT_GlyphSlotRec_& slot = *face->glyph;
     const Size size{static_cast<int>(slot.bitmap.width), static_cast<int>(slot.bitmap.rows)};
-    Glyph glyph{Rect::at({slot.bitmap_left, ascent - slot.bitmap_top}, size), wholePixels(slot.advance.x),
+    Glyph glyph{Rect::at({slot.bitmap_left, ascent - slot.bitmap_top}, size), advanceOf(slot, flags),
                 coverage.size()};
     appendCoverage(slot.bitmap, coverage);
     return glyph;
@@ -130,8 +158,7 @@ Font renderFont(const FontFace& fontFace, int height) {
     if (FT_Set_Pixel_Sizes(face, 0, static_cast<FT_UInt>(pixels)) != 0) {
         return blankFont(height);
     }
-    const FT_Int32 flags =
-        FT_LOAD_RENDER | (pixels < firstSmoothPixels ? FT_LOAD_TARGET_MONO : FT_LOAD_TARGET_NORMAL);
+    const FT_Int32 flags = loadFlags(face, pixels);
     FontMeasures measures = lineMeasures(*face, height, pixels);
     std::array<Glyph, Font::glyphCount> glyphs;
     std::vector<std::uint8_t> coverage;
