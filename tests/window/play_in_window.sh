@@ -50,11 +50,17 @@ fail() {
     exit 1
 }
 
+program= # its process, once it runs
+may_end=no
+has_ended() { ! kill -0 "$program" 2>/dev/null; }
+has_ended_early() { [ -n "$program" ] && [ "$may_end" = no ] && has_ended; }
+
 # until_true WHAT COMMAND...: until the command succeeds.
 until_true() {
     local what=$1 end=$((SECONDS + patience))
     shift
     until "$@"; do
+        ! has_ended_early || fail "the program ended by itself while this was waited for: $what"
         [ "$SECONDS" -lt "$end" ] || fail "waited $patience seconds for this: $what"
         sleep 0.05
     done
@@ -101,7 +107,6 @@ sees() {
     import -silent -window "$window" -crop "1x1+$1+$2" -depth 8 txt:- 2>/dev/null | grep -qi "#$3"
 }
 titled() { [ "$(xdotool getwindowname "$window" 2>/dev/null)" = "$1" ]; }
-has_ended() { ! kill -0 "$program" 2>/dev/null; }
 move() { xdotool mousemove --window "$window" "$1" "$2"; }
 
 step() {
@@ -135,6 +140,7 @@ step() {
     titled) until_true "titled $rest" titled "$rest" ;;
     close) xdotool key alt+F4 ;;
     ends)
+        may_end=yes
         until_true "ends $rest" has_ended
         local code=0
         wait "$program" || code=$?
