@@ -89,7 +89,7 @@ void Gallery::createFields() {
                                .bounds = Rect::at(corner + Point{0, 4}, {indent, rowHeight}),
                                .text = name,
                                .font = &font});
-        const Edit edit =
+        Edit edit =
             createEdit(desktop_, {main_, noId, Rect::at(corner + Point{indent, 0}, size), &font, readOnly});
         edit.setText(text);
         corner.y += size.height + 6;

@@ -70,7 +70,7 @@ public:
             }
             SDL_Event event;
             if (waitFor(event, end)) {
-                if (const auto input = translate(event)) {
+                if (auto input = translate(event)) {
                     return input;
                 }
             } else if (end && now() >= *end) {
@@ -159,7 +159,7 @@ public:
 
     std::string clipboard() override {
         char* text = SDL_GetClipboardText();
-        const std::string result = fromUtf8(text == nullptr ? "" : text, '\0');
+        std::string result = fromUtf8(text == nullptr ? "" : text, '\0');
         SDL_free(text);
         return result;
     }
