@@ -12,6 +12,9 @@ namespace {
 
 constexpr Size smallWindow{800, 600};
 constexpr Size largeWindow{1024, 768};
+/// Fewer bits for a pixel cannot show the console's colours.
+constexpr int leastColourDepth = 16;
+
 constexpr FontRequest boxFont{Face::msSansSerif, -11, false};
 constexpr FontRequest boxCaptionFont{Face::msSansSerif, -11, true};
 
@@ -54,6 +57,10 @@ bool Program::startUp() {
 /// Whatever is shown before the console comes first; then the console appears.
 void Program::finishStartUp() {
     shell_->mainWindow.releaseCapture();
+    const bool isWindowed = shell_->options.windowed != 0;
+    if (isWindowed && parts_.backend.display().bitsPerPixel < leastColourDepth) {
+        shell_->report(StringTableText(TextId::colourDepthTooLow), MessageIcon::exclamation);
+    }
     shell_->mainWindow.show();
     shell_->sounds.stopMusic();
     shell_->sounds.playMusic(idleMusic, true);

@@ -138,6 +138,21 @@ TEST(StartUp, TheWindowFollowsTheScreenUntilThePlayerChooses) {
     EXPECT_EQ(others.resolution, 3);
 }
 
+TEST(StartUp, AScreenOfFewColoursIsComplainedOfAndThenUsed) {
+    HeadlessBackend backend({800, 600}, {{800, 600}, 8});
+    FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
+    SilentSounds sounds;
+    Program program({backend, fonts, sounds}, {PROGRAM_FOLDER, "none.ini"},
+                    Options{.resolution = 2, .windowed = 1}, 1);
+    ASSERT_TRUE(program.startUp());
+    Script(backend).wait(10).key(Key::enter).wait(10).then([&] {
+        EXPECT_EQ(backend.beeps(), std::vector{MessageIcon::exclamation});
+        EXPECT_TRUE(program.shell().mainWindow.isActive());
+        program.desktop().quit();
+    });
+    program.run();
+}
+
 TEST(StartUp, AMissingPictureIsNamedAndNothingStarts) {
     TempFolder folder;
     HeadlessBackend backend({800, 600});
