@@ -5,6 +5,7 @@
 #include <fstream>
 #include <random>
 
+#include "../base/temp_folder.h"
 #include "small_airspace.h"
 
 namespace ventrel {
@@ -12,7 +13,6 @@ namespace ventrel {
 namespace {
 
 using namespace airport_layout;
-using ::testing::TempDir;
 
 /// Reads a file; what was said about it, or nothing when it was accepted.
 std::string refusal(const std::vector<std::byte>& file) {
@@ -135,7 +135,8 @@ TEST(AirportLoading, RunwaysAreReversedByTheirChanceAlone) {
 }
 
 TEST(AirportLoading, AFileThatCannotBePlayedLeavesTheLoadedAirport) {
-    const std::filesystem::path path = std::filesystem::path{TempDir()} / "cut.apt";
+    const TempFolder folder;
+    const std::filesystem::path path = folder / "cut.apt";
     auto bytes = SmallAirspace::usual().file();
     std::ofstream{path, std::ios::binary}.write(reinterpret_cast<const char*>(bytes.data()), 100);
     GameState game = SmallAirspace::usual().game();
@@ -152,7 +153,6 @@ TEST(AirportLoading, AFileThatCannotBePlayedLeavesTheLoadedAirport) {
                                                 static_cast<std::streamsize>(bytes.size()));
     EXPECT_TRUE(loadAirport(game, path, largeLayout, random, reports.reporter()));
     EXPECT_EQ(game.vor(0).cell, (Cell{274 / 14, 264 / 14}));
-    std::filesystem::remove(path);
 }
 
 } // namespace

@@ -6,6 +6,7 @@
 #include <fstream>
 #include <set>
 
+#include "../base/temp_folder.h"
 #include "sim/game_clock.h"
 #include "sim/message_queue.h"
 #include "sim/options.h"
@@ -144,7 +145,8 @@ TEST(ShiftTexts, NameTheControllerTheScoreAndTheBlame) {
 }
 
 TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
-    const std::filesystem::path path = std::filesystem::path{::testing::TempDir()} / "options_test.ini";
+    const TempFolder folder;
+    const std::filesystem::path path = folder / "options.ini";
     std::ofstream{path} << "; mine\n[Options]\nSingleSound=4\nCustomPlanes=99\nCustomSched=7200\nMusic=off\n"
                            "CustomSkill=-17\nFuture=1\n";
     ProfileFile profile{path};
@@ -162,8 +164,7 @@ TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
     again.singleSound = 9;
     EXPECT_EQ(again, options);
     EXPECT_EQ(ProfileFile{path}.integer("Options", "Future", 0), 1);
-    std::filesystem::remove(path);
-    EXPECT_EQ(ReadOptions(ProfileFile{path}), Options{});
+    EXPECT_EQ(ReadOptions(ProfileFile{folder / "none.ini"}), Options{});
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "../base/temp_folder.h"
 #include "small_airspace.h"
 #include "tools/sim/arguments.h"
 #include "tools/sim/log_writer.h"
@@ -39,8 +40,6 @@ TEST(CommandLine, SaysWhatIsWrongWithIt) {
 
 class OrderFile : public ::testing::Test {
 protected:
-    ~OrderFile() override { std::filesystem::remove(path); }
-
     std::variant<std::vector<ScriptedOrder>, std::string> read(std::string_view text) {
         std::ofstream{path, std::ios::binary} << text;
         return readOrderFile(path, test.game);
@@ -52,7 +51,8 @@ protected:
             << std::get<std::string>(result);
     }
 
-    std::filesystem::path path = std::filesystem::path{::testing::TempDir()} / "orders_test.txt";
+    TempFolder folder; // of each test's own: they run side by side
+    std::filesystem::path path = folder / "orders.txt";
     TestGame test;
 };
 
@@ -71,7 +71,7 @@ TEST_F(OrderFile, IsReadInOrderOfTimeThenOfLines) {
 
 TEST_F(OrderFile, WithAFaultIsRefusedByFileAndLine) {
     test.fly({24, 30}, 5, 90, 1);
-    expectFault("15 0 5 90 0 -1 0\n20 0 5 90 0 -1 0\n", "orders_test.txt:2: clock");
+    expectFault("15 0 5 90 0 -1 0\n20 0 5 90 0 -1 0\n", "orders.txt:2: clock");
     expectFault("15 1 5 90 0 -1 0", ":1: flight");
     expectFault("15 0 11 90 0 -1 0", ":1: altitude");
     expectFault("15 0 5 360 0 -1 0", ":1: heading");
@@ -84,7 +84,7 @@ TEST_F(OrderFile, WithAFaultIsRefusedByFileAndLine) {
     expectFault("15 0 5 90 0 -1 0.5", ":1: hold");
     std::filesystem::remove(path);
     EXPECT_TRUE(std::holds_alternative<std::string>(readOrderFile(path, test.game)));
-    EXPECT_TRUE(std::holds_alternative<std::string>(readOrderFile(::testing::TempDir(), test.game)));
+    EXPECT_TRUE(std::holds_alternative<std::string>(readOrderFile(folder.path(), test.game)));
 }
 
 /// A game of one flight that enters at 15 and is soon lost.
