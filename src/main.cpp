@@ -30,9 +30,7 @@ constexpr int cannotStart = 1;
 constexpr std::string_view usage =
     "Ventrel, an air-traffic-control game.\n"
     "\n"
-    "    ventrel [/NOSPLASH]\n"
-    "\n"
-    "    /NOSPLASH   without the opening pictures\n"
+    "    ventrel\n"
     "\n"
     "Keys and rules: F1 in the game. The options are kept in ventrel.ini beside the program, or in the data\n"
     "folder of the player where the program's folder cannot be written.\n";
@@ -45,27 +43,28 @@ void complain(std::string_view text, MessageIcon /*icon*/) {
 struct Settings {
     std::filesystem::path file;
     Options options = {};
+    Size window = {}; ///< of the picture
     std::optional<Rect> windowPlace = {};
 
     void read() {
         const ProfileFile profile(file);
         options = ReadOptions(profile);
-        windowPlace = readWindowPlace(profile);
+        window = chooseWindowSize(options, screenSize().value_or(Size{}));
+        windowPlace = readWindowPlace(profile, window.width);
     }
     void write() const {
         ProfileFile profile(file);
         WriteOptions(options, profile);
         if (windowPlace) {
-            writeWindowPlace(*windowPlace, profile);
+            writeWindowPlace(*windowPlace, window.width, profile);
         }
         profile.save();
     }
 };
 
-std::unique_ptr<SdlBackend> openScreen(const Settings& settings, Size window,
-                                       const std::filesystem::path& programFolder) {
+std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::filesystem::path& programFolder) {
     const auto icon = loadIcon(programFolder);
-    SdlOptions options{.title = std::string(programTitle), .picture = window};
+    SdlOptions options{.title = std::string(programTitle), .picture = settings.window};
     options.fullScreen = settings.options.windowed == 0;
     if (settings.windowPlace) {
         options.placement = WindowPlacement{*settings.windowPlace};
@@ -93,9 +92,7 @@ int play(const std::filesystem::path& executable) {
     settings.read();
 
     FontSet fonts(programFolder / "fonts", complain);
-    const auto screen = screenSize();
-    const Size window = chooseWindowSize(settings.options, screen.value_or(Size{}));
-    const auto backend = fonts.isComplete() ? openScreen(settings, window, programFolder) : nullptr;
+    const auto backend = fonts.isComplete() ? openScreen(settings, programFolder) : nullptr;
     if (!backend) {
         return cannotStart;
     }

@@ -1,5 +1,7 @@
 #include "controls/strips.h"
 
+#include <algorithm>
+
 #include "platform/canvas/text.h"
 
 namespace ventrel {
@@ -51,10 +53,20 @@ void paint(Strips& strips, Canvas& canvas) {
             continue;
         }
         paintStrip(canvas, strips, slot, game.flight(index), font);
-        if (game.flight(index).selected) {
-            strips.callbacks.press(slot);
-        }
     }
+}
+
+int selectedSlot(const Strips& strips) {
+    const auto& slots = strips.list.slots;
+    const auto found = std::ranges::find_if(slots, [&](FlightIndex flight) {
+        return flight != noFlight && strips.sources.game.flight(flight).selected;
+    });
+    return found == slots.end() ? noSlot : static_cast<int>(found - slots.begin());
+}
+
+void showList(Strips& strips) {
+    strips.window.invalidate();
+    strips.callbacks.press(selectedSlot(strips));
 }
 
 } // namespace
@@ -78,23 +90,23 @@ void StripsCreate(Strips& strips, const Window& parent, Size mainWindow) {
 
 void StripsReset(Strips& strips) {
     resetStrips(strips.list);
-    strips.window.invalidate();
+    showList(strips);
 }
 
 void StripsRebuild(Strips& strips) {
     rebuildStrips(strips.list, strips.sources.game);
-    strips.window.invalidate();
+    showList(strips);
 }
 
 bool StripsScrollUp(Strips& strips) {
     const bool hasScrolled = scrollStripsUp(strips.list, strips.sources.game);
-    strips.window.invalidate();
+    showList(strips);
     return hasScrolled;
 }
 
 bool StripsScrollDown(Strips& strips) {
     const bool hasScrolled = scrollStripsDown(strips.list, strips.sources.game);
-    strips.window.invalidate();
+    showList(strips);
     return hasScrolled;
 }
 

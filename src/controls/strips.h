@@ -1,7 +1,7 @@
 // The flight strips: a column of two-line strips, one for each flight that is listed.
 //
 // The window only paints. The buttons beside it and the scroll arrows belong to the main window, which is
-// told which button the paint has found to be the pressed one.
+// told which button is the pressed one.
 
 #pragma once
 
@@ -16,7 +16,8 @@ namespace ventrel {
 inline constexpr int stripsId = 505;
 
 struct StripsCallbacks {
-    /// The selected flight stands on that strip: its button is the pressed one.
+    /// The list has been made anew: that strip shows the selected flight, and its button is the pressed one;
+    /// none is with `noSlot`.
     std::function<void(int slot)> press;
 };
 

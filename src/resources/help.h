@@ -39,8 +39,9 @@ inline constexpr std::string_view keyMeanings = "EXEC: send the order on the pan
 
 inline constexpr std::string_view mouse =
     "Left click an aircraft, or the button beside its strip, to select it; set its order on the panel and "
-    "press EXEC. Right click an aircraft to choose one order that is sent at once. Click the clock to skip "
-    "to the next 15 seconds. The wheel scrolls the strips.";
+    "press EXEC. A departure takes off when you select its strip and press EXEC. For a hold step the "
+    "DIRECT arrows to \"hold\". Right click an aircraft to choose one order that is sent at once. Click the "
+    "clock to skip to the next 15 seconds. The wheel scrolls the strips.";
 
 inline constexpr std::string_view events = "Landing at the airport (*), on the runway heading, at 1,000 ft\n"
                                            "Leaving over the exit at 10,000 ft\n"
@@ -54,17 +55,17 @@ inline constexpr std::string_view events = "Landing at the airport (*), on the r
 inline constexpr std::string_view points = "+150\n+75\n-150\n-100\n-200\n-100\n-50\n-5\ngame over";
 
 inline constexpr std::array controls{std::to_array<ControlTemplate>({
-    {ControlKind::groupBox, 0, "Keys", {7, 4, 297, 130}},
-    {ControlKind::staticText, 0, keys, {15, 15, 121, 127}, multiLine},
-    {ControlKind::staticText, 0, keyMeanings, {124, 15, 291, 127}, multiLine},
-    {ControlKind::groupBox, 0, "Mouse", {7, 133, 297, 171}},
-    {ControlKind::staticText, 0, mouse, {15, 144, 291, 169}, multiLine},
-    {ControlKind::groupBox, 0, "Points", {7, 174, 297, 259}},
-    {ControlKind::staticText, 0, events, {15, 185, 246, 257}, multiLine},
-    {ControlKind::staticText, 0, points, {247, 185, 289, 257}, multiLine | rightAligned},
-    {ControlKind::defaultButton, okId, "OK", {127, 264, 177, 278}},
+    {ControlKind::groupBox, 0, "Keys", {7, 4, 297, 134}},
+    {ControlKind::staticText, 0, keys, {15, 15, 121, 129}, multiLine},
+    {ControlKind::staticText, 0, keyMeanings, {124, 15, 291, 129}, multiLine},
+    {ControlKind::groupBox, 0, "Mouse", {7, 137, 297, 192}},
+    {ControlKind::staticText, 0, mouse, {15, 148, 291, 189}, multiLine},
+    {ControlKind::groupBox, 0, "Points", {7, 195, 297, 284}},
+    {ControlKind::staticText, 0, events, {15, 206, 246, 279}, multiLine},
+    {ControlKind::staticText, 0, points, {247, 206, 289, 279}, multiLine | rightAligned},
+    {ControlKind::defaultButton, okId, "OK", {127, 290, 177, 304}},
 })};
 
-inline constexpr DialogTemplate shape{.title = "Ventrel Help", .size = {304, 284}, .controls = controls};
+inline constexpr DialogTemplate shape{.title = "Ventrel Help", .size = {304, 310}, .controls = controls};
 
 } // namespace ventrel::help

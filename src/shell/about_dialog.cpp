@@ -1,9 +1,10 @@
+#include "shell/about_dialog.h"
+
 #include "base/data_path.h"
 #include "base/windows1252.h"
 #include "platform/canvas/image.h"
 #include "platform/widgets/dialog.h"
 #include "resources/dialogs.h"
-#include "shell/information_dialogs.h"
 
 namespace ventrel {
 
@@ -61,7 +62,8 @@ void runAboutDialog(Shell& shell) {
         handlers.init = [&picture](Dialog& dialog) { fitTo(dialog, picture->size()); };
         handlers.paint = [&picture](Dialog&, Canvas& canvas) { canvas.draw({0, 0}, *picture); };
     }
-    runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, about::shape, std::move(handlers));
+    Dialog dialog(shell.desktop, shell.widgetFonts, shell.mainWindow, about::shape, std::move(handlers));
+    dialog.run(okId);
 }
 
 } // namespace ventrel

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <system_error>
 
+#include "base/data_path.h"
 #include "base/file_buffer.h"
 #include "sim/airport_file.h"
 
@@ -28,9 +29,11 @@ bool isAirportName(const fs::path& file) {
 std::vector<fs::path> airportFiles(const fs::path& folder) {
     std::vector<fs::path> files;
     std::error_code error;
-    for (const auto& entry : fs::directory_iterator(folder, error)) {
-        if (isAirportName(entry.path()) && !entry.is_directory(error)) {
-            files.push_back(entry.path());
+    for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
+         entry.increment(error)) {
+        std::error_code ignored;
+        if (isAirportName(entry->path()) && !entry->is_directory(ignored)) {
+            files.push_back(entry->path());
         }
     }
     std::sort(files.begin(), files.end());
@@ -44,10 +47,14 @@ bool nameComesFirst(const CatalogueEntry& a, const CatalogueEntry& b) {
 
 } // namespace
 
-std::vector<CatalogueEntry> BuildAirportCatalogue(const fs::path& airportFolder, int windowWidth,
+fs::path airportFolder(const fs::path& programFolder) {
+    return DataPath(programFolder, "apt");
+}
+
+std::vector<CatalogueEntry> BuildAirportCatalogue(const fs::path& folder, int windowWidth,
                                                   const FailureReporter& report) {
     std::vector<CatalogueEntry> catalogue;
-    for (const fs::path& file : airportFiles(airportFolder)) {
+    for (const fs::path& file : airportFiles(folder)) {
         FileBuffer start;
         if (catalogue.size() == mostEntries) {
             break;

@@ -15,9 +15,12 @@ struct CatalogueEntry {
     std::filesystem::path file; ///< within the airport folder
 };
 
+/// The folder of the airport files.
+std::filesystem::path airportFolder(const std::filesystem::path& programFolder);
+
 /// At most 512 entries. A file that cannot be read or is too short is reported (texts 1 or 4, stop icon) and
 /// passed over; one that is no airport, or made for another window width, is passed over in silence.
-std::vector<CatalogueEntry> BuildAirportCatalogue(const std::filesystem::path& airportFolder, int windowWidth,
+std::vector<CatalogueEntry> BuildAirportCatalogue(const std::filesystem::path& folder, int windowWidth,
                                                   const FailureReporter& report);
 
 } // namespace ventrel

@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <array>
 
-#include "shell/display_commands.h"
+#include "shell/about_dialog.h"
 #include "shell/game_flow.h"
 #include "shell/help_dialog.h"
-#include "shell/information_dialogs.h"
 #include "shell/new_game_dialog.h"
+#include "shell/option_commands.h"
 #include "shell/popup_menus.h"
+#include "shell/schedule_dialog.h"
 #include "shell/selection.h"
 #include "sim/grid.h"
 #include "sim/orders.h"
@@ -30,6 +31,7 @@ void newGame(Shell& shell) {
     if (shell.game.gameRunning) {
         abandonGame(shell);
     }
+    onGameOver(shell); // a shift whose last line still scrolls does not end the next one
     if (const auto setup = runNewGameDialog(shell)) {
         startGame(shell, *setup);
     }
@@ -89,11 +91,6 @@ constexpr std::array actions{std::to_array<Action>({
     {command::altitudeUp, [](Shell& shell) { CtrlStepAltitude(shell.panel, true); }},
     {command::altitudeDown, [](Shell& shell) { CtrlStepAltitude(shell.panel, false); }},
     {command::skipClock, [](Shell& shell) { ClockSkip(shell.topBar); }},
-    {command::planeHold,
-     [](Shell& shell) {
-         CtrlSetDirect(shell.panel, noVor);
-         shell.mainWindow.postCommand(command::executeOrder);
-     }},
 })};
 
 /// Commands that give the panel one value.
@@ -139,6 +136,8 @@ bool giveOrder(Shell& shell, int id) {
         CtrlSetAltitude(shell.panel, *altitude + 1);
     } else if (const auto speed = placeInSeries(id, command::planeSlow, command::planeSpeeds)) {
         CtrlSetSpeed(shell.panel, *speed + slowSpeed);
+    } else if (id == command::planeHold) {
+        CtrlSetDirect(shell.panel, noVor);
     } else {
         return false;
     }
@@ -156,7 +155,7 @@ void onCommand(Shell& shell, int id) {
     } else if (const auto* speed = findCommand(speeds, id)) {
         CtrlSetSpeed(shell.panel, speed->value);
     } else if (!giveOrder(shell, id)) {
-        changeDisplay(shell, id);
+        changeOption(shell, id);
     }
 }
 

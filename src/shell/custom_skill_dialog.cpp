@@ -8,7 +8,7 @@ namespace ventrel {
 
 namespace {
 
-/// The shift as typed; numbers beyond all bounds are brought down to what a bonus can be reckoned for.
+/// The shift as typed, which need not be one that can be played.
 struct TypedShift {
     unsigned planes;
     unsigned minutes;

@@ -1,7 +1,7 @@
 #include "shell/game_flow.h"
 
-#include "base/data_path.h"
-#include "shell/selection.h"
+#include "shell/airport_catalogue.h"
+#include "shell/window_size.h"
 #include "sim/airport_loading.h"
 #include "sim/schedule.h"
 #include "sim/shift_texts.h"
@@ -16,7 +16,7 @@ constexpr std::string_view collisionSound = "snd\\collide.snd";
 constexpr std::string_view pausedTitle = "Ventrel (Paused)";
 
 const ScopeLayout& scopeLayout(const Shell& shell) {
-    return shell.windowSize().width == largeLayout.windowWidth ? largeLayout : smallLayout;
+    return isLarge(shell.windowSize()) ? largeLayout : smallLayout;
 }
 
 std::vector<Size> cloudSizes(const Shell& shell) {
@@ -28,7 +28,7 @@ std::vector<Size> cloudSizes(const Shell& shell) {
 }
 
 bool openAirportOf(Shell& shell, const GameSetup& setup) {
-    const auto path = DataPath(shell.programFolder, "apt") / setup.airportFile;
+    const auto path = airportFolder(shell.programFolder) / setup.airportFile;
     return loadAirport(shell.game, path, scopeLayout(shell), shell.random, shell.reporter());
 }
 
@@ -39,6 +39,7 @@ void beginShift(Shell& shell, const GameSetup& setup) {
     setUpShift(shell.game,
                {.skill = setup.skill, .voiceSetCount = shell.sounds.voiceSetCount(), .cloudSizes = sizes},
                shell.options, shell.random);
+    ClockReset(shell.topBar);
     shell.game.gameRunning = true;
     SetPause(shell, false);
     setLamp(shell.topBar.lamps, shell.events, LampLevel::none);
@@ -60,7 +61,6 @@ void endWithCollision(Shell& shell) {
 void emptyStrips(Shell& shell) {
     shell.game.listedCount = 0;
     StripsReset(shell.strips);
-    StripsPress(shell, noSlot);
 }
 
 void endWithScore(Shell& shell) {
@@ -123,7 +123,14 @@ void endShift(Shell& shell, ShiftResult result) {
     }
 }
 
+bool isShiftEnding(const Shell& shell) {
+    return shell.scroller.state.postGameOver;
+}
+
 void onGameOver(Shell& shell) {
+    if (!isShiftEnding(shell)) {
+        return; // it has been cut short
+    }
     ScrollerSetPostGameOver(shell.scroller, false);
     shell.mainWindow.releaseCapture();
     EndGame(shell);

@@ -26,7 +26,10 @@ void abandonGame(Shell& shell);
 /// The end that the simulation has told: every flight handled, or a collision.
 void endShift(Shell& shell, ShiftResult result);
 
-/// The game-over line has scrolled away.
+/// Whether the shift is over but its last line still on the ticker.
+bool isShiftEnding(const Shell& shell);
+
+/// The game-over line has scrolled away, or nobody waits for it any more; nothing when no shift is ending.
 void onGameOver(Shell& shell);
 
 /// The score so far, for the ticker.

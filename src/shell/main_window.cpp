@@ -7,6 +7,7 @@
 #include "shell/game_flow.h"
 #include "shell/popup_menus.h"
 #include "shell/selection.h"
+#include "shell/window_size.h"
 
 namespace ventrel {
 
@@ -48,8 +49,7 @@ Rect upArrow(const Shell& shell) {
 }
 
 Rect downArrow(const Shell& shell) {
-    const bool isLarge = shell.windowSize().width == largeRadarLayout.windowWidth;
-    return arrowAt(shell.windowSize(), isLarge ? largeDownArrowTop : smallDownArrowTop);
+    return arrowAt(shell.windowSize(), isLarge(shell.windowSize()) ? largeDownArrowTop : smallDownArrowTop);
 }
 
 /// The buttons and strips together, between the arrows: where the wheel scrolls.
@@ -63,8 +63,8 @@ void paint(const Shell& shell, Canvas& canvas, const Rect& update) {
     for (int slot = 0; slot < shell.stripSlots(); ++slot) {
         const Rect place = stripButtonRect(shell, slot);
         if (place.intersects(update)) {
-            const bool isPressed = shell.slotPressed[static_cast<std::size_t>(slot)];
-            const Bitmap& picture = isPressed ? shell.pictures.stripButtonDown : shell.pictures.stripButtonUp;
+            const Bitmap& picture =
+                slot == shell.pressedStrip ? shell.pictures.stripButtonDown : shell.pictures.stripButtonUp;
             canvas.draw(place.topLeft(), picture);
         }
     }

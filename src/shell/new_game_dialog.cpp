@@ -1,6 +1,5 @@
 #include "shell/new_game_dialog.h"
 
-#include "base/data_path.h"
 #include "platform/widgets/dialog.h"
 #include "resources/dialogs.h"
 #include "shell/airport_catalogue.h"
@@ -59,7 +58,7 @@ void open(NewGame& game, Dialog& dialog) {
     }
     dialog.edit(new_game::name).setLimit(nameLimit);
     dialog.setText(new_game::name, properName(profile.text(gameSection, nameKey, "").substr(0, nameLimit)));
-    game.catalogue = BuildAirportCatalogue(DataPath(game.shell.programFolder, "apt"),
+    game.catalogue = BuildAirportCatalogue(airportFolder(game.shell.programFolder),
                                            game.shell.windowSize().width, game.shell.reporter());
     if (game.catalogue.empty()) {
         game.shell.report(StringTableText(TextId::noAirports), MessageIcon::information);

@@ -9,14 +9,13 @@
 #include "platform/canvas/image.h"
 #include "radar/clouds.h"
 #include "radar/radar_window.h"
+#include "shell/window_size.h"
 
 namespace ventrel {
 
 namespace fs = std::filesystem;
 
 namespace {
-
-constexpr int largeWidth = 1024;
 
 struct ConsoleNames {
     std::string_view console;
@@ -77,7 +76,7 @@ CursorImage pointer(Bitmap picture, Point hotSpot) {
 
 std::optional<Pictures> loadPictures(const fs::path& programFolder, int windowWidth,
                                      const FailureReporter& report) {
-    const ConsoleNames& names = windowWidth == largeWidth ? largeNames : smallNames;
+    const ConsoleNames& names = windowWidth == largeWindow.width ? largeNames : smallNames;
     PictureLoader loader(programFolder, report);
     Pictures pictures;
     pictures.console = loader.load(names.console);

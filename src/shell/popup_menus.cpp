@@ -6,7 +6,6 @@
 #include "base/format.h"
 #include "platform/widgets/menu.h"
 #include "resources/menus.h"
-#include "shell/display_commands.h"
 #include "sim/grid.h"
 
 namespace ventrel {

@@ -1,22 +1,17 @@
 #include "shell/program.h"
 
 #include "platform/widgets/message_box.h"
-#include "shell/display_commands.h"
 #include "shell/game_flow.h"
 #include "shell/main_window.h"
 #include "shell/tick.h"
+#include "shell/window_size.h"
 
 namespace ventrel {
 
 namespace {
 
-constexpr Size smallWindow{800, 600};
-constexpr Size largeWindow{1024, 768};
 /// Fewer bits for a pixel cannot show the console's colours.
 constexpr int leastColourDepth = 16;
-
-constexpr FontRequest boxFont{Face::msSansSerif, -11, false};
-constexpr FontRequest boxCaptionFont{Face::msSansSerif, -11, true};
 
 } // namespace
 
@@ -33,8 +28,8 @@ Program::Program(ProgramParts parts, ProgramPlaces places, const Options& option
 
 bool Program::startUp() {
     const auto report = [this](std::string_view text, MessageIcon icon) {
-        const WidgetFonts fonts{parts_.fonts.font(boxFont), parts_.fonts.font(boxCaptionFont)};
-        showMessageBox(desktop_, fonts, {}, {.text = text, .title = programTitle, .icon = icon});
+        showMessageBox(desktop_, widgetFontsOf(parts_.fonts), {},
+                       {.text = text, .title = programTitle, .icon = icon});
     };
     auto pictures = loadPictures(places_.programFolder, desktop_.size().width, report);
     if (!pictures) {

@@ -1,8 +1,9 @@
+#include "shell/schedule_dialog.h"
+
 #include "base/format.h"
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/widget_place.h"
 #include "resources/dialogs.h"
-#include "shell/information_dialogs.h"
 #include "sim/custom_skill.h"
 
 namespace ventrel {

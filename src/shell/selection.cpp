@@ -11,10 +11,8 @@ constexpr int firstButtonTop = 81;
 constexpr int buttonPitch = 37;
 constexpr Size buttonSize{20, 12};
 
-void showPressed(Shell& shell, int slot, bool pressed) {
-    shell.slotPressed[static_cast<std::size_t>(slot)] = pressed;
-    shell.mainWindow.invalidate(stripButtonRect(shell, slot));
-}
+/// Clock seconds after a press on the panel in which a new flight does not take it away.
+constexpr ClockSeconds touchLasts = 10;
 
 /// Marks the flight, which is not selected yet, and shows it everywhere.
 void mark(Shell& shell, FlightIndex flight) {
@@ -26,7 +24,7 @@ void mark(Shell& shell, FlightIndex flight) {
 
 /// Scrolls until the flight's strip is shown. Every listed flight is reached within the length of the list.
 void bringIntoView(Shell& shell, const FlightHit& hit) {
-    const bool isBelow = hit.listPlace > shell.stripSlots();
+    const bool isBelow = hit.listPlace > shell.strips.list.scrollOffset;
     for (int step = 0; step < shell.game.planeCount(); ++step) {
         if (StripsFlightSlot(shell.strips, hit.flight) != noSlot) {
             return;
@@ -37,13 +35,6 @@ void bringIntoView(Shell& shell, const FlightHit& hit) {
             StripsScrollUp(shell.strips);
         }
     }
-}
-
-/// The strip on which the selected flight stands now; none when it is on none.
-std::optional<int> selectedSlot(const Shell& shell) {
-    const FlightIndex selected = shell.panel.state.flight;
-    const int slot = selected == noFlight ? noSlot : StripsFlightSlot(shell.strips, selected);
-    return slot == noSlot ? std::nullopt : std::optional(slot);
 }
 
 } // namespace
@@ -63,19 +54,12 @@ int StripsButtonAt(const Shell& shell, Point point) {
 }
 
 void StripsPress(Shell& shell, int slot) {
-    for (int other = 0; other < shell.stripSlots(); ++other) {
-        if (other != slot && shell.slotPressed[static_cast<std::size_t>(other)]) {
-            showPressed(shell, other, false);
+    for (const int changed : {shell.pressedStrip, slot}) {
+        if (changed != noSlot && slot != shell.pressedStrip) {
+            shell.mainWindow.invalidate(stripButtonRect(shell, changed));
         }
     }
-    if (slot != noSlot && !shell.slotPressed[static_cast<std::size_t>(slot)]) {
-        showPressed(shell, slot, true);
-    }
-}
-
-int pressedSlot(const Shell& shell) {
-    const auto found = std::ranges::find(shell.slotPressed, true);
-    return found == shell.slotPressed.end() ? noSlot : static_cast<int>(found - shell.slotPressed.begin());
+    shell.pressedStrip = slot;
 }
 
 FlightIndex ClearSelectedFlight(Shell& shell) {
@@ -89,8 +73,7 @@ FlightIndex ClearSelectedFlight(Shell& shell) {
 
 void SelectStripFlight(Shell& shell, int slot) {
     shell.sounds.clickSelect();
-    const int before = pressedSlot(shell);
-    if (before != noSlot) {
+    if (shell.pressedStrip != noSlot) {
         StripsPress(shell, noSlot);
         RadarRepaint(shell.radar);
     }
@@ -98,29 +81,33 @@ void SelectStripFlight(Shell& shell, int slot) {
     const FlightIndex flight = StripsSlotFlight(shell.strips, slot);
     if (flight == noFlight) {
         CtrlClearFlight(shell.panel);
-        return;
+    } else {
+        mark(shell, flight);
     }
-    StripsPress(shell, slot);
-    mark(shell, flight);
 }
 
 void selectRadarFlight(Shell& shell, const FlightHit& hit) {
     shell.sounds.clickSelect();
     bringIntoView(shell, hit);
     ClearSelectedFlight(shell);
-    StripsPress(shell, StripsFlightSlot(shell.strips, hit.flight));
     mark(shell, hit.flight);
+}
+
+bool isPanelTouched(const Shell& shell) {
+    const ClockSeconds touch = CtrlTouchTime(shell.panel);
+    return touch != 0 && shell.topBar.clock.now < touch + touchLasts;
 }
 
 void selectNextStrip(Shell& shell) {
     const int last = shell.stripSlots() - 1;
-    int current = std::max(pressedSlot(shell), 0);
+    int current = std::max(shell.pressedStrip, 0);
     if (!StripsSlotSelectable(shell.strips, current)) {
         return;
     }
     if (current == last) {
         StripsScrollDown(shell.strips);
-        current = std::min(selectedSlot(shell).value_or(last), last - 1);
+        const bool isOutOfSight = shell.pressedStrip == noSlot;
+        current = isOutOfSight ? last - 1 : std::min(shell.pressedStrip, last - 1);
     }
     if (StripsSlotFlight(shell.strips, current + 1) != noFlight) {
         SelectStripFlight(shell, current + 1);
@@ -128,11 +115,10 @@ void selectNextStrip(Shell& shell) {
 }
 
 void selectPreviousStrip(Shell& shell) {
-    int current = std::max(pressedSlot(shell), 0);
+    const int current = std::max(shell.pressedStrip, 0);
     if (current == 0) {
         StripsScrollUp(shell.strips);
-        current = std::max(selectedSlot(shell).value_or(0), 1);
-        SelectStripFlight(shell, current - 1);
+        SelectStripFlight(shell, std::max(shell.pressedStrip, 1) - 1);
     } else if (StripsSlotSelectable(shell.strips, current - 1)) {
         SelectStripFlight(shell, current - 1);
     }

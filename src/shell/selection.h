@@ -16,9 +16,6 @@ int StripsButtonAt(const Shell& shell, Point point);
 /// Shows that button pressed and every other one released; with `noSlot` all are released.
 void StripsPress(Shell& shell, int slot);
 
-/// The first button shown pressed, or `noSlot`.
-int pressedSlot(const Shell& shell);
-
 /// Takes the mark off the selected flight and returns it; `noFlight` when none was.
 FlightIndex ClearSelectedFlight(Shell& shell);
 
@@ -27,6 +24,9 @@ void SelectStripFlight(Shell& shell, int slot);
 
 /// Selects a flight found on the radar, which was not selected before, and brings its strip into view.
 void selectRadarFlight(Shell& shell, const FlightHit& hit);
+
+/// Whether the player is busy on the panel, so that a new flight does not take it away.
+bool isPanelTouched(const Shell& shell);
 
 /// The Down and Up keys: the strip below or above, scrolling where the list goes on.
 void selectNextStrip(Shell& shell);

@@ -8,17 +8,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr FontRequest dialogFont{Face::msSansSerif, -11, false};
-constexpr FontRequest captionFont{Face::msSansSerif, -11, true};
-
-/// Clock seconds after a press on the panel in which a new flight does not take it away.
-constexpr ClockSeconds touchLasts = 10;
-
-bool isTouched(const Shell& shell) {
-    const ClockSeconds touch = CtrlTouchTime(shell.panel);
-    return touch != 0 && shell.topBar.clock.now < touch + touchLasts;
-}
-
 ScrollerSources scrollerSources(Shell& shell) {
     return {shell.desktop, shell.fonts, shell.pictures.arrow};
 }
@@ -32,7 +21,7 @@ RadarCallbacks radarCallbacks(Shell& shell) {
         .updateBlips = [&shell] { ScopeUpdateBlips(shell.topBar); },
         .reportScore = [&shell] { reportScore(shell); },
         .resetTouch = [&shell] { CtrlResetTouch(shell.panel); },
-        .isTouched = [&shell] { return isTouched(shell); },
+        .isTouched = [&shell] { return isPanelTouched(shell); },
         .select = [&shell](const FlightHit& hit) { selectRadarFlight(shell, hit); },
         .showOrderMenu = [&shell](Point screen) { showOrderMenu(shell, screen); },
     };
@@ -49,8 +38,7 @@ ControlPanelCallbacks panelCallbacks(Shell& shell) {
 } // namespace
 
 Shell::Shell(ShellParts parts)
-    : desktop(parts.desktop), sounds(parts.sounds),
-      fonts(parts.fonts), widgetFonts{fonts.font(dialogFont), fonts.font(captionFont)},
+    : desktop(parts.desktop), sounds(parts.sounds), fonts(parts.fonts), widgetFonts(widgetFontsOf(fonts)),
       programFolder(std::move(parts.programFolder)), profilePath(std::move(parts.profilePath)),
       pictures(std::move(parts.pictures)), options(parts.options),
       random(parts.random), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},

@@ -28,7 +28,6 @@
 namespace ventrel {
 
 inline constexpr std::string_view programTitle = "Ventrel";
-inline constexpr int mostStrips = 14;
 
 /// What start-up has found out and opened before there is a window.
 struct ShellParts {
@@ -42,8 +41,7 @@ struct ShellParts {
     RandomGenerator random;
 };
 
-class Shell {
-public:
+struct Shell {
     explicit Shell(ShellParts parts);
     Shell(const Shell&) = delete;
     Shell& operator=(const Shell&) = delete;
@@ -64,7 +62,7 @@ public:
 
     Window mainWindow;
     Button exec;
-    std::array<bool, mostStrips> slotPressed{}; ///< the strip buttons that are shown pressed
+    int pressedStrip = noSlot; ///< the strip whose button is shown pressed
 
     TopBar topBar;
     Scroller scroller;

@@ -6,7 +6,7 @@
 
 namespace ventrel {
 
-class Shell;
+struct Shell;
 
 class SimulationPlayer final : public SimulationEvents {
 public:

@@ -1,18 +1,9 @@
 #include "shell/tick.h"
 
-#include <algorithm>
-
+#include "platform/devices/deadline.h"
 #include "sim/flight_step.h"
 
 namespace ventrel {
-
-namespace {
-
-std::optional<Millis> earlier(std::optional<Millis> a, std::optional<Millis> b) {
-    return a && b ? std::min(*a, *b) : a ? a : b;
-}
-
-} // namespace
 
 std::optional<Millis> Tick(Shell& shell) {
     if (shell.paused && shell.game.gameRunning) {

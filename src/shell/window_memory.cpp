@@ -7,6 +7,7 @@ namespace ventrel {
 namespace {
 
 constexpr std::string_view section = "Window";
+constexpr std::string_view pictureKey = "Picture";
 constexpr std::string_view leftKey = "Left";
 constexpr std::string_view topKey = "Top";
 constexpr std::string_view widthKey = "Width";
@@ -21,16 +22,17 @@ bool isSound(int value) {
 
 } // namespace
 
-std::optional<Rect> readWindowPlace(const ProfileFile& profile) {
+std::optional<Rect> readWindowPlace(const ProfileFile& profile, int pictureWidth) {
     const auto number = [&](std::string_view key) { return profile.integer(section, key, 0); };
     const Point corner{number(leftKey), number(topKey)};
     const Size size{number(widthKey), number(heightKey)};
-    const bool isUsable = isSound(corner.x) && isSound(corner.y) && isSound(size.width) &&
-                          isSound(size.height) && size.width > 0 && size.height > 0;
+    const bool isUsable = number(pictureKey) == pictureWidth && isSound(corner.x) && isSound(corner.y) &&
+                          isSound(size.width) && isSound(size.height) && size.width > 0 && size.height > 0;
     return isUsable ? std::optional(Rect::at(corner, size)) : std::nullopt;
 }
 
-void writeWindowPlace(const Rect& place, ProfileFile& profile) {
+void writeWindowPlace(const Rect& place, int pictureWidth, ProfileFile& profile) {
+    profile.set(section, pictureKey, std::to_string(pictureWidth));
     profile.set(section, leftKey, std::to_string(place.left));
     profile.set(section, topKey, std::to_string(place.top));
     profile.set(section, widthKey, std::to_string(place.width()));

@@ -9,10 +9,11 @@
 
 namespace ventrel {
 
-/// None at the first start, or when the file tells of no window that could be seen.
-std::optional<Rect> readWindowPlace(const ProfileFile& profile);
+/// None at the first start, when the file tells of no window that could be seen, and when its window showed a
+/// picture of another width.
+std::optional<Rect> readWindowPlace(const ProfileFile& profile, int pictureWidth);
 
 /// Sets the keys. The caller saves the file.
-void writeWindowPlace(const Rect& place, ProfileFile& profile);
+void writeWindowPlace(const Rect& place, int pictureWidth, ProfileFile& profile);
 
 } // namespace ventrel

@@ -10,13 +10,17 @@
 
 namespace ventrel {
 
+/// Values of `resolution`.
+inline constexpr int smallResolution = 2; ///< 800 x 600
+inline constexpr int largeResolution = 3; ///< 1024 x 768
+
 struct Options {
     int autoSelect = 0; ///< select every flight when it becomes active
     int showGrid = 0;   ///< draw the grid on the radar map
     int music = 1;
     int effects = 1;       ///< sound effects
     int voice = 1;         ///< pilot voices
-    int resolution = 0;    ///< 2: 800 x 600, 3: 1024 x 768, else chosen from the screen
+    int resolution = 0;    ///< another value than the two: chosen from the screen
     int singleSound = -1;  ///< the one voice set of all pilots, or -1; never written back
     int showRoutes = 1;    ///< draw the routes of flights on a direct course
     int mapDetails = 1;    ///< draw the picture under the radar map

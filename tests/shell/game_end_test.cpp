@@ -125,6 +125,18 @@ TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
     stage.play();
 }
 
+TEST_F(GameEndTest, ANewGameDuringTheLastLineIsNotEndedByIt) {
+    QuietShift shift(stage);
+    stage.skipTo(60);
+    finishAllBut(0);
+    stage.skip();
+    stage.startNewGame();
+    stage.look([this] { EXPECT_LE(stage.shell().topBar.clock.now, 1) << "it begins anew"; });
+    stage.wait(60000);
+    stage.look([this] { EXPECT_TRUE(stage.game().gameRunning); });
+    stage.play();
+}
+
 TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
     meet({10, 10});
     stage.look([this] {

@@ -25,7 +25,7 @@ protected:
                 EXPECT_EQ(stage.game().flight(i).selected, i == flight) << "flight " << i << ", " << how;
             }
             EXPECT_EQ(stage.shell().panel.state.flight, flight) << how;
-            EXPECT_EQ(pressedSlot(stage.shell()), StripsFlightSlot(stage.shell().strips, flight)) << how;
+            EXPECT_EQ(stage.shell().pressedStrip, StripsFlightSlot(stage.shell().strips, flight)) << how;
             EXPECT_TRUE(stage.shell().exec.window.isEnabled()) << how;
         });
     }
@@ -58,7 +58,7 @@ TEST_F(OrdersTest, RadarStripsAndKeysChooseFlights) {
     expectSelected(2, "by its strip");
     stage.todo([this](Script& script) {
         const int slot = StripsFlightSlot(stage.shell().strips, 0);
-        const int from = pressedSlot(stage.shell());
+        const int from = stage.shell().pressedStrip;
         for (int i = from; i != slot; i += slot > from ? 1 : -1) {
             script.key(slot > from ? Key::down : Key::up);
         }
@@ -197,18 +197,45 @@ TEST_F(OrdersTest, APressOnThePanelHoldsBackAutomaticSelection) {
     stage.play();
 }
 
-TEST_F(OrdersTest, TheWheelScrollsTheStrips) {
+TEST_F(OrdersTest, TheWheelScrollsTheStripsAndTheButtonFollowsItsFlight) {
     stage.startNewGame();
     stage.look([this] {
         for (Flight& flight : stage.game().flights) {
             flight.scheduledAt = QuietShift::entryTime;
         }
     });
-    stage.skip();
+    stage.skipTo(QuietShift::entryTime);
+    stage.selectByStrip(20);
+    stage.todo([](Script& script) { script.wheel({900, 300}, 20).wait(1); });
+    stage.look([this] { EXPECT_EQ(stage.shell().pressedStrip, noSlot) << "its strip is out of sight"; });
+    stage.todo([](Script& script) { script.wheel({900, 300}, -20).wait(1); });
+    stage.todo([](Script& script) { script.wheel({900, 300}, 20).wait(1); });
     stage.todo([](Script& script) { script.moveTo({900, 300}).wheel({900, 300}, -3).wait(1); });
     stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 3); });
     stage.todo([](Script& script) { script.wheel({850, 300}, 2).wheel({400, 300}, 1).wait(1); });
     stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 1); });
+    stage.play();
+}
+
+TEST(Selection, AFlightAboveTheShownStripsIsScrolledTo) {
+    GameStage stage(800, "[Game]\nName=mary\nSkill=3\n");
+    stage.startNewGame();
+    constexpr FlightIndex chosen = 16; // beyond the strips of a console that is scrolled to its top
+    stage.look([&] {
+        for (Flight& flight : stage.game().flights) {
+            flight.scheduledAt = QuietShift::entryTime;
+            flight.plan[0].setCell({20, 20});
+        }
+        stage.game().flight(chosen).plan[0].setCell({35, 35});
+    });
+    stage.skipTo(QuietShift::entryTime);
+    stage.todo([](Script& script) { script.wheel({700, 200}, -40).wait(1); });
+    stage.todo([&](Script& script) { script.click(stage.onFlight(chosen)).wait(1); });
+    stage.look([&] {
+        const int slot = StripsFlightSlot(stage.shell().strips, chosen);
+        EXPECT_NE(slot, noSlot);
+        EXPECT_EQ(stage.shell().pressedStrip, slot);
+    });
     stage.play();
 }
 

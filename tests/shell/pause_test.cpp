@@ -86,6 +86,9 @@ TEST_F(PauseTest, WithoutAGameNothingPausesOrHides) {
 
 TEST_F(PauseTest, LeavingARunningGameIsAskedAbout) {
     stage.startNewGame();
+    press(Key::s, withControl);
+    stage.todo([](Script& script) { script.window(WindowEvent::closeRequested).wait(1); });
+    stage.look([this] { EXPECT_FALSE(stage.isDialogOpen()) << "a dialog is closed first"; });
     stage.todo([](Script& script) { script.window(WindowEvent::closeRequested).wait(1); });
     stage.look([this] { EXPECT_TRUE(stage.isDialogOpen()); });
     press(Key::escape);

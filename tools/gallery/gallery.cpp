@@ -47,12 +47,8 @@ void fillDialog(Dialog& dialog) {
 
 } // namespace
 
-WidgetFonts dialogFonts(FontSet& fonts) {
-    return {fonts.font({Face::msSansSerif, -11, false}), fonts.font({Face::msSansSerif, -11, true})};
-}
-
 Gallery::Gallery(Desktop& desktop, FontSet& fonts, GalleryLog say)
-    : desktop_(desktop), fonts_(fonts), say_(std::move(say)), widgetFonts_(dialogFonts(fonts)),
+    : desktop_(desktop), fonts_(fonts), say_(std::move(say)), widgetFonts_(widgetFontsOf(fonts)),
       layout_(galleryLayout(desktop.size())), menu_(makeMenu(gallery_tables::menuItems)) {
     checkMenuItem(menu_, galleryGridCommand, true);
     takePhotographs();

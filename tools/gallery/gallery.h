@@ -61,7 +61,4 @@ private:
     std::vector<std::vector<Bitmap>> photographs_; // columns, from the left
 };
 
-/// The fonts of dialogs and menus.
-WidgetFonts dialogFonts(FontSet& fonts);
-
 } // namespace ventrel

@@ -161,9 +161,10 @@ void routeMouse(DesktopState& state, const MouseEvent& event) {
 
 // The machine's window ------------------------------------------------------------------------------------
 
-/// Dialogs wait for answers that a closed window can no longer give, so they end with the program.
+/// A running dialog is asked alone. One that does not take the question, because it asks one itself, ends
+/// with the program.
 void routeClose(DesktopState& state) {
-    if (runningModal(state) != nullptr) {
+    if (const WindowPtr modal = runningModal(state); modal != nullptr && !modal->handlers->close) {
         state.desktop.quit();
         return;
     }

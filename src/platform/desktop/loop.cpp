@@ -87,10 +87,6 @@ bool isQueueEmpty(const DesktopState& state) {
 
 } // namespace
 
-std::optional<Millis> earlier(std::optional<Millis> a, std::optional<Millis> b) {
-    return a && b ? std::min(a, b) : a ? a : b;
-}
-
 std::optional<Millis> runPass(DesktopState& state, const LoopMode& mode) {
     handleWaiting(state, mode);
     runDueTimers(state, mode);

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/desktop/desktop_state.h"
+#include "platform/devices/deadline.h"
 
 namespace ventrel {
 
@@ -22,8 +23,5 @@ void runLoop(DesktopState& state, const LoopMode& mode);
 
 /// Sleeps until that moment, or for ever without one, or until input arrives, which then waits to be handled.
 void sleepUntil(DesktopState& state, std::optional<Millis> moment);
-
-/// The earlier of two moments, where none is never.
-std::optional<Millis> earlier(std::optional<Millis> a, std::optional<Millis> b);
 
 } // namespace ventrel

@@ -216,8 +216,8 @@ struct WindowHandlers {
     /// Top-levels: it becomes, or ceases to be, the window the person works in.
     std::function<void(Activation)> activate = nullptr;
     /// Top-levels: a person asks to close it. Without a handler the owner is asked, in the end the main
-    /// window, without whose handler the program quits. While a dialog runs nobody is asked: closing the
-    /// machine's window then quits the program.
+    /// window, without whose handler the program quits. While a dialog runs it alone is asked, and the
+    /// program quits when it has no handler.
     std::function<void()> close = nullptr;
     /// Top-levels: somebody pressed on a window that this one, being modal, locks. The beep has sounded.
     std::function<void()> lockedOut = nullptr;

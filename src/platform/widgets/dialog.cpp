@@ -131,7 +131,8 @@ const std::string& Dialog::text(int id) const {
 unsigned Dialog::number(int id) const {
     constexpr unsigned largest = 1000000;
     unsigned number = 0;
-    for (const char c : text(id)) {
+    const std::string_view typed = text(id);
+    for (const char c : typed.substr(std::min(typed.find_first_not_of(' '), typed.size()))) {
         if (c < '0' || c > '9') {
             break;
         }

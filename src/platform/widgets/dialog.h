@@ -32,6 +32,8 @@ struct DialogHandlers {
     std::function<void(Dialog&, Canvas&)> paint = nullptr;
     /// Another number for Esc; `noEscape` makes it do nothing.
     int escapeCommand = cancelId;
+    /// Closing the program's window presses the close box; false: it ends the program.
+    bool takesClose = true;
 };
 
 inline constexpr int noEscape = -1;
@@ -61,7 +63,8 @@ public:
 
     void setText(int id, std::string text);
     const std::string& text(int id) const;
-    /// The digits at the start of a field's text, as a number; 0 without any.
+    /// The digits at the start of a field's text, after blanks, as a number of at most 1000000; 0 without
+    /// any.
     unsigned number(int id) const;
     void setNumber(int id, unsigned number);
     void enable(int id, bool enabled);

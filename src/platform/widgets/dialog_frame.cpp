@@ -38,7 +38,9 @@ void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
         isActive_ = activation.active;
         frame_.invalidate();
     };
-    handlers.close = [this] { cancel(); };
+    if (handlers_.takesClose) {
+        handlers.close = [this] { cancel(); };
+    }
     frame_ = desktop_.create({.owner = owner, .visible = false, .handlers = std::move(handlers)});
 
     WindowHandlers insideHandlers;

@@ -122,6 +122,10 @@ void drawQuestion(Canvas& canvas, Point corner) {
 
 } // namespace
 
+WidgetFonts widgetFontsOf(FontSet& fonts) {
+    return {fonts.font({Face::msSansSerif, -11, false}), fonts.font({Face::msSansSerif, -11, true})};
+}
+
 void drawButtonEdge(Canvas& canvas, const Rect& rect, bool pressed) {
     if (pressed) {
         drawEdge(canvas, rect, shadow, shadow);

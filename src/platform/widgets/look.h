@@ -35,6 +35,9 @@ struct WidgetFonts {
     const Font& caption;
 };
 
+/// Those of the classic desktop.
+WidgetFonts widgetFontsOf(FontSet& fonts);
+
 /// The edge of a button, two pixels wide, inside `rect`; pressed it is one dark line.
 void drawButtonEdge(Canvas& canvas, const Rect& rect, bool pressed);
 /// The edge of a window or menu, two pixels wide.

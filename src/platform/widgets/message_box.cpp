@@ -93,6 +93,7 @@ MessageAnswer showMessageBox(Desktop& desktop, const WidgetFonts& fonts, const W
         drawMessageIcon(canvas, places.icon, message.icon);
         drawTextBox(canvas, fonts.text, places.text, message.text, {look::text, {}}, textLayout);
     };
+    handlers.takesClose = false;
     const int onClose = escapeNumber(message.buttons);
     handlers.command = [onClose](Dialog& dialog, const CommandInput& input) {
         const bool isClose = !input.sender && input.id == cancelId;

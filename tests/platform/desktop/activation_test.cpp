@@ -86,20 +86,23 @@ TEST(Activation, SwitchingProgramsUnderADialogConcernsTheDialogAlone) {
               (Log{"dialog blur", "dialog minimised", "dialog active", "dialog focus", "broken off"}));
 }
 
-TEST(Close, AsksTheOwnersInTurnAndQuitsInsideDialogsAtOnce) {
+TEST(Close, AsksTheOwnersInTurnOrTheDialogAndQuitsInsideBoxesAtOnce) {
     Stage stage;
     const Window main = stage.open({.close = [&] { stage.log.emplace_back("main asked"); }});
     stage.desktop.setMainWindow(main);
     const Window owned = stage.desktop.create({.owner = main, .bounds = {20, 20, 60, 60}});
     stage.script.window(WindowEvent::closeRequested).then([&] {
         EXPECT_EQ(stage.desktop.activeWindow(), owned);
-        // Two dialogs over each other: both end with the program, whatever they do when they are closed.
         main.post([&] { stage.runDialog(main, {.close = [&] { stage.dialogIsFinished = true; }}); });
+    });
+    // The dialog alone is asked; a box inside another one, which does not take it, ends with the program.
+    stage.script.wait(1).window(WindowEvent::closeRequested).then([&] {
         main.post([&] { stage.runDialog(main, {.close = [&] { stage.dialogIsFinished = true; }}); });
+        main.post([&] { stage.runDialog(main); });
     });
     stage.script.wait(1).window(WindowEvent::closeRequested);
     stage.desktop.run();
-    EXPECT_EQ(stage.log, (Log{"main asked", "broken off", "broken off"}));
+    EXPECT_EQ(stage.log, (Log{"main asked", "ended", "broken off", "broken off"}));
 
     Stage bare;
     bare.open();

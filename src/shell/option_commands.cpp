@@ -1,4 +1,4 @@
-#include "shell/display_commands.h"
+#include "shell/option_commands.h"
 
 #include <algorithm>
 #include <array>
@@ -75,7 +75,7 @@ void changeFullScreen(Shell& shell) {
 
 } // namespace
 
-void changeDisplay(Shell& shell, int id) {
+void changeOption(Shell& shell, int id) {
     const auto found = std::ranges::find(toggles, id, &Toggle::command);
     if (found != toggles.end()) {
         toggle(shell.options.*found->option);
