@@ -38,13 +38,5 @@ TEST(Chance, StepsTheKnownSequenceAndStaysInRange) {
     EXPECT_EQ(Random(drawn, 15, 14), 15);
 }
 
-TEST(Rectangles, ExcludeTheirRightAndBottomEdges) {
-    const Rect rect{2, 1, 8, 7};
-    EXPECT_TRUE(rect.contains(Point{2, 1}));
-    EXPECT_FALSE(rect.contains(Point{8, 6}));
-    EXPECT_FALSE(rect.intersects({8, 1, 9, 7}));
-    EXPECT_EQ(rect.unitedWith({}), rect);
-}
-
 } // namespace
 } // namespace ventrel

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include "base/string_table.h"
 #include "base/windows1252.h"
 
 namespace ventrel {
@@ -28,19 +27,6 @@ TEST(Format, ShowsMinutesWithoutHours) {
     EXPECT_EQ(FormatMinutesSeconds(65), "01:05");
     EXPECT_EQ(FormatMinutesSeconds(2100), "35:00");
     EXPECT_EQ(FormatMinutesSeconds(7200), "120:00");
-}
-
-TEST(StringTable, ReadsAsThePlayerSeesIt) {
-    EXPECT_EQ(FormatStringId(TextId::notEnoughMemory, {4096L}).substr(0, 53),
-              "Not enough memory. Tried to allocate 4096 bytes and r");
-    EXPECT_EQ(FormatStringId(TextId::fileReadFailed, {76L, "a.apt", 50L}),
-              "File read failed. Tried to read 76 bytes from a.apt and could only read 50 bytes. Try "
-              "re-installing. Something is seriously wrong here.");
-    EXPECT_EQ(FormatStringId(TextId::cannotExit, {"UA39", "SAX"}),
-              "UA39, cannot exit to  SAX VOR- altitude too low");
-    EXPECT_EQ(StringTableText(static_cast<TextId>(6)), "");
-    EXPECT_TRUE(
-        StringTableText(TextId::pressReleaseController).ends_with("\r\n\r\n\r\n##### End of Release"));
 }
 
 TEST(Windows1252, GoesToUtf8AndBack) {

@@ -17,27 +17,9 @@ struct NamedKey {
     std::string_view name;
     Key key;
 };
-constexpr NamedKey namedKeys[]{{"Return", Key::enter},
-                               {"Escape", Key::escape},
-                               {"Tab", Key::tab},
-                               {"space", Key::space},
-                               {"Up", Key::up},
-                               {"Down", Key::down},
-                               {"Left", Key::left},
-                               {"Right", Key::right},
-                               {"Home", Key::home},
-                               {"End", Key::end},
-                               {"Prior", Key::pageUp},
-                               {"Next", Key::pageDown},
-                               {"Delete", Key::del},
-                               {"Insert", Key::insert},
-                               {"Pause", Key::pause},
-                               {"BackSpace", Key::backspace},
-                               {"F1", Key::f1},
-                               {"KP_Divide", Key::keypadDivide},
-                               {"KP_Multiply", Key::keypadMultiply},
-                               {"KP_Add", Key::keypadPlus},
-                               {"KP_Subtract", Key::keypadMinus}};
+constexpr NamedKey namedKeys[]{{"Return", Key::enter}, {"Escape", Key::escape}, {"Tab", Key::tab},
+                               {"space", Key::space},  {"Up", Key::up},         {"Down", Key::down},
+                               {"Right", Key::right},  {"Home", Key::home},     {"Pause", Key::pause}};
 
 class Play {
 public:

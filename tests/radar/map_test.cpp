@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include "golden.h"
-#include "radar/map_geometry.h"
 #include "radar_stage.h"
 
 namespace ventrel {
@@ -64,18 +63,6 @@ private:
 TEST_F(MapTest, MapPointsLookAsTheyDid) {
     expectGolden(sheet(smallRadarLayout), "radar_map_800");
     expectGolden(sheet(largeRadarLayout), "radar_map_1024");
-}
-
-TEST_F(MapTest, LabelsStandBesideTheirSymbolsAndGiveWayToRunways) {
-    constexpr Size label{15, 10};
-    EXPECT_EQ(labelCorner(smallRadarLayout, point({200, 200}, 0), label), (Point{193, 183}));
-    EXPECT_EQ(labelCorner(smallRadarLayout, point({200, 200}, 7), label), (Point{193, 209}));
-    const auto left = [&](const RadarLayout& layout, int place, int heading) {
-        return labelCorner(layout, airport({200, 200}, heading, place), label).x;
-    };
-    EXPECT_EQ(left(smallRadarLayout, 0, 90) - left(smallRadarLayout, 0, 135), 6);
-    EXPECT_EQ(left(largeRadarLayout, 2, 90) - left(largeRadarLayout, 2, 225), 9);
-    EXPECT_EQ(left(largeRadarLayout, 1, 45) - left(largeRadarLayout, 1, 135), 9);
 }
 
 TEST_F(MapTest, TheOptionsDecideOnPictureAndGrid) {

@@ -56,19 +56,4 @@ RadarStage::RadarStage(const RadarLayout& layout)
     buildMap();
 }
 
-Flight& RadarStage::flyAt(Cell cell, int heading) {
-    Flight& flight = fly(heading);
-    flight.current().setCell(cell);
-    return flight;
-}
-
-void RadarStage::buildMap() {
-    RadarBuildMap(radar, console);
-}
-
-void RadarStage::frame() {
-    RadarRepaint(radar);
-    radar.window.update();
-}
-
 } // namespace ventrel

@@ -23,11 +23,18 @@ struct RadarStage : ConsoleStage {
     RadarWindow radar;
 
     /// An active flight, long in the air.
-    Flight& flyAt(Cell cell, int heading = 0);
+    Flight& flyAt(Cell cell, int heading = 0) {
+        Flight& flight = fly(heading);
+        flight.current().setCell(cell);
+        return flight;
+    }
     /// The map again, with what the game and the options hold now.
-    void buildMap();
+    void buildMap() { RadarBuildMap(radar, console); }
     /// A whole frame, at once.
-    void frame();
+    void frame() {
+        RadarRepaint(radar);
+        radar.window.update();
+    }
 
     /// All that the screen shows of the radar, whether or not it has been sent.
     Bitmap shown() const { return picture(radar.window); }

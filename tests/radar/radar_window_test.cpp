@@ -112,12 +112,5 @@ TEST(CollisionTest, RingsSpreadOverTheScopeForEightSeconds) {
     EXPECT_EQ(stage.count(ringRed, {0, 0, 27, 539}), 0);
 }
 
-TEST(CollisionTest, RingsEndAtOnceWhenTheProgramQuits) {
-    RadarStage stage;
-    stage.flyAt({24, 24});
-    stage.script.wait(500).then([&] { stage.desktop.quit(); });
-    EXPECT_FALSE(RadarCollisionRings(stage.radar, 0));
-}
-
 } // namespace
 } // namespace ventrel

@@ -36,29 +36,25 @@ struct SweepStage : RadarStage {
 TEST(SweepTest, RunsAlongTheTopAndTheRightEdgeAndBack) {
     Sweep sweep;
     const int size = smallRadarLayout.scopeSize;
-    const auto advance = [&](int steps) {
+    const auto after = [&](int steps) {
         for (int i = 0; i < steps; ++i) {
             SweepAdvance(sweep, size);
         }
+        return sweep.end;
     };
-    advance(1);
-    EXPECT_EQ(sweep.end, (Point{-1, 0})) << "the very first step turns it outward";
-    advance(1 + size);
-    EXPECT_EQ(sweep.end, (Point{size, 0}));
-    advance(size);
-    EXPECT_EQ(sweep.end, (Point{size, size}));
-    advance(1);
-    EXPECT_EQ(sweep.end, (Point{size, size + 1}));
-    advance(1);
-    EXPECT_EQ(sweep.end, (Point{size, size})) << "one pixel below the square it turns back";
-    advance(size + size);
-    EXPECT_EQ(sweep.end, (Point{0, 0}));
-    advance(1);
-    EXPECT_EQ(sweep.end, (Point{1, 0})) << "and outward again";
+    EXPECT_EQ(after(1), (Point{-1, 0})) << "the very first step turns it outward";
+    EXPECT_EQ(after(1 + size), (Point{size, 0}));
+    EXPECT_EQ(after(size), (Point{size, size}));
+    EXPECT_EQ(after(1), (Point{size, size + 1}));
+    EXPECT_EQ(after(1), (Point{size, size})) << "one pixel below the square it turns back";
+    EXPECT_EQ(after(size + size), (Point{0, 0}));
+    EXPECT_EQ(after(1), (Point{1, 0})) << "and outward again";
 }
 
-void expectNoTrail(const RadarLayout& layout) {
-    SweepStage stage(layout);
+class SweepOnEitherScope : public ::testing::TestWithParam<RadarLayout> {};
+
+TEST_P(SweepOnEitherScope, LeavesNoTrail) {
+    SweepStage stage(GetParam());
     for (int i = 0; i < 30; ++i) {
         stage.flyAt({6 + i % 6 * 6, 8 + i / 6 * 7}, i % 8 * 45).activatedAt = stage.clock;
     }
@@ -75,13 +71,8 @@ void expectNoTrail(const RadarLayout& layout) {
     EXPECT_GT(stage.radar.sweep.end.x, 200 + looks) << "it has turned all the while";
 }
 
-TEST(SweepTest, LeavesNoTrailOnTheSmallScope) {
-    expectNoTrail(smallRadarLayout);
-}
-
-TEST(SweepTest, LeavesNoTrailOnTheLargeScope) {
-    expectNoTrail(largeRadarLayout);
-}
+INSTANTIATE_TEST_SUITE_P(SweepTest, SweepOnEitherScope,
+                         ::testing::Values(smallRadarLayout, largeRadarLayout));
 
 TEST(SweepTest, StepsOnePixelEverySixMillisecondsAndTenAfterAFrame) {
     SweepStage stage;

@@ -1,15 +1,12 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
 #include <random>
 
 #include "../base/temp_folder.h"
 #include "small_airspace.h"
 
 namespace ventrel {
-
 namespace {
 
 using namespace airport_layout;
@@ -137,8 +134,9 @@ TEST(AirportLoading, RunwaysAreReversedByTheirChanceAlone) {
 TEST(AirportLoading, AFileThatCannotBePlayedLeavesTheLoadedAirport) {
     const TempFolder folder;
     const std::filesystem::path path = folder / "cut.apt";
-    auto bytes = SmallAirspace::usual().file();
-    std::ofstream{path, std::ios::binary}.write(reinterpret_cast<const char*>(bytes.data()), 100);
+    const auto whole = SmallAirspace::usual().file();
+    const std::string_view bytes{reinterpret_cast<const char*>(whole.data()), whole.size()};
+    writeText(path, bytes.substr(0, 100));
     GameState game = SmallAirspace::usual().game();
     RandomGenerator random{9};
     Reports reports;
@@ -149,12 +147,10 @@ TEST(AirportLoading, AFileThatCannotBePlayedLeavesTheLoadedAirport) {
     EXPECT_EQ(game.mapPicture().size(), 5U);
     EXPECT_EQ(random.state, 9U);
 
-    std::ofstream{path, std::ios::binary}.write(reinterpret_cast<const char*>(bytes.data()),
-                                                static_cast<std::streamsize>(bytes.size()));
+    writeText(path, bytes);
     EXPECT_TRUE(loadAirport(game, path, largeLayout, random, reports.reporter()));
     EXPECT_EQ(game.vor(0).cell, (Cell{274 / 14, 264 / 14}));
 }
 
 } // namespace
-
 } // namespace ventrel

@@ -5,7 +5,6 @@
 #include "small_airspace.h"
 
 namespace ventrel {
-
 namespace {
 
 Flight flightAt(Cell cell, int altitude, int heading) {
@@ -29,16 +28,6 @@ std::vector<int> headings(const Flight& flight) {
 }
 
 using Headings = std::vector<int>;
-
-TEST(Course, IsNotMadeForATargetBesideTheFlight) {
-    for (const Cell beside : {Cell{10, 10}, Cell{9, 11}, Cell{11, 10}}) {
-        Flight flight = flightAt({10, 10}, 5, 0);
-        flight.plan[0].directTarget = 77;
-        EXPECT_FALSE(buildCourse(flight, targetAt(beside), 2, 10));
-        EXPECT_EQ(flight.planLength, 1);
-        EXPECT_EQ(flight.plan[0].directTarget, 77);
-    }
-}
 
 TEST(Course, TurnsRightForATargetBehindButLeftFromTheWest) {
     // By eighths: every heading with its target straight behind.
@@ -145,5 +134,4 @@ TEST(Hold, IsOneClockwiseCircleBackToItsCell) {
 }
 
 } // namespace
-
 } // namespace ventrel

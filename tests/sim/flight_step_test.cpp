@@ -5,7 +5,6 @@
 #include "small_airspace.h"
 
 namespace ventrel {
-
 namespace {
 
 // Map points of the usual airspace.
@@ -116,15 +115,6 @@ TEST(FlightStep, APointThatIsAirportAndExitIsJudgedAsAnAirport) {
     EXPECT_EQ(test.step(60).front(), "11 F0, missed approach at BTH- altitude too high");
 }
 
-TEST(FlightStep, ALostFlightLightsTheYellowLampUntilTheNextFrame) {
-    TestGame test;
-    test.fly({48, 10}, 5, 90, northWest);
-    test.fly({5, 30}, 5, 90, northWest);
-    EXPECT_EQ(test.step(60), (Lines{"11 F0 has been lost ", "lamp 1", "score -200 = 0", "lamp 3"}));
-    EXPECT_FALSE(test.game.flight(0).inPlay);
-    EXPECT_TRUE(test.game.flight(1).inPlay);
-}
-
 TEST(FlightStep, AClearedDepartureRollsThenLiftsOffOnACourse) {
     TestGame test;
     Flight& flight = test.wait(mid, northWest);
@@ -187,5 +177,4 @@ TEST(FlightStep, AnEnteringFlightGoesLowerBelowTrafficInItsRowOrColumn) {
 }
 
 } // namespace
-
 } // namespace ventrel

@@ -5,7 +5,6 @@
 #include "small_airspace.h"
 
 namespace ventrel {
-
 namespace {
 
 constexpr VorIndex mid = 0;
@@ -15,18 +14,21 @@ class Orders : public ::testing::Test {
 protected:
     Orders() { test.game.freeOrders = 100; }
 
-    /// Sends an order made from the flight's present state; what happened after the EXEC click.
-    Lines send(Flight& flight, void (*change)(PanelOrder&), OrderResult expected = OrderResult::carriedOut) {
-        PanelOrder order = flight.current();
-        order.setCell({}); // the panel's order has no cell
-        change(order);
-        EXPECT_EQ(executeOrder(test.simulation, static_cast<FlightIndex>(&flight - test.game.flights.data()),
-                               order),
-                  expected);
+    /// Sends an order; what happened after the EXEC click.
+    Lines send(Flight& flight, const PanelOrder& order, OrderResult expected = OrderResult::carriedOut) {
+        const auto number = static_cast<FlightIndex>(&flight - test.game.flights.data());
+        EXPECT_EQ(executeOrder(test.simulation, number, order), expected);
         Lines lines = test.events.take();
         EXPECT_EQ(lines.front(), "sent 0");
         lines.erase(lines.begin());
         return lines;
+    }
+
+    /// What the panel holds when nothing has been set: the flight's present state, without a cell.
+    static PanelOrder nothingSet(const Flight& flight) {
+        PanelOrder order = flight.current();
+        order.setCell({});
+        return order;
     }
 
     TestGame test;
@@ -34,71 +36,54 @@ protected:
 
 TEST_F(Orders, AreReadBackAsTheyWereUnderstood) {
     Flight& flight = test.fly({20, 30}, 5, 90, northWest);
-    EXPECT_EQ(send(flight, [](PanelOrder& o) { o.heading = 270; }), (Lines{"radio turning 270", "panel"}));
-    EXPECT_EQ(send(flight, [](PanelOrder& o) { o.altitude = 3; }),
-              (Lines{"radio descending to 3 thousand", "panel"}));
-    EXPECT_EQ(send(flight,
-                   [](PanelOrder& o) {
-                       o.altitude = 10;
-                       o.heading = 180;
-                   }),
-              (Lines{"radio turning 180 climbing to 10 thousand", "panel"}));
-    EXPECT_EQ(send(flight, [](PanelOrder& o) { o.speed = fastSpeed; }), (Lines{"radio ", "panel"}));
-    EXPECT_EQ(send(flight,
-                   [](PanelOrder& o) {
-                       o.directTarget = 4;
-                       o.altitude = 8;
-                   }),
-              (Lines{"radio climbing to 8 thousand direct to VOR", "panel"}));
-    EXPECT_EQ(send(flight,
-                   [](PanelOrder& o) {
-                       o.directTarget = 4;
-                       o.hold = 1;
-                   }),
-              (Lines{"radio roger", "panel"}));
-    EXPECT_EQ(send(flight,
-                   [](PanelOrder& o) {
-                       o.directTarget = 5;
-                       o.hold = 1;
-                       o.altitude = 1;
-                   }),
-              (Lines{"radio descending to 1 thousand", "panel"}));
+    struct Case {
+        PanelOrder order;
+        const char* readBack;
+    };
+    for (const Case& each : std::initializer_list<Case>{
+             {{.altitude = 5, .heading = 270}, "turning 270"},
+             {{.altitude = 3, .heading = 90}, "descending to 3 thousand"},
+             {{.altitude = 10, .heading = 180}, "turning 180 climbing to 10 thousand"},
+             {{.altitude = 5, .heading = 90, .speed = fastSpeed}, ""},
+             {{.altitude = 8, .heading = 90, .directTarget = 4}, "climbing to 8 thousand direct to VOR"},
+             {{.altitude = 5, .heading = 90, .directTarget = 4, .hold = 1}, "roger"},
+             {{.altitude = 1, .heading = 90, .directTarget = 5, .hold = 1}, "descending to 1 thousand"}}) {
+        EXPECT_EQ(send(flight, each.order), (Lines{std::string("radio ") + each.readBack, "panel"}));
+    }
 }
 
 TEST_F(Orders, ThatChangeNothingAreAcknowledgedWithoutTouchingThePlan) {
     Flight& flight = test.fly({20, 30}, 5, 90, northWest);
-    send(flight, [](PanelOrder& o) { o.heading = 0; });
+    send(flight, {.altitude = 5, .heading = 0});
     const int length = flight.planLength;
-    EXPECT_EQ(send(
-                  flight, [](PanelOrder&) {}, OrderResult::acknowledged),
-              (Lines{"quiet radio roger"}));
+    EXPECT_EQ(send(flight, nothingSet(flight), OrderResult::acknowledged), (Lines{"quiet radio roger"}));
     EXPECT_EQ(flight.planLength, length);
     EXPECT_EQ(test.game.freeOrders, 98);
 }
 
 TEST_F(Orders, BesideTheTargetADirectCourseIsRefusedButCharged) {
+    const PanelOrder toNorthWest{.altitude = 5, .heading = 90, .directTarget = northWest};
     for (const Cell cell : {Cell{12, 12}, Cell{13, 11}}) {
         test.game.flights.clear();
         Flight& flight = test.fly(cell, 5, 90, northWest);
-        EXPECT_EQ(send(
-                      flight, [](PanelOrder& o) { o.directTarget = northWest; }, OrderResult::acknowledged),
+        EXPECT_EQ(send(flight, toNorthWest, OrderResult::acknowledged),
                   (Lines{"radio repeat requesting VOR", "13 F0 is too close to NW for a direct VOR course"}));
         EXPECT_EQ(flight.planLength, 1);
     }
     EXPECT_EQ(test.game.freeOrders, 98);
     test.game.flights.clear();
     Flight& flight = test.fly({14, 12}, 5, 90, northWest);
-    send(flight, [](PanelOrder& o) { o.directTarget = northWest; });
+    send(flight, toNorthWest);
     EXPECT_GT(flight.planLength, 1);
 }
 
 TEST_F(Orders, ClearADepartureOnceAndAreThenChargedInVain) {
     Flight& flight = test.wait(mid, northWest);
-    EXPECT_EQ(send(flight, [](PanelOrder& o) { o.altitude = 9; }), (Lines{"radio roger", "panel", "strips"}));
+    EXPECT_EQ(send(flight, {.altitude = 9, .heading = 90}), (Lines{"radio roger", "panel", "strips"}));
     EXPECT_EQ(flight.groundState, GroundState::cleared);
-    EXPECT_EQ(send(flight, [](PanelOrder& o) { o.altitude = 9; }), Lines{});
+    EXPECT_EQ(send(flight, {.altitude = 9, .heading = 90}), Lines{});
     flight.groundState = GroundState::rolling;
-    EXPECT_EQ(send(flight, [](PanelOrder&) {}), Lines{});
+    EXPECT_EQ(send(flight, nothingSet(flight)), Lines{});
     EXPECT_EQ(flight.current().altitude, 1);
     EXPECT_EQ(test.game.freeOrders, 97);
 }
@@ -107,16 +92,12 @@ TEST_F(Orders, CostFivePointsOnceTheFreeOnesAreUsedUp) {
     Flight& flight = test.fly({20, 30}, 5, 90, northWest);
     test.game.freeOrders = 1;
     test.game.score = 12;
-    EXPECT_EQ(send(
-                  flight, [](PanelOrder&) {}, OrderResult::acknowledged)
-                  .size(),
-              1U);
+    EXPECT_EQ(send(flight, nothingSet(flight), OrderResult::acknowledged).size(), 1U);
     EXPECT_EQ(test.game.score, 12);
-    EXPECT_EQ(send(
-                  flight, [](PanelOrder&) {}, OrderResult::acknowledged),
+    EXPECT_EQ(send(flight, nothingSet(flight), OrderResult::acknowledged),
               (Lines{"score -5 = 7", "quiet radio roger"}));
-    send(flight, [](PanelOrder& o) { o.speed = slowSpeed; });
-    send(flight, [](PanelOrder& o) { o.speed = fastSpeed; });
+    send(flight, {.altitude = 5, .heading = 90, .speed = slowSpeed});
+    send(flight, {.altitude = 5, .heading = 90, .speed = fastSpeed});
     EXPECT_EQ(test.game.score, 0);
     EXPECT_EQ(test.game.freeOrders, 0);
 }
@@ -133,5 +114,4 @@ TEST_F(Orders, ToAFinishedFlightOrWithoutAGameCostNothing) {
 }
 
 } // namespace
-
 } // namespace ventrel

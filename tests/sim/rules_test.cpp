@@ -1,4 +1,4 @@
-// The small rules around a shift: the grid, phrases, score, clock, ticker queue, texts and options.
+// The small rules around a shift: the grid, phrases, ticker queue, texts and options.
 
 #include <gtest/gtest.h>
 
@@ -7,16 +7,13 @@
 #include <set>
 
 #include "../base/temp_folder.h"
-#include "sim/game_clock.h"
 #include "sim/message_queue.h"
 #include "sim/options.h"
 #include "sim/phrase.h"
-#include "sim/scoring.h"
 #include "sim/shift_texts.h"
 #include "small_airspace.h"
 
 namespace ventrel {
-
 namespace {
 
 TEST(Grid, CornersAreCutAndTheMiddleBelongsToTheLowerRight) {
@@ -32,23 +29,6 @@ TEST(Grid, CornersAreCutAndTheMiddleBelongsToTheLowerRight) {
     EXPECT_FALSE(isOutsideScope({24, -1})); // only the cell's own corner is looked at
     EXPECT_EQ(stepCell({0, 0}, 315), (Cell{-1, -1}));
     EXPECT_EQ(stepCell({5, 5}, 30), (Cell{5, 5}));
-}
-
-TEST(Score, PenaltiesStopAtZeroAndGainsDoNot) {
-    GameState game;
-    EventLog events;
-    game.score = 100;
-    addScore(game, events, -150);
-    addScore(game, events, 75);
-    addScore(game, events, 0);
-    EXPECT_EQ(events.take(), (Lines{"score -150 = 0", "score 75 = 75", "score 0 = 75"}));
-}
-
-TEST(GameStates, AnswerAboutNothing) {
-    GameState game;
-    EXPECT_EQ(firstScheduledTime(game), 30000);
-    EXPECT_EQ(copyVor(game, noVor), Vor{});
-    EXPECT_TRUE(game.mapPicture().empty());
 }
 
 TEST(Phrases, EveryCharacterHasItsOwnSnippetFile) {
@@ -67,34 +47,6 @@ TEST(Phrases, EveryCharacterHasItsOwnSnippetFile) {
     EXPECT_EQ(snippetNumber('\x5D'), -1);
     EXPECT_EQ(snippetNumber('\xE4'), -1);
     EXPECT_EQ(phraseAsWords("R=B1"), "American two seven heavy");
-}
-
-TEST(Clock, AdvancesAtMostOneSecondATickAndNeverCatchesUp) {
-    GameClock clock;
-    EXPECT_FALSE(ClockTick(clock, false, 0).running);
-    EXPECT_TRUE(ClockTick(clock, true, 0).sweepMoved);
-    EXPECT_EQ(clock.now, 1);
-    ClockTick(clock, true, 400);
-    EXPECT_EQ(clock.now, 1);
-    ClockTick(clock, true, 401);
-    EXPECT_EQ(clock.now, 2);
-    ClockTick(clock, true, 60401);
-    EXPECT_EQ(clock.now, 3);
-    clock.now = 4;
-    EXPECT_TRUE(ClockTick(clock, true, 70000).clockPaintDue);
-    clock.sweepIndex = 119;
-    ClockTick(clock, true, 80000);
-    EXPECT_EQ(clock.sweepIndex, 0);
-}
-
-TEST(Clock, SkipsToTheNextMultipleOfFifteen) {
-    for (const auto& [from, to] :
-         {std::pair{30, 45}, std::pair{44, 45}, std::pair{45, 60}, std::pair{0, 15}}) {
-        GameClock clock{.now = from, .sweepIndex = 77};
-        ClockSkip(clock);
-        EXPECT_EQ(clock.now, to);
-        EXPECT_EQ(clock.sweepIndex, 15);
-    }
 }
 
 TEST(MessageQueues, DropTheNinthLineAndEverythingDuringAnEmergency) {
@@ -168,5 +120,4 @@ TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
 }
 
 } // namespace
-
 } // namespace ventrel

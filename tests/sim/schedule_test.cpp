@@ -9,7 +9,6 @@
 #include "small_airspace.h"
 
 namespace ventrel {
-
 namespace {
 
 /// Three airports, the second of which is major, and one point that is both exit and airport.
@@ -205,5 +204,4 @@ TEST(Clouds, DriftInTogetherAndOnlyTheFirstThreeAreThereAtOnce) {
 }
 
 } // namespace
-
 } // namespace ventrel

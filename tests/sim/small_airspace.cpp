@@ -5,7 +5,6 @@
 
 #include "sim/custom_skill.h"
 #include "sim/flight_step.h"
-#include "sim/phrase.h"
 
 namespace ventrel {
 
@@ -114,46 +113,6 @@ void putDoubleWord(std::vector<std::byte>& file, std::size_t offset, std::uint32
 
 FailureReporter Reports::reporter() {
     return [this](std::string_view text, MessageIcon) { texts.emplace_back(text); };
-}
-
-std::vector<std::string> EventLog::take() {
-    return std::exchange(lines, {});
-}
-
-void EventLog::messagePosted(std::string_view text, MessageClass messageClass) {
-    lines.push_back(std::to_string(static_cast<int>(messageClass)) + " " + std::string{text});
-}
-
-void EventLog::pilotSpoke(const RadioCall& call) {
-    lines.push_back((call.noise ? "radio " : "quiet radio ") + phraseAsWords(call.phrase));
-}
-
-void EventLog::lampChanged(LampLevel lit) {
-    lines.push_back("lamp " + std::to_string(static_cast<int>(lit)));
-}
-
-void EventLog::scoreChanged(int delta, int score) {
-    lines.push_back("score " + std::to_string(delta) + " = " + std::to_string(score));
-}
-
-void EventLog::orderSent(FlightIndex flight) {
-    lines.push_back("sent " + std::to_string(flight));
-}
-
-void EventLog::panelChanged() {
-    lines.emplace_back("panel");
-}
-
-void EventLog::stripsChanged() {
-    lines.emplace_back("strips");
-}
-
-void EventLog::selectionWanted(FlightIndex flight) {
-    lines.push_back("select " + std::to_string(flight));
-}
-
-void EventLog::shiftEnded(ShiftResult result) {
-    lines.push_back("ended " + std::to_string(static_cast<int>(result)));
 }
 
 TestGame::TestGame(const SmallAirspace& airspace) : game{airspace.game()} {

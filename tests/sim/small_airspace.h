@@ -4,9 +4,11 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "sim/airport_loading.h"
+#include "sim/phrase.h"
 #include "sim/schedule.h"
 #include "sim/simulation.h"
 
@@ -51,18 +53,29 @@ public:
     std::vector<std::string> lines;
 
     /// The lines so far, and forgets them.
-    std::vector<std::string> take();
+    std::vector<std::string> take() { return std::exchange(lines, {}); }
 
 private:
-    void messagePosted(std::string_view text, MessageClass messageClass) override;
-    void pilotSpoke(const RadioCall& call) override;
-    void lampChanged(LampLevel lit) override;
-    void scoreChanged(int delta, int score) override;
-    void orderSent(FlightIndex flight) override;
-    void panelChanged() override;
-    void stripsChanged() override;
-    void selectionWanted(FlightIndex flight) override;
-    void shiftEnded(ShiftResult result) override;
+    template <typename Value>
+    static std::string number(Value value) {
+        return std::to_string(static_cast<int>(value));
+    }
+
+    void messagePosted(std::string_view text, MessageClass messageClass) override {
+        lines.push_back(number(messageClass) + " " + std::string{text});
+    }
+    void pilotSpoke(const RadioCall& call) override {
+        lines.push_back((call.noise ? "radio " : "quiet radio ") + phraseAsWords(call.phrase));
+    }
+    void scoreChanged(int delta, int score) override {
+        lines.push_back("score " + number(delta) + " = " + number(score));
+    }
+    void lampChanged(LampLevel lit) override { lines.push_back("lamp " + number(lit)); }
+    void orderSent(FlightIndex flight) override { lines.push_back("sent " + number(flight)); }
+    void panelChanged() override { lines.emplace_back("panel"); }
+    void stripsChanged() override { lines.emplace_back("strips"); }
+    void selectionWanted(FlightIndex flight) override { lines.push_back("select " + number(flight)); }
+    void shiftEnded(ShiftResult result) override { lines.push_back("ended " + number(result)); }
 };
 
 /// A running game in the usual airspace with hand-made flights.

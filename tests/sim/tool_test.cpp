@@ -13,7 +13,6 @@
 #include "tools/sim/trace_writer.h"
 
 namespace ventrel {
-
 namespace {
 
 std::string faultOf(std::vector<const char*> words) {
@@ -169,5 +168,4 @@ TEST(Autopilot, BringsMostFlightsOfAnEasyShiftHome) {
 }
 
 } // namespace
-
 } // namespace ventrel

@@ -9,7 +9,6 @@
 #include "small_airspace.h"
 
 namespace ventrel {
-
 namespace {
 
 constexpr ClockSeconds longestRun = 18000;
@@ -47,6 +46,12 @@ struct WildShift {
         if (running) {
             setLamp(test.lamps, test.events, gatherAlertLevel(test.game));
             order();
+        }
+    }
+
+    void playToTheEnd() {
+        while (running) {
+            advance();
         }
     }
 };
@@ -89,9 +94,7 @@ TEST(WholeShift, PlansStaySmoothAndScoresNeverFallBelowZero) {
 TEST(WholeShift, TheScoreAddsUpFromWhatWasTold) {
     for (std::uint32_t seed = 0; seed < 24; ++seed) {
         WildShift shift{seed};
-        while (shift.running) {
-            shift.advance();
-        }
+        shift.playToTheEnd();
         int score = 0;
         long arrived = 0;
         long lost = 0;
@@ -114,9 +117,7 @@ TEST(WholeShift, TheScoreAddsUpFromWhatWasTold) {
 TEST(WholeShift, TwoSimulationsInOneProcessDoNotDisturbEachOther) {
     for (std::uint32_t seed = 1; seed < 5; ++seed) {
         WildShift alone{seed};
-        while (alone.running) {
-            alone.advance();
-        }
+        alone.playToTheEnd();
         WildShift first{seed};
         WildShift second{seed + 1};
         while (first.running) {
@@ -130,5 +131,4 @@ TEST(WholeShift, TwoSimulationsInOneProcessDoNotDisturbEachOther) {
 }
 
 } // namespace
-
 } // namespace ventrel

@@ -9,7 +9,6 @@
 #include "drawn.h"
 
 namespace ventrel {
-
 namespace {
 
 TEST(Lines, StayClosestToTheirCourseAndMirrorEachOther) {
@@ -60,25 +59,6 @@ TEST(Lines, AreTheSameSeenThroughAnyWindow) {
     Canvas(picture).line({-farAway, -farAway}, {farAway, farAway}, white);
     Canvas(picture).line({farAway, 0}, {farAway, -farAway}, white);
     EXPECT_EQ(drawn(picture), "#....\n#####\n..#..\n");
-}
-
-TEST(Ellipses, AreRoundAtTheSizesOfTheMap) {
-    Bitmap picture({22, 11});
-    Canvas(picture).ellipse({0, 0, 11, 11}, white);
-    Canvas(picture).filledEllipse({12, 1, 22, 11}, white, Colour{0x7F7F7F});
-    EXPECT_EQ(drawn(picture), "...#####..............\n"
-                              "..#.....#......####...\n"
-                              ".#.......#....######..\n"
-                              "#.........#..########.\n"
-                              "#.........#.##########\n"
-                              "#.........#.##########\n"
-                              "#.........#.##########\n"
-                              "#.........#.##########\n"
-                              ".#.......#...########.\n"
-                              "..#.....#.....######..\n"
-                              "...#####.......####...\n");
-    EXPECT_EQ(picture.at(15, 1), whitePixel);
-    EXPECT_EQ(picture.at(15, 2), 0x7F7F7FU);
 }
 
 /// Fills from `from` over black pixels and tells whether the fill comes to the picture's edge.
@@ -180,5 +160,4 @@ TEST(Canvases, SendTheirDamageAsFewExactRectangles) {
 }
 
 } // namespace
-
 } // namespace ventrel

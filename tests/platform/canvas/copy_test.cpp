@@ -5,7 +5,6 @@
 #include "drawn.h"
 
 namespace ventrel {
-
 namespace {
 
 constexpr Colour yellow = Colour::rgb(255, 255, 0);
@@ -112,5 +111,4 @@ TEST(Copies, LayColourThroughAMask) {
 }
 
 } // namespace
-
 } // namespace ventrel

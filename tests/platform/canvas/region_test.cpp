@@ -7,7 +7,6 @@
 #include "drawn.h"
 
 namespace ventrel {
-
 namespace {
 
 Region randomShape(std::mt19937& random) {
@@ -112,5 +111,4 @@ TEST(Regions, ShapesFarAwayOrImmenseAreCutToTheSpaceOfRegions) {
 }
 
 } // namespace
-
 } // namespace ventrel

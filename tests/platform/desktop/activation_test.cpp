@@ -26,14 +26,13 @@ TEST(Activation, ADialogTakesItFromItsOwnerAndGivesItBack) {
 TEST(Activation, ALockedWindowOnlyBeeps) {
     Stage stage;
     WindowHandlers handlers = stage.logged("main");
-    handlers.press = [&](const MouseInput&) { stage.log.emplace_back("main press"); };
-    handlers.key = [&](const KeyEvent&) { return stage.log.emplace_back("main key"), true; };
+    handlers.press = stage.note("main press");
+    handlers.key = stage.note("main key");
     const Window main = stage.open(std::move(handlers));
     // Always on top, and yet no dialog may lie hidden under it.
     const Window splash = stage.desktop.create({.bounds = {0, 0, 200, 150}, .alwaysOnTop = true});
     stage.log.clear();
-    stage.script
-        .then([&] { stage.runDialog(main, {.lockedOut = [&] { stage.log.emplace_back("locked out"); }}); })
+    stage.script.then([&] { stage.runDialog(main, {.lockedOut = stage.note("locked out")}); })
         .click({10, 10})
         .key(Key::a)
         .then([&] {
@@ -132,8 +131,7 @@ TEST(Focus, FallsToTheWindowWhenItsHolderCannotKeepItAndDoesNotJumpBack) {
 TEST(Destroying, TakesEverythingAlongAndTellsFromTheTopDown) {
     Stage stage;
     const auto named = [&](const std::string& name) {
-        return WindowHandlers{.timer = [&stage](int) { stage.log.emplace_back("timer"); },
-                              .destroyed = [&stage, name] { stage.log.push_back(name); }};
+        return WindowHandlers{.timer = stage.note("timer"), .destroyed = stage.note(name)};
     };
     const Window main = stage.open(named("main"));
     const Window child =

@@ -198,28 +198,20 @@ TEST(Keys, AcceleratorsAreForTheirOwnWindowAndExactKeys) {
     constexpr Accelerator table[] = {
         {Key::f, withAlt, 500}, {Key::f, {}, 4042}, {Key::keypad8, {}, 4026}, {Key::s, withControl, 4006}};
     Window main;
-    main = stage.open({.key =
-                           [&](const KeyEvent& key) {
-                               if (key.down) {
-                                   stage.log.emplace_back("key");
-                               }
-                               return false;
-                           },
-                       .text =
-                           [&](std::string_view text) {
-                               stage.log.push_back("text " + std::string(text));
-                               return true;
-                           },
-                       .command =
-                           [&](const CommandInput& command) {
-                               stage.log.push_back(std::to_string(command.id));
-                               if (command.id == 4006) {
-                                   stage.runDialog(main, {.text = [&](std::string_view) {
-                                                       stage.log.emplace_back("typed into the dialog");
-                                                       return true;
-                                                   }});
-                               }
-                           }});
+    WindowHandlers handlers{.text = stage.note("text")};
+    handlers.key = [&](const KeyEvent& key) {
+        if (key.down) {
+            stage.log.emplace_back("key");
+        }
+        return false;
+    };
+    handlers.command = [&](const CommandInput& command) {
+        stage.log.push_back(std::to_string(command.id));
+        if (command.id == 4006) {
+            stage.runDialog(main, {.text = stage.note("typed into the dialog")});
+        }
+    };
+    main = stage.open(std::move(handlers));
     main.setAccelerators(table);
     const Window button = stage.desktop.create({.parent = main, .bounds = {0, 0, 50, 20}});
     button.focus();
@@ -232,47 +224,7 @@ TEST(Keys, AcceleratorsAreForTheirOwnWindowAndExactKeys) {
     stage.script.then([&] {});
     stage.backend.whenTimelineEnds = [&] { stage.desktop.quit(); };
     stage.desktop.run();
-    EXPECT_EQ(stage.log,
-              (Log{"4042", "500", "4026", "4026", "key", "key", "4006", "ended", "key", "text x"}));
-}
-
-TEST(Menu, TakesMouseAndKeysWhileItsOwnerStaysActive) {
-    Stage stage;
-    WindowHandlers mainHandlers = stage.logged("main");
-    mainHandlers.press = [&](const MouseInput&) { stage.log.emplace_back("main press"); };
-    const Window main = stage.open(std::move(mainHandlers));
-    bool closed = false;
-    const auto runMenu = [&] {
-        closed = false;
-        const Window menu =
-            stage.desktop.create({.owner = main,
-                                  .bounds = {30, 40, 80, 120},
-                                  .activates = false,
-                                  .handlers = {.press =
-                                                   [&](const MouseInput& input) {
-                                                       stage.log.push_back(at("menu press", input.position));
-                                                       closed = true;
-                                                       MouseEvent again;
-                                                       again.position = input.screen;
-                                                       again.button = input.button;
-                                                       again.down = true;
-                                                       stage.desktop.putBack(again);
-                                                   },
-                                               .key =
-                                                   [&](const KeyEvent&) {
-                                                       stage.log.emplace_back("menu key");
-                                                       return true;
-                                                   }}});
-        EXPECT_EQ(stage.desktop.windowAt({35, 45}), menu);
-        stage.log.emplace_back(stage.desktop.runMenu(menu, [&] { return closed; }) ? "chosen" : "dismissed");
-        EXPECT_TRUE(main.isActive());
-        menu.destroy();
-    };
-    stage.script.then([&] { stage.log.clear(); }).then(runMenu).keyDown(Key::down).press({10, 10});
-    stage.script.wait(5).then(runMenu).window(WindowEvent::deactivated).window(WindowEvent::activated);
-    stage.play();
-    EXPECT_EQ(stage.log, (Log{"menu key", "menu press -20,-30", "chosen", "main press", "main blur",
-                              "main inactive", "dismissed", "main active", "main focus"}));
+    EXPECT_EQ(stage.log, (Log{"4042", "500", "4026", "4026", "key", "key", "4006", "ended", "key", "text"}));
 }
 
 } // namespace

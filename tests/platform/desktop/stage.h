@@ -41,6 +41,14 @@ struct Stage {
     }
     bool dialogIsFinished = false;
 
+    /// A handler that logs a text whatever it is told, and takes what it is given.
+    auto note(std::string text) {
+        return [this, text = std::move(text)](const auto&...) {
+            log.push_back(text);
+            return true;
+        };
+    }
+
     /// Handlers that log what activation and focus do to a window of that name.
     WindowHandlers logged(const std::string& name) {
         return {.focus = [this, name](bool gained) { log.push_back(name + (gained ? " focus" : " blur")); },

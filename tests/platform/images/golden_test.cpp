@@ -7,7 +7,6 @@
 #include "platform/canvas/png_writer.h"
 
 namespace ventrel {
-
 namespace {
 
 TEST(GoldenPictures, TellWhereAPictureDiffersAndLeaveBothBehind) {
@@ -34,5 +33,4 @@ TEST(GoldenPictures, TellWhereAPictureDiffersAndLeaveBothBehind) {
 }
 
 } // namespace
-
 } // namespace ventrel

@@ -11,7 +11,6 @@
 #include "png_parts.h"
 
 namespace ventrel {
-
 namespace {
 
 const std::filesystem::path dataFolder = TEST_DATA_FOLDER;
@@ -154,5 +153,4 @@ TEST(Images, AreReadFromFilesAndAMissingFileLeavesTheBitmapAlone) {
 }
 
 } // namespace
-
 } // namespace ventrel

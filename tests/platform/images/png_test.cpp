@@ -5,7 +5,6 @@
 #include "png_parts.h"
 
 namespace ventrel {
-
 namespace {
 
 constexpr Size size{5, 3};
@@ -147,5 +146,4 @@ TEST(Pngs, AreWrittenTheSameEveryTimeAndNotForNothing) {
 }
 
 } // namespace
-
 } // namespace ventrel

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/canvas/canvas.h"
 #include "platform/sdl/picture_scaling.h"
 #include "platform/sdl/scaled_picture.h"
 
@@ -70,11 +71,7 @@ TEST(ScaledPicture, ChangedPartsLookAsIfAllHadBeenDrawnAnew) {
         for (const Rect changed :
              {Rect{7, 5, 8, 6}, Rect{0, 0, 40, 1}, Rect{13, 11, 30, 29}, Rect{39, 29, 40, 30}}) {
             Bitmap after = before;
-            for (int y = changed.top; y < changed.bottom; ++y) {
-                for (int x = changed.left; x < changed.right; ++x) {
-                    after.at(x, y) ^= 0xFFFFFF;
-                }
-            }
+            Canvas(after).invert(changed);
             EXPECT_EQ(scaled(shown, area, after, changed),
                       scaled(Bitmap(window), area, after, after.bounds()))
                 << window.width << " from " << changed.left << ", " << changed.top;

@@ -11,7 +11,6 @@
 #include "platform/canvas/text.h"
 
 namespace ventrel {
-
 namespace {
 
 constexpr Colour black = Colour::rgb(0, 0, 0);
@@ -178,5 +177,4 @@ TEST(FontSets, NameAMissingOrDamagedFaceOnceAndGoOn) {
 }
 
 } // namespace
-
 } // namespace ventrel

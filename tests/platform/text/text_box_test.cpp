@@ -4,7 +4,6 @@
 #include "platform/canvas/text.h"
 
 namespace ventrel {
-
 namespace {
 
 /// Letters of 2 x 2 pixels in cells of 3 x 4, so that a picture of a text can be read. Blanks are empty.
@@ -19,8 +18,7 @@ Font blockFont() {
 
 class TextBoxes : public ::testing::Test {
 protected:
-    std::string boxed(std::string_view text, const TextLayout& layout, const Rect& box = {0, 0, 12, 8},
-                      Size size = {12, 8}) {
+    std::string boxed(std::string_view text, const TextLayout& layout, const Rect& box, Size size) {
         Bitmap bitmap(size);
         Canvas canvas(bitmap);
         drawTextBox(canvas, font, box, text, {white, {}}, layout);
@@ -58,41 +56,30 @@ TEST_F(TextBoxes, EndLinesAtEveryKindOfBreak) {
 }
 
 TEST_F(TextBoxes, AlignEachLineAcrossAndTheBlockDown) {
-    const Rect box{1, 0, 11, 11};
-    const Size size{12, 11};
-    EXPECT_EQ(boxed("a\nbc", {.across = Align::far, .down = Align::far}, box, size), "............\n"
-                                                                                     "............\n"
-                                                                                     "............\n"
-                                                                                     "........##..\n"
-                                                                                     "........##..\n"
-                                                                                     "............\n"
-                                                                                     "............\n"
-                                                                                     ".....##.##..\n"
-                                                                                     ".....##.##..\n"
-                                                                                     "............\n"
-                                                                                     "............\n");
-    EXPECT_EQ(boxed("a\nbc", {.across = Align::middle, .down = Align::middle}, box, size), "............\n"
-                                                                                           "....##......\n"
-                                                                                           "....##......\n"
-                                                                                           "............\n"
-                                                                                           "............\n"
-                                                                                           "...##.##....\n"
-                                                                                           "...##.##....\n"
-                                                                                           "............\n"
-                                                                                           "............\n"
-                                                                                           "............\n"
-                                                                                           "............\n");
+    Bitmap both({24, 11});
+    Canvas canvas(both);
+    for (const auto& [left, align] : {std::pair{1, Align::far}, {13, Align::middle}}) {
+        const TextLayout layout{.across = align, .down = align};
+        drawTextBox(canvas, font, {left, 0, left + 10, 11}, "a\nbc", {white, {}}, layout);
+    }
+    EXPECT_EQ(drawn(both), "........................\n"
+                           "................##......\n"
+                           "................##......\n"
+                           "........##..............\n"
+                           "........##..............\n"
+                           "...............##.##....\n"
+                           "...............##.##....\n"
+                           ".....##.##..............\n"
+                           ".....##.##..............\n"
+                           "........................\n"
+                           "........................\n");
 }
 
 TEST_F(TextBoxes, UnderlineTheLastMarkedCharacter) {
-    EXPECT_EQ(boxed("&a&b&&", {.mnemonics = true}), "##.##.##....\n"
-                                                    "##.##.##....\n"
-                                                    "............\n"
-                                                    "...###......\n"
-                                                    "............\n"
-                                                    "............\n"
-                                                    "............\n"
-                                                    "............\n");
+    EXPECT_EQ(boxed("&a&b&&", {.mnemonics = true}, {0, 0, 9, 4}, {9, 4}), "##.##.##.\n"
+                                                                          "##.##.##.\n"
+                                                                          ".........\n"
+                                                                          "...###...\n");
     EXPECT_EQ(measureText(font, "&Options", 0, {.mnemonics = true}).width, 21);
     EXPECT_EQ(measureText(font, "R&D", 0, {}).width, 9);
     EXPECT_EQ(measureText(font, "R&", 0, {.mnemonics = true}).width, 3);
@@ -133,5 +120,4 @@ TEST_F(TextBoxes, SetColumnsAtTabStops) {
 }
 
 } // namespace
-
 } // namespace ventrel

@@ -1,5 +1,6 @@
 // Fields, lists and check boxes on a window of their own.
 
+#include "platform/widgets/edit_text.h"
 #include "widget_stage.h"
 
 namespace ventrel {
@@ -71,14 +72,8 @@ TEST_F(FieldTest, AFieldThatRestsWakesNobody) {
 
 struct ListTest : ::testing::Test {
     WidgetStage stage;
-    std::vector<int> notifications;
-    Window panel = stage.desktop.create({.parent = stage.main,
-                                         .bounds = {0, 0, 200, 200},
-                                         .handlers = {.command = [this](const CommandInput& input) {
-                                             notifications.push_back(input.notification);
-                                         }}});
     // Five rows of 13 pixels.
-    ListBox list = createListBox(stage.desktop, {panel, 5, {10, 10, 110, 79}, &stage.fonts.text, true});
+    ListBox list = createListBox(stage.desktop, {stage.main, 5, {10, 10, 110, 79}, &stage.fonts.text, true});
 
     void SetUp() override {
         for (const char* name :
@@ -93,14 +88,6 @@ struct ListTest : ::testing::Test {
         });
     }
 };
-
-TEST_F(ListTest, SortsWithoutRegardToCase) {
-    EXPECT_EQ(list.line(0), "atlanta");
-    EXPECT_EQ(list.line(5), "london");
-    EXPECT_EQ(list.line(8), "Zurich");
-    EXPECT_EQ(list.selected(), noListItem);
-    stage.play();
-}
 
 TEST_F(ListTest, KeysWalkPageAndKeepTheLineInView) {
     list.window.focus();
@@ -143,12 +130,20 @@ TEST_F(ListTest, WheelAndScrollBarMoveTheLinesAndChooseNothing) {
     stage.play();
 }
 
-TEST_F(ListTest, ADoubleClickIsToldAfterItsChoice) {
-    stage.script.doubleClick({50, 30});
-    expectLine("Boston");
-    stage.play();
-    EXPECT_EQ(notifications,
-              (std::vector<int>{listSelectionChanged, listSelectionChanged, listDoubleClicked}));
+TEST(EditText, ErasesAndWalksByWords) {
+    EditText line{.text = "one two  three"};
+    line.moveTo(line.text.size(), false);
+    line.moveTo(line.wordLeft(), true);
+    EXPECT_EQ(line.selected(), "three");
+    line.erase(false);
+    EXPECT_EQ(line.text, "one two  ");
+    line.moveTo(0, false);
+    EXPECT_EQ(line.wordRight(), 4U);
+    line.erase(false);
+    line.erase(true);
+    EXPECT_EQ(line.text, "ne two  ");
+    line.moveTo(99, false);
+    EXPECT_EQ(line.caret, line.text.size());
 }
 
 TEST(CheckBox, FlipsWhereItIsReleased) {

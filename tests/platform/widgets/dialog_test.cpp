@@ -5,6 +5,7 @@
 #include <array>
 
 #include "platform/widgets/message_box.h"
+#include "platform/widgets/widget_place.h"
 #include "widget_stage.h"
 
 namespace ventrel {
@@ -159,6 +160,12 @@ TEST_F(DialogTest, AButtonAnswersToTheSpaceBarWhenItIsLetGo) {
     stage.script.keyDown(Key::space).key(Key::tab).keyUp(Key::space).key(Key::escape);
     run();
     EXPECT_EQ(pressed, (std::vector<int>{askId, askId, cancelId}));
+}
+
+TEST(DialogPlace, UnitsAndCentringAreExact) {
+    EXPECT_EQ(dialogUnitsToPixels({0, 0, 202, 172}).size(), (Size{303, 280}));
+    EXPECT_EQ(centredIn({0, 0, 800, 600}, {300, 200}).topLeft(), (Point{250, 200}));
+    EXPECT_EQ(centredIn({0, 0, 800, 600}, {900, 200}).left, 0);
 }
 
 TEST(MessageBox, AnswersToLettersArrowsAndEscWhereThatHasAMeaning) {

@@ -73,18 +73,6 @@ TEST_F(MenuTest, GreyedItemsAndSeparatorsCannotBeChosen) {
     EXPECT_EQ(track(), noCommand);
 }
 
-TEST_F(MenuTest, EscClosesOneLevelAndAltAll) {
-    stage.script.type("s");
-    expectWindows(2);
-    stage.script.key(Key::escape);
-    expectWindows(1);
-    stage.script.key(Key::right);
-    expectWindows(2);
-    stage.script.key(Key::alt);
-    EXPECT_EQ(track(), noCommand);
-    EXPECT_EQ(stage.openWindows(), 1U);
-}
-
 TEST_F(MenuTest, ARestingMouseOpensSubmenusAndMayCrossOthersOnItsWay) {
     stage.script.moveTo({40, 31}).wait(longEnough);
     expectWindows(2);
