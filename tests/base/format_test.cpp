@@ -23,12 +23,6 @@ TEST(Format, SurvivesPatternsThatAreWrong) {
     EXPECT_EQ(FormatText(std::string(3000, 'x'), {}).size(), 1023U);
 }
 
-TEST(Format, ShowsMinutesWithoutHours) {
-    EXPECT_EQ(FormatMinutesSeconds(65), "01:05");
-    EXPECT_EQ(FormatMinutesSeconds(2100), "35:00");
-    EXPECT_EQ(FormatMinutesSeconds(7200), "120:00");
-}
-
 TEST(Windows1252, GoesToUtf8AndBack) {
     std::string every;
     for (int byte = 1; byte < 256; ++byte) {

@@ -54,10 +54,6 @@ void ConsoleStage::play() {
     desktop.run();
 }
 
-Lines ConsoleStage::take() {
-    return std::exchange(log, {});
-}
-
 Bitmap ConsoleStage::picture(const Window& window) const {
     window.update();
     const Canvas screen = window.canvas();

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "platform/canvas/font.h"
@@ -43,7 +44,7 @@ struct ConsoleStage {
     void countListed();
     /// Runs the program through the script, and ends it.
     void play();
-    Lines take();
+    Lines take() { return std::exchange(log, {}); }
     /// What the screen shows of a window, painted up to date.
     Bitmap picture(const Window& window) const;
 };

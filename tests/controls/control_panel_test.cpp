@@ -23,13 +23,6 @@ struct PanelStage : ConsoleStage {
     const PlanStep& pending() const { return panel.state.pending; }
     /// Where a point of the panel lies in the main window.
     Point inMain(Point p) const { return p + panel.window.bounds().topLeft(); }
-    /// The same line as shown while the flight flies `step` and has been told `goal`.
-    std::string preview(Flight& flight, PlanStep step, PlanStep goal) {
-        flight.planLength = 2;
-        flight.plan[0] = step;
-        flight.plan[1] = goal;
-        return previewLine(panel.state, game);
-    }
 };
 
 PlanStep flying(int altitude, int heading, VorIndex target = noVor, int hold = 0) {
@@ -202,7 +195,11 @@ TEST(PreviewTest, TellsWhatTheFlightIsDoing) {
     flight.callsign = "UA123";
     EXPECT_EQ(previewLine(stage.panel.state, stage.game), "");
     CtrlSetFlight(stage.panel, 0);
-    const auto line = [&](PlanStep now, PlanStep goal) { return stage.preview(flight, now, goal); };
+    const auto line = [&](PlanStep now, PlanStep goal) {
+        flight.planLength = 2;
+        flight.plan = {now, goal};
+        return previewLine(stage.panel.state, stage.game);
+    };
     EXPECT_EQ(line(flying(5, 45), flying(3, 90)), "UA123: Turn 90\xB0, descend 3000 ft");
     EXPECT_EQ(line(flying(5, 90), flying(5, 90)), "UA123: 90\xB0, 5000 ft");
     EXPECT_EQ(line(flying(9, 0), flying(10, 0)), "UA123: 0\xB0, up to 10000 ft");

@@ -100,10 +100,6 @@ TEST(StripsTest, EveryStateOfAFlightHasItsWords) {
 TEST(StripsTest, ColoursAndPressedButtonFollowTheFlight) {
     StripsStage stage;
     Flight& flight = stage.fly();
-    stage.rebuild();
-    constexpr Colour nearMissRed = Colour::rgb(255, 0, 0);
-    constexpr Colour successGreen = Colour::rgb(0, 220, 0);
-    constexpr Colour announcedGrey = Colour::rgb(164, 164, 164);
     const auto colourOf = [&](Alert alert, bool selected, bool announced) {
         flight.alert = alert;
         flight.selected = selected;
@@ -113,11 +109,11 @@ TEST(StripsTest, ColoursAndPressedButtonFollowTheFlight) {
         EXPECT_EQ(stage.take(), Lines{selected ? "press 0" : "press -1"});
         return stripColour(flight, stage.game);
     };
-    EXPECT_EQ(colourOf(Alert::nearMiss, true, false), nearMissRed);
-    EXPECT_EQ(colourOf(Alert::success, true, false), successGreen);
+    EXPECT_EQ(colourOf(Alert::nearMiss, true, false), Colour::rgb(255, 0, 0));
+    EXPECT_EQ(colourOf(Alert::success, true, false), Colour::rgb(0, 220, 0));
     EXPECT_EQ(colourOf(Alert::failure, true, false), selectedWhite);
     EXPECT_EQ(colourOf(Alert::none, true, true), selectedWhite);
-    EXPECT_EQ(colourOf(Alert::none, false, true), announcedGrey);
+    EXPECT_EQ(colourOf(Alert::none, false, true), Colour::rgb(164, 164, 164));
     EXPECT_EQ(colourOf(Alert::failure, false, false), flightGreen);
 }
 

@@ -1,5 +1,5 @@
 # Comparing with golden pictures, for the tests of every room that draws.
-add_library(ventrel_golden STATIC ${CMAKE_CURRENT_LIST_DIR}/golden.cpp ${CMAKE_CURRENT_LIST_DIR}/letters.cpp)
+add_library(ventrel_golden STATIC ${CMAKE_CURRENT_LIST_DIR}/golden.cpp)
 target_link_libraries(ventrel_golden PUBLIC ventrel_images ventrel_text PRIVATE GTest::gtest ventrel_flags)
 target_include_directories(ventrel_golden PUBLIC ${CMAKE_CURRENT_LIST_DIR})
 target_compile_definitions(ventrel_golden PRIVATE

@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <random>
-
 #include "../base/temp_folder.h"
 #include "small_airspace.h"
 
@@ -64,15 +61,13 @@ TEST(AirportFile, CountsAndOffsetsBeyondTheFileAreRefused) {
     putWord(file, pointCountOffset, 0xFFFF);
     expectRefused(file, "map points");
     for (const std::uint32_t wild : {0x7FFFFFFFU, 0xFFFFFFFFU, 0xFFFFFFC8U}) {
-        file = whole;
-        putDoubleWord(file, pointTableOffset, wild);
-        expectRefused(file, "map points");
-        file = whole;
-        putDoubleWord(file, pictureSizeOffset, wild);
-        expectRefused(file, "picture");
-        file = whole;
-        putDoubleWord(file, pictureStartOffset, wild);
-        expectRefused(file, "picture");
+        for (const auto& [offset, reason] : {std::pair{pointTableOffset, "map points"},
+                                             {pictureSizeOffset, "picture"},
+                                             {pictureStartOffset, "picture"}}) {
+            file = whole;
+            putDoubleWord(file, offset, wild);
+            expectRefused(file, reason);
+        }
     }
 }
 
@@ -94,21 +89,6 @@ TEST(AirportFile, AnAirspaceWithoutExitOrAirportIsRefused) {
     expectRefused(SmallAirspace{}.airport("A", {24, 24}, 0).file(), "no VOR");
     expectRefused(SmallAirspace{}.exit("E", {24, 5}).file(), "no airport");
     expectRefused(SmallAirspace{}.file(), "no VOR");
-}
-
-TEST(AirportFile, RandomBytesAreNeverAccepted) {
-    std::mt19937 random{5};
-    for (int round = 0; round < 2000; ++round) {
-        std::vector<std::byte> file(random() % 400);
-        std::generate(file.begin(), file.end(), [&] { return static_cast<std::byte>(random()); });
-        if (file.size() >= headerSize && round % 2 == 0) {
-            for (std::size_t i = 0; i < completionCount; ++i) {
-                putWord(file, completionOffset + 2 * i, 1);
-            }
-            putWord(file, magicOffset, magic);
-        }
-        EXPECT_NE(refusal(file), "");
-    }
 }
 
 int reversals(int heading, int chance, bool isAirport) {

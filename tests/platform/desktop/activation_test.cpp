@@ -32,17 +32,15 @@ TEST(Activation, ALockedWindowOnlyBeeps) {
     // Always on top, and yet no dialog may lie hidden under it.
     const Window splash = stage.desktop.create({.bounds = {0, 0, 200, 150}, .alwaysOnTop = true});
     stage.log.clear();
-    stage.script.then([&] { stage.runDialog(main, {.lockedOut = stage.note("locked out")}); })
-        .click({10, 10})
-        .key(Key::a)
-        .then([&] {
-            EXPECT_EQ(stage.desktop.topLevels().back(), stage.desktop.activeWindow());
-            main.activate();
-            EXPECT_EQ(stage.desktop.topLevels().back(), stage.desktop.activeWindow());
-            splash.destroy();
-            stage.dialogIsFinished = true;
-        })
-        .click({10, 10});
+    stage.script.then([&] { stage.runDialog(main, {.lockedOut = stage.note("locked out")}); });
+    stage.script.click({10, 10}).key(Key::a).then([&] {
+        EXPECT_EQ(stage.desktop.topLevels().back(), stage.desktop.activeWindow());
+        main.activate();
+        EXPECT_EQ(stage.desktop.topLevels().back(), stage.desktop.activeWindow());
+        splash.destroy();
+        stage.dialogIsFinished = true;
+    });
+    stage.script.click({10, 10});
     stage.play();
     EXPECT_EQ(stage.log, (Log{"locked out", "ended", "main active", "main focus", "main press"}));
     EXPECT_EQ(stage.backend.beeps().size(), 1U);
@@ -74,12 +72,10 @@ TEST(Activation, SwitchingProgramsUnderADialogConcernsTheDialogAlone) {
     Stage stage;
     const Window main = stage.open(stage.logged("main"));
     stage.desktop.setMainWindow(main);
-    stage.script.then([&] { stage.runDialog(main, stage.logged("dialog")); })
-        .then([&] { stage.log.clear(); })
-        .then([&] { stage.desktop.minimise(); })
-        .then([&] { stage.desktop.restore(); })
-        .wait(5)
-        .then([&] { EXPECT_FALSE(stage.backend.isMinimised()); });
+    stage.script.then([&] { stage.runDialog(main, stage.logged("dialog")); });
+    stage.script.then([&] { stage.log.clear(); }).then([&] { stage.desktop.minimise(); });
+    stage.script.then([&] { stage.desktop.restore(); }).wait(5);
+    stage.script.then([&] { EXPECT_FALSE(stage.backend.isMinimised()); });
     stage.play();
     EXPECT_EQ(stage.log,
               (Log{"dialog blur", "dialog minimised", "dialog active", "dialog focus", "broken off"}));
@@ -157,13 +153,11 @@ TEST(Destroying, IsSafeInsideAnyHandlerOfTheWindow) {
     Stage stage;
     Window main;
     Window child;
-    main = stage.open({.close = [&] { main.destroy(); },
-                       .destroyed =
-                           [&] {
-                               // A last dialog, after the window itself is gone.
-                               stage.runDialog({});
-                               stage.log.emplace_back("farewell");
-                           }});
+    const auto farewell = [&] {
+        stage.runDialog({}); // a last dialog, after the window itself is gone
+        stage.log.emplace_back("farewell");
+    };
+    main = stage.open({.close = [&] { main.destroy(); }, .destroyed = farewell});
     std::string held = "what the handler holds on to is still there";
     const auto kill = [&, held](auto&&...) {
         child.parent().destroy();

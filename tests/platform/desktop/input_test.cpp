@@ -32,13 +32,9 @@ struct Family : Stage {
 TEST(Mouse, ReachesTheInnermostWindowThatTakesIt) {
     Family stage;
     EXPECT_EQ(stage.main.child(7).child(8), stage.button);
-    stage.script.press({35, 45})
-        .then([&] { stage.button.enable(false); })
-        .press({35, 45})
-        .then([&] { stage.panel.enable(false); })
-        .press({35, 45})
-        .then([&] { stage.panel.hide(); })
-        .press({36, 46});
+    stage.script.press({35, 45}).then([&] { stage.button.enable(false); });
+    stage.script.press({35, 45}).then([&] { stage.panel.enable(false); });
+    stage.script.press({35, 45}).then([&] { stage.panel.hide(); }).press({36, 46});
     stage.play();
     EXPECT_EQ(stage.log,
               (Log{"button press 5,5", "panel press 15,15", "main press 35,45", "main press 36,46"}));
@@ -46,33 +42,27 @@ TEST(Mouse, ReachesTheInnermostWindowThatTakesIt) {
 
 TEST(Mouse, TheCaptureFollowsThePointerEverywhereUntilItIsLost) {
     Family stage;
-    stage.script.then([&] { stage.button.capture(); })
-        .release({-10, 500})
-        .then([&] {
-            EXPECT_TRUE(stage.backend.isCaptured());
-            stage.panel.capture();
-        })
-        .press({0, 0})
-        .then([&] { stage.panel.releaseCapture(); })
-        .press({0, 0})
-        .then([&] {
-            EXPECT_FALSE(stage.backend.isCaptured());
-            stage.button.capture();
-            stage.panel.hide();
-            EXPECT_FALSE(stage.button.hasCapture());
-            stage.main.capture();
-        })
-        .window(WindowEvent::deactivated)
-        .then([&] { EXPECT_FALSE(stage.main.hasCapture()); })
-        .window(WindowEvent::activated)
-        .then([&] {
-            stage.main.capture();
-            const Window dialog = stage.desktop.create({.bounds = {0, 0, 50, 50}});
-            EXPECT_FALSE(stage.backend.isCaptured());
-            dialog.capture();
-            dialog.destroy();
-            EXPECT_FALSE(stage.backend.isCaptured());
-        });
+    stage.script.then([&] { stage.button.capture(); }).release({-10, 500}).then([&] {
+        EXPECT_TRUE(stage.backend.isCaptured());
+        stage.panel.capture();
+    });
+    stage.script.press({0, 0}).then([&] { stage.panel.releaseCapture(); });
+    stage.script.press({0, 0}).then([&] {
+        EXPECT_FALSE(stage.backend.isCaptured());
+        stage.button.capture();
+        stage.panel.hide();
+        EXPECT_FALSE(stage.button.hasCapture());
+        stage.main.capture();
+    });
+    stage.script.window(WindowEvent::deactivated).then([&] { EXPECT_FALSE(stage.main.hasCapture()); });
+    stage.script.window(WindowEvent::activated).then([&] {
+        stage.main.capture();
+        const Window dialog = stage.open({}, {0, 0, 50, 50});
+        EXPECT_FALSE(stage.backend.isCaptured());
+        dialog.capture();
+        dialog.destroy();
+        EXPECT_FALSE(stage.backend.isCaptured());
+    });
     stage.play();
     EXPECT_EQ(stage.log, (Log{"button release -40,460", "button lost", "panel press -20,-30",
                               "main press 0,0", "button lost", "main lost", "main lost"}));
@@ -80,22 +70,17 @@ TEST(Mouse, TheCaptureFollowsThePointerEverywhereUntilItIsLost) {
 
 TEST(Mouse, ASecondPressIsADoubleClickOnlyOnTheSameWindow) {
     Family stage;
-    stage.script.doubleClick({35, 45}).then([&] { stage.log.clear(); });
-    stage.play();
-    EXPECT_TRUE(stage.log.empty());
-
-    Family other;
-    other.script.doubleClick({35, 45}).then([&] { other.button.hide(); }).doubleClick({35, 45});
-    other.script.press({35, 45}).then([&] { other.panel.hide(); });
+    stage.script.doubleClick({35, 45}).then([&] { stage.button.hide(); }).doubleClick({35, 45});
+    stage.script.press({35, 45}).then([&] { stage.panel.hide(); });
     // The second press of a double click whose first one closed what it hit.
     MouseEvent second;
     second.position = {35, 45};
     second.button = MouseButton::left;
     second.down = true;
     second.doubleClick = true;
-    other.script.then([&] { other.backend.addInput(0, second); });
-    other.play();
-    EXPECT_EQ(other.log, (Log{"button press 5,5", "button release 5,5", "button press double 5,5",
+    stage.script.then([&] { stage.backend.addInput(0, second); });
+    stage.play();
+    EXPECT_EQ(stage.log, (Log{"button press 5,5", "button release 5,5", "button press double 5,5",
                               "button release 5,5", "panel press 15,15", "panel release 15,15",
                               "panel press double 15,15", "panel release 15,15", "panel press 15,15"}));
 }
@@ -120,51 +105,33 @@ TEST(Pointer, EachWindowIsAskedAndItsParentAnswersForIt) {
     Stage stage;
     CursorImage hand;
     const CursorImage* arrow = stage.backend.cursor();
-    bool gameRuns = true;
     const Window main = stage.open({.cursor = [&](Point p) -> std::optional<Cursor> {
-        if (gameRuns && p.x >= 50) {
-            return &hand;
-        }
-        return std::nullopt;
+        return p.x >= 50 ? std::optional<Cursor>(&hand) : std::nullopt;
     }});
     const Window silent = stage.desktop.create({.parent = main, .bounds = {40, 0, 100, 50}});
-    const Window edit = stage.desktop.create(
-        {.parent = main,
-         .bounds = {0, 50, 40, 100},
-         .handlers = {.cursor = [](Point) -> std::optional<Cursor> { return StandardCursor::beam; }}});
+    WindowHandlers beamed{.cursor = [](Point) -> std::optional<Cursor> { return StandardCursor::beam; }};
+    const Window edit =
+        stage.desktop.create({.parent = main, .bounds = {0, 50, 40, 100}, .handlers = std::move(beamed)});
     const auto shows = [&](const CursorImage* image, const char* where) {
         return [&stage, image, where] { EXPECT_EQ(stage.backend.cursor(), image) << where; };
     };
-    stage.script.moveTo({45, 5})
-        .then(shows(arrow, "nobody answers"))
-        .moveTo({60, 5})
-        .then(shows(&hand, "the parent, in its own coordinates"))
-        .moveTo({5, 60})
-        .then([&] {
-            EXPECT_NE(stage.backend.cursor(), arrow);
-            EXPECT_NE(stage.backend.cursor(), &hand);
-            edit.hide();
-        })
-        .wait(1)
-        .then(shows(arrow, "the window under the pointer went away"))
-        .moveTo({60, 5})
-        .then([&] {
-            silent.capture();
-            stage.desktop.setCursor(StandardCursor::hidden);
-        })
-        .moveTo({5, 60})
-        .then(shows(nullptr, "nobody is asked while the mouse is captured"))
-        .then([&] {
-            stage.desktop.create({.bounds = {0, 0, 20, 20}}).destroy();
-        })
-        .wait(1)
-        .then([&] {
-            const Window dialog = stage.desktop.create({.owner = main, .bounds = {0, 0, 20, 20}});
-            stage.desktop.runModal(dialog, [&] { return stage.dialogIsFinished; });
-        })
-        .moveTo({60, 5})
-        .then(shows(arrow, "locked by the dialog"))
-        .then([&] { stage.dialogIsFinished = true; });
+    stage.script.moveTo({45, 5}).then(shows(arrow, "nobody answers"));
+    stage.script.moveTo({60, 5}).then(shows(&hand, "the parent, in its own coordinates"));
+    stage.script.moveTo({5, 60}).then([&] {
+        EXPECT_NE(stage.backend.cursor(), arrow);
+        EXPECT_NE(stage.backend.cursor(), &hand);
+        edit.hide();
+    });
+    stage.script.wait(1).then(shows(arrow, "the window under the pointer went away"));
+    stage.script.moveTo({60, 5}).then([&] {
+        silent.capture();
+        stage.desktop.setCursor(StandardCursor::hidden);
+    });
+    stage.script.moveTo({5, 60}).then(shows(nullptr, "nobody is asked while the mouse is captured"));
+    stage.script.then([&] { stage.open({}, {0, 0, 20, 20}).destroy(); }).wait(1);
+    stage.script.then([&] { stage.runDialog(main); });
+    stage.script.moveTo({60, 5}).then(shows(arrow, "locked by the dialog"));
+    stage.script.then([&] { stage.dialogIsFinished = true; });
     stage.play();
 }
 

@@ -47,14 +47,14 @@ TEST(Loop, TimersKeepTheirPeriodAlsoUnderADialogWhileIdleStandsStill) {
     Window main;
     std::vector<Millis> ticks;
     int idleCalls = 0;
-    main = stage.open({.command = [&](const CommandInput&) { stage.runDialog(main); },
-                       .timer =
-                           [&](int number) {
-                               ticks.push_back(stage.desktop.now() - start);
-                               if (number == 2 && ticks.size() == 3) {
-                                   main.stopTimer(2);
-                               }
-                           }});
+    WindowHandlers handlers{.command = [&](const CommandInput&) { stage.runDialog(main); }};
+    handlers.timer = [&](int number) {
+        ticks.push_back(stage.desktop.now() - start);
+        if (number == 2 && ticks.size() == 3) {
+            main.stopTimer(2);
+        }
+    };
+    main = stage.open(std::move(handlers));
     main.startTimer(2, 700);
     main.startTimer(2, 100);
     stage.desktop.setIdle([&]() -> std::optional<Millis> {
@@ -62,14 +62,12 @@ TEST(Loop, TimersKeepTheirPeriodAlsoUnderADialogWhileIdleStandsStill) {
         return stage.desktop.now() + 10;
     });
     int idleCallsBefore = 0;
-    stage.script
-        .then([&] {
-            main.sendCommand(1);
-            EXPECT_EQ(idleCalls, idleCallsBefore);
-        })
-        .then([&] { idleCallsBefore = idleCalls; })
-        .wait(1000)
-        .then([&] { stage.dialogIsFinished = true; });
+    stage.script.then([&] {
+        main.sendCommand(1);
+        EXPECT_EQ(idleCalls, idleCallsBefore);
+    });
+    stage.script.then([&] { idleCallsBefore = idleCalls; }).wait(1000);
+    stage.script.then([&] { stage.dialogIsFinished = true; });
     stage.play();
     EXPECT_EQ(ticks, (std::vector<Millis>{100, 200, 300}));
     EXPECT_EQ(stage.log, Log{"ended"});
@@ -123,15 +121,14 @@ TEST(Loop, QuitEndsEveryNestedLoopAtOnce) {
     Stage stage;
     Window main;
     int later = 0;
-    main = stage.open({.press = [&](const MouseInput&) { ++later; },
-                       .command =
-                           [&](const CommandInput&) {
-                               stage.runDialog(main);
-                               stage.log.emplace_back(stage.desktop.pumpMessages() ? "goes on" : "stops");
-                           },
-                       .timer = [&](int) { ++later; },
-                       .activate = [&](Activation) { ++later; },
-                       .destroyed = [&] { stage.log.emplace_back("destroyed"); }});
+    const auto countLater = [&](const auto&...) { ++later; };
+    WindowHandlers handlers{.press = countLater, .timer = countLater, .activate = countLater};
+    handlers.command = [&](const CommandInput&) {
+        stage.runDialog(main);
+        stage.log.emplace_back(stage.desktop.pumpMessages() ? "goes on" : "stops");
+    };
+    handlers.destroyed = stage.note("destroyed");
+    main = stage.open(std::move(handlers));
     later = 0;
     main.post([&] {
         stage.log.emplace_back(stage.desktop.pumpUntil(stage.desktop.now() + 5000) ? "reached" : "cut short");

@@ -94,14 +94,13 @@ TEST(Painting, TheScreenAlwaysShowsWhatLiesOnTop) {
     Vandal vandal(stage);
     int differences = 0;
     for (int round = 0; round < 400; ++round) {
-        stage.script.wait(1)
-            .then([&, round] {
-                for (int change = 0; change <= round % 3; ++change) {
-                    vandal.act();
-                }
-            })
-            .wait(1)
-            .then([&] { differences += stage.backend.screen() == vandal.expected() ? 0 : 1; });
+        stage.script.wait(1).then([&, round] {
+            for (int change = 0; change <= round % 3; ++change) {
+                vandal.act();
+            }
+        });
+        stage.script.wait(1);
+        stage.script.then([&] { differences += stage.backend.screen() == vandal.expected() ? 0 : 1; });
     }
     stage.play();
     EXPECT_EQ(differences, 0);
@@ -112,17 +111,13 @@ TEST(Painting, DrawingBetweenPaintsStaysAndSendsOnlyItsOwnPixels) {
     Stage stage;
     const Window main = stage.open(paintedIn(red));
     stage.desktop.create({.parent = main, .bounds = {20, 20, 40, 40}, .handlers = paintedIn(green)});
-    stage.script.then([&] {
-                    main.canvas().invert(Rect{10, 30, 50, 32});
-                })
-        .wait(5)
-        .then([&] {
-            EXPECT_EQ(screenAt(stage, {15, 31}), Colour::rgb(0, 255, 255));
-            EXPECT_EQ(screenAt(stage, {25, 31}), green) << "the child lies on top";
-            ASSERT_EQ(stage.backend.lastSending().changed.size(), 1U);
-            EXPECT_EQ(stage.backend.lastSending().changed[0], (Rect{10, 30, 50, 32}));
-            main.invalidate({0, 0, 200, 31});
-        });
+    stage.script.then([&] { main.canvas().invert(Rect{10, 30, 50, 32}); });
+    stage.script.wait(5).then([&] {
+        EXPECT_EQ(screenAt(stage, {15, 31}), Colour::rgb(0, 255, 255));
+        EXPECT_EQ(screenAt(stage, {25, 31}), green) << "the child lies on top";
+        EXPECT_EQ(stage.backend.lastSending().changed, (std::vector<Rect>{{10, 30, 50, 32}}));
+        main.invalidate({0, 0, 200, 31});
+    });
     stage.script.wait(5).then([&] {
         EXPECT_EQ(screenAt(stage, {15, 30}), red);
         EXPECT_EQ(screenAt(stage, {15, 31}), Colour::rgb(0, 255, 255)) << "not painted since";
@@ -135,39 +130,34 @@ TEST(Painting, OnlyWhatWasMarkedIsPaintedAndOnce) {
     Stage stage;
     std::vector<Rect> painted;
     int childPaints = 0;
-    Window child;
     const Window main =
         stage.open({.paint = [&](Canvas&, const Rect& update) { painted.push_back(update); }});
-    child = stage.desktop.create({.parent = main,
-                                  .bounds = {100, 100, 150, 150},
-                                  .background = blue,
-                                  .handlers = {.paint = [&](Canvas&, const Rect&) { ++childPaints; }}});
-    stage.script
-        .then([&] {
-            painted.clear();
-            childPaints = 0;
-            main.invalidate({10, 10, 20, 20});
-            main.invalidate({40, 10, 50, 30});
-        })
-        .wait(1)
-        .then([&] {
-            EXPECT_EQ(painted, (std::vector<Rect>{{10, 10, 50, 30}}));
-            EXPECT_EQ(childPaints, 0);
-            main.invalidateAll();
-            main.hide();
-        })
-        .wait(1)
-        .then([&] {
-            EXPECT_EQ(childPaints, 0) << "a hidden window paints nothing";
-            main.show();
-            main.update();
-            EXPECT_EQ(childPaints, 1) << "update does not wait for the loop";
-        })
-        .wait(1)
-        .then([&] {
-            EXPECT_EQ(childPaints, 1);
-            EXPECT_EQ(screenAt(stage, {120, 120}), blue) << "the background needs no handler";
-        });
+    stage.desktop.create({.parent = main,
+                          .bounds = {100, 100, 150, 150},
+                          .background = blue,
+                          .handlers = {.paint = [&](Canvas&, const Rect&) { ++childPaints; }}});
+    stage.script.then([&] {
+        painted.clear();
+        childPaints = 0;
+        main.invalidate({10, 10, 20, 20});
+        main.invalidate({40, 10, 50, 30});
+    });
+    stage.script.wait(1).then([&] {
+        EXPECT_EQ(painted, (std::vector<Rect>{{10, 10, 50, 30}}));
+        EXPECT_EQ(childPaints, 0);
+        main.invalidateAll();
+        main.hide();
+    });
+    stage.script.wait(1).then([&] {
+        EXPECT_EQ(childPaints, 0) << "a hidden window paints nothing";
+        main.show();
+        main.update();
+        EXPECT_EQ(childPaints, 1) << "update does not wait for the loop";
+    });
+    stage.script.wait(1).then([&] {
+        EXPECT_EQ(childPaints, 1);
+        EXPECT_EQ(screenAt(stage, {120, 120}), blue) << "the background needs no handler";
+    });
     stage.play();
 }
 
@@ -191,10 +181,7 @@ TEST(Painting, APaintHandlerMayResizeOrDestroyItsWindow) {
         first.setBounds({0, 0, 10, 10});
         canvas.fill(update, red);
     }});
-    second = stage.open({.paint = [&](Canvas& canvas, const Rect& update) {
-        second.destroy();
-        canvas.fill(update, green);
-    }});
+    second = stage.open({.paint = [&](Canvas&, const Rect&) { second.destroy(); }});
     stage.script.wait(5).then([&] {
         EXPECT_EQ(screenAt(stage, {5, 5}), red);
         EXPECT_EQ(screenAt(stage, {50, 50}), Colour{});

@@ -31,15 +31,6 @@ Bitmap picture() {
     return bitmap;
 }
 
-PngForm formOf(unsigned bitDepth, unsigned colourType, bool interlaced, Bytes chunks = {}) {
-    return {static_cast<std::uint32_t>(size.width),
-            static_cast<std::uint32_t>(size.height),
-            bitDepth,
-            colourType,
-            interlaced,
-            std::move(chunks)};
-}
-
 /// Any channel value with low bytes that have to be left out.
 Bytes wide(unsigned value) {
     return bytes({value, value});
@@ -52,24 +43,21 @@ Bytes colours(std::uint32_t x, std::uint32_t y) {
 /// The picture in every form that can hold it.
 std::vector<Bytes> forms() {
     std::vector<Bytes> files;
+    Bytes table;
+    for (std::uint32_t i = 0; i < 15; ++i) {
+        table = table + colours(i % 5, i / 5);
+    }
     for (const bool interlaced : {false, true}) {
-        const PngForm plain = formOf(8, 2, interlaced);
-        files.push_back(pngFile(plain, pngRows(plain, colours)));
-        const PngForm deep = formOf(16, 2, interlaced);
-        files.push_back(pngFile(deep, pngRows(deep, [](std::uint32_t x, std::uint32_t y) {
-                                    return wide(red(x, y)) + wide(green(x, y)) + wide(blue(x, y));
-                                })));
-        const PngForm opaque = formOf(8, 6, interlaced);
-        files.push_back(pngFile(opaque, pngRows(opaque, [](std::uint32_t x, std::uint32_t y) {
-                                    return colours(x, y) + bytes({255});
-                                })));
-        Bytes table;
-        for (std::uint32_t i = 0; i < 15; ++i) {
-            table = table + colours(i % 5, i / 5);
-        }
-        const PngForm indexed = formOf(8, 3, interlaced, pngChunk("PLTE", table));
-        files.push_back(pngFile(
-            indexed, pngRows(indexed, [](std::uint32_t x, std::uint32_t y) { return bytes({x + 5 * y}); })));
+        const auto add = [&](unsigned bitDepth, unsigned colourType, const auto& pixel, Bytes chunks = {}) {
+            const PngForm form{5, 3, bitDepth, colourType, interlaced, std::move(chunks)};
+            files.push_back(pngFile(form, pngRows(form, pixel)));
+        };
+        using At = std::uint32_t;
+        add(8, 2, colours);
+        add(16, 2, [](At x, At y) { return wide(red(x, y)) + wide(green(x, y)) + wide(blue(x, y)); });
+        add(8, 6, [](At x, At y) { return colours(x, y) + bytes({255}); });
+        add(
+            8, 3, [](At x, At y) { return bytes({x + 5 * y}); }, pngChunk("PLTE", table));
     }
     files.push_back(encodePng(picture()));
     return files;

@@ -32,10 +32,8 @@ TEST_F(FieldTest, TheClipboardKeepsToTheLimitAndToOneLine) {
     field.window.focus();
     stage.script.type("abcdefgh");
     expectText("abcdef");
-    stage.script.key(Key::home)
-        .key(Key::right, withShift)
-        .key(Key::right, withShift)
-        .key(Key::x, withControl);
+    stage.script.key(Key::home).key(Key::right, withShift).key(Key::right, withShift);
+    stage.script.key(Key::x, withControl);
     expectText("cdef");
     stage.script.then([this] { EXPECT_EQ(stage.backend.clipboard(), "ab"); });
     stage.script.then([this] { stage.backend.setClipboard("1\n2345"); });
