@@ -10,7 +10,7 @@ namespace ventrel {
 namespace {
 
 struct StripsStage : ConsoleStage {
-    explicit StripsStage(Size size = smallWindow) : ConsoleStage(size) { StripsCreate(strips, main, size); }
+    StripsStage() { StripsCreate(strips, main, smallWindow); }
 
     Strips strips{.sources = {game, fonts, arrow}, .callbacks = {.press = [this](int slot) {
                                                        log.push_back("press " + std::to_string(slot));

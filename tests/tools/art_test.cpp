@@ -97,34 +97,32 @@ TEST(Art, ClearPartsAreExactlyTheKeyAndNothingElseComesNearIt) {
         const Bitmap bitmap = picture(name);
         int nearKey = 0;
         int drawn = 0;
+        int onRim = 0;
         for (int y = 0; y < bitmap.height(); ++y) {
             for (int x = 0; x < bitmap.width(); ++x) {
+                if (isKey(bitmap, x, y)) {
+                    continue;
+                }
                 const Colour colour = toColour(bitmap.at(x, y));
                 const bool isYellow = colour.red() > 180 && colour.green() > 180 && colour.blue() < 100;
-                drawn += isKey(bitmap, x, y) ? 0 : 1;
-                nearKey += isYellow && !isKey(bitmap, x, y) ? 1 : 0;
+                nearKey += isYellow ? 1 : 0;
+                ++drawn;
+                onRim += bitmap.bounds().grownBy(-1).contains(Point{x, y}) ? 0 : 1;
             }
         }
         const int area = bitmap.width() * bitmap.height();
         EXPECT_EQ(nearKey, 0) << name;
         EXPECT_GT(drawn * 100, area * 10) << name;
         EXPECT_LT(drawn * 100, area * 85) << name;
+        EXPECT_TRUE(onRim == 0 || !name.starts_with("cloud")) << name << " is cut straight";
     }
 }
 
-TEST(Art, CloudsDifferAndAreNowhereCutStraight) {
+TEST(Art, EveryCloudHasASizeOfItsOwn) {
     std::set<std::pair<int, int>> sizes;
     for (int i = 0; i < cloudPictures; ++i) {
-        const Bitmap cloud = picture(cloudName(i));
-        sizes.insert({cloud.width(), cloud.height()});
-        bool isCut = false;
-        for (int x = 0; x < cloud.width(); ++x) {
-            isCut = isCut || !isKey(cloud, x, 0) || !isKey(cloud, x, cloud.height() - 1);
-        }
-        for (int y = 0; y < cloud.height(); ++y) {
-            isCut = isCut || !isKey(cloud, 0, y) || !isKey(cloud, cloud.width() - 1, y);
-        }
-        EXPECT_FALSE(isCut) << cloudName(i);
+        const Size size = picture(cloudName(i)).size();
+        sizes.insert({size.width, size.height});
     }
     EXPECT_EQ(sizes.size(), std::size_t{cloudPictures});
 }

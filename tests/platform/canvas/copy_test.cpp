@@ -90,25 +90,5 @@ TEST(Copies, OfACanvasOntoItselfAreTakenBeforeTheyAreDrawn) {
     }
 }
 
-TEST(Copies, LeaveTheGroundWhereThePictureIsTransparent) {
-    Bitmap cloud({3, 2});
-    Canvas(cloud).fill(cloud.bounds(), yellow);
-    cloud.at(1, 1) = 0xFFFF01; // nearly yellow is not transparent
-    Bitmap target = patterned({4, 4});
-    Canvas(target).drawTransparent({-1, 1}, cloud, yellow);
-    Bitmap expected = patterned({4, 4});
-    expected.at(0, 2) = 0xFFFF01;
-    EXPECT_EQ(target, expected);
-}
-
-TEST(Copies, LayColourThroughAMask) {
-    Bitmap target({4, 1});
-    Canvas(target).fill(target.bounds(), Colour::rgb(200, 100, 0));
-    const std::array<std::uint8_t, 6> coverage{255, 255, 255, 255, 0, 128};
-    Canvas(target).drawMask({1, -1}, {{3, 2}, coverage}, Colour::rgb(0, 100, 255));
-    const std::array<Pixel, 4> expected{0xC86400, 0x0064FF, 0xC86400, 0x646480};
-    EXPECT_TRUE(std::equal(expected.begin(), expected.end(), target.pixels().begin()));
-}
-
 } // namespace
 } // namespace ventrel

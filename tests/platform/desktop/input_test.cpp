@@ -91,11 +91,11 @@ TEST(Mouse, TheWheelIsPassedOnToTheParent) {
         stage.log.push_back("main " + std::to_string(notches));
         return true;
     }});
-    stage.desktop.create(
-        {.parent = main, .bounds = {0, 0, 50, 50}, .handlers = {.wheel = [&](int notches) {
-                                                       stage.log.push_back("list " + std::to_string(notches));
-                                                       return notches > 0;
-                                                   }}});
+    const auto upOnly = [&](int notches) {
+        stage.log.push_back("list " + std::to_string(notches));
+        return notches > 0;
+    };
+    stage.desktop.create({.parent = main, .bounds = {0, 0, 50, 50}, .handlers = {.wheel = upOnly}});
     stage.script.wheel({10, 10}, 1).wheel({10, 10}, -2);
     stage.play();
     EXPECT_EQ(stage.log, (Log{"list 1", "list -2", "main -2"}));

@@ -1,7 +1,5 @@
 // The loop: order, sleep, timers, nested loops and how they end.
 
-#include <stdexcept>
-
 #include "stage.h"
 
 namespace ventrel {
@@ -165,19 +163,6 @@ TEST(Loop, AFloodOfMessagesFreezesNeitherPictureNorClock) {
     stage.play();
     EXPECT_EQ(messages, 100'000);
     EXPECT_GE(paints, 50);
-}
-
-TEST(Loop, AProgramThatWouldHangIsFoundOut) {
-    Stage stage;
-    stage.open();
-    EXPECT_THROW(stage.desktop.run(), std::logic_error);
-    bool told = false;
-    stage.backend.whenTimelineEnds = [&] {
-        told = true;
-        stage.desktop.quit();
-    };
-    stage.desktop.run();
-    EXPECT_TRUE(told);
 }
 
 } // namespace

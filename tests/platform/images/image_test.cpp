@@ -143,12 +143,11 @@ TEST(Images, ThatClaimToBeGiantAreRefusedUnread) {
 TEST(Images, AreReadFromFilesAndAMissingFileLeavesTheBitmapAlone) {
     Image image;
     Bitmap bitmap({7, 7});
-    EXPECT_EQ(ImageToBitmap(image, bitmap), ImageError::noPixels);
     EXPECT_EQ(ImageLoadFile(image, dataFolder / "colour.jpg", ImageFormat::jpeg), ImageError::none);
-    EXPECT_EQ(image.width, 16U);
-    EXPECT_EQ(ImageLoadFile(image, dataFolder / "missing.jpg", ImageFormat::jpeg), ImageError::cannotOpen);
-    EXPECT_EQ(ImageLoadFile(image, dataFolder, ImageFormat::jpeg), ImageError::cannotOpen);
-    EXPECT_EQ(ImageToBitmap(image, bitmap), ImageError::noPixels);
+    for (const auto& path : {dataFolder / "missing.jpg", dataFolder}) {
+        EXPECT_EQ(ImageLoadFile(image, path, ImageFormat::jpeg), ImageError::cannotOpen);
+        EXPECT_EQ(ImageToBitmap(image, bitmap), ImageError::noPixels);
+    }
     EXPECT_EQ(bitmap, Bitmap({7, 7}));
 }
 

@@ -29,12 +29,12 @@ struct Stage {
 };
 
 TEST(Gallery, LooksAsItDidAtBothSizes) {
-    Stage small({800, 600});
-    small.script.then([&] { expectGolden(small.backend.screen(), "gallery_800"); });
-    small.play();
-    Stage large({1024, 768});
-    large.script.then([&] { expectGolden(large.backend.screen(), "gallery_1024"); });
-    large.play();
+    for (const auto& [size, name] :
+         {std::pair{Size{800, 600}, "gallery_800"}, {{1024, 768}, "gallery_1024"}}) {
+        Stage stage(size);
+        stage.play();
+        expectGolden(stage.backend.screen(), name);
+    }
 }
 
 TEST(Gallery, LooksAsItDidWithSomethingOpen) {
