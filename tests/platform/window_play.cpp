@@ -45,14 +45,6 @@ public:
             script_.click(at, button == "right" ? MouseButton::right : MouseButton::left);
         } else if (verb == "doubleclick") {
             script_.doubleClick(point());
-        } else if (verb == "wheel") {
-            const Point at = point();
-            std::string direction;
-            words >> direction;
-            script_.wheel(at, direction == "up" ? 1 : -1);
-        } else if (verb == "drag") {
-            const Point from = point();
-            script_.drag(from, point());
         } else if (verb == "close") {
             script_.window(WindowEvent::closeRequested);
         } else {

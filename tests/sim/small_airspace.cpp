@@ -111,10 +111,6 @@ void putDoubleWord(std::vector<std::byte>& file, std::size_t offset, std::uint32
     putWord(file, offset + 2, value >> 16U);
 }
 
-FailureReporter Reports::reporter() {
-    return [this](std::string_view text, MessageIcon) { texts.emplace_back(text); };
-}
-
 TestGame::TestGame(const SmallAirspace& airspace) : game{airspace.game()} {
     game.gameRunning = true;
     game.flights.reserve(mostPlanes); // so that flights may be kept by reference

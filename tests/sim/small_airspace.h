@@ -43,7 +43,9 @@ void putDoubleWord(std::vector<std::byte>& file, std::size_t offset, std::uint32
 /// Collects reports instead of showing them.
 struct Reports {
     std::vector<std::string> texts;
-    FailureReporter reporter();
+    FailureReporter reporter() {
+        return [this](std::string_view text, MessageIcon) { texts.emplace_back(text); };
+    }
 };
 
 /// Writes everything that happens as one line each, in order: "13 text", "radio words", "lamp 1", "score -100

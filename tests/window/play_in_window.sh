@@ -8,7 +8,7 @@
 #     key alt+f              a key as xdotool names it, with its modifiers (alt+ ctrl+ shift+)
 #     type mary              a text
 #     move X Y               the mouse, in the pixels of the window
-#     click X Y [right]      doubleclick X Y     wheel X Y up|down     drag X Y X Y
+#     click X Y [right]      doubleclick X Y
 #     says LINE              the program writes that line, after those that were found before
 #     sees X Y RRGGBB        that pixel of the window gets that colour
 #     titled TITLE           the window gets that title
@@ -124,16 +124,6 @@ step() {
     doubleclick)
         move "$1" "$2"
         xdotool click --repeat 2 --delay 40 1
-        ;;
-    wheel)
-        move "$1" "$2"
-        if [ "$3" = up ]; then xdotool click 4; else xdotool click 5; fi
-        ;;
-    drag)
-        move "$1" "$2"
-        xdotool mousedown 1
-        move "$3" "$4"
-        xdotool mouseup 1
         ;;
     says) until_true "says $rest" says "$rest" ;;
     sees) until_true "sees $rest" sees "$@" ;;

@@ -56,12 +56,6 @@ Rect inkOf(const Bitmap& bitmap) {
     return ink;
 }
 
-TEST_F(Fonts, GiveDialogsTheirUnits) {
-    EXPECT_EQ(font(dialogs).averageWidth(), 6);
-    EXPECT_EQ(font(dialogs).lineHeight(), 13);
-    EXPECT_EQ(font(tags).lineHeight(), 10);
-}
-
 TEST_F(Fonts, KeepEveryCharacterOfATagApart) {
     for (const FontRequest& request : all) {
         std::map<std::vector<Pixel>, char> pictures;
