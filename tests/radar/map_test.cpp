@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "golden.h"
 #include "radar_stage.h"
 
@@ -43,11 +45,13 @@ protected:
     /// An airport of every heading with its label at two of its places, and a fix of each place.
     Bitmap sheet(const RadarLayout& layout) {
         constexpr int pitch = 110;
+        // By runway axis: the places at which the label has to give way to a slanting runway come up.
+        constexpr std::array<std::array<int, 2>, 4> places{{{0, 2}, {1, 2}, {1, 3}, {0, 3}}};
         Bitmap picture({4 * pitch, 5 * pitch});
         Canvas canvas(picture);
         const auto middle = [](int i) { return Point{i % 4 * pitch + pitch / 2, i / 4 * pitch + pitch / 2}; };
         for (int i = 0; i < 16; ++i) {
-            const int labelPlace = i < 8 ? i % 2 : 2 + i % 2;
+            const int labelPlace = places[static_cast<std::size_t>(i % 4)][static_cast<std::size_t>(i / 8)];
             DrawAirport(canvas, layout, airport(middle(i), i % 8 * headingStep, labelPlace), labels(layout));
         }
         for (int place = 0; place < 4; ++place) {

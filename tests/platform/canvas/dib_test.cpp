@@ -34,6 +34,8 @@ std::vector<Bytes> forms() {
     return {infoHeader(2, 2, 4, 4) + table + bytes({0x23, 9, 9, 9, 0x01, 9, 9, 9}),
             infoHeader(2, 2, 8, 4) + table + bytes({2, 3, 9, 9, 0, 1, 9, 9}),
             infoHeader(2, -2, 8, 4) + table + bytes({0, 1, 9, 9, 2, 3, 9, 9}),
+            infoHeader(2, 2, 4) + table + Bytes(12 * 4) + bytes({0x23, 9, 9, 9, 0x01, 9, 9, 9}),
+            infoHeader(2, 2, 8) + table + Bytes(252 * 4) + bytes({2, 3, 9, 9, 0, 1, 9, 9}),
             infoHeader(2, 2, 24) + direct,
             coreHeader(2, 2, 24) + direct,
             infoHeader(2, 2, 32) + bytes({255, 0, 0, 9, 255, 255, 255, 9, 0, 0, 255, 9, 0, 255, 0, 9})};
