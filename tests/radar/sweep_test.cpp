@@ -51,10 +51,10 @@ TEST(SweepTest, RunsAlongTheTopAndTheRightEdgeAndBack) {
     EXPECT_EQ(after(1), (Point{1, 0})) << "and outward again";
 }
 
-class SweepOnEitherScope : public ::testing::TestWithParam<RadarLayout> {};
+class SweepOnEitherScope : public ::testing::TestWithParam<int> {}; // by the window's width
 
 TEST_P(SweepOnEitherScope, LeavesNoTrail) {
-    SweepStage stage(GetParam());
+    SweepStage stage(GetParam() == smallWindow.width ? smallRadarLayout : largeRadarLayout);
     for (int i = 0; i < 30; ++i) {
         stage.flyAt({6 + i % 6 * 6, 8 + i / 6 * 7}, i % 8 * 45).activatedAt = stage.clock;
     }
@@ -72,7 +72,7 @@ TEST_P(SweepOnEitherScope, LeavesNoTrail) {
 }
 
 INSTANTIATE_TEST_SUITE_P(SweepTest, SweepOnEitherScope,
-                         ::testing::Values(smallRadarLayout, largeRadarLayout));
+                         ::testing::Values(smallWindow.width, largeWindow.width));
 
 TEST(SweepTest, StepsOnePixelEverySixMillisecondsAndTenAfterAFrame) {
     SweepStage stage;

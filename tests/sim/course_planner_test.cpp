@@ -29,6 +29,16 @@ std::vector<int> headings(const Flight& flight) {
 
 using Headings = std::vector<int>;
 
+TEST(Course, IsNotMadeForATargetBesideTheFlight) {
+    for (const Cell beside : {Cell{10, 10}, Cell{9, 11}, Cell{11, 10}}) {
+        Flight flight = flightAt({10, 10}, 5, 0);
+        flight.plan[0].directTarget = 77;
+        EXPECT_FALSE(buildCourse(flight, targetAt(beside), 2, 10));
+        EXPECT_EQ(flight.planLength, 1);
+        EXPECT_EQ(flight.plan[0].directTarget, 77);
+    }
+}
+
 TEST(Course, TurnsRightForATargetBehindButLeftFromTheWest) {
     // By eighths: every heading with its target straight behind.
     for (int heading = 0; heading < 360; heading += 45) {

@@ -184,35 +184,31 @@ TEST(Art, WellsUnderTextAreDarkToTheirEdges) {
     }
 }
 
-TEST(Art, TheAltitudeBarCoversTheMarkOfItsAltitude) {
+TEST(Art, ThePanelsBarLampsAndNeedleLieOnTheirArtwork) {
     for (const Console& console : consoles) {
+        SCOPED_TRACE(console.picture);
         const Bitmap panel = panelGround(picture(console.picture));
+        const auto row = [&](int y) { return brightness(panel, {113, y, 150, y + 1}); };
         for (int altitude = 1; altitude <= 10; ++altitude) {
             const int top = 93 - 9 * altitude;
-            const auto row = [&](int y) { return brightness(panel, {113, y, 150, y + 1}); };
-            EXPECT_LT(row(top), 70) << console.picture << ' ' << altitude;
-            EXPECT_GT(row(top), 8 + row(top - 1)) << console.picture << ' ' << altitude;
-            EXPECT_GT(row(top + 2), 8 + row(top + 3)) << console.picture << ' ' << altitude;
+            EXPECT_LT(row(top), 70) << altitude;
+            EXPECT_GT(row(top), 8 + row(top - 1)) << altitude;
+            EXPECT_GT(row(top + 2), 8 + row(top + 3)) << altitude;
         }
-    }
-}
-
-TEST(Art, SpeedLampsAndNeedleLieOnTheirArtwork) {
-    for (const Console& console : consoles) {
-        const Bitmap panel = panelGround(picture(console.picture));
         for (const int lens : {13, 33, 53}) {
             const int unlit = brightness(panel, {95, lens, 101, lens + 5});
-            EXPECT_LT(unlit, 70) << console.picture;
-            EXPECT_GT(unlit, 15 + brightness(panel, {95, lens - 1, 101, lens})) << console.picture;
-            EXPECT_GT(unlit, 15 + brightness(panel, {94, lens, 95, lens + 5})) << console.picture;
-            EXPECT_GT(unlit, 15 + brightness(panel, {101, lens, 102, lens + 5})) << console.picture;
+            EXPECT_LT(unlit, 70) << lens;
+            for (const Rect rim :
+                 {Rect{95, lens - 1, 101, lens}, {94, lens, 95, lens + 5}, {101, lens, 102, lens + 5}}) {
+                EXPECT_GT(unlit, 15 + brightness(panel, rim)) << lens;
+            }
         }
-        EXPECT_LT(brightness(panel, {38, 27, 44, 44}), 40) << console.picture;
+        EXPECT_LT(brightness(panel, {38, 27, 44, 44}), 40);
         // The needle points at a mark on each of its eight headings.
         for (const Point tip :
              {Point{47, 9}, {66, 16}, {74, 35}, {66, 54}, {47, 62}, {28, 54}, {20, 35}, {28, 16}}) {
             const Rect mark{tip.x - 1, tip.y - 1, tip.x + 1, tip.y + 1};
-            EXPECT_GT(brightness(panel, mark), 70) << console.picture << ' ' << tip.x << ' ' << tip.y;
+            EXPECT_GT(brightness(panel, mark), 70) << tip.x << ' ' << tip.y;
         }
     }
 }

@@ -138,18 +138,18 @@ TEST(Pointer, EachWindowIsAskedAndItsParentAnswersForIt) {
 TEST(Keys, GoToTheFocusAndUpAndTheirTextIsSpentWhenHandled) {
     Stage stage;
     const auto keys = [&](const std::string& name, Key handled) {
-        return WindowHandlers{.key =
-                                  [&stage, name, handled](const KeyEvent& key) {
-                                      if (key.down) {
-                                          stage.log.push_back(name);
-                                      }
-                                      return key.key == handled;
-                                  },
-                              .text =
-                                  [&stage, name](std::string_view text) {
-                                      stage.log.push_back(name + " " + std::string(text));
-                                      return name == "edit";
-                                  }};
+        WindowHandlers handlers;
+        handlers.key = [&stage, name, handled](const KeyEvent& key) {
+            if (key.down) {
+                stage.log.push_back(name);
+            }
+            return key.key == handled;
+        };
+        handlers.text = [&stage, name](std::string_view text) {
+            stage.log.push_back(name + " " + std::string(text));
+            return name == "edit";
+        };
+        return handlers;
     };
     const Window dialog = stage.open(keys("dialog", Key::a));
     const Window edit =
