@@ -56,11 +56,13 @@ TEST_F(MenuTest, LettersWorkWithAltHeldAndInSubmenus) {
     EXPECT_EQ(track(), 13);
 }
 
-TEST_F(MenuTest, ArrowsSkipSeparatorsAndStopAtNeitherEnd) {
+TEST_F(MenuTest, ArrowsSkipSeparatorsStopAtNeitherEndAndLikeEscLeaveOneLevel) {
     // From the last item round to the first, back past the last onto "Speed", into it, and out again.
     stage.script.key(Key::end).key(Key::down).key(Key::up).key(Key::up).key(Key::right);
     expectWindows(2);
     stage.script.key(Key::left);
+    expectWindows(1);
+    stage.script.key(Key::right).key(Key::escape);
     expectWindows(1);
     stage.script.key(Key::right).key(Key::down).key(Key::enter);
     EXPECT_EQ(track(), 13);
