@@ -175,7 +175,7 @@ bool RadarCollisionRings(RadarWindow& radar, FlightIndex flight) {
         if (!radar.desktop.pumpUntil(next)) {
             return false;
         }
-    } while (radar.desktop.now() < end);
+    } while (radar.desktop.now() < end && !radar.sources.game.gameRunning);
     return true;
 }
 

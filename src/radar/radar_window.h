@@ -94,7 +94,8 @@ std::optional<Millis> RadarTick(RadarWindow& radar);
 /// Selects the flight at that radar pixel, unless the player is busy on the panel. Whether there is one.
 bool RadarSelectAt(RadarWindow& radar, Point point);
 
-/// Rings spread from the flight for eight seconds. False when the program is quitting.
+/// Rings spread from the flight for eight seconds, or until another game runs. False when the program is
+/// quitting.
 bool RadarCollisionRings(RadarWindow& radar, FlightIndex flight);
 
 } // namespace ventrel

@@ -31,8 +31,8 @@ void newGame(Shell& shell) {
     if (shell.game.gameRunning) {
         abandonGame(shell);
     }
-    onGameOver(shell); // a shift whose last line still scrolls does not end the next one
     if (const auto setup = runNewGameDialog(shell)) {
+        onGameOver(shell); // a shift whose last line still scrolls does not end the next one
         startGame(shell, *setup);
     }
 }

@@ -53,6 +53,9 @@ void endWithCollision(Shell& shell) {
     if (!RadarCollisionRings(shell.radar, shell.game.collisionFlights.front())) {
         return; // the program is quitting
     }
+    if (shell.game.gameRunning) {
+        return; // the player has begun the next game meanwhile
+    }
     shell.sounds.playMusic(collisionMusic, false);
     shell.mainWindow.releaseCapture();
     EndGame(shell);
@@ -102,6 +105,7 @@ void EndGame(Shell& shell) {
     emptyStrips(shell);
     ClockReset(shell.topBar);
     CtrlClearFlight(shell.panel);
+    CtrlResetTouch(shell.panel);
     LampsReset(shell.topBar);
     RadarHide(shell.radar);
 }
@@ -116,6 +120,8 @@ void endShift(Shell& shell, ShiftResult result) {
     shell.game.gameRunning = false;
     shell.mainWindow.capture();
     shell.sounds.stopMusic();
+    RadarRepaint(shell.radar);
+    shell.radar.window.update(); // the sweep has stopped: nothing would take its line away later
     if (result == ShiftResult::collision) {
         endWithCollision(shell);
     } else {

@@ -58,13 +58,6 @@ void open(NewGame& game, Dialog& dialog) {
     }
     dialog.edit(new_game::name).setLimit(nameLimit);
     dialog.setText(new_game::name, properName(profile.text(gameSection, nameKey, "").substr(0, nameLimit)));
-    game.catalogue = BuildAirportCatalogue(airportFolder(game.shell.programFolder),
-                                           game.shell.windowSize().width, game.shell.reporter());
-    if (game.catalogue.empty()) {
-        game.shell.report(StringTableText(TextId::noAirports), MessageIcon::information);
-        dialog.end(cancelId);
-        return;
-    }
     dialog.setText(new_game::airport, chosenAirport(game).name);
     game.wantsClouds = game.shell.options.stormTrak != 0;
     game.wantsDirectEntry = game.shell.options.directEntry != 0;
@@ -149,6 +142,12 @@ void onCommand(NewGame& game, Dialog& dialog, int id) {
 
 std::optional<GameSetup> runNewGameDialog(Shell& shell) {
     NewGame game{.shell = shell};
+    game.catalogue =
+        BuildAirportCatalogue(airportFolder(shell.programFolder), shell.windowSize().width, shell.reporter());
+    if (game.catalogue.empty()) {
+        shell.report(StringTableText(TextId::noAirports), MessageIcon::information);
+        return std::nullopt;
+    }
     const int result =
         runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, new_game::shape,
                   {.init = [&game](Dialog& dialog) { open(game, dialog); },

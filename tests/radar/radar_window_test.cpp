@@ -95,6 +95,7 @@ TEST(CollisionTest, RingsSpreadOverTheScopeForEightSeconds) {
     RadarStage stage;
     stage.flyAt({24, 24});
     stage.frame();
+    stage.game.gameRunning = false;
     const Millis start = stage.backend.now();
     EXPECT_TRUE(RadarCollisionRings(stage.radar, 0));
     EXPECT_EQ(stage.backend.now() - start, 8000);

@@ -130,6 +130,8 @@ TEST_F(GameEndTest, ANewGameDuringTheLastLineIsNotEndedByIt) {
     stage.skipTo(60);
     finishAllBut(0);
     stage.skip();
+    stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").key(Key::escape).wait(1); });
+    stage.look([this] { EXPECT_TRUE(isOnTicker("Game Over.")) << "thinking of a new game ends nothing"; });
     stage.startNewGame();
     stage.look([this] { EXPECT_LE(stage.shell().topBar.clock.now, 1) << "it begins anew"; });
     stage.wait(60000);
@@ -161,6 +163,29 @@ TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
         EXPECT_FALSE(isOnTicker("Game Over"));
     });
     stage.startNewGame();
+    stage.play();
+}
+
+TEST_F(GameEndTest, AGameThatIsBegunWhileRingsSpreadGoesOn) {
+    meet({10, 10});
+    stage.look([this] {
+        // Where the sweep stood there is nothing but the dark of the scope: it has stopped with the game.
+        const Bitmap& screen = stage.backend.screen();
+        int white = 0;
+        for (int x = 300; x < 600; ++x) {
+            white += screen.at(70 + x, 70 + 340) == whitePixel ? 1 : 0;
+        }
+        EXPECT_EQ(white, 0) << "the sweep is still there";
+    });
+    stage.todo([](Script& script) {
+        script.window(WindowEvent::deactivated).window(WindowEvent::activated); // gives the mouse free
+        script.key(Key::f, withAlt).click({57, 30}).type("n").key(Key::enter).wait(100);
+    });
+    stage.wait(9000);
+    stage.look([this] {
+        EXPECT_TRUE(stage.game().gameRunning);
+        EXPECT_EQ(stage.sounds.count("mci\\faa.mci"), 0);
+    });
     stage.play();
 }
 

@@ -311,15 +311,18 @@ private:
         if (captured_ || (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0) {
             return SDL_HITTEST_NORMAL;
         }
-        if (dragStrip_ && dragStrip_->contains(toPicture(p, area(), picture_))) {
+        const Point shown = toPicture(p, area(), picture_);
+        if (dragStrip_ && dragStrip_->contains(shown)) {
             return SDL_HITTEST_DRAGGABLE;
         }
+        // Beside the strip lies what the program puts there, up to the window's own edge.
+        const bool isBesideStrip = dragStrip_ && shown.y < dragStrip_->bottom + resizeEdge;
         const Size size = windowSize();
         const bool isBottom = p.y >= size.height - resizeEdge;
         if (p.x >= size.width - resizeEdge) {
             return isBottom ? SDL_HITTEST_RESIZE_BOTTOMRIGHT : SDL_HITTEST_RESIZE_RIGHT;
         }
-        if (p.x < resizeEdge) {
+        if (p.x < resizeEdge && !isBesideStrip) {
             return isBottom ? SDL_HITTEST_RESIZE_BOTTOMLEFT : SDL_HITTEST_RESIZE_LEFT;
         }
         return isBottom ? SDL_HITTEST_RESIZE_BOTTOM : SDL_HITTEST_NORMAL;

@@ -32,8 +32,8 @@ public:
 private:
     MenuLevel& deepest() { return *levels_.back(); }
 
-    /// Where a popup of that size goes: right below or beside `beside`, on its other side when there is no
-    /// room.
+    /// Where a popup of that size goes: right below or beside `beside`; where there is no room, a menu above
+    /// the point, a submenu on its other side or higher up.
     Rect placeFor(Size size, const Rect& beside, bool isSubmenu) const {
         const Size screen = desktop_.size();
         int x = isSubmenu ? beside.right - submenuOverlap : beside.left;
@@ -42,7 +42,7 @@ private:
         }
         int y = beside.top;
         if (y + size.height > screen.height) {
-            y = screen.height - size.height;
+            y = isSubmenu ? screen.height - size.height : beside.top - size.height;
         }
         return Rect::at({std::max(0, x), std::max(0, y)}, size);
     }
