@@ -32,7 +32,9 @@ void newGame(Shell& shell) {
         abandonGame(shell);
     }
     if (const auto setup = runNewGameDialog(shell)) {
-        onGameOver(shell); // a shift whose last line still scrolls does not end the next one
+        // What an earlier shift has left: its last line still on the ticker, or rings of a collision.
+        onGameOver(shell);
+        EndGame(shell);
         startGame(shell, *setup);
     }
 }

@@ -32,9 +32,13 @@ protected:
             stage.game().flight(0).plan[0].altitude = 5;
             stage.game().flight(1).plan[0] = {.x = other.x, .y = other.y, .altitude = 5, .heading = 90};
         });
+        if (selectsFirst) {
+            stage.selectByStrip(0);
+        }
         stage.skip();
         stage.skip();
     }
+    bool selectsFirst = false; ///< the first of the two is on the panel when they meet
 
     void finishAllBut(FlightIndex first) {
         stage.look([this, first] {
@@ -166,7 +170,8 @@ TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
     stage.play();
 }
 
-TEST_F(GameEndTest, AGameThatIsBegunWhileRingsSpreadGoesOn) {
+TEST_F(GameEndTest, AGameThatIsBegunWhileRingsSpreadStartsCleanAndGoesOn) {
+    selectsFirst = true;
     meet({10, 10});
     stage.look([this] {
         // Where the sweep stood there is nothing but the dark of the scope: it has stopped with the game.
@@ -185,6 +190,8 @@ TEST_F(GameEndTest, AGameThatIsBegunWhileRingsSpreadGoesOn) {
     stage.look([this] {
         EXPECT_TRUE(stage.game().gameRunning);
         EXPECT_EQ(stage.sounds.count("mci\\faa.mci"), 0);
+        EXPECT_EQ(stage.shell().panel.state.flight, noFlight);
+        EXPECT_FALSE(stage.shell().exec.window.isEnabled());
     });
     stage.play();
 }

@@ -306,6 +306,9 @@ private:
         return static_cast<const SdlWindow*>(data)->partAt({point->x, point->y});
     }
 
+    /// The first row of the window below the drag strip.
+    int stripBottom() const { return fromPicture({0, dragStrip_->bottom}, area(), picture_).y; }
+
     /// A press that a menu waits for must arrive, wherever it is made.
     SDL_HitTestResult partAt(Point p) const {
         if (captured_ || (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0) {
@@ -316,7 +319,7 @@ private:
             return SDL_HITTEST_DRAGGABLE;
         }
         // Beside the strip lies what the program puts there, up to the window's own edge.
-        const bool isBesideStrip = dragStrip_ && shown.y < dragStrip_->bottom + resizeEdge;
+        const bool isBesideStrip = dragStrip_ && p.y >= area().top && p.y < stripBottom() + resizeEdge;
         const Size size = windowSize();
         const bool isBottom = p.y >= size.height - resizeEdge;
         if (p.x >= size.width - resizeEdge) {
