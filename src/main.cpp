@@ -1,11 +1,11 @@
 // Ventrel: the game on this machine's screen.
 
+#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string>
 #include <string_view>
-#include <vector>
 
 #include "base/windows1252.h"
 #include "platform/machine/instance_lock.h"
@@ -21,8 +21,6 @@ namespace {
 constexpr std::string_view programName = "ventrel";
 constexpr std::string_view instanceName = "VNTL_MUTEX";
 constexpr std::uint32_t seedMask = 0xFFFF;
-
-constexpr int decimal = 10;
 
 constexpr int ended = 0;
 constexpr int cannotStart = 1;
@@ -73,13 +71,28 @@ std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::file
     return openSdlBackend(options, complain);
 }
 
-/// Another one at every start, milliseconds since the machine was started; or the one that the environment
-/// asks for, with which a game can be played again.
-std::uint32_t seedOfChance() {
-    using namespace std::chrono;
-    if (const char* wanted = std::getenv("VENTREL_SEED")) {
-        return static_cast<std::uint32_t>(std::strtoul(wanted, nullptr, decimal));
+/// The seed that the environment asks for, with which a game can be played again; none without such a wish,
+/// and, after a complaint, for one that is no number.
+std::optional<std::uint32_t> wantedSeed() {
+    const char* wanted = std::getenv("VENTREL_SEED");
+    if (wanted == nullptr) {
+        return std::nullopt;
     }
+    const std::string_view digits = wanted;
+    std::uint32_t seed = 0;
+    const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), seed);
+    if (fault != std::errc() || end != digits.data() + digits.size()) {
+        complain("VENTREL_SEED must be a whole number from 0 to 4294967295, not '" + std::string(digits) +
+                     "'",
+                 MessageIcon::none);
+        return std::nullopt;
+    }
+    return seed;
+}
+
+/// Another one at every start: milliseconds since the machine was started.
+std::uint32_t seedOfTheMoment() {
+    using namespace std::chrono;
     const auto sinceStart = duration_cast<milliseconds>(steady_clock::now().time_since_epoch());
     return static_cast<std::uint32_t>(sinceStart.count()) & seedMask;
 }
@@ -99,7 +112,7 @@ int play(const std::filesystem::path& executable) {
     SilentSounds sounds;
     {
         Program program({*backend, fonts, sounds}, {programFolder, settings.file}, settings.options,
-                        seedOfChance());
+                        wantedSeed().value_or(seedOfTheMoment()));
         if (program.startUp()) {
             program.run();
         }

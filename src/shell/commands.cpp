@@ -32,9 +32,11 @@ void newGame(Shell& shell) {
         abandonGame(shell);
     }
     if (const auto setup = runNewGameDialog(shell)) {
-        // What an earlier shift has left: its last line still on the ticker, or rings of a collision.
-        onGameOver(shell);
-        EndGame(shell);
+        if (isShiftEnding(shell)) {
+            onGameOver(shell);
+        } else {
+            EndGame(shell); // the rings of a collision may still spread, with all that belongs to its game
+        }
         startGame(shell, *setup);
     }
 }

@@ -54,8 +54,11 @@ int StripsButtonAt(const Shell& shell, Point point) {
 }
 
 void StripsPress(Shell& shell, int slot) {
+    if (slot == shell.pressedStrip) {
+        return;
+    }
     for (const int changed : {shell.pressedStrip, slot}) {
-        if (changed != noSlot && slot != shell.pressedStrip) {
+        if (changed != noSlot) {
             shell.mainWindow.invalidate(stripButtonRect(shell, changed));
         }
     }
