@@ -4,6 +4,7 @@
 
 #include <array>
 
+#include "base/version.h"
 #include "platform/widgets/templates.h"
 #include "resources/command_ids.h"
 
@@ -51,7 +52,7 @@ inline constexpr std::array optionsMenuItems{std::to_array<MenuItemTemplate>({
 })};
 
 inline constexpr std::array helpMenuItems{std::to_array<MenuItemTemplate>({
-    {"&About Ventrel 3.0...", command::about},
+    {"&About Ventrel " VENTREL_VERSION "...", command::about},
 })};
 
 inline constexpr std::array systemMenuItems{std::to_array<MenuItemTemplate>({

@@ -1,6 +1,7 @@
 #include "shell/about_dialog.h"
 
 #include "base/data_path.h"
+#include "base/version.h"
 #include "base/windows1252.h"
 #include "platform/canvas/image.h"
 #include "platform/widgets/dialog.h"
@@ -11,7 +12,7 @@ namespace ventrel {
 namespace {
 
 constexpr std::string_view pictureName = "grf\\about.grf";
-constexpr std::string_view versionText = "Version 3.0";
+constexpr std::string_view versionText = "Version " VENTREL_VERSION;
 constexpr int okFromBottom = 20;
 constexpr int versionMargin = 10;
 
