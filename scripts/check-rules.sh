@@ -39,6 +39,7 @@ machine() {
 }
 
 only src/base 'base'
+only src/console 'base|console'
 only src/sim 'base|sim'
 only src/platform/canvas 'base|platform/canvas'
 only src/platform/devices 'base|platform/(canvas|devices)'
@@ -48,10 +49,11 @@ only src/platform/headless 'base|platform/(canvas|devices|headless)'
 only src/platform/sdl 'base|platform/(canvas|devices|sdl)'
 only src/platform/machine 'base|platform/machine'
 only src/resources 'base|platform/(devices|desktop|widgets)|resources'
-only src/radar 'base|sim|platform/(canvas|devices|desktop)|radar'
-only src/controls 'base|sim|platform/(canvas|devices|desktop)|controls'
-only src/shell 'base|sim|platform/(canvas|devices|desktop|widgets)|resources|radar|controls|shell'
+only src/radar 'base|console|sim|platform/(canvas|devices|desktop)|radar'
+only src/controls 'base|console|sim|platform/(canvas|devices|desktop)|controls'
+only src/shell 'base|console|sim|platform/(canvas|devices|desktop|widgets)|resources|radar|controls|shell'
 standard src/base
+standard src/console
 standard src/sim
 standard src/platform/desktop
 standard src/platform/widgets

@@ -1,5 +1,7 @@
 #include "controls/control_panel.h"
 
+#include "console/console_layout.h"
+#include "console/panel_areas.h"
 #include "controls/console_piece.h"
 #include "controls/control_panel_drawing.h"
 
@@ -79,7 +81,7 @@ WindowHandlers handlersOf(ControlPanel& panel) {
 } // namespace
 
 void CtrlCreate(ControlPanel& panel, const Window& parent, const Bitmap& console) {
-    const Rect bounds = Rect::at(controlPanelCorner(console.size()), controlPanelSize);
+    const Rect& bounds = consoleLayoutFor(console.size().width).controlPanel;
     panel.background = consolePiece(console, bounds);
     panel.window = parent.desktop()->create(
         {.parent = parent, .id = controlPanelId, .bounds = bounds, .handlers = handlersOf(panel)});

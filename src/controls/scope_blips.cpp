@@ -1,11 +1,14 @@
 #include "controls/scope_blips.h"
 
+#include "console/console_layout.h"
+
 namespace ventrel {
 
 namespace {
 
 constexpr std::size_t mostBlips = 32;
-constexpr Rect face{4, 4, 28, 28};
+constexpr Rect face = smallConsole.topBar.smallScopeFace; // the same at both sizes
+constexpr int smallScopeSize = smallConsole.topBar.smallScope.width();
 constexpr Rect grid{0, 0, gridSize, gridSize};
 
 } // namespace

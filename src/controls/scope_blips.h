@@ -8,8 +8,6 @@
 
 namespace ventrel {
 
-inline constexpr int smallScopeSize = 30; ///< pixels of the square window
-
 struct Blip {
     Point position;
     bool selected = false;

@@ -1,5 +1,6 @@
 #include "controls/scroller.h"
 
+#include "console/console_layout.h"
 #include "platform/canvas/text.h"
 
 namespace ventrel {
@@ -9,18 +10,7 @@ namespace {
 constexpr FontRequest lineFont{Face::arial, -16, true};
 constexpr Colour black = Colour::rgb(0, 0, 0);
 
-constexpr Point corner{443, 19};
-constexpr int stripHeight = 20;
 constexpr int lineTop = 1; // of the line's picture in the strip
-
-/// What depends on the size of the main window.
-struct Strip {
-    int mainWindowWidth;
-    int width;
-    Millis stepLength;
-};
-constexpr Strip smallStrip{800, 340, 13};
-constexpr Strip largeStrip{1024, 562, 10};
 
 const MessageSlot& lineUnderWay(const Scroller& scroller) {
     return scroller.queue.slots[static_cast<std::size_t>(scroller.state.slot)];
@@ -28,7 +18,7 @@ const MessageSlot& lineUnderWay(const Scroller& scroller) {
 
 void makeLinePicture(Scroller& scroller) {
     const MessageSlot& slot = lineUnderWay(scroller);
-    scroller.line = Bitmap(Size{slot.width, stripHeight});
+    scroller.line = Bitmap(Size{slot.width, scroller.window.size().height});
     Canvas canvas(scroller.line);
     drawText(canvas, scroller.sources.fonts.font(lineFont), {0, 0}, slot.text,
              {messageColour(slot.messageClass), black});
@@ -37,14 +27,14 @@ void makeLinePicture(Scroller& scroller) {
 } // namespace
 
 void ScrollerCreate(Scroller& scroller, const Window& parent, int mainWindowWidth) {
-    const Strip& strip = mainWindowWidth == largeStrip.mainWindowWidth ? largeStrip : smallStrip;
-    scroller.state.stripWidth = strip.width;
-    scroller.state.stepLength = strip.stepLength;
+    const TopBarLayout& places = consoleLayoutFor(mainWindowWidth).topBar;
+    scroller.state.stripWidth = places.ticker.width();
+    scroller.state.stepLength = places.tickerStep;
     WindowHandlers handlers;
     handlers.cursor = [&scroller](Point) { return std::optional<Cursor>(&scroller.sources.arrow); };
     scroller.window = scroller.sources.desktop.create({.parent = parent,
                                                        .id = scrollerId,
-                                                       .bounds = Rect::at(corner, {strip.width, stripHeight}),
+                                                       .bounds = places.ticker,
                                                        .background = black,
                                                        .handlers = std::move(handlers)});
 }

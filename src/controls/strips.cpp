@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "console/console_layout.h"
 #include "platform/canvas/text.h"
 
 namespace ventrel {
@@ -11,33 +12,18 @@ namespace {
 constexpr FontRequest stripFont{Face::arial, -11, false};
 constexpr Colour columnColour = Colour::rgb(64, 8, 0);
 
-constexpr int fromRightEdge = 155;
-constexpr int columnTop = 71;
-constexpr int columnWidth = 139;
-
-constexpr int stripPitch = 37;
-constexpr int routeLineTop = 2;
-constexpr int stateLineTop = 16;
-
-/// What depends on the size of the main window.
-struct Column {
-    int windowWidth;
-    int slots;
-    int height;
-};
-constexpr Column smallColumn{800, 10, 371};
-constexpr Column largeColumn{1024, 14, 541};
-
-const Column& columnFor(int windowWidth) {
-    return windowWidth == largeColumn.windowWidth ? largeColumn : smallColumn;
-}
+/// The text lines of a column stand alike at both sizes.
+constexpr const StripsLayout& places = smallConsole.strips;
+static_assert(places.pitch == largeConsole.strips.pitch &&
+              places.routeLine == largeConsole.strips.routeLine &&
+              places.stateLine == largeConsole.strips.stateLine);
 
 void paintStrip(Canvas& canvas, const Strips& strips, int slot, const Flight& flight, const Font& font) {
     const GameState& game = strips.sources.game;
     const TextStyle style{stripColour(flight, game), columnColour};
-    const int top = slot * stripPitch;
-    drawText(canvas, font, {0, top + routeLineTop}, stripRouteLine(flight, game), style);
-    drawText(canvas, font, {0, top + stateLineTop}, stripStateLine(flight), style);
+    const int top = slot * places.pitch;
+    drawText(canvas, font, {0, top + places.routeLine}, stripRouteLine(flight, game), style);
+    drawText(canvas, font, {0, top + places.stateLine}, stripStateLine(flight), style);
 }
 
 void paint(Strips& strips, Canvas& canvas) {
@@ -71,21 +57,14 @@ void showList(Strips& strips) {
 
 } // namespace
 
-int stripSlotsFor(int windowWidth) {
-    return columnFor(windowWidth).slots;
-}
-
 void StripsCreate(Strips& strips, const Window& parent, Size mainWindow) {
-    const Column& column = columnFor(mainWindow.width);
-    strips.list = makeStripList(column.slots);
+    const StripsLayout& column = consoleLayoutFor(mainWindow.width).strips;
+    strips.list = makeStripList(column.count);
     WindowHandlers handlers;
     handlers.paint = [&strips](Canvas& canvas, const Rect&) { paint(strips, canvas); };
     handlers.cursor = [&strips](Point) { return std::optional<Cursor>(&strips.sources.arrow); };
     strips.window = parent.desktop()->create(
-        {.parent = parent,
-         .id = stripsId,
-         .bounds = Rect::at({mainWindow.width - fromRightEdge, columnTop}, {columnWidth, column.height}),
-         .handlers = std::move(handlers)});
+        {.parent = parent, .id = stripsId, .bounds = column.column, .handlers = std::move(handlers)});
 }
 
 void StripsReset(Strips& strips) {

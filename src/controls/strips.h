@@ -35,9 +35,6 @@ struct Strips {
     StripList list = {};
 };
 
-/// How many strips a main window of that width shows: 10 or 14.
-int stripSlotsFor(int windowWidth);
-
 /// Makes the window in a main window of that size. The record must stay where it is from then on.
 void StripsCreate(Strips& strips, const Window& parent, Size mainWindow);
 

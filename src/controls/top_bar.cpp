@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "console/console_layout.h"
 #include "controls/console_piece.h"
 #include "controls/top_bar_drawing.h"
 
@@ -20,7 +21,7 @@ const Bitmap& lampPicture(const TopBar& bar, std::size_t lamp) {
     return (isBright ? bar.lampPictures.bright : bar.lampPictures.dark)[lamp];
 }
 
-void createClock(TopBar& bar, const Window& parent) {
+void createClock(TopBar& bar, const Window& parent, const Rect& place) {
     WindowHandlers handlers;
     handlers.paint = [&bar](Canvas& canvas, const Rect&) {
         paintClock(canvas, bar.sources.game.gameRunning, bar.clock.now, bar.sources.fonts.font(clockFont));
@@ -35,11 +36,11 @@ void createClock(TopBar& bar, const Window& parent) {
         return std::optional<Cursor>(isHand ? &bar.sources.hand : &bar.sources.arrow);
     };
     bar.clockWindow = bar.sources.desktop.create(
-        {.parent = parent, .id = clockId, .bounds = clockWindowRect, .handlers = std::move(handlers)});
+        {.parent = parent, .id = clockId, .bounds = place, .handlers = std::move(handlers)});
 }
 
-void createSmallScope(TopBar& bar, const Window& parent, const Bitmap& console) {
-    bar.scopeBackground = consolePiece(console, smallScopeRect);
+void createSmallScope(TopBar& bar, const Window& parent, const Bitmap& console, const Rect& place) {
+    bar.scopeBackground = consolePiece(console, place);
     WindowHandlers handlers;
     handlers.paint = [&bar](Canvas& canvas, const Rect&) {
         const AirportHeader& airport = bar.sources.game.airport;
@@ -50,28 +51,30 @@ void createSmallScope(TopBar& bar, const Window& parent, const Bitmap& console) 
     };
     handlers.cursor = [&bar](Point) { return std::optional<Cursor>(&bar.sources.arrow); };
     bar.scopeWindow = bar.sources.desktop.create(
-        {.parent = parent, .id = smallScopeId, .bounds = smallScopeRect, .handlers = std::move(handlers)});
+        {.parent = parent, .id = smallScopeId, .bounds = place, .handlers = std::move(handlers)});
 }
 
-void createLamp(TopBar& bar, const Window& parent, const Bitmap& console, std::size_t lamp) {
-    bar.lampBackgrounds[lamp] = consolePiece(console, lampRects[lamp]);
+void createLamp(TopBar& bar, const Window& parent, const Bitmap& console, const Rect& place,
+                std::size_t lamp) {
+    bar.lampBackgrounds[lamp] = consolePiece(console, place);
     WindowHandlers handlers;
     handlers.paint = [&bar, lamp](Canvas& canvas, const Rect&) {
         paintLamp(canvas, bar.lampBackgrounds[lamp], lampPicture(bar, lamp));
     };
     handlers.cursor = [&bar](Point) { return std::optional<Cursor>(&bar.sources.arrow); };
     bar.lampWindows[lamp] = bar.sources.desktop.create(
-        {.parent = parent, .id = lampIds[lamp], .bounds = lampRects[lamp], .handlers = std::move(handlers)});
+        {.parent = parent, .id = lampIds[lamp], .bounds = place, .handlers = std::move(handlers)});
 }
 
 } // namespace
 
 void TopBarCreate(TopBar& bar, const Window& parent, const Bitmap& console, LampPictures lamps) {
     bar.lampPictures = std::move(lamps);
-    createClock(bar, parent);
-    createSmallScope(bar, parent, console);
+    const TopBarLayout& places = consoleLayoutFor(console.size().width).topBar;
+    createClock(bar, parent, places.clock);
+    createSmallScope(bar, parent, console, places.smallScope);
     for (std::size_t lamp = 0; lamp < lampIds.size(); ++lamp) {
-        createLamp(bar, parent, console, lamp);
+        createLamp(bar, parent, console, places.lamps[lamp], lamp);
     }
 }
 

@@ -3,6 +3,7 @@
 #include <array>
 
 #include "base/format.h"
+#include "console/console_layout.h"
 #include "platform/canvas/text.h"
 
 namespace ventrel {
@@ -11,16 +12,15 @@ namespace {
 
 constexpr Colour black = Colour::rgb(0, 0, 0);
 constexpr Colour clockRed = Colour::rgb(220, 0, 0);
-constexpr Point clockTextAt{8, 0};
 
-constexpr Rect scopeFace{4, 4, 28, 28};
-constexpr Point scopeMiddle{15, 15};
+/// The instruments stand alike at both sizes.
+constexpr const TopBarLayout& places = smallConsole.topBar;
+
+constexpr Point scopeMiddle{places.smallScope.width() / 2, places.smallScope.height() / 2};
 constexpr int trailStep = 2; // sweep positions between two lines
 constexpr std::array<Colour, 6> sweepPens{Colour::rgb(0, 255, 0), Colour::rgb(0, 225, 0),
                                           Colour::rgb(0, 195, 0), Colour::rgb(0, 165, 0),
                                           Colour::rgb(0, 135, 0), Colour::rgb(0, 105, 0)};
-
-constexpr Rect lampCircle{1, 1, 27, 27};
 
 /// The position of the next trail line; from the first positions of a turn it goes on at its last.
 int trailBehind(int position) {
@@ -31,17 +31,17 @@ int trailBehind(int position) {
 } // namespace
 
 void paintClock(Canvas& canvas, bool gameRunning, ClockSeconds now, const Font& font) {
-    const Rect whole{0, 0, clockWindowRect.width(), clockWindowRect.height()};
+    const Rect whole = Rect::at({}, places.clock.size());
     canvas.fill(whole, black);
     if (gameRunning) {
-        drawText(canvas, font, clockTextAt, FormatMinutesSeconds(now), {clockRed, black});
+        drawText(canvas, font, places.clockText, FormatMinutesSeconds(now), {clockRed, black});
     }
 }
 
 void paintSmallScope(Canvas& canvas, const Bitmap& background, std::span<const Blip> blips, int sweepIndex,
                      Colour flightColour, Colour selectedColour) {
     canvas.draw({0, 0}, background);
-    canvas.setClip(Region::ellipse(scopeFace));
+    canvas.setClip(Region::ellipse(places.smallScopeFace));
     for (const Blip& blip : blips) {
         canvas.setPixel(blip.position, blip.selected ? selectedColour : flightColour);
     }
@@ -55,7 +55,7 @@ void paintSmallScope(Canvas& canvas, const Bitmap& background, std::span<const B
 
 void paintLamp(Canvas& canvas, const Bitmap& background, const Bitmap& lamp) {
     canvas.draw({0, 0}, background);
-    canvas.setClip(Region::ellipse(lampCircle));
+    canvas.setClip(Region::ellipse(places.lampGlass));
     canvas.draw({0, 0}, lamp);
     canvas.clearClip();
 }

@@ -12,10 +12,6 @@
 
 namespace ventrel {
 
-inline constexpr Rect clockWindowRect{261, 21, 312, 36};
-inline constexpr Rect smallScopeRect{215, 14, 245, 44};
-inline constexpr std::array<Rect, 3> lampRects{{{320, 16, 348, 44}, {348, 16, 376, 44}, {376, 16, 404, 44}}};
-
 /// A black box, with the time while a game runs.
 void paintClock(Canvas& canvas, bool gameRunning, ClockSeconds now, const Font& font);
 

@@ -1,7 +1,7 @@
 #include "shell/game_flow.h"
 
+#include "console/window_size.h"
 #include "shell/airport_catalogue.h"
-#include "shell/window_size.h"
 #include "sim/airport_loading.h"
 #include "sim/schedule.h"
 #include "sim/shift_texts.h"

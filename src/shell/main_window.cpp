@@ -7,7 +7,6 @@
 #include "shell/game_flow.h"
 #include "shell/popup_menus.h"
 #include "shell/selection.h"
-#include "shell/window_size.h"
 
 namespace ventrel {
 
@@ -18,45 +17,15 @@ constexpr FontRequest buttonFont{Face::arial, -11, false};
 struct MenuButton {
     int command;
     std::string_view text;
-    Rect place;
+    Rect TopBarLayout::*place;
 };
 constexpr std::array menuButtons{std::to_array<MenuButton>({
-    {command::fileMenu, "&File", {31, 20, 83, 39}},
-    {command::optionsMenu, "&Options", {93, 20, 145, 39}},
-    {command::helpMenu, "&Help", {155, 20, 207, 39}},
+    {command::fileMenu, "&File", &TopBarLayout::fileButton},
+    {command::optionsMenu, "&Options", &TopBarLayout::optionsButton},
+    {command::helpMenu, "&Help", &TopBarLayout::helpButton},
 })};
 
 constexpr std::string_view execText = "E\rX\rE\rC";
-constexpr Point execFromCorner{-32, -112}; // from the lower right corner of the window
-constexpr Size execSize{14, 68};
-
-constexpr Rect systemSquare{2, 1, 8, 7};
-constexpr int dragStripHeight = 5;
-
-// The arrows that scroll the strips; their places depend on the size of the window.
-constexpr int arrowFromRight = 172;
-constexpr Size arrowSize{11, 9};
-constexpr int upArrowTop = 69;
-constexpr int smallDownArrowTop = 436;
-constexpr int largeDownArrowTop = 604;
-
-Rect arrowAt(Size window, int top) {
-    return Rect::at({window.width - arrowFromRight, top}, arrowSize);
-}
-
-Rect upArrow(const Shell& shell) {
-    return arrowAt(shell.windowSize(), upArrowTop);
-}
-
-Rect downArrow(const Shell& shell) {
-    return arrowAt(shell.windowSize(), isLarge(shell.windowSize()) ? largeDownArrowTop : smallDownArrowTop);
-}
-
-/// The buttons and strips together, between the arrows: where the wheel scrolls.
-Rect stripArea(const Shell& shell) {
-    const int left = stripButtonRect(shell, 0).left;
-    return {left, upArrow(shell).top, shell.windowSize().width, downArrow(shell).bottom};
-}
 
 void paint(const Shell& shell, Canvas& canvas, const Rect& update) {
     canvas.draw(update, shell.pictures.console, update);
@@ -75,29 +44,31 @@ void onPress(Shell& shell, const MouseInput& mouse) {
         return;
     }
     const Point p = mouse.position;
-    if (systemSquare.contains(p)) {
+    if (shell.console().topBar.systemSquare.contains(p)) {
         showSystemMenu(shell);
         return;
     }
     const int slot = StripsButtonAt(shell, p);
     if (StripsSlotSelectable(shell.strips, slot)) {
         SelectStripFlight(shell, slot);
-    } else if (upArrow(shell).contains(p)) {
+    } else if (shell.console().strips.scrollUp.contains(p)) {
         StripsScrollUp(shell.strips);
-    } else if (downArrow(shell).contains(p)) {
+    } else if (shell.console().strips.scrollDown.contains(p)) {
         StripsScrollDown(shell.strips);
     }
 }
 
 Cursor cursorAt(const Shell& shell, Point p) {
-    const bool isHot = systemSquare.contains(p) || upArrow(shell).contains(p) ||
-                       downArrow(shell).contains(p) ||
+    const ConsoleLayout& places = shell.console();
+    const bool isHot = places.topBar.systemSquare.contains(p) || places.strips.scrollUp.contains(p) ||
+                       places.strips.scrollDown.contains(p) ||
                        StripsSlotSelectable(shell.strips, StripsButtonAt(shell, p));
     return shell.game.gameRunning && isHot ? &shell.pictures.hand : &shell.pictures.arrow;
 }
 
 bool onWheel(Shell& shell, int notches) {
-    if (!stripArea(shell).contains(shell.mainWindow.fromScreen(shell.desktop.mousePosition()))) {
+    const Rect area = shell.console().strips.wheelArea(shell.windowSize());
+    if (!area.contains(shell.mainWindow.fromScreen(shell.desktop.mousePosition()))) {
         return false;
     }
     for (; notches > 0; --notches) {
@@ -135,20 +106,19 @@ WindowHandlers handlersOf(Shell& shell) {
 
 void createButtons(Shell& shell) {
     const Font& font = shell.fonts.font(buttonFont);
+    const ConsoleLayout& places = shell.console();
     for (const MenuButton& button : menuButtons) {
         createButton(shell.desktop, {.parent = shell.mainWindow,
                                      .id = button.command,
-                                     .bounds = button.place,
+                                     .bounds = places.topBar.*button.place,
                                      .text = std::string(button.text),
                                      .font = &font,
                                      .takesFocus = false,
                                      .cursor = &shell.pictures.arrow});
     }
-    const Size window = shell.windowSize();
-    const Point execCorner = Point{window.width, window.height} + execFromCorner;
     shell.exec = createButton(shell.desktop, {.parent = shell.mainWindow,
                                               .id = command::executeOrder,
-                                              .bounds = Rect::at(execCorner, execSize),
+                                              .bounds = places.execButton,
                                               .text = std::string(execText),
                                               .font = &font,
                                               .enabled = false,
@@ -174,7 +144,9 @@ void createMainWindow(Shell& shell) {
     shell.desktop.setMainWindow(shell.mainWindow);
     shell.desktop.setTitle(programTitle);
     // The system square lies in the strip's corner and takes its own clicks.
-    shell.desktop.setDragStrip(Rect{systemSquare.right, 0, shell.windowSize().width, dragStripHeight});
+    const TopBarLayout& places = shell.console().topBar;
+    shell.desktop.setDragStrip(
+        Rect{places.systemSquare.right, 0, places.dragStrip.right, places.dragStrip.bottom});
     shell.mainWindow.setAccelerators(mainAccelerators);
     createButtons(shell);
     createInstruments(shell);

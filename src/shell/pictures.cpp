@@ -6,10 +6,10 @@
 #include "base/format.h"
 #include "base/string_table.h"
 #include "base/windows1252.h"
+#include "console/window_size.h"
 #include "platform/canvas/image.h"
 #include "radar/clouds.h"
 #include "radar/radar_window.h"
-#include "shell/window_size.h"
 
 namespace ventrel {
 

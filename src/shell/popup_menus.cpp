@@ -12,12 +12,6 @@ namespace ventrel {
 
 namespace {
 
-// Just under the buttons and the system square.
-constexpr Point filePlace{31, 39};
-constexpr Point optionsPlace{93, 39};
-constexpr Point helpPlace{155, 39};
-constexpr Point systemPlace{2, 7};
-
 /// A menu item that shows whether an option is on.
 struct OptionCheck {
     int command;
@@ -37,8 +31,10 @@ constexpr std::array optionChecks{std::to_array<OptionCheck>({
 /// The items that ask for a running game.
 constexpr std::array gameCommands{command::bossKey, command::schedule, command::pause};
 
-void popUp(Shell& shell, const Menu& menu, Point place) {
-    const int chosen = trackMenu(shell.desktop, shell.widgetFonts, menu, shell.mainWindow.toScreen(place));
+/// Opens the menu under its button.
+void popUp(Shell& shell, const Menu& menu, const Rect& button) {
+    const Point place = shell.mainWindow.toScreen(menuPlaceUnder(button));
+    const int chosen = trackMenu(shell.desktop, shell.widgetFonts, menu, place);
     shell.mainWindow.focus();
     if (chosen != noCommand) {
         shell.mainWindow.postCommand(chosen);
@@ -80,7 +76,7 @@ Menu orderMenu(const Shell& shell) {
 void showFileMenu(Shell& shell) {
     Menu menu = makeMenu(fileMenuItems);
     greyMenuItem(menu, command::endGame, !shell.game.gameRunning);
-    popUp(shell, menu, filePlace);
+    popUp(shell, menu, shell.console().topBar.fileButton);
 }
 
 void showOptionsMenu(Shell& shell) {
@@ -96,15 +92,15 @@ void showOptionsMenu(Shell& shell) {
         greyMenuItem(menu, gameCommand, !shell.game.gameRunning);
     }
     greyMenuItem(menu, command::highScores, true); // there is no table yet
-    popUp(shell, menu, optionsPlace);
+    popUp(shell, menu, shell.console().topBar.optionsButton);
 }
 
 void showHelpMenu(Shell& shell) {
-    popUp(shell, makeMenu(helpMenuItems), helpPlace);
+    popUp(shell, makeMenu(helpMenuItems), shell.console().topBar.helpButton);
 }
 
 void showSystemMenu(Shell& shell) {
-    popUp(shell, makeMenu(systemMenuItems), systemPlace);
+    popUp(shell, makeMenu(systemMenuItems), shell.console().topBar.systemSquare);
 }
 
 void showOrderMenu(Shell& shell, Point screen) {

@@ -1,10 +1,10 @@
 #include "shell/program.h"
 
+#include "console/window_size.h"
 #include "platform/widgets/message_box.h"
 #include "shell/game_flow.h"
 #include "shell/main_window.h"
 #include "shell/tick.h"
-#include "shell/window_size.h"
 
 namespace ventrel {
 

@@ -6,11 +6,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr int buttonFromRight = 190;
-constexpr int firstButtonTop = 81;
-constexpr int buttonPitch = 37;
-constexpr Size buttonSize{20, 12};
-
 /// Clock seconds after a press on the panel in which a new flight does not take it away.
 constexpr ClockSeconds touchLasts = 10;
 
@@ -40,17 +35,11 @@ void bringIntoView(Shell& shell, const FlightHit& hit) {
 } // namespace
 
 Rect stripButtonRect(const Shell& shell, int slot) {
-    const Point corner{shell.windowSize().width - buttonFromRight, firstButtonTop + buttonPitch * slot};
-    return Rect::at(corner, buttonSize);
+    return shell.console().strips.button(slot);
 }
 
 int StripsButtonAt(const Shell& shell, Point point) {
-    for (int slot = 0; slot < shell.stripSlots(); ++slot) {
-        if (stripButtonRect(shell, slot).contains(point)) {
-            return slot;
-        }
-    }
-    return noSlot;
+    return stripButtonAt(shell.console().strips, point).value_or(noSlot);
 }
 
 void StripsPress(Shell& shell, int slot) {

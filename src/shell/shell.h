@@ -11,6 +11,7 @@
 #include "base/profile_file.h"
 #include "base/random.h"
 #include "base/string_table.h"
+#include "console/console_layout.h"
 #include "controls/control_panel.h"
 #include "controls/scroller.h"
 #include "controls/strips.h"
@@ -72,7 +73,9 @@ struct Shell {
     SimulationPlayer events;
 
     Size windowSize() const { return pictures.console.size(); }
-    int stripSlots() const { return stripSlotsFor(windowSize().width); }
+    /// Where everything stands in it.
+    const ConsoleLayout& console() const { return consoleLayoutFor(windowSize().width); }
+    int stripSlots() const { return console().strips.count; }
     /// The simulation over this shell's game, for one call.
     Simulation simulation();
     /// A message box over the main window, which pauses a running game. Returns when it has been answered.

@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "console/window_size.h"
 #include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 #include "platform/headless/script.h"
@@ -19,8 +20,6 @@ inline constexpr Colour consoleGrey = Colour::rgb(110, 112, 108);
 inline constexpr Colour flightGreen = Colour::rgb(0, 190, 0);
 inline constexpr Colour selectedWhite = Colour::rgb(240, 240, 240);
 inline constexpr Colour black = Colour::rgb(0, 0, 0);
-inline constexpr Size smallWindow{800, 600};
-inline constexpr Size largeWindow{1024, 768};
 
 struct ConsoleStage {
     /// A running game over three map points: the fixes "ALB" and "SEA", and the airport "JFK" in between.

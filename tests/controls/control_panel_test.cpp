@@ -1,5 +1,6 @@
 // The control panel: composing an order by mouse and by operations, and what the panel shows of it.
 
+#include "console/panel_areas.h"
 #include "controls/control_panel.h"
 
 #include <gtest/gtest.h>
@@ -264,7 +265,7 @@ TEST(PanelPictureTest, LooksAsItDidInEveryState) {
     looks.push_back({flying(10, 0, 3, 1)});
     looks.push_back({flying(1, 0, 2), GroundState::waiting});
     constexpr int columns = 3;
-    Bitmap sheet({columns * (controlPanelSize.width + 4), 4 * (controlPanelSize.height + 4)});
+    Bitmap sheet({columns * (panelLayout.size.width + 4), 4 * (panelLayout.size.height + 4)});
     for (int i = 0; i < static_cast<int>(looks.size()); ++i) {
         const PanelLook& look = looks[static_cast<std::size_t>(i)];
         flight.groundState = look.ground;
@@ -272,8 +273,8 @@ TEST(PanelPictureTest, LooksAsItDidInEveryState) {
         CtrlSetFlight(stage.panel, 0);
         stage.panel.state.pending = look.pending;
         CtrlRepaint(stage.panel);
-        const Point corner{i % columns * (controlPanelSize.width + 4),
-                           i / columns * (controlPanelSize.height + 4)};
+        const Point corner{i % columns * (panelLayout.size.width + 4),
+                           i / columns * (panelLayout.size.height + 4)};
         Canvas(sheet).draw(corner, stage.picture(stage.panel.window));
     }
     expectGolden(sheet, "controls_panel");

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "console/console_layout.h"
 #include "console_stage.h"
 #include "controls/top_bar_drawing.h"
 #include "golden.h"
@@ -47,7 +48,7 @@ TEST(ClockTest, ShowsTheTimeWhileAGameRuns) {
 
 TEST(ClockTest, APressSkipsToTheNextMoveOfTheFlights) {
     TopBarStage stage;
-    const Point onClock = clockWindowRect.topLeft() + Point{20, 7};
+    const Point onClock = smallConsole.topBar.clock.topLeft() + Point{20, 7};
     stage.bar.clock.now = 30;
     stage.bar.clock.sweepIndex = 70;
     stage.script.click(onClock).then([&] {

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "controls/control_panel_drawing.h"
 #include "shell/selection.h"
 
 namespace ventrel {
@@ -154,7 +153,7 @@ Point GameStage::onRadar(Cell cell) {
 }
 
 Point GameStage::onPanel(Point panel) {
-    return controlPanelCorner(shell().windowSize()) + panel;
+    return shell().console().controlPanel.topLeft() + panel;
 }
 
 Point GameStage::onFlight(FlightIndex flight) {

@@ -4,7 +4,6 @@
 
 #include <array>
 
-#include "controls/control_panel_drawing.h"
 #include "golden.h"
 #include "platform/canvas/png_writer.h"
 #include "radar/clouds.h"
@@ -98,7 +97,7 @@ void expectLooks(int width, const std::string& name) {
         const Bitmap& screen = stage.backend.screen();
         expectGolden(crop(screen, stage.shell().radar.window.bounds()), name + "_scope");
         expectGolden(crop(screen, stage.shell().strips.window.bounds()), name + "_strips");
-        expectGolden(crop(screen, Rect::at(stage.onPanel({}), controlPanelSize)), name + "_panel");
+        expectGolden(crop(screen, Rect::at(stage.onPanel({}), panelLayout.size)), name + "_panel");
     });
     stage.play();
 }

@@ -8,12 +8,10 @@
 #include <vector>
 
 #include "base/format.h"
+#include "console/console_layout.h"
 #include "controls/console_piece.h"
-#include "controls/control_panel_drawing.h"
-#include "controls/top_bar_drawing.h"
 #include "platform/canvas/image.h"
 #include "radar/clouds.h"
-#include "radar/radar_layout.h"
 
 using namespace ventrel;
 
@@ -59,9 +57,7 @@ const std::array<Console, 2> consoles{{
 
 /// The console's piece under the control panel.
 Bitmap panelGround(const Bitmap& console) {
-    const Point corner = controlPanelCorner(console.size());
-    return consolePiece(
-        console, {corner.x, corner.y, corner.x + controlPanelSize.width, corner.y + controlPanelSize.height});
+    return consolePiece(console, consoleLayoutFor(console.size().width).controlPanel);
 }
 
 std::string cloudName(int index) {
@@ -178,7 +174,7 @@ TEST(Art, WellsUnderTextAreDarkToTheirEdges) {
         const Rect messages{443, 19, 443 + console.messageWidth, 39};
         constexpr int dark = 12;
         EXPECT_LT(brightness(whole, messages), dark) << console.picture;
-        EXPECT_LT(brightness(whole, clockWindowRect), dark) << console.picture;
+        EXPECT_LT(brightness(whole, smallConsole.topBar.clock), dark) << console.picture;
         EXPECT_LT(brightness(panel, {2, 93, 167, 105}), dark) << console.picture;
         EXPECT_LT(brightness(panel, {52, 76, 76, 89}), dark) << console.picture;
     }

@@ -48,11 +48,11 @@ constexpr std::array smallDrawings{std::to_array<SmallDrawing>({
 
 struct ConsoleDrawing {
     std::string_view name;
-    const ConsoleLayout& layout;
+    const ConsoleFittings& fittings;
 };
 
 constexpr std::array<ConsoleDrawing, 2> consoles{
-    {{"console800", smallConsole}, {"console1024", largeConsole}}};
+    {{"console800", smallFittings}, {"console1024", largeFittings}}};
 
 void complain(const fs::path& file, const char* what) {
     std::fprintf(stderr, "ventrel-art: %s %s\n", file.c_str(), what);
@@ -112,7 +112,7 @@ std::vector<std::string> drawingNames() {
 std::string drawing(std::string_view name, std::string_view materials) {
     for (const ConsoleDrawing& console : consoles) {
         if (name == console.name) {
-            return drawConsole(console.layout, materials);
+            return drawConsole(console.fittings, materials);
         }
     }
     if (name == aboutName) {
@@ -138,12 +138,12 @@ bool cutRadarFrame(const fs::path& console, const fs::path& target) {
         return false;
     }
     const auto* const found = std::ranges::find_if(
-        consoles, [&](const ConsoleDrawing& drawn) { return drawn.layout.size == bitmap->size(); });
+        consoles, [&](const ConsoleDrawing& drawn) { return drawn.fittings.places.size == bitmap->size(); });
     if (found == consoles.end()) {
         complain(console, "has the size of neither console");
         return false;
     }
-    const Rect& window = found->layout.radarWindow;
+    const Rect window = radarWindowRect(found->fittings.places.radar);
     Bitmap frame(window.size());
     Canvas canvas(frame);
     canvas.draw(frame.bounds(), *bitmap, window);

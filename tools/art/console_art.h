@@ -5,11 +5,11 @@
 #include <string>
 #include <string_view>
 
-#include "tools/art/console_layout.h"
+#include "tools/art/console_fittings.h"
 
 namespace ventrel::art {
 
-/// The drawing of that layout, with the materials of assets/art/materials.svgpart.
-std::string drawConsole(const ConsoleLayout& layout, std::string_view materials);
+/// The drawing of the console with those fittings, with the materials of assets/art/materials.svgpart.
+std::string drawConsole(const ConsoleFittings& fittings, std::string_view materials);
 
 } // namespace ventrel::art

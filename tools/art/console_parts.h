@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "tools/art/console_layout.h"
+#include "tools/art/console_fittings.h"
 #include "tools/art/svg.h"
 
 namespace ventrel::art {

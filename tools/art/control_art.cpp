@@ -4,6 +4,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "console/panel_layout.h"
 #include "tools/art/console_parts.h"
 
 namespace ventrel::art {
@@ -11,38 +12,29 @@ namespace ventrel::art {
 namespace {
 
 // All in the panel's own pixels.
-constexpr Spot dialMiddle{47, 35.5}; // the needle's pivot
-constexpr double dialRadius = 30;
+constexpr const PanelLayout& places = panelLayout;
+/// Horizontal needles are three rows, of which the pivot is the middle one.
+constexpr Spot dialMiddle{places.dialMiddle.x + 0.0, places.dialMiddle.y + 0.5};
 constexpr double sideNumberRadius = 38.4;
 constexpr double topNumberRadius = 37;
 constexpr double bottomNumberRadius = 35; // close above the selector
 constexpr std::array<std::string_view, 8> dialNumbers{"360", "045", "090", "135", "180", "225", "270", "315"};
 
 struct SpeedLamp {
-    Box lens;
+    Rect lens;
     std::string_view label;
 };
 constexpr std::array<SpeedLamp, 3> speedLamps{{
-    {{95, 13, 6, 5}, "FAST"},
-    {{95, 33, 6, 5}, "NORM"},
-    {{95, 53, 6, 5}, "SLOW"},
+    {places.fast.lens, "FAST"},
+    {places.normal.lens, "NORM"},
+    {places.slow.lens, "SLOW"},
 }};
 constexpr std::string_view unlit = "#402813";
 
-constexpr Box altitudeWell{111, 1, 41, 87};
-constexpr Box altitudeZero{113, 93, 37, 3}; // where the bar of altitude 0 would be, were there one
-constexpr double altitudeRow = 9;
-constexpr double altitudeNumberX = 160;
+constexpr double altitudeNumbersBeside = 8; // right of the well
 
-constexpr Box directButton{3, 75, 15, 15};
-constexpr Box directLamp{5, 77, 10, 10};
-constexpr Box targetBox{52, 76, 24, 13};
-constexpr Box targetUp{79, 73, 11, 9};
-constexpr Box targetDown{79, 83, 11, 9};
-constexpr Box previewWell{2, 93, 165, 12};
-
-constexpr Box at(Point corner, const Box& box) {
-    return {corner.x + box.x, corner.y + box.y, box.width, box.height};
+constexpr Box at(Point corner, const Rect& rect) {
+    return Box(rect.movedBy(corner));
 }
 
 constexpr Spot at(Point corner, Spot spot) {
@@ -60,6 +52,7 @@ double numberRadius(int degrees) {
 
 void drawDial(Svg& svg, Point corner) {
     const Spot middle = at(corner, dialMiddle);
+    constexpr double dialRadius = places.dialRadius;
     svg.circle(middle, dialRadius + 2, "fill=\"url(#rim)\"");
     svg.circle(middle, dialRadius + 1, "fill=\"#14181a\"");
     svg.circle(middle, dialRadius, "fill=\"url(#glass)\"");
@@ -90,35 +83,34 @@ void drawSpeedLamps(Svg& svg, Point corner) {
 }
 
 void drawAltitudeScale(Svg& svg, Point corner) {
-    const Box well = at(corner, altitudeWell);
+    const Box well = at(corner, places.altitudeWell);
     drawWell(svg, well);
     for (int altitude = 1; altitude <= 10; ++altitude) {
-        Box bar = at(corner, altitudeZero);
-        bar.y -= altitudeRow * altitude;
+        const Box bar = at(corner, places.altitudeBar(altitude));
         const double y = bar.middle().y;
         svg.rect(bar, 0, "fill=\"#2c1e12\"");
         svg.line({bar.x, bar.y + 0.5}, {bar.right(), bar.y + 0.5}, "stroke=\"#6b4a2c\" opacity=\".5\"");
         svg.line({well.right() + 2, y}, {well.right() + 3, y}, "stroke=\"#ffb066\"");
-        drawNumber(svg, {corner.x + altitudeNumberX, y}, std::to_string(altitude), ivory);
+        drawNumber(svg, {well.right() + altitudeNumbersBeside, y}, std::to_string(altitude), ivory);
     }
 }
 
 void drawSelector(Svg& svg, Point corner) {
-    const Box lamp = at(corner, directLamp);
-    drawKey(svg, at(corner, directButton));
+    const Box lamp = at(corner, places.directLamp);
+    drawKey(svg, at(corner, places.directButton));
     svg.ellipse(lamp.grownBy(1), "fill=\"#0b0908\"");
     svg.ellipse(lamp, "fill=\"" + std::string(unlit) + '"');
     svg.ellipse({lamp.x + 2, lamp.y + 1.5, 4.5, 3}, "fill=\"#a97748\" opacity=\".45\"");
     drawPrinted(svg, at(corner, Spot{34.5, 85}), "DIRECT", fivePixelCapitals, 0.6, ivory);
-    drawWell(svg, at(corner, targetBox), "#000", 1.5);
-    drawArrowKey(svg, at(corner, targetUp), true);
-    drawArrowKey(svg, at(corner, targetDown), false);
+    drawWell(svg, at(corner, places.targetBox), "#000", 1.5);
+    drawArrowKey(svg, at(corner, places.targetUp), true);
+    drawArrowKey(svg, at(corner, places.targetDown), false);
 }
 
 } // namespace
 
 void drawControls(Svg& svg, Point corner) {
-    drawWell(svg, at(corner, previewWell), "#000", 1.5);
+    drawWell(svg, at(corner, places.preview), "#000", 1.5);
     drawDial(svg, corner);
     drawSpeedLamps(svg, corner);
     drawAltitudeScale(svg, corner);

@@ -1,6 +1,5 @@
-// Where everything on the console stands, at both sizes of the main window, in its pixels.
-//
-// The windows draw into these places; the drawing puts wells, marks and frames exactly under them.
+// What stands on the console for its look alone: knobs, screws, vents, plates and the sheets of metal. The
+// places of everything that the program draws into stand in its own table.
 
 #pragma once
 
@@ -8,6 +7,7 @@
 #include <span>
 #include <string_view>
 
+#include "console/console_layout.h"
 #include "tools/art/svg.h"
 
 namespace ventrel::art {
@@ -36,42 +36,16 @@ struct Plate {
     double spacing = 0;
 };
 
-struct ConsoleLayout {
-    Size size;
-    Rect radarWindow; ///< cut out as the frame of the radar
-    Rect scope;       ///< the round glass within it
-    int strips = 0;
-    Rect stripPanel;
-    Rect stripModule;
-    Rect messageStrip;
-    Rect controlModule;
-    Point controlPanel; ///< corner of the control panel's window
-    Rect execButton;
-    Rect scrollDown;
+struct ConsoleFittings {
+    const ConsoleLayout& places;
+    Rect stripModule;   ///< the sheet around the strips
+    Rect controlModule; ///< and that around the control panel
     std::span<const Knob> knobs;
     std::span<const Turned> screws;
     std::span<const Vent> vents;
     std::span<const Plate> plates;
     std::span<const Box> handles;
 };
-
-// The same at both sizes.
-inline constexpr std::array<Rect, 3> menuButtons{{{31, 20, 83, 39}, {93, 20, 145, 39}, {155, 20, 207, 39}}};
-inline constexpr Rect smallScopeFace{219, 18, 243, 42};
-inline constexpr Rect clockWindow{261, 21, 312, 36};
-inline constexpr std::array<Point, 3> lampCorners{{{320, 16}, {348, 16}, {376, 16}}};
-inline constexpr int lampSize = 28;
-inline constexpr Rect systemSquare{2, 1, 8, 7};
-inline constexpr int dragStripHeight = 5;
-inline constexpr int stripPitch = 37;
-inline constexpr Size stripButton{20, 12};
-
-// From the right edge of the window.
-inline constexpr int stripButtonFromRight = 190;
-inline constexpr int stripButtonTop = 81;
-inline constexpr int scrollFromRight = 172;
-inline constexpr Size scrollArrow{11, 9};
-inline constexpr int scrollUpTop = 69;
 
 // The fittings around the scope stand on two axes, left and right of it, and mirror each other about its
 // middle as far as the modules leave room.
@@ -95,18 +69,10 @@ inline constexpr std::array<Plate, 2> largePlates{{
 }};
 inline constexpr std::array<Box, 2> largeHandles{{{17, 222, 18, 150}, {17, 454, 18, 150}}};
 
-inline constexpr ConsoleLayout largeConsole{
-    .size = {1024, 768},
-    .radarWindow = {70, 70, 756, 756},
-    .scope = {70, 70, 756, 756},
-    .strips = 14,
-    .stripPanel = {869, 71, 1008, 612},
+inline constexpr ConsoleFittings largeFittings{
+    .places = largeConsole,
     .stripModule = {812, 56, 1016, 622},
-    .messageStrip = {443, 19, 1005, 39},
     .controlModule = {812, 629, 1016, 762},
-    .controlPanel = {824, 640},
-    .execButton = {992, 656, 1006, 724},
-    .scrollDown = {852, 604, 863, 613},
     .knobs = largeKnobs,
     .screws = largeScrews,
     .vents = largeVents,
@@ -128,18 +94,10 @@ inline constexpr std::array<Plate, 2> smallPlates{{
     {{566, 408, 16, 98}, "APPROACH CONTROL", 0.4},
 }};
 
-inline constexpr ConsoleLayout smallConsole{
-    .size = {800, 600},
-    .radarWindow = {16, 61, 555, 600},
-    .scope = {43, 76, 551, 581},
-    .strips = 10,
-    .stripPanel = {645, 71, 784, 442},
+inline constexpr ConsoleFittings smallFittings{
+    .places = smallConsole,
     .stripModule = {588, 56, 792, 454},
-    .messageStrip = {443, 19, 783, 39},
     .controlModule = {588, 461, 792, 594},
-    .controlPanel = {600, 472},
-    .execButton = {768, 488, 782, 556},
-    .scrollDown = {628, 436, 639, 445},
     .knobs = smallKnobs,
     .screws = smallScrews,
     .vents = smallVents,

@@ -1,4 +1,4 @@
-// The two sizes of the main window.
+// The two sizes of the main window, and of the console that fills it.
 
 #pragma once
 
