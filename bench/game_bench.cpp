@@ -43,7 +43,10 @@ void StartToFirstFrame(benchmark::State& state) {
     const Size window = state.range(0) == smallWindow.width ? smallWindow : largeWindow;
     for (auto _ : state) {
         Game game(window);
-        game.program.startUp();
+        if (!game.program.startUp()) {
+            state.SkipWithError("The program does not start.");
+            return;
+        }
         Script(game.backend).then([&] { game.program.desktop().quit(); });
         game.program.run();
         benchmark::DoNotOptimize(game.backend.screen().pixels().data());
@@ -57,7 +60,10 @@ void MinuteOfPlay(benchmark::State& state) {
     for (auto _ : state) {
         state.PauseTiming();
         Game game(largeWindow);
-        game.program.startUp();
+        if (!game.program.startUp()) {
+            state.SkipWithError("The program does not start.");
+            return;
+        }
         ProfileFile profile(game.profile);
         profile.set("Game", "Name", "Mary");
         profile.set("Game", "Skill", "3");

@@ -12,6 +12,7 @@
 #include "platform/machine/places.h"
 #include "platform/sdl/sdl_backend.h"
 #include "shell/program.h"
+#include "shell/program_data.h"
 #include "shell/window_memory.h"
 
 namespace ventrel {
@@ -60,8 +61,7 @@ struct Settings {
     }
 };
 
-std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::filesystem::path& programFolder) {
-    const auto icon = loadIcon(programFolder);
+std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::optional<CursorImage>& icon) {
     SdlOptions options{.title = std::string(programTitle), .picture = settings.window};
     options.fullScreen = settings.options.windowed == 0;
     if (settings.windowPlace) {
@@ -104,17 +104,24 @@ int play(const std::filesystem::path& executable) {
     Settings settings{.file = writableFile(programFolder, programName, profileName)};
     settings.read();
 
-    FontSet fonts(programFolder / "fonts", complain);
-    const auto backend = fonts.isComplete() ? openScreen(settings, programFolder) : nullptr;
+    ProgramData data = openProgramData(programFolder);
+    if (!data.fonts.hasFaces()) {
+        complain(data.troubles.front(), MessageIcon::stop);
+        return cannotStart;
+    }
+    const auto backend = openScreen(settings, data.icon);
     if (!backend) {
         return cannotStart;
     }
     SilentSounds sounds;
     {
-        Program program({*backend, fonts, sounds}, {programFolder, settings.file}, settings.options,
+        Program program({*backend, data.fonts, sounds, std::move(data.troubles)},
+                        {programFolder, settings.file, userDataFolder(programName) / "apt"}, settings.options,
                         wantedSeed().value_or(seedOfTheMoment()));
-        if (program.startUp()) {
+        if (const auto started = program.startUp()) {
             program.run();
+        } else {
+            complain(started.error().text, started.error().icon);
         }
         settings.options = program.options();
     }

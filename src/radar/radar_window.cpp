@@ -1,5 +1,7 @@
 #include "radar/radar_window.h"
 
+#include <algorithm>
+
 #include "platform/canvas/image.h"
 #include "radar/map_drawing.h"
 #include "radar/radar_frame.h"
@@ -91,6 +93,17 @@ void followClock(RadarWindow& radar, ClockSeconds now) {
     }
 }
 
+/// What the map shows of it: its upper left part, as large as the scope.
+Bitmap shownPart(Bitmap picture, int scopeSize) {
+    const Size shown{std::min(picture.width(), scopeSize), std::min(picture.height(), scopeSize)};
+    if (shown == picture.size()) {
+        return picture;
+    }
+    Bitmap part(shown);
+    Canvas(part).draw({0, 0}, picture);
+    return part;
+}
+
 } // namespace
 
 void RadarCreate(RadarWindow& radar, const Window& parent, std::vector<Bitmap> clouds) {
@@ -111,7 +124,7 @@ void RadarDecodePicture(RadarWindow& radar) {
     Bitmap bitmap;
     if (ImageLoadMemory(image, radar.sources.game.mapPicture(), ImageFormat::jpeg) == ImageError::none &&
         ImageToBitmap(image, bitmap) == ImageError::none) {
-        radar.airportImage = std::move(bitmap);
+        radar.airportImage = shownPart(std::move(bitmap), radar.layout.scopeSize);
     }
 }
 

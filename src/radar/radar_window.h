@@ -66,7 +66,7 @@ struct RadarWindow {
     Region scope = {};                       ///< the round part of the window
     Bitmap backBuffer = {};                  ///< the latest frame, without the sweep
     std::optional<Bitmap> map = {};          ///< what does not move; none until the first game
-    std::optional<Bitmap> airportImage = {}; ///< the airport's own picture
+    std::optional<Bitmap> airportImage = {}; ///< the airport's own picture, at most of the scope's size
     std::vector<Bitmap> clouds = {};
     Sweep sweep = {};
     ClockSeconds lastClockSeen = 0;

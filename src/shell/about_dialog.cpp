@@ -1,9 +1,6 @@
 #include "shell/about_dialog.h"
 
-#include "base/data_path.h"
 #include "base/version.h"
-#include "base/windows1252.h"
-#include "platform/canvas/image.h"
 #include "platform/widgets/dialog.h"
 #include "resources/dialogs.h"
 
@@ -15,18 +12,6 @@ constexpr std::string_view pictureName = "grf\\about.grf";
 constexpr std::string_view versionText = "Version " VENTREL_VERSION;
 constexpr int okFromBottom = 20;
 constexpr int versionMargin = 10;
-
-std::optional<Bitmap> loadPicture(Shell& shell) {
-    const auto file = DataPath(shell.programFolder, pictureName);
-    Image image;
-    Bitmap picture;
-    if (ImageLoadFile(image, file, ImageFormat::png) == ImageError::none &&
-        ImageToBitmap(image, picture) == ImageError::none) {
-        return picture;
-    }
-    shell.report(FormatStringId(TextId::cannotOpenFile, {pathText(file)}), MessageIcon::stop);
-    return std::nullopt;
-}
 
 /// Makes the window exactly as large as the picture and puts the controls on it.
 void fitTo(Dialog& dialog, Size picture) {
@@ -51,7 +36,10 @@ void fitTo(Dialog& dialog, Size picture) {
 } // namespace
 
 void runAboutDialog(Shell& shell) {
-    const std::optional<Bitmap> picture = loadPicture(shell);
+    const Result<Bitmap> picture = loadPicture(shell.programFolder, pictureName, shell.windowSize());
+    if (!picture) {
+        shell.report(picture.error().text, picture.error().icon);
+    }
     DialogHandlers handlers;
     handlers.escapeCommand = noEscape;
     handlers.command = [](Dialog& dialog, const CommandInput& input) {

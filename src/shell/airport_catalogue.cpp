@@ -1,6 +1,7 @@
 #include "shell/airport_catalogue.h"
 
 #include <algorithm>
+#include <map>
 #include <system_error>
 
 #include "base/data_path.h"
@@ -25,19 +26,16 @@ bool isAirportName(const fs::path& file) {
     return std::ranges::equal(file.extension().string(), airportExtension, {}, lowered);
 }
 
-/// The airport files of the folder, in the order of their names, so that the same folder gives the same list.
-std::vector<fs::path> airportFiles(const fs::path& folder) {
-    std::vector<fs::path> files;
+/// Adds the airport files of the folder by their names, in place of those that are there.
+void addAirportFiles(std::map<fs::path, fs::path>& files, const fs::path& folder) {
     std::error_code error;
     for (fs::directory_iterator entry(folder, error); !error && entry != fs::directory_iterator();
          entry.increment(error)) {
         std::error_code ignored;
         if (isAirportName(entry->path()) && !entry->is_directory(ignored)) {
-            files.push_back(entry->path());
+            files[entry->path().filename()] = entry->path();
         }
     }
-    std::sort(files.begin(), files.end());
-    return files;
 }
 
 bool nameComesFirst(const CatalogueEntry& a, const CatalogueEntry& b) {
@@ -51,23 +49,30 @@ fs::path airportFolder(const fs::path& programFolder) {
     return DataPath(programFolder, "apt");
 }
 
-std::vector<CatalogueEntry> BuildAirportCatalogue(const fs::path& folder, int windowWidth,
-                                                  const FailureReporter& report) {
-    std::vector<CatalogueEntry> catalogue;
-    for (const fs::path& file : airportFiles(folder)) {
+AirportCatalogue BuildAirportCatalogue(const fs::path& programsOwn, const fs::path& playersOwn,
+                                       int windowWidth) {
+    // In the order of their names, so that the same folders give the same list.
+    std::map<fs::path, fs::path> files;
+    addAirportFiles(files, programsOwn);
+    addAirportFiles(files, playersOwn);
+    AirportCatalogue catalogue;
+    const auto note = [&catalogue](std::string_view text, MessageIcon) {
+        catalogue.troubles.emplace_back(text);
+    };
+    for (const auto& [name, file] : files) {
         FileBuffer start;
-        if (catalogue.size() == mostEntries) {
+        if (catalogue.entries.size() == mostEntries) {
             break;
         }
-        if (!start.Load(file, false, airport_layout::headerSize, report)) {
+        if (!start.Load(file, false, airport_layout::headerSize, note)) {
             continue;
         }
         const auto header = readAirportHeader(start.data);
         if (header && header->isAirportFile() && header->layoutWidth == windowWidth) {
-            catalogue.push_back({header->name.substr(0, longestName), file.filename()});
+            catalogue.entries.push_back({header->name.substr(0, longestName), file});
         }
     }
-    std::stable_sort(catalogue.begin(), catalogue.end(), nameComesFirst);
+    std::ranges::stable_sort(catalogue.entries, nameComesFirst);
     return catalogue;
 }
 

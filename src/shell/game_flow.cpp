@@ -1,7 +1,6 @@
 #include "shell/game_flow.h"
 
 #include "console/window_size.h"
-#include "shell/airport_catalogue.h"
 #include "sim/airport_loading.h"
 #include "sim/schedule.h"
 #include "sim/shift_texts.h"
@@ -28,8 +27,7 @@ std::vector<Size> cloudSizes(const Shell& shell) {
 }
 
 bool openAirportOf(Shell& shell, const GameSetup& setup) {
-    const auto path = airportFolder(shell.programFolder) / setup.airportFile;
-    return loadAirport(shell.game, path, scopeLayout(shell), shell.random, shell.reporter());
+    return loadAirport(shell.game, setup.airportFile, scopeLayout(shell), shell.random, shell.reporter());
 }
 
 void beginShift(Shell& shell, const GameSetup& setup) {

@@ -13,7 +13,7 @@ struct GameSetup {
     Skill skill = Skill::normal;
     std::string controllerName; ///< at most 30 characters
     std::string airportName;
-    std::filesystem::path airportFile; ///< within the airport folder
+    std::filesystem::path airportFile;
 };
 
 } // namespace ventrel

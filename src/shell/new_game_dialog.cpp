@@ -6,6 +6,7 @@
 #include "shell/airport_dialog.h"
 #include "shell/controller_name.h"
 #include "shell/custom_skill_dialog.h"
+#include "shell/trouble_text.h"
 
 namespace ventrel {
 
@@ -138,12 +139,23 @@ void onCommand(NewGame& game, Dialog& dialog, int id) {
     }
 }
 
+/// Damaged files are told of in one box, and each only once.
+std::vector<CatalogueEntry> openCatalogue(Shell& shell) {
+    AirportCatalogue catalogue = BuildAirportCatalogue(airportFolder(shell.programFolder),
+                                                       shell.playersAirports, shell.windowSize().width);
+    std::erase_if(catalogue.troubles, [&shell](const std::string& trouble) {
+        return !shell.toldAirportTroubles.insert(trouble).second;
+    });
+    if (!catalogue.troubles.empty()) {
+        shell.report(troubleText(catalogue.troubles), MessageIcon::stop);
+    }
+    return std::move(catalogue.entries);
+}
+
 } // namespace
 
 std::optional<GameSetup> runNewGameDialog(Shell& shell) {
-    NewGame game{.shell = shell};
-    game.catalogue =
-        BuildAirportCatalogue(airportFolder(shell.programFolder), shell.windowSize().width, shell.reporter());
+    NewGame game{.shell = shell, .catalogue = openCatalogue(shell)};
     if (game.catalogue.empty()) {
         shell.report(StringTableText(TextId::noAirports), MessageIcon::information);
         return std::nullopt;

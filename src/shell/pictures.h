@@ -4,19 +4,19 @@
 
 #include <array>
 #include <filesystem>
-#include <optional>
+#include <string>
 #include <vector>
 
-#include "base/failure.h"
+#include "base/result.h"
 #include "controls/top_bar.h"
 #include "platform/devices/backend.h"
 
 namespace ventrel {
 
 struct Pictures {
-    Bitmap console;    ///< the main window's background
-    Bitmap radarFrame; ///< the console around the scope
-    std::vector<Bitmap> clouds;
+    Bitmap console;             ///< the main window's background
+    Bitmap radarFrame;          ///< the console around the scope
+    std::vector<Bitmap> clouds; ///< one that could not be read is clear
     LampPictures lamps;
     Bitmap stripButtonUp;
     Bitmap stripButtonDown;
@@ -24,12 +24,19 @@ struct Pictures {
     CursorImage arrow;
 };
 
-/// Loads them for a main window of that width. The first that cannot be read is reported (text 1, stop icon)
-/// and there is nothing.
-std::optional<Pictures> loadPictures(const std::filesystem::path& programFolder, int windowWidth,
-                                     const FailureReporter& report);
+struct LoadedPictures {
+    Pictures pictures;
+    std::vector<std::string> troubles; ///< of pictures that play goes on without
+};
 
-/// The program's icon; none, in silence, when it cannot be read.
-std::optional<CursorImage> loadIcon(const std::filesystem::path& programFolder);
+/// Loads them for a main window of that width. A picture that cannot be read (text 1), or has another size
+/// than its place on the console, is a failure; of a cloud it is a trouble.
+Result<LoadedPictures> loadPictures(const std::filesystem::path& programFolder, int windowWidth);
+
+/// The program's icon.
+Result<CursorImage> loadIcon(const std::filesystem::path& programFolder);
+
+/// A picture of any size up to that one.
+Result<Bitmap> loadPicture(const std::filesystem::path& programFolder, std::string_view name, Size most);
 
 } // namespace ventrel

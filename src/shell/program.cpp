@@ -1,10 +1,14 @@
 #include "shell/program.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "console/window_size.h"
 #include "platform/widgets/message_box.h"
 #include "shell/game_flow.h"
 #include "shell/main_window.h"
 #include "shell/tick.h"
+#include "shell/trouble_text.h"
 
 namespace ventrel {
 
@@ -23,30 +27,30 @@ Size chooseWindowSize(Options& options, Size screen) {
 }
 
 Program::Program(ProgramParts parts, ProgramPlaces places, const Options& options, std::uint32_t seed)
-    : parts_(parts), places_(std::move(places)), options_(options), seed_(seed),
-      desktop_(parts.backend, options.resolution == smallResolution ? smallWindow : largeWindow) {}
+    : parts_(std::move(parts)), places_(std::move(places)), options_(options), seed_(seed),
+      desktop_(parts_.backend, options.resolution == smallResolution ? smallWindow : largeWindow) {}
 
-bool Program::startUp() {
-    const auto report = [this](std::string_view text, MessageIcon icon) {
+Result<> Program::startUp() {
+    auto loaded = loadPictures(places_.programFolder, desktop_.size().width);
+    if (!loaded) {
         showMessageBox(desktop_, widgetFontsOf(parts_.fonts), {},
-                       {.text = text, .title = programTitle, .icon = icon});
-    };
-    auto pictures = loadPictures(places_.programFolder, desktop_.size().width, report);
-    if (!pictures) {
-        return false;
+                       {.text = loaded.error().text, .title = programTitle, .icon = loaded.error().icon});
+        return tl::unexpected(std::move(loaded.error()));
     }
+    std::ranges::move(loaded->troubles, std::back_inserter(parts_.troubles));
     shell_ = std::make_unique<Shell>(ShellParts{.desktop = desktop_,
                                                 .sounds = parts_.sounds,
                                                 .fonts = parts_.fonts,
                                                 .programFolder = places_.programFolder,
+                                                .playersAirports = places_.playersAirports,
                                                 .profilePath = places_.profilePath,
-                                                .pictures = std::move(*pictures),
+                                                .pictures = std::move(loaded->pictures),
                                                 .options = options_,
                                                 .random = {seed_}});
     createMainWindow(*shell_);
     desktop_.setIdle([this] { return Tick(*shell_); });
     shell_->mainWindow.post([this] { finishStartUp(); });
-    return true;
+    return {};
 }
 
 /// Whatever is shown before the console comes first; then the console appears.
@@ -59,6 +63,9 @@ void Program::finishStartUp() {
     shell_->mainWindow.show();
     shell_->sounds.stopMusic();
     shell_->sounds.playMusic(idleMusic, true);
+    if (!parts_.troubles.empty()) {
+        shell_->report(troubleText(parts_.troubles), MessageIcon::stop);
+    }
 }
 
 void Program::run() {

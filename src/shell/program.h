@@ -18,6 +18,7 @@ namespace ventrel {
 struct ProgramPlaces {
     std::filesystem::path programFolder;
     std::filesystem::path profilePath;
+    std::filesystem::path playersAirports = {}; ///< a folder, which need not be there
 };
 
 /// The size of the main window that the option `resolution` asks for; without such a wish it follows from the
@@ -27,8 +28,9 @@ Size chooseWindowSize(Options& options, Size screen);
 /// The machine and what was opened on it before there is a window. All of it outlives the program.
 struct ProgramParts {
     Backend& backend;
-    FontSet& fonts; ///< complete
+    FontSet& fonts; ///< with a face at least
     GameSounds& sounds;
+    std::vector<std::string> troubles = {}; ///< what is missing but not needed; told once the console stands
 };
 
 class Program {
@@ -40,8 +42,9 @@ public:
     Program& operator=(const Program&) = delete;
     ~Program() = default;
 
-    /// Loads what the console is made of and shows it. False, after a report, when something is missing.
-    bool startUp();
+    /// Loads what the console is made of and shows it. Fails, after the player was told, when something is
+    /// missing.
+    Result<> startUp();
 
     /// Runs until the player leaves.
     void run();

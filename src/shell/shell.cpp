@@ -39,8 +39,8 @@ ControlPanelCallbacks panelCallbacks(Shell& shell) {
 
 Shell::Shell(ShellParts parts)
     : desktop(parts.desktop), sounds(parts.sounds), fonts(parts.fonts), widgetFonts(widgetFontsOf(fonts)),
-      programFolder(std::move(parts.programFolder)), profilePath(std::move(parts.profilePath)),
-      pictures(std::move(parts.pictures)), options(parts.options),
+      programFolder(std::move(parts.programFolder)), playersAirports(std::move(parts.playersAirports)),
+      profilePath(std::move(parts.profilePath)), pictures(std::move(parts.pictures)), options(parts.options),
       random(parts.random), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
       scroller{.sources = scrollerSources(*this)},
       strips{.sources = {game, fonts, pictures.arrow},

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <filesystem>
+#include <set>
 
 #include "base/profile_file.h"
 #include "base/random.h"
@@ -36,7 +37,8 @@ struct ShellParts {
     GameSounds& sounds;
     FontSet& fonts;
     std::filesystem::path programFolder;
-    std::filesystem::path profilePath; ///< of the options file
+    std::filesystem::path playersAirports; ///< the folder of the player's own airport files
+    std::filesystem::path profilePath;     ///< of the options file
     Pictures pictures;
     Options options;
     RandomGenerator random;
@@ -53,6 +55,7 @@ struct Shell {
     FontSet& fonts;
     const WidgetFonts widgetFonts; ///< of menus, dialogs and message boxes
     const std::filesystem::path programFolder;
+    const std::filesystem::path playersAirports;
     const std::filesystem::path profilePath;
     Pictures pictures;
     Options options;
@@ -63,7 +66,8 @@ struct Shell {
 
     Window mainWindow;
     Button exec;
-    int pressedStrip = noSlot; ///< the strip whose button is shown pressed
+    std::set<std::string> toldAirportTroubles; ///< of which damaged airport files the player knows
+    int pressedStrip = noSlot;                 ///< the strip whose button is shown pressed
 
     TopBar topBar;
     Scroller scroller;

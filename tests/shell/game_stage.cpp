@@ -47,7 +47,7 @@ GameStage::GameStage(int windowWidth, std::string_view profileText,
              [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; }) {
     writeText(profile_, profileText);
     program_ = std::make_unique<Program>(ProgramParts{backend, fonts_, sounds},
-                                         ProgramPlaces{programFolder, profile_},
+                                         ProgramPlaces{programFolder, profile_, playersAirports()},
                                          optionsOf(profile_, windowWidth), 1);
 }
 
@@ -123,7 +123,7 @@ void GameStage::sendByPanel(const PlanStep& order) {
 }
 
 void GameStage::play() {
-    ASSERT_TRUE(program_->startUp());
+    ASSERT_TRUE(program_->startUp().has_value());
     Script(backend).wait(aMoment).then([this] { perform(); });
     program_->run();
 }

@@ -58,6 +58,8 @@ public:
     Desktop& desktop() { return program_->desktop(); }
     Program& program() { return *program_; }
     const std::filesystem::path& profile() const { return profile_; }
+    /// A folder for the player's own airport files, which is not there yet.
+    std::filesystem::path playersAirports() const { return folder_ / "own"; }
 
     /// Adds to the list of what the person does; each entry begins when all that came before has been done.
     /// What an entry adds while it is being done comes right after it.

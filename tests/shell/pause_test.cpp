@@ -147,7 +147,7 @@ TEST(StartUp, AScreenOfFewColoursIsComplainedOfAndThenUsed) {
     SilentSounds sounds;
     Program program({backend, fonts, sounds}, {PROGRAM_FOLDER, "none.ini"},
                     Options{.resolution = 2, .windowed = 1}, 1);
-    ASSERT_TRUE(program.startUp());
+    ASSERT_TRUE(program.startUp().has_value());
     Script(backend).wait(10).key(Key::enter).wait(10).then([&] {
         EXPECT_EQ(backend.beeps(), std::vector{MessageIcon::exclamation});
         EXPECT_TRUE(program.shell().mainWindow.isActive());
@@ -164,7 +164,7 @@ TEST(StartUp, AMissingPictureIsNamedAndNothingStarts) {
     Program program({backend, fonts, sounds}, {folder.path(), folder / "ventrel.ini"},
                     Options{.resolution = 2}, 1);
     Script(backend).wait(10).key(Key::enter);
-    EXPECT_FALSE(program.startUp());
+    EXPECT_FALSE(program.startUp().has_value());
     EXPECT_EQ(backend.beeps(), std::vector{MessageIcon::stop});
 }
 

@@ -86,14 +86,17 @@ private:
 
 class FontSet {
 public:
-    /// Loads the faces from the program's font folder. The first that is missing or damaged is reported by
-    /// name (text 1, stop icon); `isComplete` then is false, and fonts of such a face draw nothing.
+    /// Loads the faces from the program's font folder. Each that is missing or damaged is reported by name
+    /// (text 1, stop icon), and another of the folder stands in for it. Without any, fonts draw nothing.
     FontSet(const std::filesystem::path& folder, const FailureReporter& report);
     ~FontSet();
     FontSet(FontSet&&) noexcept;
     FontSet& operator=(FontSet&&) noexcept;
 
+    /// Every face is its own.
     bool isComplete() const;
+    /// There is one at least, so that texts can be read.
+    bool hasFaces() const;
 
     /// The font for a request, made at the first call for it.
     const Font& font(const FontRequest& request);

@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <numeric>
+#include <span>
 
 #include "base/whole_file.h"
 #include "base/windows1252.h"
@@ -120,6 +122,36 @@ Glyph renderGlyph(FT_FaceRec_* face, char32_t character, int ascent, FT_Int32 fl
     return glyph;
 }
 
+std::size_t bigEndian(std::span<const std::byte> bytes) {
+    return std::accumulate(
+        bytes.begin(), bytes.end(), std::size_t{0},
+        [](std::size_t number, std::byte byte) { return number << 8 | std::to_integer<std::size_t>(byte); });
+}
+
+/// Whether all tables of a font file lie within it. The library is content with the first few, and leaves
+/// out what a file that was cut short has lost.
+bool isWhole(std::span<const std::byte> file) {
+    constexpr std::size_t countAt = 4;
+    constexpr std::size_t directoryAt = 12; // of records: name, checksum, offset, length of 4 bytes each
+    constexpr std::size_t recordSize = 16;
+    constexpr std::size_t offsetAt = 8;
+    constexpr std::size_t lengthAt = 12;
+    if (file.size() < directoryAt) {
+        return false;
+    }
+    const std::size_t count = bigEndian(file.subspan(countAt, 2));
+    if (file.size() < directoryAt + count * recordSize) {
+        return false;
+    }
+    for (std::size_t i = 0; i < count; ++i) {
+        const auto record = file.subspan(directoryAt + i * recordSize, recordSize);
+        if (bigEndian(record.subspan(offsetAt, 4)) + bigEndian(record.subspan(lengthAt, 4)) > file.size()) {
+            return false;
+        }
+    }
+    return true;
+}
+
 } // namespace
 
 void FreeTypeCloser::operator()(FT_LibraryRec_* library) const {
@@ -137,7 +169,7 @@ FreeTypeLibrary startFreeType() {
 
 std::optional<FontFace> openFontFace(const FreeTypeLibrary& library, const std::filesystem::path& file) {
     auto content = readFileStart(file, largestFontFile);
-    if (!library || !content) {
+    if (!library || !content || !isWhole(*content)) {
         return std::nullopt;
     }
     FontFace opened{std::move(*content), nullptr};

@@ -17,6 +17,7 @@ struct FaceFile {
     std::size_t file; ///< in `files`
 };
 
+// The regular weight of a family, then the bold one.
 constexpr std::array<std::string_view, 4> files{"LiberationSans-Regular.ttf", "LiberationSans-Bold.ttf",
                                                 "LiberationMono-Regular.ttf", "LiberationMono-Bold.ttf"};
 
@@ -44,17 +45,28 @@ struct FontSet::Contents {
     FreeTypeLibrary library = startFreeType(); // first, so that it closes last
     std::array<std::optional<FontFace>, files.size()> faces;
     std::map<FontRequest, Font> fonts;
+
+    const FontFace* faceFor(std::size_t file) const;
 };
+
+/// The file's own face, or else the other weight of its family, or else whatever the folder has.
+const FontFace* FontSet::Contents::faceFor(std::size_t file) const {
+    const std::size_t otherWeight = file ^ 1U;
+    for (const std::size_t own : {file, otherWeight}) {
+        if (faces[own]) {
+            return &*faces[own];
+        }
+    }
+    const auto any = std::ranges::find_if(faces, [](const auto& face) { return face.has_value(); });
+    return any == faces.end() ? nullptr : &**any;
+}
 
 FontSet::FontSet(const std::filesystem::path& folder, const FailureReporter& report)
     : contents_(std::make_unique<Contents>()) {
     for (std::size_t i = 0; i < files.size(); ++i) {
-        const bool isFirstFailure =
-            std::all_of(contents_->faces.begin(), contents_->faces.begin() + static_cast<std::ptrdiff_t>(i),
-                        [](const auto& face) { return face.has_value(); });
         const std::filesystem::path file = folder / files[i];
         contents_->faces[i] = openFontFace(contents_->library, file);
-        if (!contents_->faces[i] && isFirstFailure) {
+        if (!contents_->faces[i]) {
             report(FormatStringId(TextId::cannotOpenFile, {pathText(file)}), MessageIcon::stop);
         }
     }
@@ -68,13 +80,17 @@ bool FontSet::isComplete() const {
     return std::ranges::all_of(contents_->faces, [](const auto& face) { return face.has_value(); });
 }
 
+bool FontSet::hasFaces() const {
+    return contents_->faceFor(0) != nullptr;
+}
+
 const Font& FontSet::font(const FontRequest& request) {
     const auto known = contents_->fonts.find(request);
     if (known != contents_->fonts.end()) {
         return known->second;
     }
     const int height = std::clamp(request.height, -tallest, tallest);
-    const auto& face = contents_->faces[fileOf(request)];
+    const FontFace* face = contents_->faceFor(fileOf(request));
     Font made = face ? renderFont(*face, height) : blankFont(height);
     return contents_->fonts.emplace(request, std::move(made)).first->second;
 }

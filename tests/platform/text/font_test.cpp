@@ -145,23 +145,44 @@ TEST_F(Fonts, TakeAnyHeightAndAnyPlace) {
     EXPECT_TRUE(inkOf(bitmap).isEmpty());
 }
 
-TEST(FontSets, NameAMissingOrDamagedFaceOnceAndGoOn) {
-    const TempFolder folder;
-    for (const auto& entry : std::filesystem::directory_iterator(fontFolder)) {
-        const std::string content = readText(entry.path());
-        writeText(folder / entry.path().filename().string(), content.substr(0, content.size() / 2));
-    }
-    std::filesystem::remove(folder / "LiberationSans-Bold.ttf");
+/// What a set of that folder complains of.
+std::vector<std::string> complaintsOf(const TempFolder& folder, std::optional<FontSet>& fonts) {
     std::vector<std::string> reports;
-    FontSet fonts(folder.path(), [&](std::string_view text, MessageIcon icon) {
+    fonts.emplace(folder.path(), [&](std::string_view text, MessageIcon icon) {
         EXPECT_EQ(icon, MessageIcon::stop);
         reports.emplace_back(text);
     });
-    EXPECT_FALSE(fonts.isComplete());
-    ASSERT_EQ(reports.size(), 1U);
-    EXPECT_NE(reports.front().find("Liberation"), std::string::npos) << reports.front();
-    // Windows keep a shape even so.
-    const Font& missing = fonts.font(scores);
+    return reports;
+}
+
+TEST(FontSets, NameEveryMissingOrHalfFaceAndLetAnotherStandIn) {
+    const TempFolder folder;
+    for (const auto& entry : std::filesystem::directory_iterator(fontFolder)) {
+        std::filesystem::copy(entry.path(), folder.path());
+    }
+    std::filesystem::remove(folder / "LiberationSans-Bold.ttf");
+    const std::string half = "LiberationMono-Regular.ttf";
+    const std::string content = readText(folder / half);
+    writeText(folder / half, content.substr(0, content.size() * 9 / 10));
+    std::optional<FontSet> fonts;
+    const std::vector<std::string> reports = complaintsOf(folder, fonts);
+    ASSERT_EQ(reports.size(), 2U);
+    EXPECT_NE(reports[0].find("LiberationSans-Bold"), std::string::npos) << reports[0];
+    EXPECT_NE(reports[1].find(half), std::string::npos) << reports[1];
+    EXPECT_FALSE(fonts->isComplete());
+    EXPECT_TRUE(fonts->hasFaces());
+    EXPECT_EQ(fonts->font({Face::arial, -16, true}).width("Lamp"),
+              fonts->font({Face::arial, -16, false}).width("Lamp"));
+    EXPECT_EQ(fonts->font({Face::courierNew, -16, false}).width("Lamp"),
+              fonts->font({Face::courierNew, -16, true}).width("Lamp"));
+}
+
+TEST(FontSets, WithoutAnyFaceWindowsKeepAShape) {
+    const TempFolder folder;
+    std::optional<FontSet> fonts;
+    EXPECT_EQ(complaintsOf(folder, fonts).size(), 4U);
+    EXPECT_FALSE(fonts->hasFaces());
+    const Font& missing = fonts->font(scores);
     EXPECT_GT(missing.lineHeight(), 0);
     EXPECT_GT(missing.width("AB"), missing.width("A"));
     Bitmap bitmap({40, 40});

@@ -1,0 +1,102 @@
+// The list of airports: the program's and the player's own, and what is told of damaged files.
+
+#include "platform/canvas/image.h"
+#include "resources/dialogs.h"
+#include "shell/airport_catalogue.h"
+#include "shell/game_stage.h"
+#include "sim/airport_file.h"
+
+namespace ventrel {
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path programsOwn = fs::path(PROGRAM_FOLDER) / "apt";
+
+/// Another airport's file under a name of its own.
+std::string airportNamed(std::string_view name) {
+    std::string file = readText(programsOwn / "atlanta10.apt");
+    file.replace(airport_layout::nameOffset, name.size() + 1, std::string(name) + '\0');
+    return file;
+}
+
+std::vector<std::string> namesOf(const AirportCatalogue& catalogue) {
+    std::vector<std::string> names;
+    for (const CatalogueEntry& entry : catalogue.entries) {
+        names.push_back(entry.name);
+    }
+    return names;
+}
+
+TEST(Airports, ThePlayersOwnJoinTheProgramsAndStandInForThoseOfTheirFileName) {
+    const TempFolder own;
+    writeText(own / "yard.APT", airportNamed("yard"));
+    writeText(own / "zoo.apt", airportNamed("Zoo"));
+    writeText(own / "new_york10.apt", airportNamed("Big Apple"));
+    writeText(own / "no_airport.txt", airportNamed("Text"));
+    writeText(own / "noise.apt", std::string(500, 'n'));
+    fs::create_directory(own / "folder.apt");
+    fs::copy(programsOwn / "miami8.apt", own / "other_size.apt");
+    const AirportCatalogue catalogue = BuildAirportCatalogue(programsOwn, own.path(), 1024);
+    EXPECT_EQ(namesOf(catalogue), (std::vector<std::string>{"Atlanta", "Big Apple", "Miami", "Zoo", "yard"}));
+    EXPECT_TRUE(catalogue.troubles.empty());
+    EXPECT_EQ(namesOf(BuildAirportCatalogue(programsOwn, own / "none", 800)),
+              (std::vector<std::string>{"Atlanta", "Miami", "New York"}));
+}
+
+TEST(Airports, AGameStartsInThePlayersOwn) {
+    GameStage stage;
+    fs::create_directory(stage.playersAirports());
+    writeText(stage.playersAirports() / "a.apt", airportNamed("Aaa"));
+    stage.startNewGame();
+    stage.look([&] { EXPECT_EQ(stage.game().airport.name, "Aaa"); });
+    stage.play();
+}
+
+TEST(Airports, EachDamagedFileIsToldOnceAndAllInOneBox) {
+    GameStage stage;
+    const fs::path own = stage.playersAirports();
+    fs::create_directory(own);
+    writeText(own / "empty.apt", "");
+    writeText(own / "short.apt", "short");
+    fs::create_symlink("loop.apt", own / "loop.apt");
+    const auto open = [&stage](std::size_t boxes, const char* when) {
+        stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").wait(1); });
+        stage.look([&stage, boxes, when] { EXPECT_EQ(stage.backend.beeps().size(), boxes) << when; });
+        stage.todo([](Script& script) { script.key(Key::escape).wait(1).key(Key::escape).wait(1); });
+        stage.look([&stage, when] { EXPECT_FALSE(stage.isDialogOpen()) << when; });
+    };
+    open(1, "three files, one box");
+    open(1, "they are known");
+    stage.look([own] { writeText(own / "another.apt", "another"); });
+    open(2, "one more");
+    stage.play();
+    const auto troubles = BuildAirportCatalogue(programsOwn, own, 1024).troubles;
+    ASSERT_EQ(troubles.size(), 4U);
+    EXPECT_NE(troubles[0].find("another.apt"), std::string::npos);
+}
+
+TEST(Airports, APictureLargerThanTheScopeIsNotKept) {
+    const std::string picture = readText(fs::path(TEST_DATA_FOLDER) / "larger_than_scope.jpg");
+    std::string file = airportNamed("Aaa");
+    const auto put = [&file](std::size_t offset, std::size_t number) {
+        for (int byte = 0; byte < 4; ++byte, number >>= 8U) {
+            file[offset++] = static_cast<char>(number & 0xFFU);
+        }
+    };
+    put(airport_layout::pictureStartOffset, file.size());
+    put(airport_layout::pictureSizeOffset, picture.size());
+    GameStage stage;
+    fs::create_directory(stage.playersAirports());
+    writeText(stage.playersAirports() / "a.apt", file + picture);
+    stage.startNewGame();
+    stage.look([&] {
+        const auto& kept = stage.shell().radar.airportImage;
+        ASSERT_TRUE(kept.has_value());
+        EXPECT_EQ(kept->size(), (Size{686, 686}));
+    });
+    stage.play();
+}
+
+} // namespace
+} // namespace ventrel

@@ -1,0 +1,192 @@
+// Every dialog's plan, and how the game's own dialogs look.
+
+#include <set>
+
+#include "golden.h"
+#include "platform/canvas/text.h"
+#include "platform/widgets/menu.h"
+#include "platform/widgets/widget_place.h"
+#include "resources/dialogs.h"
+#include "resources/help.h"
+#include "shell/game_stage.h"
+#include "shell/plain_program.h"
+
+namespace ventrel {
+namespace {
+
+struct NamedShape {
+    std::string name;
+    Size size;
+    std::vector<ControlTemplate> controls;
+};
+
+NamedShape shapeOf(std::string name, const DialogTemplate& shape) {
+    return {std::move(name), shape.size, {shape.controls.begin(), shape.controls.end()}};
+}
+
+/// All dialogs; of Help what is to be seen of one topic.
+std::vector<NamedShape> allShapes() {
+    std::vector<NamedShape> shapes{shapeOf("New Game", new_game::shape),
+                                   shapeOf("Custom Skill", custom_skill::shape),
+                                   shapeOf("Choose Airport", choose_airport::shape),
+                                   shapeOf("Schedule", schedule::shape), shapeOf("About", about::shape)};
+    for (std::size_t topic = 0; topic < help::topics.size(); ++topic) {
+        NamedShape page{"Help, " + std::string(help::topics[topic]), help::shape.size, {}};
+        const int first = help::pageControl(topic, 0);
+        for (const ControlTemplate& control : help::controls) {
+            const bool isOfPage = control.id >= first && control.id < help::pageControl(topic + 1, 0);
+            if (isOfPage || control.id < help::pageControl(0, 0)) {
+                page.controls.push_back(control);
+            }
+        }
+        shapes.push_back(std::move(page));
+    }
+    return shapes;
+}
+
+bool contains(const Rect& outer, const Rect& inner) {
+    return inner.left >= outer.left && inner.top >= outer.top && inner.right <= outer.right &&
+           inner.bottom <= outer.bottom;
+}
+
+bool takesFocus(const ControlTemplate& control) {
+    return control.kind != ControlKind::staticText && control.kind != ControlKind::groupBox;
+}
+
+/// Two controls may lie over each other only where one is a group around the other.
+bool mayMeet(const ControlTemplate& a, const ControlTemplate& b) {
+    const bool isGroup = a.kind == ControlKind::groupBox;
+    return !a.place.intersects(b.place) || (isGroup && contains(a.place, b.place));
+}
+
+TEST(Dialogs, LeaveRoomForEveryControl) {
+    for (const NamedShape& shape : allShapes()) {
+        const Rect inside{0, 0, shape.size.width, shape.size.height};
+        std::set<int> ids;
+        for (std::size_t i = 0; i < shape.controls.size(); ++i) {
+            const ControlTemplate& control = shape.controls[i];
+            SCOPED_TRACE(shape.name + ": " + std::string(control.text) + " " + std::to_string(control.id));
+            EXPECT_TRUE(contains(inside, control.place));
+            EXPECT_TRUE(control.id == 0 || ids.insert(control.id).second) << "its number is taken";
+            for (std::size_t j = i + 1; j < shape.controls.size(); ++j) {
+                EXPECT_TRUE(mayMeet(control, shape.controls[j]) || mayMeet(shape.controls[j], control))
+                    << "lies over " << shape.controls[j].text << " " << shape.controls[j].id;
+            }
+        }
+    }
+}
+
+TEST(Dialogs, GoFromControlToControlAsOneReads) {
+    for (const NamedShape& shape : allShapes()) {
+        const ControlTemplate* last = nullptr;
+        std::set<char> letters;
+        int defaults = 0;
+        for (const ControlTemplate& control : shape.controls) {
+            SCOPED_TRACE(shape.name + ": " + std::string(control.text) + " " + std::to_string(control.id));
+            const char letter = mnemonicOf(control.text);
+            EXPECT_TRUE(letter == '\0' || letters.insert(letter).second) << "its letter is taken";
+            defaults += control.kind == ControlKind::defaultButton ? 1 : 0;
+            if (!takesFocus(control)) {
+                continue;
+            }
+            const bool isNext = last == nullptr || control.place.top > last->place.top ||
+                                control.place.left >= last->place.right;
+            EXPECT_TRUE(isNext) << "it comes after " << last->text << " " << last->id;
+            last = &control;
+        }
+        EXPECT_EQ(defaults, 1) << shape.name;
+    }
+}
+
+/// Pixels that a control's frame and marks take from its text.
+Size trimOf(ControlKind kind) {
+    switch (kind) {
+    case ControlKind::pushButton:
+    case ControlKind::defaultButton: return {8, 6};
+    case ControlKind::checkBox:
+    case ControlKind::radioButton: return {17, 0};
+    default: return {};
+    }
+}
+
+class DialogLooks : public ::testing::Test {
+protected:
+    DialogLooks() { makePlainProgram(folder_.path()); }
+
+    void expectDialog(GameStage& stage, const std::string& name) {
+        stage.look([&stage, name] {
+            ASSERT_TRUE(stage.isDialogOpen()) << name;
+            expectGolden(pictureOf(stage.backend.screen(), stage.desktop().activeWindow().bounds()),
+                         "dialog_" + name);
+        });
+    }
+    static void press(GameStage& stage, Key key) {
+        stage.todo([key](Script& script) { script.key(key).wait(1); });
+    }
+
+    TempFolder folder_;
+};
+
+TEST_F(DialogLooks, TextsAreNotCut) {
+    FontSet faces(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
+    const Font& font = widgetFontsOf(faces).text;
+    for (const NamedShape& shape : allShapes()) {
+        for (const ControlTemplate& control : shape.controls) {
+            const Rect place = dialogUnitsToPixels(control.place);
+            const bool wraps = (control.style & multiLine) != 0;
+            const Size text =
+                measureText(font, control.text, place.width(), {.wrap = wraps, .mnemonics = true});
+            const Size trim = trimOf(control.kind);
+            EXPECT_LE(text.width + trim.width, place.width()) << shape.name << ": " << control.text;
+            EXPECT_LE(text.height + trim.height, place.height()) << shape.name << ": " << control.text;
+        }
+    }
+}
+
+TEST_F(DialogLooks, NewGameAndWhatItOpens) {
+    GameStage stage(800, "[Game]\nName=mary\nSkill=4\n", folder_.path());
+    stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").wait(1); });
+    expectDialog(stage, "new_game");
+    stage.todo([](Script& script) { script.key(Key::c, withAlt).wait(1).key(Key::down).wait(1); });
+    expectDialog(stage, "choose_airport");
+    press(stage, Key::escape);
+    press(stage, Key::enter);
+    expectDialog(stage, "custom_skill");
+    press(stage, Key::escape);
+    stage.todo([&stage](Script& script) {
+        const Rect bounds = stage.desktop().activeWindow().bounds();
+        script.click({bounds.left + 40, bounds.top + 60}).wait(1); // Easy
+    });
+    expectDialog(stage, "new_game_easy");
+    press(stage, Key::escape);
+    stage.play();
+}
+
+TEST_F(DialogLooks, ScheduleAndAbout) {
+    GameStage stage(800, "[Game]\nName=mary\nSkill=1\n", folder_.path());
+    stage.startNewGame();
+    stage.skipTo(300);
+    stage.look([&] { stage.game().score = 225; });
+    stage.todo([](Script& script) { script.key(Key::s, withControl).wait(1); });
+    expectDialog(stage, "schedule");
+    press(stage, Key::enter);
+    stage.todo([](Script& script) { script.key(Key::h, withAlt).type("a").wait(1); });
+    expectDialog(stage, "about");
+    press(stage, Key::enter);
+    stage.play();
+}
+
+TEST_F(DialogLooks, EveryPageOfHelp) {
+    GameStage stage(800, "", folder_.path());
+    press(stage, Key::f1);
+    for (const char* page : {"keys", "desk", "arrivals", "departures", "separation", "points"}) {
+        expectDialog(stage, std::string("help_") + page);
+        press(stage, Key::down);
+    }
+    press(stage, Key::enter);
+    stage.look([&] { EXPECT_FALSE(stage.isDialogOpen()); });
+    stage.play();
+}
+
+} // namespace
+} // namespace ventrel

@@ -1,0 +1,184 @@
+// Options from the file to the menus and back.
+
+#include "resources/menus.h"
+#include "shell/game_stage.h"
+#include "shell/options_file.h"
+#include "shell/popup_menus.h"
+
+namespace ventrel {
+namespace {
+
+TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
+    const TempFolder folder;
+    const std::filesystem::path path = folder / "options.ini";
+    std::ofstream{path} << "; mine\n[Options]\nSingleSound=4\nCustomPlanes=99\nCustomSched=7200\nMusic=off\n"
+                           "CustomSkill=-17\nFuture=1\n";
+    ProfileFile profile{path};
+    Options options = ReadOptions(profile);
+    EXPECT_EQ(options.singleSound, 4);
+    EXPECT_EQ(options.customBonus, 825);
+    EXPECT_EQ(options.music, 0);
+    EXPECT_EQ(options.effects, 1);
+    options.singleSound = 9;
+    options.windowed = 1;
+    WriteOptions(options, profile);
+    ASSERT_TRUE(profile.save());
+    Options again = ReadOptions(ProfileFile{path});
+    EXPECT_EQ(again.singleSound, 4);
+    again.singleSound = 9;
+    EXPECT_EQ(again, options);
+    EXPECT_EQ(ProfileFile{path}.integer("Options", "Future", 0), 1);
+    EXPECT_EQ(ReadOptions(ProfileFile{folder / "none.ini"}), Options{});
+}
+
+/// An item of the menus: how the keyboard reaches it, what it is called, and its option.
+struct MenuPath {
+    std::string_view letters;
+    std::string_view text;
+    int Options::*option;
+    bool isTickedWhenOn = true;
+};
+constexpr std::array paths{std::to_array<MenuPath>({
+    {"dw", "Radar S&weep", &Options::radarSweep},
+    {"dg", "&Grid", &Options::showGrid},
+    {"dv", "Direct to &VOR Lines", &Options::showRoutes},
+    {"di", "Background &Image", &Options::mapDetails},
+    {"um", "&Music", &Options::music},
+    {"us", "&Sound Effects", &Options::effects},
+    {"uv", "Pilot &Voices", &Options::voice},
+    {"a", "&Auto Select New Planes", &Options::autoSelect},
+})};
+
+/// The item of that text, wherever it stands; null when there is none.
+const MenuItem* itemNamed(const Menu& menu, std::string_view text) {
+    for (const MenuItem& item : menu) {
+        if (item.text == text) {
+            return &item;
+        }
+        if (const MenuItem* found = itemNamed(item.items, text)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+bool isTicked(GameStage& stage, std::string_view text) {
+    const Menu menu = optionsMenu(stage.shell());
+    const MenuItem* item = itemNamed(menu, text);
+    return item != nullptr && item->checked;
+}
+
+bool isGreyed(const Menu& menu, std::string_view text) {
+    const MenuItem* item = itemNamed(menu, text);
+    return item == nullptr || item->greyed;
+}
+
+TEST(OptionMenus, EachItemTurnsItsOwnOptionOverAndIsTickedWhileItIsOn) {
+    GameStage stage;
+    const Options start = stage.program().options();
+    for (const MenuPath& path : paths) {
+        for (const bool isFirst : {true, false}) {
+            stage.todo([&path](Script& script) {
+                script.key(Key::o, withAlt);
+                // "Display Options" has no letter of its own; it is the sixth line.
+                if (path.letters.front() == 'd') {
+                    script.key(Key::up).key(Key::up).key(Key::up).key(Key::up).key(Key::right);
+                } else if (path.letters.size() > 1) {
+                    script.type(path.letters.substr(0, 1));
+                }
+                script.type(path.letters.substr(path.letters.size() - 1)).wait(1);
+            });
+            stage.look([&stage, &path, start, isFirst] {
+                Options expected = start;
+                if (isFirst) {
+                    expected.*path.option = start.*path.option == 0 ? 1 : 0;
+                }
+                EXPECT_EQ(stage.shell().options, expected) << path.text;
+                EXPECT_EQ(isTicked(stage, path.text), stage.shell().options.*path.option != 0) << path.text;
+                EXPECT_EQ(ReadOptions(ProfileFile(stage.profile())).*path.option,
+                          stage.shell().options.*path.option)
+                    << path.text << " was not saved";
+            });
+        }
+    }
+    stage.play();
+}
+
+TEST(OptionMenus, TickTheSizeTheScreenAndThePause) {
+    GameStage stage(800);
+    stage.look([&] {
+        EXPECT_TRUE(isTicked(stage, "800 x 600"));
+        EXPECT_FALSE(isTicked(stage, "1024 x 768"));
+        EXPECT_TRUE(isTicked(stage, "&Full Screen"));
+        EXPECT_TRUE(isGreyed(optionsMenu(stage.shell()), "&Pause\tPAUSE"));
+        EXPECT_TRUE(isGreyed(optionsMenu(stage.shell()), "&Schedule...\tCtrl+S"));
+        EXPECT_TRUE(isGreyed(optionsMenu(stage.shell()), "&Boss Key\tESC"));
+        EXPECT_TRUE(isGreyed(fileMenu(stage.shell()), "&End Game"));
+        EXPECT_FALSE(isGreyed(fileMenu(stage.shell()), "&New Game..."));
+        stage.shell().options.windowed = 1;
+        stage.shell().options.resolution = largeResolution;
+        EXPECT_FALSE(isTicked(stage, "&Full Screen"));
+        EXPECT_FALSE(isTicked(stage, "800 x 600"));
+        EXPECT_TRUE(isTicked(stage, "1024 x 768"));
+    });
+    stage.startNewGame();
+    stage.look([&] {
+        EXPECT_FALSE(isTicked(stage, "&Pause\tPAUSE"));
+        EXPECT_FALSE(isGreyed(optionsMenu(stage.shell()), "&Pause\tPAUSE"));
+        EXPECT_FALSE(isGreyed(optionsMenu(stage.shell()), "&Schedule...\tCtrl+S"));
+        EXPECT_FALSE(isGreyed(optionsMenu(stage.shell()), "&Boss Key\tESC"));
+        EXPECT_FALSE(isGreyed(fileMenu(stage.shell()), "&End Game"));
+    });
+    stage.todo([](Script& script) { script.key(Key::p).wait(1); });
+    stage.look([&] { EXPECT_TRUE(isTicked(stage, "&Pause\tPAUSE")); });
+    stage.play();
+}
+
+/// The box around all that differs.
+Rect changedBox(const Bitmap& before, const Bitmap& after) {
+    Rect box{before.width(), before.height(), 0, 0};
+    for (int y = 0; y < before.height(); ++y) {
+        for (int x = 0; x < before.width(); ++x) {
+            if (before.at(x, y) != after.at(x, y)) {
+                box = {std::min(box.left, x), std::min(box.top, y), std::max(box.right, x + 1),
+                       std::max(box.bottom, y + 1)};
+            }
+        }
+    }
+    return box;
+}
+
+TEST(OptionMenus, OpenUnderTheirButtons) {
+    GameStage stage(800);
+    struct Opened {
+        Point click;
+        std::string_view letter;
+        Point corner;
+    };
+    const auto expectDialog = [&](const Opened& opened, const char* what) {
+        auto before = std::make_shared<Bitmap>();
+        stage.look([&stage, before] { *before = stage.backend.screen(); });
+        stage.todo([opened](Script& script) { script.moveTo(opened.click).click(opened.click).wait(1); });
+        stage.look([&stage, before, opened, what] {
+            // The button itself is shown pressed or released on the way.
+            const Rect box = changedBox(*before, stage.backend.screen());
+            EXPECT_EQ(box.left, opened.corner.x) << what;
+            EXPECT_GT(box.bottom, opened.corner.y + 20) << what;
+        });
+        stage.todo([opened](Script& script) { script.type(opened.letter).wait(1); });
+    };
+    expectDialog({{57, 30}, "n", {31, 39}}, "File");
+    stage.look([&] { EXPECT_TRUE(stage.isDialogOpen()); });
+    stage.todo([](Script& script) { script.key(Key::escape).wait(1); });
+    expectDialog({{119, 30}, "a", {93, 39}}, "Options");
+    stage.look([&] { EXPECT_EQ(stage.shell().options.autoSelect, 1); });
+    expectDialog({{181, 30}, "a", {155, 39}}, "Help");
+    stage.look([&] { EXPECT_TRUE(stage.isDialogOpen()); });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(1); });
+    expectDialog({{4, 3}, "n", {2, 7}}, "System");
+    stage.look([&] { EXPECT_TRUE(stage.backend.isMinimised()); });
+    stage.play();
+}
+
+} // namespace
+} // namespace ventrel

@@ -1,0 +1,62 @@
+#include "shell/plain_program.h"
+
+#include <gtest/gtest.h>
+
+#include "platform/canvas/png_writer.h"
+#include "radar/clouds.h"
+#include "radar/radar_window.h"
+
+namespace ventrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr Colour consoleColour = Colour::rgb(0x50, 0x58, 0x5A);
+constexpr Colour cloudColour = Colour::rgb(0xB0, 0xB4, 0xB8);
+constexpr Size cloudSize{96, 56};
+constexpr Size lampSize{28, 28};
+constexpr Size stripButtonSize{20, 12};
+constexpr Size pointerSize{32, 32};
+
+Bitmap plain(Size size, Colour colour) {
+    Bitmap bitmap(size);
+    Canvas(bitmap).fill(bitmap.bounds(), colour);
+    return bitmap;
+}
+
+Bitmap plainCloud() {
+    Bitmap cloud = plain(cloudSize, cloudTransparent);
+    Canvas(cloud).filledEllipse(cloud.bounds(), cloudColour, cloudColour);
+    return cloud;
+}
+
+} // namespace
+
+void makePlainProgram(const fs::path& folder) {
+    fs::create_directories(folder / "grf");
+    fs::create_directory_symlink(fs::path(PROGRAM_FOLDER) / "apt", folder / "apt");
+    fs::create_directory_symlink(fs::path(PROGRAM_FOLDER) / "fonts", folder / "fonts");
+    const auto write = [&](const std::string& name, const Bitmap& picture) {
+        ASSERT_TRUE(writePng(folder / "grf" / (name + ".grf"), picture));
+    };
+    write("bkgnd8", plain({800, 600}, consoleColour));
+    write("bkgnd10", plain({1024, 768}, consoleColour));
+    write("r8frame", plain({539, 539}, consoleColour));
+    write("r10frame", plain({686, 686}, consoleColour));
+    for (const std::string colour : {"green", "yellow", "red"}) {
+        write("lamp_" + colour + "_dark", plain(lampSize, Colour::rgb(40, 40, 40)));
+        write("lamp_" + colour + "_bright", plain(lampSize, Colour::rgb(250, 250, 250)));
+    }
+    for (int i = 0; i < cloudPictureCount; ++i) {
+        write("cloud" + std::to_string(i), plainCloud());
+    }
+    write("strip_button_up", plain(stripButtonSize, Colour::rgb(150, 150, 150)));
+    write("strip_button_down", plain(stripButtonSize, Colour::rgb(250, 160, 80)));
+    write("pointer_hand", plain(pointerSize, cloudTransparent));
+    write("pointer_arrow", plain(pointerSize, cloudTransparent));
+    write("icon", plain(pointerSize, cloudColour));
+    write("about", plain({200, 120}, consoleColour));
+}
+
+} // namespace ventrel
