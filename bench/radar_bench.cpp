@@ -35,15 +35,15 @@ std::vector<Bitmap> cloudPictures() {
 Flight flightNumber(int number) {
     Flight flight;
     flight.inPlay = true;
-    flight.activatedAt = 1;
+    flight.activatedAt = 1_s;
     flight.scheduledAt = number * stepInterval;
-    flight.callsign = "UA" + std::to_string(100 + number);
-    flight.destination = 0;
-    flight.planLength = routeSteps;
+    flight.callsign = std::string_view{"UA" + std::to_string(100 + number)};
     Cell cell{8 + number * 7 % 33, 8 + number * 11 % 33};
     const int heading = number % 8 * headingStep;
+    flight.plan = {{.altitude = 5, .heading = heading, .directTarget = PointIndex{0}}};
     for (int k = 0; k < routeSteps; ++k) {
-        flight.plan[static_cast<std::size_t>(k)] = {cell.x, cell.y, 5, heading, normalSpeed, 0, 0};
+        flight.plan.last().cell = cell;
+        flight.plan.extend();
         cell = stepCell(cell, k < routeSteps / 2 ? heading : turned(heading, headingStep));
     }
     return flight;
@@ -52,10 +52,12 @@ Flight flightNumber(int number) {
 /// A crowded game in its window.
 struct Play {
     Play() {
-        game.gameRunning = true;
+        game.phase = Phase::running;
         Vor fix;
         fix.ident = "JFK";
-        game.vors = {fix};
+        game.points = std::make_shared<const std::vector<Vor>>(std::vector<Vor>{fix});
+        game.layout = largeLayout;
+        game.clock = 101_s;
         for (int i = 0; i < flightCount; ++i) {
             game.flights.push_back(flightNumber(i));
         }
@@ -68,7 +70,7 @@ struct Play {
         CtrlCreate(panel, main, console);
         RadarBuildMap(radar, console);
         StripsRebuild(strips);
-        CtrlSetFlight(panel, 0);
+        CtrlSetFlight(panel, FlightIndex{0});
         desktop.pumpMessages();
     }
 
@@ -76,24 +78,22 @@ struct Play {
         game.clouds.clear();
         for (int i = 0; i < cloudCount; ++i) {
             const Point corner{i * 97 % 600, 50 + i * 131 % 500};
-            game.clouds.push_back({.start = corner, .position = corner, .image = i});
+            game.clouds.push_back({.isShown = true, .start = corner, .position = corner, .image = i});
         }
     }
 
     HeadlessBackend backend{screen};
     Desktop desktop{backend, screen};
     FontSet fonts{PROGRAM_FOLDER "/fonts", [](std::string_view, MessageIcon) {}};
-    GameState game;
+    Game game;
     Options options;
     CursorImage hand;
     CursorImage arrow;
     Window main = desktop.create({.bounds = Rect::at({}, screen), .background = Colour::rgb(90, 90, 90)});
     RadarWindow radar{.desktop = desktop,
                       .sources = {game, options, fonts, hand},
-                      .callbacks = {.clockNow = [] { return 101; },
-                                    .isPaused = [] { return false; },
-                                    .tickScroller = [] {},
-                                    .setLamp = [](LampLevel) {},
+                      .callbacks = {.isPaused = [] { return false; },
+                                    .makeFrame = [] {},
                                     .updateBlips = [] {},
                                     .reportScore = [] {},
                                     .resetTouch = [] {},
@@ -102,9 +102,8 @@ struct Play {
                                     .showOrderMenu = [](Point) {}},
                       .layout = largeRadarLayout};
     Strips strips{.sources = {game, fonts, arrow}, .callbacks = {.press = [](int) {}}};
-    ControlPanel panel{
-        .sources = {game, fonts, hand, arrow},
-        .callbacks = {.clockNow = [] { return 101; }, .click = [] {}, .enableExec = [](bool) {}}};
+    ControlPanel panel{.sources = {game, fonts, hand, arrow},
+                       .callbacks = {.click = [] {}, .enableExec = [](bool) {}}};
 };
 
 /// All of the scope painted anew, 99 flights with tags and routes under 10 clouds, until it is in the

@@ -1,13 +1,10 @@
 // What the simulation costs, on a shipped airspace: setting a shift up, one step with full skies, a whole
-// shift.
+// shift, and a copy of a game.
 
 #include <benchmark/benchmark.h>
 
-#include <algorithm>
 #include <cstdlib>
 
-#include "sim/airport_loading.h"
-#include "sim/flight_step.h"
 #include "sim/schedule.h"
 #include "tools/sim/shift_run.h"
 
@@ -15,63 +12,50 @@ namespace {
 
 using namespace ventrel;
 
-constexpr ClockSeconds longestShift = 36000;
+constexpr ClockSeconds longestShift = 36000_s;
+constexpr ClockSeconds middleOfShift = 1200_s;
 constexpr int fullSky = 99;
+constexpr std::uint32_t seed = 7;
 
-struct Game {
-    GameState state;
-    AlertLamps lamps;
-    RandomGenerator random{7};
-    SimulationEvents events;
-    Simulation simulation{state, lamps, random, events};
+Game newGame(const ShiftSetup& setup) {
+    return {loadAirport(AIRPORT_FILE).value(), setup, RandomGenerator{seed}};
+}
 
-    Game() {
-        const FailureReporter silent = [](std::string_view, MessageIcon) {};
-        if (!loadAirport(state, AIRPORT_FILE, smallLayout, random, silent)) {
-            std::abort();
-        }
-    }
-
-    void setUp(Skill skill, const Options& options) {
-        setUpShift(state, {.skill = skill}, options, random);
-        state.gameRunning = true;
-        state.lastStepTime = -1;
-    }
-};
+Game hardGame() {
+    return newGame({.skill = Skill::hard});
+}
 
 void SetUpHardShift(benchmark::State& benchmarked) {
-    Game game;
+    Game game = hardGame();
     for ([[maybe_unused]] auto _ : benchmarked) {
-        game.setUp(Skill::hard, Options{});
-        benchmark::DoNotOptimize(game.state.flights.data());
+        setUpShift(game, {.skill = Skill::hard});
+        benchmark::DoNotOptimize(game.flights.data());
     }
 }
 BENCHMARK(SetUpHardShift)->Unit(benchmark::kMicrosecond);
 
 /// All flights in the air, far apart in altitude and place, and every one of them due.
-void spreadOut(GameState& game, ClockSeconds now) {
-    for (FlightIndex i = 0; i < game.planeCount(); ++i) {
-        Flight& flight = game.flight(i);
-        flight.activatedAt = now;
+void spreadOut(Game& game) {
+    for (const FlightIndex index : game.flightPlaces()) {
+        Flight& flight = game.flight(index);
+        const int i = index.number();
+        flight.activatedAt = stepInterval;
         flight.groundState = GroundState::airborne;
         flight.planIndex = 0;
-        flight.planLength = 1;
-        flight.plan[0] = {12 + i % 12 * 2, 12 + i / 12 * 2, 2 + i % 8, 90, fastSpeed, noVor, 0};
+        flight.plan = {{.cell = {12 + i % 12 * 2, 12 + i / 12 * 2},
+                        .altitude = 2 + i % 8,
+                        .heading = 90,
+                        .speed = Speed::fast}};
     }
 }
 
 void ActingStep(benchmark::State& benchmarked) {
-    Game game;
-    Options options;
-    options.customPlanes = fullSky;
-    game.setUp(Skill::custom, options);
-    ClockSeconds now = 0;
+    Game game = newGame({.skill = Skill::custom, .custom = {fullSky, 2100_s, 0}});
     for ([[maybe_unused]] auto _ : benchmarked) {
         benchmarked.PauseTiming();
-        spreadOut(game.state, now + stepInterval);
-        now += stepInterval;
+        spreadOut(game);
         benchmarked.ResumeTiming();
-        SimulationStep(game.simulation, now);
+        step(game);
     }
 }
 BENCHMARK(ActingStep)->Name("ActingStep/99flights")->Unit(benchmark::kMicrosecond);
@@ -79,36 +63,60 @@ BENCHMARK(ActingStep)->Name("ActingStep/99flights")->Unit(benchmark::kMicrosecon
 /// Writes nothing down but the orders.
 class OrderListener final : public Recorder {
 public:
-    void shiftSetUp(const GameState&) override {}
-    void stepTaken(const GameState&) override {}
-    void runEnded(const GameState&, const RunResult&) override {}
-    void orderGiven(const GameState&, FlightIndex flight, const PanelOrder& order) override {
-        orders.push_back({clock(), flight, order});
+    using Recorder::Recorder;
+
+    void shiftSetUp() override {}
+    void stepTaken() override {}
+    void runEnded(const RunResult&) override {}
+    void orderGiven(FlightIndex flight, const PanelOrder& order) override {
+        orders.push_back({game().clock, flight, order});
     }
 
     std::vector<ScriptedOrder> orders;
 };
 
-/// From set-up until the last flight has landed or left, with the orders that bring them there.
-void WholeHardShift(benchmark::State& benchmarked) {
-    constexpr std::uint32_t seed = 7;
-    Game game;
-    const auto fly = [&](Recorder& recorder, const RunPlan& plan) {
-        game.random.state = seed;
-        game.setUp(Skill::hard, Options{});
-        runShift(game.state, game.random, recorder, plan);
-        if (recorder.result() != ShiftResult::everyFlightHandled) {
-            std::abort(); // a shorter shift would flatter
-        }
-    };
-    OrderListener rehearsal;
-    fly(rehearsal, {.orders = {}, .until = longestShift, .autopilot = true});
-    for ([[maybe_unused]] auto _ : benchmarked) {
-        OrderListener recorder;
-        fly(recorder, {.orders = rehearsal.orders, .until = longestShift});
+/// A Hard shift with the orders that bring its flights home.
+std::vector<ScriptedOrder> rehearse() {
+    Game game = hardGame();
+    OrderListener rehearsal{game};
+    runShift(game, rehearsal, {.orders = {}, .until = longestShift, .autopilot = true});
+    if (rehearsal.result() != ShiftResult::everyFlightHandled) {
+        std::abort(); // a shorter shift would flatter
     }
-    benchmarked.counters["orders"] = static_cast<double>(rehearsal.orders.size());
+    return rehearsal.orders;
+}
+
+/// From set-up until the last flight has landed or left, keeping a copy of the game before every step.
+void WholeHardShift(benchmark::State& benchmarked) {
+    const auto orders = rehearse();
+    const AirspacePtr airspace = hardGame().airspace;
+    for ([[maybe_unused]] auto _ : benchmarked) {
+        Game game{airspace, {.skill = Skill::hard}, RandomGenerator{seed}};
+        Game kept = game;
+        auto next = orders.begin();
+        while (step(game)) {
+            kept = game;
+            for (; next != orders.end() && next->clock <= game.clock; ++next) {
+                executeOrder(game, next->flight, next->order);
+            }
+        }
+        benchmark::DoNotOptimize(kept.score);
+    }
+    benchmarked.counters["shifts/s"] =
+        benchmark::Counter(static_cast<double>(benchmarked.iterations()), benchmark::Counter::kIsRate);
 }
 BENCHMARK(WholeHardShift)->Unit(benchmark::kMicrosecond);
+
+/// A new copy, as a search makes one for every try.
+void CopyHardGame(benchmark::State& benchmarked) {
+    Game game = hardGame();
+    while (game.clock < middleOfShift && step(game)) {
+    }
+    for ([[maybe_unused]] auto _ : benchmarked) {
+        Game copy = game;
+        benchmark::DoNotOptimize(copy.flights.data());
+    }
+}
+BENCHMARK(CopyHardGame)->Name("CopyGame/45flights")->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -37,9 +37,9 @@ void pressControl(ControlPanel& panel, PanelControl control, Point p) {
     switch (control) {
     case PanelControl::dial: pressDial(panel, p); break;
     case PanelControl::altitude: pressScale(panel, p); break;
-    case PanelControl::fast: CtrlSetSpeed(panel, fastSpeed); break;
-    case PanelControl::normal: CtrlSetSpeed(panel, normalSpeed); break;
-    case PanelControl::slow: CtrlSetSpeed(panel, slowSpeed); break;
+    case PanelControl::fast: CtrlSetSpeed(panel, Speed::fast); break;
+    case PanelControl::normal: CtrlSetSpeed(panel, Speed::normal); break;
+    case PanelControl::slow: CtrlSetSpeed(panel, Speed::slow); break;
     case PanelControl::direct: CtrlToggleDirect(panel); break;
     case PanelControl::targetUp: CtrlStepDirect(panel, true); break;
     case PanelControl::targetDown: CtrlStepDirect(panel, false); break;
@@ -55,7 +55,7 @@ void onPress(ControlPanel& panel, const MouseInput& mouse) {
     if (mouse.button != MouseButton::left) {
         return;
     }
-    panel.state.touchTime = panel.callbacks.clockNow();
+    panel.state.touchTime = panel.sources.game.clock;
     const auto control = panelControlAt(mouse.position);
     if (control && hasAirborneFlight(panel)) {
         pressControl(panel, *control, mouse.position);
@@ -63,7 +63,7 @@ void onPress(ControlPanel& panel, const MouseInput& mouse) {
 }
 
 Cursor cursorAt(const ControlPanel& panel, Point p) {
-    const bool isHand = hasAirborneFlight(panel) && isHandArea(p, panel.state.pending.directTarget != noVor);
+    const bool isHand = hasAirborneFlight(panel) && isHandArea(p, panel.state.pending.directTarget.isOn());
     return isHand ? &panel.sources.hand : &panel.sources.arrow;
 }
 
@@ -115,7 +115,7 @@ void CtrlStepAltitude(ControlPanel& panel, bool up) {
     answer(panel, stepAltitude(panel.state, panel.sources.game, up));
 }
 
-void CtrlSetSpeed(ControlPanel& panel, int speed) {
+void CtrlSetSpeed(ControlPanel& panel, Speed speed) {
     answer(panel, setSpeed(panel.state, panel.sources.game, speed));
 }
 
@@ -127,12 +127,16 @@ void CtrlStepDirect(ControlPanel& panel, bool up) {
     answer(panel, stepDirect(panel.state, panel.sources.game, up));
 }
 
-void CtrlSetDirect(ControlPanel& panel, VorIndex target) {
+void CtrlSetDirect(ControlPanel& panel, PointIndex target) {
     answer(panel, setDirect(panel.state, panel.sources.game, target));
 }
 
+void CtrlSetHold(ControlPanel& panel) {
+    answer(panel, setHold(panel.state, panel.sources.game));
+}
+
 void CtrlTick(ControlPanel& panel) {
-    if (isRefreshDue(panel.state, panel.sources.game.gameRunning, panel.callbacks.clockNow())) {
+    if (isRefreshDue(panel.state, panel.sources.game)) {
         CtrlRepaint(panel);
     }
 }
@@ -142,7 +146,7 @@ ClockSeconds CtrlTouchTime(const ControlPanel& panel) {
 }
 
 void CtrlResetTouch(ControlPanel& panel) {
-    panel.state.touchTime = 0;
+    panel.state.touchTime = {};
 }
 
 } // namespace ventrel

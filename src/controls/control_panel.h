@@ -17,13 +17,12 @@ namespace ventrel {
 inline constexpr int controlPanelId = 507;
 
 struct ControlPanelCallbacks {
-    std::function<ClockSeconds()> clockNow;
     std::function<void()> click; ///< the sound of a setting
     std::function<void(bool)> enableExec;
 };
 
 struct ControlPanelSources {
-    const GameState& game;
+    const Game& game;
     FontSet& fonts;
     const CursorImage& hand;
     const CursorImage& arrow;
@@ -49,10 +48,11 @@ void CtrlRepaint(ControlPanel& panel);
 void CtrlSetHeading(ControlPanel& panel, int heading);
 void CtrlSetAltitude(ControlPanel& panel, int altitude);
 void CtrlStepAltitude(ControlPanel& panel, bool up);
-void CtrlSetSpeed(ControlPanel& panel, int speed); ///< nor for a heavy flight
+void CtrlSetSpeed(ControlPanel& panel, Speed speed); ///< nor for a heavy flight
 void CtrlToggleDirect(ControlPanel& panel);
-void CtrlStepDirect(ControlPanel& panel, bool up);        ///< on the ground too
-void CtrlSetDirect(ControlPanel& panel, VorIndex target); ///< `noVor`: a hold
+void CtrlStepDirect(ControlPanel& panel, bool up); ///< on the ground too
+void CtrlSetDirect(ControlPanel& panel, PointIndex target);
+void CtrlSetHold(ControlPanel& panel);
 
 /// Repaints the preview line just after the flights have moved.
 void CtrlTick(ControlPanel& panel);

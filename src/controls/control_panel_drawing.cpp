@@ -60,27 +60,28 @@ void drawPressedBevel(Canvas& canvas, const Rect& button) {
     canvas.polyline(light, white);
 }
 
-void drawTarget(Canvas& canvas, const PlanStep& pending, const GameState& game, const Font& font) {
+void drawTarget(Canvas& canvas, const PlanStep& pending, const Game& game, const Font& font) {
     const Rect& box = places.targetBox;
     canvas.filledEllipse(places.directLamp, amber, amber);
     drawPressedBevel(canvas, places.directButton);
-    if (pending.hold == 1 || pending.directTarget >= game.vorCount()) {
+    const auto target = pending.directTarget.point();
+    if (pending.hold || !target) {
         drawTextInside(canvas, font, box.topLeft(), holdText, {holdColour, black}, box);
         return;
     }
-    const Vor& target = game.vor(pending.directTarget);
-    const Colour colour = target.isAirport ? airportColour : amber;
-    drawTextInside(canvas, font, box.topLeft(), target.ident, {colour, black}, box);
+    const Vor& vor = game.vor(*target);
+    const Colour colour = vor.isAirport ? airportColour : amber;
+    drawTextInside(canvas, font, box.topLeft(), vor.ident, {colour, black}, box);
 }
 
 void drawAltitudeBar(Canvas& canvas, int altitude) {
     canvas.fill(places.altitudeBar(altitude), amber);
 }
 
-void drawSpeedLamps(Canvas& canvas, int speed, bool isHeavy) {
-    const SpeedLampPlace& lit = speed == slowSpeed   ? places.slow
-                                : speed == fastSpeed ? places.fast
-                                                     : places.normal;
+void drawSpeedLamps(Canvas& canvas, Speed speed, bool isHeavy) {
+    const SpeedLampPlace& lit = speed == Speed::slow   ? places.slow
+                                : speed == Speed::fast ? places.fast
+                                                       : places.normal;
     canvas.fill(lit.lens, amber);
     if (isHeavy) {
         canvas.fill(places.slow.lens, barredColour);
@@ -91,7 +92,7 @@ void drawSpeedLamps(Canvas& canvas, int speed, bool isHeavy) {
 } // namespace
 
 void paintControlPanel(Canvas& canvas, const Bitmap& background, const ControlPanelState& panel,
-                       const GameState& game, const Font& font) {
+                       const Game& game, const Font& font) {
     canvas.draw({0, 0}, background);
     const Flight* flight = panelFlight(panel, game);
     if (flight == nullptr) {
@@ -99,7 +100,7 @@ void paintControlPanel(Canvas& canvas, const Bitmap& background, const ControlPa
     }
     drawTextInside(canvas, font, places.preview.topLeft(), previewLine(panel, game), {amber, black},
                    places.preview);
-    if (panel.pending.directTarget != noVor) {
+    if (panel.pending.directTarget.isOn()) {
         drawTarget(canvas, panel.pending, game, font);
     } else if (flight->isAirborne()) {
         drawNeedle(canvas, panel.pending.heading);

@@ -10,6 +10,6 @@ namespace ventrel {
 
 /// Draws the moving parts over the piece of the console that lies under the panel.
 void paintControlPanel(Canvas& canvas, const Bitmap& background, const ControlPanelState& panel,
-                       const GameState& game, const Font& font);
+                       const Game& game, const Font& font);
 
 } // namespace ventrel

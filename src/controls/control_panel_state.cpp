@@ -6,35 +6,28 @@ namespace ventrel {
 
 namespace {
 
-constexpr int lowestAltitude = 1;
-constexpr int highestAltitude = 10;
-constexpr VorIndex firstVor = 0;
-constexpr VorIndex holdingNow = -1;
-constexpr VorIndex noDirectTarget = -2;
-constexpr ClockSeconds refreshPhase = 1; // just after the flights have moved
+constexpr ClockSeconds refreshPhase = 1_s; // just after the flights have moved
 
-void turnSelectorOn(PlanStep& pending) {
-    pending.directTarget = firstVor;
-    pending.hold = 0;
+void turnSelectorOn(PanelOrder& pending) {
+    pending.directTarget = PointIndex{0};
+    pending.hold = false;
 }
 
-void stepSelectorUp(PlanStep& pending, VorIndex holdPosition) {
-    --pending.directTarget;
-    if (pending.directTarget < firstVor) {
-        pending.directTarget = holdPosition;
-    }
-    pending.hold = pending.directTarget == holdPosition ? 1 : 0;
+void stepSelectorUp(PanelOrder& pending, int pointCount) {
+    const int number = directTargetNumber(pending.directTarget, pointCount);
+    pending.directTarget = number > 0 ? directTargetOf(number - 1, pointCount) : DirectTarget::holdPlace();
+    pending.hold = pending.directTarget.isHoldPlace();
 }
 
-void stepSelectorDown(PlanStep& pending, VorIndex holdPosition) {
-    if (pending.directTarget >= holdPosition) {
+/// A hold that the flight is flying stays one on the way down.
+void stepSelectorDown(PanelOrder& pending, int pointCount) {
+    const int number = directTargetNumber(pending.directTarget, pointCount);
+    if (number >= pointCount) {
         turnSelectorOn(pending);
         return;
     }
-    ++pending.directTarget;
-    if (pending.directTarget == holdPosition) {
-        pending.hold = 1;
-    }
+    pending.directTarget = directTargetOf(number + 1, pointCount);
+    pending.hold = pending.hold || pending.directTarget.isHoldPlace();
 }
 
 /// The texts around an altitude in thousands of feet, by how it compares with the present one.
@@ -51,47 +44,47 @@ std::string altitudePart(const AltitudeWords& words, int now, int goal) {
     return FormatText(pattern, {long{goal}});
 }
 
-std::string coursePart(const Flight& flight, const GameState& game) {
+std::string coursePart(const Flight& flight, const Game& game) {
     const PlanStep& now = flight.current();
-    if (now.directTarget != noVor) {
-        return FormatText("Direct to %s, ", {copyVor(game, now.directTarget).ident});
+    if (now.directTarget.isOn()) {
+        return FormatText("Direct to %s, ", {copyVor(game, now.directTarget.point()).ident});
     }
     const int goal = flight.lastStep().heading;
     const std::string_view pattern = goal == now.heading ? "%s: %d\xB0, " : "%s: Turn %d\xB0, ";
-    return FormatText(pattern, {flight.callsign, long{goal}});
+    return FormatText(pattern, {std::string_view{flight.callsign}, long{goal}});
 }
 
 } // namespace
 
-void setFlight(ControlPanelState& panel, const GameState& game, FlightIndex flight) {
+void setFlight(ControlPanelState& panel, const Game& game, FlightIndex flight) {
     panel.flight = flight;
     panel.pending = game.flight(flight).current();
 }
 
 void clearFlight(ControlPanelState& panel) {
-    panel.flight = noFlight;
+    panel.flight.reset();
 }
 
-const Flight* panelFlight(const ControlPanelState& panel, const GameState& game) {
-    const bool exists = panel.flight >= 0 && panel.flight < game.planeCount();
-    return exists ? &game.flight(panel.flight) : nullptr;
+const Flight* panelFlight(const ControlPanelState& panel, const Game& game) {
+    const bool exists = panel.flight && panel.flight->number() < game.planeCount();
+    return exists ? &game.flight(*panel.flight) : nullptr;
 }
 
-bool isAdjustable(const ControlPanelState& panel, const GameState& game) {
+bool isAdjustable(const ControlPanelState& panel, const Game& game) {
     const Flight* flight = panelFlight(panel, game);
     return flight != nullptr && flight->inPlay && flight->isAirborne();
 }
 
-bool setHeading(ControlPanelState& panel, const GameState& game, int heading) {
+bool setHeading(ControlPanelState& panel, const Game& game, int heading) {
     if (!isAdjustable(panel, game)) {
         return false;
     }
-    panel.pending.directTarget = noVor;
+    panel.pending.directTarget = DirectTarget::none();
     panel.pending.heading = heading;
     return true;
 }
 
-bool setAltitude(ControlPanelState& panel, const GameState& game, int altitude) {
+bool setAltitude(ControlPanelState& panel, const Game& game, int altitude) {
     if (!isAdjustable(panel, game)) {
         return false;
     }
@@ -99,19 +92,19 @@ bool setAltitude(ControlPanelState& panel, const GameState& game, int altitude) 
     return true;
 }
 
-bool stepAltitude(ControlPanelState& panel, const GameState& game, bool up) {
+bool stepAltitude(ControlPanelState& panel, const Game& game, bool up) {
     if (!isAdjustable(panel, game)) {
         return false;
     }
-    if (up && panel.pending.altitude < highestAltitude) {
+    if (up && panel.pending.altitude < exitAltitude) {
         ++panel.pending.altitude;
-    } else if (!up && panel.pending.altitude > lowestAltitude) {
+    } else if (!up && panel.pending.altitude > approachAltitude) {
         --panel.pending.altitude;
     }
     return true;
 }
 
-bool setSpeed(ControlPanelState& panel, const GameState& game, int speed) {
+bool setSpeed(ControlPanelState& panel, const Game& game, Speed speed) {
     if (!isAdjustable(panel, game) || panelFlight(panel, game)->heavy) {
         return false;
     }
@@ -119,24 +112,24 @@ bool setSpeed(ControlPanelState& panel, const GameState& game, int speed) {
     return true;
 }
 
-bool toggleDirect(ControlPanelState& panel, const GameState& game) {
+bool toggleDirect(ControlPanelState& panel, const Game& game) {
     if (!isAdjustable(panel, game)) {
         return false;
     }
-    if (panel.pending.directTarget == noVor) {
+    if (!panel.pending.directTarget.isOn()) {
         turnSelectorOn(panel.pending);
     } else {
-        panel.pending.directTarget = noVor;
+        panel.pending.directTarget = DirectTarget::none();
     }
     return true;
 }
 
-bool stepDirect(ControlPanelState& panel, const GameState& game, bool up) {
+bool stepDirect(ControlPanelState& panel, const Game& game, bool up) {
     const Flight* flight = panelFlight(panel, game);
     if (flight == nullptr || !flight->inPlay) {
         return false;
     }
-    if (panel.pending.directTarget == noVor) {
+    if (!panel.pending.directTarget.isOn()) {
         return toggleDirect(panel, game);
     }
     if (up) {
@@ -147,52 +140,62 @@ bool stepDirect(ControlPanelState& panel, const GameState& game, bool up) {
     return true;
 }
 
-bool setDirect(ControlPanelState& panel, const GameState& game, VorIndex target) {
+bool setDirect(ControlPanelState& panel, const Game& game, PointIndex target) {
     if (!isAdjustable(panel, game)) {
         return false;
     }
-    const bool isHold = target == noVor;
-    panel.pending.directTarget = isHold ? game.vorCount() : target;
-    panel.pending.hold = isHold ? 1 : 0;
+    panel.pending.directTarget = target;
+    panel.pending.hold = false;
     return true;
 }
 
-CurrentSettings currentSettings(const ControlPanelState& panel, const GameState& game) {
+bool setHold(ControlPanelState& panel, const Game& game) {
+    if (!isAdjustable(panel, game)) {
+        return false;
+    }
+    panel.pending.directTarget = DirectTarget::holdPlace();
+    panel.pending.hold = true;
+    return true;
+}
+
+CurrentSettings currentSettings(const ControlPanelState& panel, const Game& game) {
     const Flight* flight = panelFlight(panel, game);
     if (flight == nullptr) {
         return {};
     }
     const PlanStep& now = flight->current();
-    const bool isDirect = now.directTarget != noVor;
-    const VorIndex target = isDirect ? now.directTarget : noDirectTarget;
-    return {isDirect ? -1 : now.heading, now.altitude, now.speed, now.hold != 0 ? holdingNow : target};
+    const bool isDirect = now.directTarget.isOn();
+    return {isDirect ? std::nullopt : std::optional{now.heading}, now.altitude, now.speed,
+            now.hold ? std::nullopt : now.directTarget.point(), now.hold};
 }
 
-std::string previewLine(const ControlPanelState& panel, const GameState& game) {
+std::string previewLine(const ControlPanelState& panel, const Game& game) {
     const Flight* flight = panelFlight(panel, game);
     if (flight == nullptr) {
         return {};
     }
     switch (flight->groundState) {
-    case GroundState::waiting: return FormatText("%s: Waiting for takeoff", {flight->callsign});
+    case GroundState::waiting:
+        return FormatText("%s: Waiting for takeoff", {std::string_view{flight->callsign}});
     case GroundState::cleared:
-    case GroundState::rolling: return FormatText("%s: Takeoff in progress", {flight->callsign});
+    case GroundState::rolling:
+        return FormatText("%s: Takeoff in progress", {std::string_view{flight->callsign}});
     case GroundState::airborne: break;
     }
     const int now = flight->current().altitude;
     const int goal = flight->lastStep().altitude;
-    if (flight->current().hold != 0) {
+    if (flight->current().hold) {
         return "Holding pattern" + altitudePart(holdingWords, now, goal);
     }
     return coursePart(*flight, game) + altitudePart(flyingWords, now, goal);
 }
 
-bool isRefreshDue(ControlPanelState& panel, bool gameRunning, ClockSeconds now) {
-    const bool isPhase = now % stepInterval == refreshPhase;
-    if (!gameRunning || now == panel.lastRefresh || !isPhase || panel.flight == noFlight) {
+bool isRefreshDue(ControlPanelState& panel, const Game& game) {
+    const bool isPhase = game.clock % stepInterval == refreshPhase;
+    if (!game.isRunning() || game.clock == panel.lastRefresh || !isPhase || !panel.flight) {
         return false;
     }
-    panel.lastRefresh = now;
+    panel.lastRefresh = game.clock;
     return true;
 }
 

@@ -13,13 +13,13 @@ constexpr Rect grid{0, 0, gridSize, gridSize};
 
 } // namespace
 
-std::vector<Blip> scopeBlips(const GameState& game) {
+std::vector<Blip> scopeBlips(const Game& game) {
     std::vector<Blip> blips;
     for (const Flight& flight : game.flights) {
         if (!flight.isOnScope()) {
             continue;
         }
-        const Cell cell = flight.current().cell();
+        const Cell cell = flight.current().cell;
         blips.push_back({MapPointBetweenRects(face, grid, {cell.x, cell.y}), flight.selected});
         if (blips.size() == mostBlips) {
             break;

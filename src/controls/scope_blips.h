@@ -4,7 +4,7 @@
 
 #include <vector>
 
-#include "sim/game_state.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
@@ -16,7 +16,7 @@ struct Blip {
 };
 
 /// At most 32 dots, in table order.
-std::vector<Blip> scopeBlips(const GameState& game);
+std::vector<Blip> scopeBlips(const Game& game);
 
 /// The border point of a sweep position: 0 is the upper left corner, 120 positions run clockwise.
 Point sweepPoint(int position);

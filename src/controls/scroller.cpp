@@ -10,18 +10,20 @@ namespace {
 constexpr FontRequest lineFont{Face::arial, -16, true};
 constexpr Colour black = Colour::rgb(0, 0, 0);
 
-constexpr int lineTop = 1; // of the line's picture in the strip
+constexpr int widthMargin = 2; // pixels after a line
+constexpr int lineTop = 1;     // of the line's picture in the strip
 
 const MessageSlot& lineUnderWay(const Scroller& scroller) {
-    return scroller.queue.slots[static_cast<std::size_t>(scroller.state.slot)];
+    return scroller.sources.queue.slots[static_cast<std::size_t>(scroller.state.slot)];
 }
 
 void makeLinePicture(Scroller& scroller) {
     const MessageSlot& slot = lineUnderWay(scroller);
-    scroller.line = Bitmap(Size{slot.width, scroller.window.size().height});
+    const Font& font = scroller.sources.fonts.font(lineFont);
+    scroller.state.lineWidth = font.width(slot.text) + widthMargin;
+    scroller.line = Bitmap(Size{scroller.state.lineWidth, scroller.window.size().height});
     Canvas canvas(scroller.line);
-    drawText(canvas, scroller.sources.fonts.font(lineFont), {0, 0}, slot.text,
-             {messageColour(slot.messageClass), black});
+    drawText(canvas, font, {0, 0}, slot.text, {messageColour(slot.messageClass), black});
 }
 
 } // namespace
@@ -40,14 +42,12 @@ void ScrollerCreate(Scroller& scroller, const Window& parent, int mainWindowWidt
 }
 
 bool ScrollerPost(Scroller& scroller, std::string_view text, MessageClass messageClass) {
-    const Font& font = scroller.sources.fonts.font(lineFont);
-    return postMessage(scroller.queue, text, messageClass,
-                       [&font](std::string_view line) { return font.width(line); });
+    return postMessage(scroller.sources.queue, text, messageClass);
 }
 
 std::optional<Millis> ScrollerTick(Scroller& scroller) {
     const Millis now = scroller.sources.desktop.now();
-    const ScrollerTickResult result = tickScroller(scroller.state, scroller.queue, now);
+    const ScrollerTickResult result = tickScroller(scroller.state, scroller.sources.queue, now);
     switch (result.step) {
     case ScrollerStep::idle: return std::nullopt;
     case ScrollerStep::emptied: scroller.gameOverShown(); return std::nullopt;
@@ -60,7 +60,7 @@ std::optional<Millis> ScrollerTick(Scroller& scroller) {
 }
 
 void ScrollerClear(Scroller& scroller) {
-    clearScroller(scroller.state, scroller.queue);
+    clearScroller(scroller.state, scroller.sources.queue);
     scroller.line = {};
     scroller.window.invalidate();
 }

@@ -19,6 +19,7 @@ struct ScrollerSources {
     Desktop& desktop;
     FontSet& fonts;
     const CursorImage& arrow;
+    MessageQueue& queue; ///< of the game
 };
 
 struct Scroller {
@@ -27,7 +28,6 @@ struct Scroller {
     std::function<void()> gameOverShown = {};
 
     Window window = {};
-    MessageQueue queue = {};
     ScrollerState state = {};
     Bitmap line = {}; ///< the picture of the line under way
 };

@@ -36,10 +36,9 @@ ScrollerTickResult tickScroller(ScrollerState& scroller, MessageQueue& queue, Mi
     scroller.lastStep = now;
     ScrollerTickResult result{ScrollerStep::moved, scroller.x};
     --scroller.x;
-    MessageSlot& line = queue.slots[static_cast<std::size_t>(scroller.slot)];
-    const bool isVisible = line.width + scroller.x + 1 > 0;
+    const bool isVisible = scroller.lineWidth + scroller.x + 1 > 0;
     if (!isVisible) {
-        line.inUse = false;
+        queue.slots[static_cast<std::size_t>(scroller.slot)].inUse = false;
         scroller.busy = false;
         result.done = true;
     }

@@ -14,6 +14,7 @@ struct ScrollerState {
     bool busy = false; ///< a line is being scrolled
     int slot = 0;      ///< its slot in the queue
     int x = 0;         ///< its left edge in the strip
+    int lineWidth = 0; ///< pixels; set by whoever draws the line when it has started
     Millis lastStep = 0;
     Millis stepLength = 0; ///< real time that must be exceeded for one pixel
     int stripWidth = 0;    ///< pixels of the window

@@ -23,11 +23,14 @@ void clampScroll(StripList& list, int listedCount) {
     list.scrollOffset = std::clamp(list.scrollOffset, 0, furthest);
 }
 
-void fillSlots(StripList& list, const GameState& game) {
-    std::ranges::fill(list.slots, noFlight);
+void fillSlots(StripList& list, const Game& game) {
+    std::ranges::fill(list.slots, std::nullopt);
     auto slot = list.slots.begin();
     int toPassOver = list.scrollOffset;
-    for (FlightIndex i = 0; i < game.planeCount() && slot != list.slots.end(); ++i) {
+    for (const FlightIndex i : game.flightPlaces()) {
+        if (slot == list.slots.end()) {
+            return;
+        }
         if (!isListed(game.flight(i))) {
             continue;
         }
@@ -39,10 +42,10 @@ void fillSlots(StripList& list, const GameState& game) {
     }
 }
 
-void orderLatestFirst(StripList& list, const GameState& game) {
-    const auto firstEmpty = std::ranges::find(list.slots, noFlight);
-    std::stable_sort(list.slots.begin(), firstEmpty, [&](FlightIndex a, FlightIndex b) {
-        return game.flight(a).scheduledAt > game.flight(b).scheduledAt;
+void orderLatestFirst(StripList& list, const Game& game) {
+    const auto firstEmpty = std::ranges::find(list.slots, std::optional<FlightIndex>{});
+    std::stable_sort(list.slots.begin(), firstEmpty, [&](const auto& a, const auto& b) {
+        return game.flight(*a).scheduledAt > game.flight(*b).scheduledAt;
     });
 }
 
@@ -53,11 +56,11 @@ const char* airportMark(const Vor& vor) {
 } // namespace
 
 StripList makeStripList(int slotCount) {
-    return {std::vector<FlightIndex>(static_cast<std::size_t>(slotCount), noFlight), 0};
+    return {std::vector<std::optional<FlightIndex>>(static_cast<std::size_t>(slotCount)), 0};
 }
 
 void resetStrips(StripList& list) {
-    std::ranges::fill(list.slots, noFlight);
+    std::ranges::fill(list.slots, std::nullopt);
     list.scrollOffset = 0;
 }
 
@@ -65,8 +68,8 @@ bool isListed(const Flight& flight) {
     return (flight.inPlay && flight.isActive()) || flight.announced;
 }
 
-void rebuildStrips(StripList& list, const GameState& game) {
-    if (!game.gameRunning) {
+void rebuildStrips(StripList& list, const Game& game) {
+    if (!game.isRunning()) {
         return;
     }
     clampScroll(list, game.listedCount);
@@ -74,8 +77,8 @@ void rebuildStrips(StripList& list, const GameState& game) {
     orderLatestFirst(list, game);
 }
 
-bool scrollStripsUp(StripList& list, const GameState& game) {
-    const bool canScroll = game.gameRunning && list.scrollOffset > 0;
+bool scrollStripsUp(StripList& list, const Game& game) {
+    const bool canScroll = game.isRunning() && list.scrollOffset > 0;
     if (canScroll) {
         --list.scrollOffset;
     }
@@ -83,8 +86,8 @@ bool scrollStripsUp(StripList& list, const GameState& game) {
     return canScroll;
 }
 
-bool scrollStripsDown(StripList& list, const GameState& game) {
-    const bool canScroll = game.gameRunning && game.listedCount > list.scrollOffset + slotCount(list);
+bool scrollStripsDown(StripList& list, const Game& game) {
+    const bool canScroll = game.isRunning() && game.listedCount > list.scrollOffset + slotCount(list);
     if (canScroll) {
         ++list.scrollOffset;
     }
@@ -92,34 +95,35 @@ bool scrollStripsDown(StripList& list, const GameState& game) {
     return canScroll;
 }
 
-FlightIndex slotFlight(const StripList& list, int slot) {
+std::optional<FlightIndex> slotFlight(const StripList& list, int slot) {
     const bool exists = slot >= 0 && slot < slotCount(list);
-    return exists ? list.slots[static_cast<std::size_t>(slot)] : noFlight;
+    return exists ? list.slots[static_cast<std::size_t>(slot)] : std::nullopt;
 }
 
 int flightSlot(const StripList& list, FlightIndex flight) {
-    const auto found = std::ranges::find(list.slots, flight);
+    const auto found = std::ranges::find(list.slots, std::optional{flight});
     return found == list.slots.end() ? noSlot : static_cast<int>(found - list.slots.begin());
 }
 
-bool isSlotSelectable(const StripList& list, const GameState& game, int slot) {
-    const FlightIndex flight = slotFlight(list, slot);
-    return game.gameRunning && flight != noFlight && !game.flight(flight).announced;
+bool isSlotSelectable(const StripList& list, const Game& game, int slot) {
+    const auto flight = slotFlight(list, slot);
+    return game.isRunning() && flight && !game.flight(*flight).announced;
 }
 
-std::string stripRouteLine(const Flight& flight, const GameState& game) {
+std::string stripRouteLine(const Flight& flight, const Game& game) {
     const Vor destination = copyVor(game, flight.destination);
-    if (flight.origin == noVor) {
-        return flight.callsign + FormatText("  to  %s%s", {destination.ident, airportMark(destination)});
+    const std::string callsign{std::string_view{flight.callsign}};
+    if (!flight.origin) {
+        return callsign + FormatText("  to  %s%s", {destination.ident, airportMark(destination)});
     }
     const Vor origin = copyVor(game, flight.origin);
-    return flight.callsign + FormatText("  %s%s to %s%s", {origin.ident, airportMark(origin),
-                                                           destination.ident, airportMark(destination)});
+    return callsign + FormatText("  %s%s to %s%s", {origin.ident, airportMark(origin), destination.ident,
+                                                    airportMark(destination)});
 }
 
 std::string stripStateLine(const Flight& flight) {
     if (flight.announced) {
-        return FormatText("Arrives at: %s", {FormatMinutesSeconds(flight.scheduledAt)});
+        return FormatText("Arrives at: %s", {FormatMinutesSeconds(flight.scheduledAt.count())});
     }
     switch (flight.groundState) {
     case GroundState::waiting: return "Request Takeoff";
@@ -128,11 +132,11 @@ std::string stripStateLine(const Flight& flight) {
     case GroundState::airborne: break;
     }
     const PlanStep& now = flight.current();
-    const std::string_view course = now.directTarget != noVor ? " (direct) " : " ";
+    const std::string_view course = now.directTarget.isOn() ? " (direct) " : " ";
     return FormatText("%d\xB0 %s  %d ft", {long{now.heading}, course, now.altitude * feetPerAltitude});
 }
 
-Colour stripColour(const Flight& flight, const GameState& game) {
+Colour stripColour(const Flight& flight, const Game& game) {
     if (flight.alert == Alert::nearMiss) {
         return nearMissColour;
     }
@@ -140,9 +144,9 @@ Colour stripColour(const Flight& flight, const GameState& game) {
         return successColour;
     }
     if (flight.selected) {
-        return game.airport.selectedFlightColour;
+        return game.airspace->selectedFlightColour;
     }
-    return flight.announced ? announcedColour : game.airport.flightColour;
+    return flight.announced ? announcedColour : game.airspace->flightColour;
 }
 
 } // namespace ventrel

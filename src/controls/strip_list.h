@@ -15,8 +15,8 @@ namespace ventrel {
 inline constexpr int noSlot = -1;
 
 struct StripList {
-    std::vector<FlightIndex> slots; ///< from top to bottom; `noFlight` is an empty strip
-    int scrollOffset = 0;           ///< listed flights passed over before the first strip
+    std::vector<std::optional<FlightIndex>> slots; ///< from top to bottom; none is an empty strip
+    int scrollOffset = 0;                          ///< listed flights passed over before the first strip
 };
 
 /// An empty list of that many strips.
@@ -30,26 +30,26 @@ bool isListed(const Flight& flight);
 
 /// Brings the scroll position back within the list, then fills and orders the strips. The game's count of
 /// listed flights is as of its latest step. Nothing while no game runs.
-void rebuildStrips(StripList& list, const GameState& game);
+void rebuildStrips(StripList& list, const Game& game);
 
 /// Scrolls by one flight and rebuilds; whether it scrolled.
-bool scrollStripsUp(StripList& list, const GameState& game);
-bool scrollStripsDown(StripList& list, const GameState& game);
+bool scrollStripsUp(StripList& list, const Game& game);
+bool scrollStripsDown(StripList& list, const Game& game);
 
-/// The flight on a strip; `noFlight` when empty or when there is no such strip.
-FlightIndex slotFlight(const StripList& list, int slot);
+/// The flight on a strip; none when empty or when there is no such strip.
+std::optional<FlightIndex> slotFlight(const StripList& list, int slot);
 
 /// The first strip that shows the flight, or `noSlot`.
 int flightSlot(const StripList& list, FlightIndex flight);
 
 /// Whether a strip's button chooses a flight: a game runs, and the flight is more than announced.
-bool isSlotSelectable(const StripList& list, const GameState& game, int slot);
+bool isSlotSelectable(const StripList& list, const Game& game, int slot);
 
 /// The callsign and the route.
-std::string stripRouteLine(const Flight& flight, const GameState& game);
+std::string stripRouteLine(const Flight& flight, const Game& game);
 /// When it comes, what it waits for, or how it flies.
 std::string stripStateLine(const Flight& flight);
 
-Colour stripColour(const Flight& flight, const GameState& game);
+Colour stripColour(const Flight& flight, const Game& game);
 
 } // namespace ventrel

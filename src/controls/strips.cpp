@@ -19,7 +19,7 @@ static_assert(places.pitch == largeConsole.strips.pitch &&
               places.stateLine == largeConsole.strips.stateLine);
 
 void paintStrip(Canvas& canvas, const Strips& strips, int slot, const Flight& flight, const Font& font) {
-    const GameState& game = strips.sources.game;
+    const Game& game = strips.sources.game;
     const TextStyle style{stripColour(flight, game), columnColour};
     const int top = slot * places.pitch;
     drawText(canvas, font, {0, top + places.routeLine}, stripRouteLine(flight, game), style);
@@ -27,26 +27,23 @@ void paintStrip(Canvas& canvas, const Strips& strips, int slot, const Flight& fl
 }
 
 void paint(Strips& strips, Canvas& canvas) {
-    const GameState& game = strips.sources.game;
+    const Game& game = strips.sources.game;
     canvas.fill(strips.window.area(), columnColour);
-    if (!game.gameRunning) {
+    if (!game.isRunning()) {
         return;
     }
     const Font& font = strips.sources.fonts.font(stripFont);
     for (int slot = 0; slot < static_cast<int>(strips.list.slots.size()); ++slot) {
-        const FlightIndex index = slotFlight(strips.list, slot);
-        if (index == noFlight) {
-            continue;
+        if (const auto index = slotFlight(strips.list, slot)) {
+            paintStrip(canvas, strips, slot, game.flight(*index), font);
         }
-        paintStrip(canvas, strips, slot, game.flight(index), font);
     }
 }
 
 int selectedSlot(const Strips& strips) {
     const auto& slots = strips.list.slots;
-    const auto found = std::ranges::find_if(slots, [&](FlightIndex flight) {
-        return flight != noFlight && strips.sources.game.flight(flight).selected;
-    });
+    const auto found = std::ranges::find_if(
+        slots, [&](const auto& flight) { return flight && strips.sources.game.flight(*flight).selected; });
     return found == slots.end() ? noSlot : static_cast<int>(found - slots.begin());
 }
 
@@ -89,7 +86,7 @@ bool StripsScrollDown(Strips& strips) {
     return hasScrolled;
 }
 
-FlightIndex StripsSlotFlight(const Strips& strips, int slot) {
+std::optional<FlightIndex> StripsSlotFlight(const Strips& strips, int slot) {
     return slotFlight(strips.list, slot);
 }
 

@@ -22,7 +22,7 @@ struct StripsCallbacks {
 };
 
 struct StripsSources {
-    const GameState& game;
+    const Game& game;
     FontSet& fonts;
     const CursorImage& arrow;
 };
@@ -48,7 +48,7 @@ void StripsRebuild(Strips& strips);
 bool StripsScrollUp(Strips& strips);
 bool StripsScrollDown(Strips& strips);
 
-FlightIndex StripsSlotFlight(const Strips& strips, int slot);
+std::optional<FlightIndex> StripsSlotFlight(const Strips& strips, int slot);
 int StripsFlightSlot(const Strips& strips, FlightIndex flight);
 bool StripsSlotSelectable(const Strips& strips, int slot);
 

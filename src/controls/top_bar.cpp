@@ -17,14 +17,14 @@ std::size_t lampNumber(LampLevel level) {
 }
 
 const Bitmap& lampPicture(const TopBar& bar, std::size_t lamp) {
-    const bool isBright = lampNumber(bar.lamps.lit) == lamp && bar.lamps.blinkOn;
+    const bool isBright = lampNumber(bar.sources.game.litLamp) == lamp && bar.blink.isOn;
     return (isBright ? bar.lampPictures.bright : bar.lampPictures.dark)[lamp];
 }
 
 void createClock(TopBar& bar, const Window& parent, const Rect& place) {
     WindowHandlers handlers;
     handlers.paint = [&bar](Canvas& canvas, const Rect&) {
-        paintClock(canvas, bar.sources.game.gameRunning, bar.clock.now, bar.sources.fonts.font(clockFont));
+        paintClock(canvas, bar.sources.game, bar.sources.fonts.font(clockFont));
     };
     handlers.press = [&bar](const MouseInput& mouse) {
         if (mouse.button == MouseButton::left) {
@@ -32,7 +32,7 @@ void createClock(TopBar& bar, const Window& parent, const Rect& place) {
         }
     };
     handlers.cursor = [&bar](Point) {
-        const bool isHand = bar.sources.game.gameRunning;
+        const bool isHand = bar.sources.game.isRunning();
         return std::optional<Cursor>(isHand ? &bar.sources.hand : &bar.sources.arrow);
     };
     bar.clockWindow = bar.sources.desktop.create(
@@ -43,11 +43,11 @@ void createSmallScope(TopBar& bar, const Window& parent, const Bitmap& console, 
     bar.scopeBackground = consolePiece(console, place);
     WindowHandlers handlers;
     handlers.paint = [&bar](Canvas& canvas, const Rect&) {
-        const AirportHeader& airport = bar.sources.game.airport;
+        const Airspace& airspace = *bar.sources.game.airspace;
         const std::span<const Blip> blips =
-            bar.sources.game.gameRunning ? std::span<const Blip>(bar.blips) : std::span<const Blip>();
-        paintSmallScope(canvas, bar.scopeBackground, blips, bar.clock.sweepIndex, airport.flightColour,
-                        airport.selectedFlightColour);
+            bar.sources.game.isRunning() ? std::span<const Blip>(bar.blips) : std::span<const Blip>();
+        paintSmallScope(canvas, bar.scopeBackground, blips, bar.clock.sweepIndex, airspace.flightColour,
+                        airspace.selectedFlightColour);
     };
     handlers.cursor = [&bar](Point) { return std::optional<Cursor>(&bar.sources.arrow); };
     bar.scopeWindow = bar.sources.desktop.create(
@@ -79,8 +79,7 @@ void TopBarCreate(TopBar& bar, const Window& parent, const Bitmap& console, Lamp
 }
 
 std::optional<Millis> ClockTick(TopBar& bar) {
-    const ClockTickResult result =
-        ClockTick(bar.clock, bar.sources.game.gameRunning, bar.sources.desktop.now());
+    const ClockTickResult result = ClockTick(bar.clock, bar.sources.game, bar.sources.desktop.now());
     if (result.clockPaintDue) {
         bar.clockWindow.invalidate();
     }
@@ -95,14 +94,14 @@ std::optional<Millis> ClockTick(TopBar& bar) {
 }
 
 void ClockSkip(TopBar& bar) {
-    if (bar.sources.game.gameRunning) {
-        ClockSkip(bar.clock);
+    if (bar.sources.game.isRunning()) {
+        ClockSkip(bar.clock, bar.sources.game, bar.sources.desktop.now());
         bar.clockWindow.invalidate();
     }
 }
 
 void ClockReset(TopBar& bar) {
-    ClockReset(bar.clock);
+    bar.sources.game.clock = {};
     bar.blips.clear();
     bar.clockWindow.invalidate();
     bar.scopeWindow.invalidate();
@@ -113,19 +112,18 @@ void ScopeUpdateBlips(TopBar& bar) {
 }
 
 std::optional<Millis> LampsTick(TopBar& bar) {
-    const LampsTickResult result =
-        LampsTick(bar.lamps, bar.sources.game.gameRunning, bar.sources.desktop.now());
+    const LampsTickResult result = LampsTick(bar.blink, bar.sources.game, bar.sources.desktop.now());
     if (result == LampsTickResult::asleep) {
         return std::nullopt;
     }
     if (result == LampsTickResult::flipped) {
-        bar.lampWindows[lampNumber(bar.lamps.lit)].invalidate();
+        bar.lampWindows[lampNumber(bar.sources.game.litLamp)].invalidate();
     }
-    return bar.lamps.lastBlink + lampBlinkInterval + 1;
+    return bar.blink.last + lampBlinkInterval + 1;
 }
 
 void LampsReset(TopBar& bar) {
-    bar.lamps.lit = LampLevel::none;
+    bar.sources.game.litLamp = LampLevel::none;
     LampsRepaint(bar);
 }
 

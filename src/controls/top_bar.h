@@ -25,7 +25,7 @@ struct LampPictures {
 
 struct TopBarSources {
     Desktop& desktop;
-    const GameState& game;
+    Game& game;
     FontSet& fonts;
     const CursorImage& hand;
     const CursorImage& arrow;
@@ -35,7 +35,7 @@ struct TopBar {
     TopBarSources sources;
 
     GameClock clock = {};
-    AlertLamps lamps = {};
+    LampBlink blink = {};
 
     Window clockWindow = {};
     Window scopeWindow = {};

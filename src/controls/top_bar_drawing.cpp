@@ -30,11 +30,11 @@ int trailBehind(int position) {
 
 } // namespace
 
-void paintClock(Canvas& canvas, bool gameRunning, ClockSeconds now, const Font& font) {
+void paintClock(Canvas& canvas, const Game& game, const Font& font) {
     const Rect whole = Rect::at({}, places.clock.size());
     canvas.fill(whole, black);
-    if (gameRunning) {
-        drawText(canvas, font, places.clockText, FormatMinutesSeconds(now), {clockRed, black});
+    if (game.isRunning()) {
+        drawText(canvas, font, places.clockText, FormatMinutesSeconds(game.clock.count()), {clockRed, black});
     }
 }
 

@@ -13,7 +13,7 @@
 namespace ventrel {
 
 /// A black box, with the time while a game runs.
-void paintClock(Canvas& canvas, bool gameRunning, ClockSeconds now, const Font& font);
+void paintClock(Canvas& canvas, const Game& game, const Font& font);
 
 /// The small scope over its piece of the console: dots while a game runs, and the sweep with its trail.
 void paintSmallScope(Canvas& canvas, const Bitmap& background, std::span<const Blip> blips, int sweepIndex,

@@ -63,7 +63,7 @@ Rect hitBox(Point radarPoint) {
 void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight, const FlightColours& colours,
                 const Font& tagFont) {
     const PlanStep& step = flight.current();
-    const Point at = radarPoint(layout, step.cell());
+    const Point at = radarPoint(layout, step.cell);
     const Colour colour = tagColour(flight, colours);
     DrawAircraftSymbol(canvas, at + symbolOffset, colour, step.heading);
     drawText(canvas, tagFont, at + callsignOffset, flight.callsign, {colour, {}});
@@ -73,18 +73,18 @@ void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight,
 
 void drawAlertCircle(Canvas& canvas, const RadarLayout& layout, const Flight& flight) {
     if (const auto colour = alertColour(flight.alert)) {
-        canvas.ellipse(alertCircle(radarPoint(layout, flight.current().cell())), *colour, alertPenWidth);
+        canvas.ellipse(alertCircle(radarPoint(layout, flight.current().cell)), *colour, alertPenWidth);
     }
 }
 
 void drawRoutes(Canvas& canvas, const RadarLayout& layout, std::span<const Flight> flights, Colour colour) {
     for (const Flight& flight : flights) {
-        if (!flight.isOnScope() || flight.current().directTarget == noVor) {
+        if (!flight.isOnScope() || !flight.current().directTarget.isOn()) {
             continue;
         }
-        Point from = radarPoint(layout, flight.current().cell());
-        for (int k = flight.planIndex + 1; k < flight.planLength; ++k) {
-            const Point to = radarPoint(layout, flight.plan[static_cast<std::size_t>(k)].cell());
+        Point from = radarPoint(layout, flight.current().cell);
+        for (int k = flight.planIndex + 1; k < flight.plan.length(); ++k) {
+            const Point to = radarPoint(layout, flight.plan[k].cell);
             canvas.line(from, to, colour);
             from = to;
         }
@@ -93,15 +93,15 @@ void drawRoutes(Canvas& canvas, const RadarLayout& layout, std::span<const Fligh
 
 std::optional<FlightHit> flightAt(const RadarLayout& layout, std::span<const Flight> flights, Point point) {
     int place = 0;
-    for (std::size_t i = 0; i < flights.size(); ++i) {
-        const Flight& flight = flights[i];
+    for (const FlightIndex i : TablePlaces<FlightIndex>{flights.size()}) {
+        const Flight& flight = flights[i.place()];
         const bool isListed = (flight.inPlay && flight.isActive()) || flight.announced;
         if (!isListed) {
             continue;
         }
         ++place;
-        if (hitBox(radarPoint(layout, flight.current().cell())).contains(point)) {
-            return FlightHit{static_cast<FlightIndex>(i), place};
+        if (hitBox(radarPoint(layout, flight.current().cell)).contains(point)) {
+            return FlightHit{i, place};
         }
     }
     return std::nullopt;

@@ -44,7 +44,7 @@ void drawRoutes(Canvas& canvas, const RadarLayout& layout, std::span<const Fligh
 /// The first flight, in table order, at a radar pixel: active ones, and announced ones at the cell where they
 /// will appear. `listPlace` is its place among those, from 1.
 struct FlightHit {
-    FlightIndex flight = 0;
+    FlightIndex flight;
     int listPlace = 0;
 };
 std::optional<FlightHit> flightAt(const RadarLayout& layout, std::span<const Flight> flights, Point point);

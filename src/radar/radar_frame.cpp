@@ -3,7 +3,6 @@
 #include "base/format.h"
 #include "platform/canvas/text.h"
 #include "radar/clouds.h"
-#include "sim/alert_lamps.h"
 
 namespace ventrel {
 
@@ -15,21 +14,21 @@ constexpr Size pauseBox{200, 50};
 constexpr FontRequest tagFont{Face::smallFonts, 10, false};
 constexpr FontRequest pauseFont{Face::arial, -40, true};
 
+constexpr ClockSeconds blinkPeriod = 2_s;
 /// The last clock second, after it became active, in which a flight blinks.
-constexpr ClockSeconds blinkTime = 14;
+constexpr ClockSeconds blinkTime = 14_s;
 
-FlightColours coloursOf(const GameState& game) {
-    return {game.airport.flightColour, game.airport.selectedFlightColour, game.airport.routeColour};
+FlightColours coloursOf(const Game& game) {
+    return {game.airspace->flightColour, game.airspace->selectedFlightColour, game.airspace->routeColour};
 }
 
 void drawFlights(RadarWindow& radar, Canvas& canvas) {
-    const GameState& game = radar.sources.game;
+    const Game& game = radar.sources.game;
     const Font& font = radar.sources.fonts.font(tagFont);
     for (const Flight& flight : game.flights) {
         if (flight.isOnScope()) {
             drawFlight(canvas, radar.layout, flight, coloursOf(game), font);
             drawAlertCircle(canvas, radar.layout, flight);
-            radar.callbacks.tickScroller();
         }
     }
 }
@@ -50,27 +49,23 @@ void drawPause(RadarWindow& radar, Canvas& canvas) {
 } // namespace
 
 void paintRadarFrame(RadarWindow& radar) {
-    GameState& game = radar.sources.game;
+    const Game& game = radar.sources.game;
     Canvas canvas(radar.backBuffer);
     canvas.draw({0, 0}, *radar.map);
     canvas.setClip(radar.scope);
     if (radar.sources.options.showRoutes != 0) {
-        drawRoutes(canvas, radar.layout, game.flights, game.airport.routeColour);
+        drawRoutes(canvas, radar.layout, game.flights, game.airspace->routeColour);
     }
     drawFlights(radar, canvas);
-    radar.callbacks.tickScroller();
-    radar.callbacks.setLamp(gatherAlertLevel(game));
     drawScore(radar, canvas);
-    if (radar.sources.options.stormTrak != 0) {
-        drawClouds(canvas, game.clouds, radar.clouds, radar.callbacks.clockNow(), radar.layout.scopeSize);
-    }
+    drawClouds(canvas, game.clouds, radar.clouds);
     if (radar.callbacks.isPaused()) {
         drawPause(radar, canvas);
     }
 }
 
 void blinkNewFlights(RadarWindow& radar, ClockSeconds now) {
-    const GameState& game = radar.sources.game;
+    const Game& game = radar.sources.game;
     if (!radar.map) {
         return;
     }
@@ -80,9 +75,9 @@ void blinkNewFlights(RadarWindow& radar, ClockSeconds now) {
         if (!flight.isOnScope() || now > flight.activatedAt + blinkTime) {
             continue;
         }
-        const Rect box = blinkBox(radarPoint(radar.layout, flight.current().cell()));
+        const Rect box = blinkBox(radarPoint(radar.layout, flight.current().cell));
         buffer.draw(box, *radar.map, box);
-        if (now % 2 == 0) {
+        if (now % blinkPeriod == 0_s) {
             drawFlight(buffer, radar.layout, flight, coloursOf(game), radar.sources.fonts.font(tagFont));
         }
         Canvas screen = radar.window.canvas();

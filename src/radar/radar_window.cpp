@@ -10,8 +10,8 @@ namespace ventrel {
 
 namespace {
 
-constexpr ClockSeconds repaintInterval = 5;
-constexpr ClockSeconds scoreReportInterval = 900;
+constexpr ClockSeconds repaintInterval = 5_s;
+constexpr ClockSeconds scoreReportInterval = 900_s;
 
 constexpr Colour ringColour = Colour::rgb(0xFF, 0, 0);
 constexpr int ringPen = 2;
@@ -20,7 +20,7 @@ constexpr Millis ringInterval = 100;
 constexpr Millis ringsLast = 8000;
 
 void onPress(RadarWindow& radar, const MouseInput& mouse) {
-    if (!radar.sources.game.gameRunning) {
+    if (!radar.sources.game.isRunning()) {
         return;
     }
     const Point point = mouse.position;
@@ -36,7 +36,7 @@ void onPress(RadarWindow& radar, const MouseInput& mouse) {
 }
 
 bool isSweeping(const RadarWindow& radar) {
-    return radar.sources.options.radarSweep != 0 && radar.sources.game.gameRunning;
+    return radar.sources.options.radarSweep != 0 && radar.sources.game.isRunning();
 }
 
 bool isSweepDue(const RadarWindow& radar) {
@@ -73,6 +73,7 @@ void paint(RadarWindow& radar) {
 
 WindowHandlers handlersOf(RadarWindow& radar) {
     WindowHandlers handlers;
+    handlers.prepare = [&radar] { radar.callbacks.makeFrame(); };
     handlers.paint = [&radar](Canvas&, const Rect&) { paint(radar); };
     handlers.press = [&radar](const MouseInput& mouse) { onPress(radar, mouse); };
     handlers.cursor = [&radar](Point) { return std::optional<Cursor>(&radar.sources.hand); };
@@ -83,12 +84,12 @@ WindowHandlers handlersOf(RadarWindow& radar) {
 void followClock(RadarWindow& radar, ClockSeconds now) {
     radar.lastClockSeen = now;
     blinkNewFlights(radar, now);
-    if (now % repaintInterval != 0) {
+    if (now % repaintInterval != 0_s) {
         return;
     }
     RadarRepaint(radar);
     radar.callbacks.updateBlips();
-    if (now % scoreReportInterval == 0) {
+    if (now % scoreReportInterval == 0_s) {
         radar.callbacks.reportScore();
     }
 }
@@ -122,7 +123,7 @@ void RadarDecodePicture(RadarWindow& radar) {
     radar.airportImage.reset();
     Image image;
     Bitmap bitmap;
-    if (ImageLoadMemory(image, radar.sources.game.mapPicture(), ImageFormat::jpeg) == ImageError::none &&
+    if (ImageLoadMemory(image, radar.sources.game.airspace->picture, ImageFormat::jpeg) == ImageError::none &&
         ImageToBitmap(image, bitmap) == ImageError::none) {
         radar.airportImage = shownPart(std::move(bitmap), radar.layout.scopeSize);
     }
@@ -132,7 +133,7 @@ void RadarBuildMap(RadarWindow& radar, const Bitmap& frame) {
     const Options& options = radar.sources.options;
     const MapParts parts{.frame = frame,
                          .airport = radar.airportImage ? &*radar.airportImage : nullptr,
-                         .vors = radar.sources.game.vors,
+                         .vors = radar.sources.game.vors(),
                          .showPicture = options.mapDetails != 0,
                          .showGrid = options.showGrid != 0};
     const Font& labels = radar.sources.fonts.font({Face::smallFonts, -radar.layout.labelHeight, false});
@@ -156,7 +157,7 @@ std::optional<Millis> RadarTick(RadarWindow& radar) {
     if (isSweeping(radar) && isSweepDue(radar)) {
         moveSweep(radar);
     }
-    const ClockSeconds now = radar.callbacks.clockNow();
+    const ClockSeconds now = radar.sources.game.clock;
     if (now != radar.lastClockSeen) {
         followClock(radar, now);
     }
@@ -167,7 +168,7 @@ bool RadarSelectAt(RadarWindow& radar, Point point) {
     if (radar.callbacks.isTouched()) {
         return false;
     }
-    const GameState& game = radar.sources.game;
+    const Game& game = radar.sources.game;
     const auto hit = flightAt(radar.layout, game.flights, point);
     if (hit && !game.flight(hit->flight).selected) {
         radar.callbacks.select(*hit);
@@ -176,7 +177,7 @@ bool RadarSelectAt(RadarWindow& radar, Point point) {
 }
 
 bool RadarCollisionRings(RadarWindow& radar, FlightIndex flight) {
-    const Cell cell = radar.sources.game.flight(flight).current().cell();
+    const Cell cell = radar.sources.game.flight(flight).current().cell;
     Rect ring = alertCircle(radarPoint(radar.layout, cell));
     const Millis end = radar.desktop.now() + ringsLast;
     do {
@@ -188,7 +189,7 @@ bool RadarCollisionRings(RadarWindow& radar, FlightIndex flight) {
         if (!radar.desktop.pumpUntil(next)) {
             return false;
         }
-    } while (radar.desktop.now() < end && !radar.sources.game.gameRunning);
+    } while (radar.desktop.now() < end && !radar.sources.game.isRunning());
     return true;
 }
 

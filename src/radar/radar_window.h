@@ -1,6 +1,6 @@
 // The radar scope: the round display on which the player sees the traffic and chooses aircraft.
 //
-// The record owns the window's pictures and the sweep; it reads the game, and moves only the game's clouds.
+// The record owns the window's pictures and the sweep; it reads the game.
 // What it wants from other rooms it asks of its callbacks. The shell creates it, ticks it, and repaints it
 // when things change.
 
@@ -17,9 +17,8 @@
 #include "radar/flight_drawing.h"
 #include "radar/radar_layout.h"
 #include "radar/sweep.h"
-#include "sim/game_state.h"
+#include "sim/game.h"
 #include "sim/options.h"
-#include "sim/simulation_events.h"
 
 namespace ventrel {
 
@@ -28,12 +27,9 @@ inline constexpr int cloudPictureCount = 16;
 
 /// What the radar asks of the rest of the program.
 struct RadarCallbacks {
-    std::function<ClockSeconds()> clockNow;
     std::function<bool()> isPaused;
-    /// The ticker gets a turn, so that a long frame does not hold it up.
-    std::function<void()> tickScroller;
-    /// The alert level that this frame's flights ask for.
-    std::function<void(LampLevel)> setLamp;
+    /// A frame is about to be shown: the game is to make it (see makeFrame).
+    std::function<void()> makeFrame;
     /// Another five clock seconds have passed: the small scope's dots are due.
     std::function<void()> updateBlips;
     /// A quarter of an hour has passed on the clock: the score is to be reported.
@@ -50,7 +46,7 @@ struct RadarCallbacks {
 
 /// What the radar reads, owned by others for as long as it lives.
 struct RadarSources {
-    GameState& game;
+    const Game& game;
     const Options& options;
     FontSet& fonts;
     const CursorImage& hand;
@@ -69,7 +65,7 @@ struct RadarWindow {
     std::optional<Bitmap> airportImage = {}; ///< the airport's own picture, at most of the scope's size
     std::vector<Bitmap> clouds = {};
     Sweep sweep = {};
-    ClockSeconds lastClockSeen = 0;
+    ClockSeconds lastClockSeen = {};
 };
 
 /// Makes the window, hidden, as a child of `parent`. The record must stay where it is from then on.

@@ -20,7 +20,7 @@ namespace {
 
 /// Whether a running game may be thrown away; the player is asked. Without one there is nothing to ask.
 bool mayQuitGame(Shell& shell) {
-    return !shell.game.gameRunning ||
+    return !shell.game.isRunning() ||
            shell.ask(TextId::confirmQuitGame, MessageButtons::okCancel) == MessageAnswer::ok;
 }
 
@@ -28,7 +28,7 @@ void newGame(Shell& shell) {
     if (!mayQuitGame(shell)) {
         return;
     }
-    if (shell.game.gameRunning) {
+    if (shell.game.isRunning()) {
         abandonGame(shell);
     }
     if (const auto setup = runNewGameDialog(shell)) {
@@ -41,7 +41,7 @@ void newGame(Shell& shell) {
     }
 }
 
-void endGame(Shell& shell) {
+void askToEndGame(Shell& shell) {
     if (mayQuitGame(shell)) {
         abandonGame(shell);
     }
@@ -55,15 +55,14 @@ void exitProgram(Shell& shell) {
 
 void execute(Shell& shell) {
     const ControlPanelState& panel = shell.panel.state;
-    if (panel.flight != noFlight) {
-        Simulation simulation = shell.simulation();
-        executeOrder(simulation, panel.flight, panel.pending);
+    if (panel.flight) {
+        executeOrder(shell.game, *panel.flight, panel.pending, shell.events);
     }
     shell.mainWindow.focus();
 }
 
 void hideFromBoss(Shell& shell) {
-    if (shell.game.gameRunning) {
+    if (shell.game.isRunning()) {
         shell.desktop.minimise();
     }
 }
@@ -79,7 +78,7 @@ constexpr std::array actions{std::to_array<Action>({
     {command::helpMenu, showHelpMenu},
     {command::executeOrder, execute},
     {command::newGame, newGame},
-    {command::endGame, endGame},
+    {command::endGame, askToEndGame},
     {command::exitProgram, exitProgram},
     {command::minimise, [](Shell& shell) { shell.desktop.minimise(); }},
     {command::schedule, runScheduleDialog},
@@ -98,12 +97,13 @@ constexpr std::array actions{std::to_array<Action>({
 })};
 
 /// Commands that give the panel one value.
+template <typename Value>
 struct Setting {
     int command;
-    int value;
+    Value value;
 };
 
-constexpr std::array headings{std::to_array<Setting>({
+constexpr std::array headings{std::to_array<Setting<int>>({
     {command::heading0, 0},
     {command::heading45, 45},
     {command::heading90, 90},
@@ -113,10 +113,10 @@ constexpr std::array headings{std::to_array<Setting>({
     {command::heading270, 270},
     {command::heading315, 315},
 })};
-constexpr std::array speeds{std::to_array<Setting>({
-    {command::slow, slowSpeed},
-    {command::normal, normalSpeed},
-    {command::fast, fastSpeed},
+constexpr std::array speeds{std::to_array<Setting<Speed>>({
+    {command::slow, Speed::slow},
+    {command::normal, Speed::normal},
+    {command::fast, Speed::fast},
 })};
 
 template <typename Table>
@@ -135,13 +135,13 @@ bool giveOrder(Shell& shell, int id) {
     if (const auto heading = placeInSeries(id, command::planeHeading, command::planeHeadings)) {
         CtrlSetHeading(shell.panel, *heading * headingStep);
     } else if (const auto target = placeInSeries(id, command::planeDirect, command::planeTargets)) {
-        CtrlSetDirect(shell.panel, *target);
+        CtrlSetDirect(shell.panel, PointIndex{*target});
     } else if (const auto altitude = placeInSeries(id, command::planeAltitude, command::planeAltitudes)) {
         CtrlSetAltitude(shell.panel, *altitude + 1);
     } else if (const auto speed = placeInSeries(id, command::planeSlow, command::planeSpeeds)) {
-        CtrlSetSpeed(shell.panel, *speed + slowSpeed);
+        CtrlSetSpeed(shell.panel, speeds[static_cast<std::size_t>(*speed)].value);
     } else if (id == command::planeHold) {
-        CtrlSetDirect(shell.panel, noVor);
+        CtrlSetHold(shell.panel);
     } else {
         return false;
     }

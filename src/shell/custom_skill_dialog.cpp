@@ -1,5 +1,7 @@
 #include "shell/custom_skill_dialog.h"
 
+#include <algorithm>
+
 #include "platform/widgets/dialog.h"
 #include "resources/dialogs.h"
 #include "sim/custom_skill.h"
@@ -8,14 +10,16 @@ namespace ventrel {
 
 namespace {
 
+/// Longer than any shift that earns a bonus.
+constexpr unsigned manyMinutes = 1'000'000;
+
 /// The shift as typed, which need not be one that can be played.
 struct TypedShift {
     unsigned planes;
     unsigned minutes;
 
-    int bonus() const {
-        return bonusFor(static_cast<int>(planes), static_cast<ClockSeconds>(minutes) * secondsPerMinute);
-    }
+    ClockSeconds length() const { return static_cast<int>(std::min(minutes, manyMinutes)) * clockMinute; }
+    int bonus() const { return bonusFor(static_cast<int>(planes), length()); }
 };
 
 TypedShift typedShift(const Dialog& dialog) {
@@ -25,7 +29,7 @@ TypedShift typedShift(const Dialog& dialog) {
 void open(const Shell& shell, Dialog& dialog) {
     const Options& options = shell.options;
     dialog.setNumber(custom_skill::planes, static_cast<unsigned>(options.customPlanes));
-    dialog.setNumber(custom_skill::minutes, static_cast<unsigned>(options.customSched / secondsPerMinute));
+    dialog.setNumber(custom_skill::minutes, static_cast<unsigned>(options.customSched / clockMinute.count()));
     dialog.setNumber(custom_skill::bonus, static_cast<unsigned>(options.customBonus));
     dialog.focus(custom_skill::planes);
     dialog.edit(custom_skill::planes).selectAll();
@@ -38,7 +42,7 @@ void accept(Shell& shell, Dialog& dialog) {
         return;
     }
     shell.options.customPlanes = static_cast<int>(shift.planes);
-    shell.options.customSched = static_cast<ClockSeconds>(shift.minutes) * secondsPerMinute;
+    shell.options.customSched = shift.length().count();
     shell.options.customBonus = shift.bonus();
     dialog.end(okId);
 }

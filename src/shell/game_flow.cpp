@@ -1,8 +1,6 @@
 #include "shell/game_flow.h"
 
 #include "console/window_size.h"
-#include "sim/airport_loading.h"
-#include "sim/schedule.h"
 #include "sim/shift_texts.h"
 
 namespace ventrel {
@@ -26,21 +24,29 @@ std::vector<Size> cloudSizes(const Shell& shell) {
     return sizes;
 }
 
-bool openAirportOf(Shell& shell, const GameSetup& setup) {
-    return loadAirport(shell.game, setup.airportFile, scopeLayout(shell), shell.random, shell.reporter());
+ShiftSetup shiftSetup(const Shell& shell, const GameSetup& setup, std::span<const Size> sizes) {
+    const Options& options = shell.options;
+    return {.skill = setup.skill,
+            .custom = {options.customPlanes, ClockSeconds{options.customSched}, options.customBonus},
+            .cloudCover = options.stormTrak != 0,
+            .directEntry = options.directEntry != 0,
+            .voiceSetCount = shell.sounds.voiceSetCount(),
+            .cloudSizes = sizes,
+            .layout = scopeLayout(shell),
+            .controllerName = shell.game.controllerName};
 }
 
-void beginShift(Shell& shell, const GameSetup& setup) {
+/// The next game takes the generator on, and the time of the last step, at which it does not act again.
+void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setup) {
+    const auto sizes = cloudSizes(shell);
+    const ClockSeconds lastStepTime = shell.game.lastStepTime;
+    shell.game = Game{airspace, shiftSetup(shell, setup, sizes), shell.game.random};
+    shell.game.lastStepTime = lastStepTime;
     RadarDecodePicture(shell.radar);
     RadarBuildMap(shell.radar, shell.pictures.radarFrame);
-    const auto sizes = cloudSizes(shell);
-    setUpShift(shell.game,
-               {.skill = setup.skill, .voiceSetCount = shell.sounds.voiceSetCount(), .cloudSizes = sizes},
-               shell.options, shell.random);
     ClockReset(shell.topBar);
-    shell.game.gameRunning = true;
+    LampsRepaint(shell.topBar);
     SetPause(shell, false);
-    setLamp(shell.topBar.lamps, shell.events, LampLevel::none);
     ScrollerPost(shell.scroller, welcomeText(shell.game), MessageClass::information);
 }
 
@@ -51,7 +57,7 @@ void endWithCollision(Shell& shell) {
     if (!RadarCollisionRings(shell.radar, shell.game.collisionFlights.front())) {
         return; // the program is quitting
     }
-    if (shell.game.gameRunning) {
+    if (shell.game.isRunning()) {
         return; // the player has begun the next game meanwhile
     }
     shell.sounds.playMusic(collisionMusic, false);
@@ -74,8 +80,10 @@ void endWithScore(Shell& shell) {
 } // namespace
 
 void startGame(Shell& shell, const GameSetup& setup) {
-    if (openAirportOf(shell, setup)) {
-        beginShift(shell, setup);
+    if (const auto airspace = loadAirport(setup.airportFile)) {
+        beginShift(shell, *airspace, setup);
+    } else {
+        shell.report(airspace.error().text, airspace.error().icon);
     }
     shell.sounds.stopEffects();
     shell.sounds.playMusic(gameMusic, true);
@@ -83,7 +91,7 @@ void startGame(Shell& shell, const GameSetup& setup) {
 }
 
 void SetPause(Shell& shell, bool on) {
-    if (!shell.game.gameRunning || shell.paused == on) {
+    if (!shell.game.isRunning() || shell.paused == on) {
         return;
     }
     if (on) {
@@ -97,7 +105,7 @@ void SetPause(Shell& shell, bool on) {
 }
 
 void EndGame(Shell& shell) {
-    shell.game.gameRunning = false;
+    shell.game.phase = Phase::idle;
     shell.mainWindow.invalidate();
     ScrollerClear(shell.scroller);
     emptyStrips(shell);
@@ -115,7 +123,6 @@ void abandonGame(Shell& shell) {
 }
 
 void endShift(Shell& shell, ShiftResult result) {
-    shell.game.gameRunning = false;
     shell.mainWindow.capture();
     shell.sounds.stopMusic();
     RadarRepaint(shell.radar);
@@ -128,7 +135,7 @@ void endShift(Shell& shell, ShiftResult result) {
 }
 
 bool isShiftEnding(const Shell& shell) {
-    return shell.scroller.state.postGameOver;
+    return shell.game.phase == Phase::lastLine;
 }
 
 void onGameOver(Shell& shell) {

@@ -5,7 +5,7 @@
 #include <filesystem>
 #include <string>
 
-#include "sim/schedule.h"
+#include "sim/shift_setup.h"
 
 namespace ventrel {
 

@@ -7,9 +7,15 @@
 
 #include <string_view>
 
-#include "sim/simulation_events.h"
-
 namespace ventrel {
+
+/// A pilot's call, ready to be spoken.
+struct SpokenCall {
+    std::string_view phrase; ///< phrase characters, valid during the call only
+    int voice = 0;           ///< the pilot's voice set
+    int tag = 0;             ///< the flight's radio id
+    bool noise = true;       ///< radio noise first, its kind drawn from the game's generator when it is heard
+};
 
 class GameSounds {
 public:
@@ -23,7 +29,7 @@ public:
     virtual void clickControl() = 0; ///< a setting of the control panel was touched
     virtual void clickSet() = 0;     ///< an order was sent
     virtual void clickSelect() = 0;  ///< a flight was chosen
-    virtual void speak(const RadioCall& call) = 0;
+    virtual void speak(const SpokenCall& call) = 0;
     virtual void stopEffects() = 0;
 
     /// Starts a piece, such as "mci\idle.mci", in place of the present one; once, or again and again.
@@ -41,7 +47,7 @@ public:
     void clickControl() override {}
     void clickSet() override {}
     void clickSelect() override {}
-    void speak(const RadioCall&) override {}
+    void speak(const SpokenCall&) override {}
     void stopEffects() override {}
     void playMusic(std::string_view, bool) override {}
     void stopMusic() override {}

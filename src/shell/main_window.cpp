@@ -63,7 +63,7 @@ Cursor cursorAt(const Shell& shell, Point p) {
     const bool isHot = places.topBar.systemSquare.contains(p) || places.strips.scrollUp.contains(p) ||
                        places.strips.scrollDown.contains(p) ||
                        StripsSlotSelectable(shell.strips, StripsButtonAt(shell, p));
-    return shell.game.gameRunning && isHot ? &shell.pictures.hand : &shell.pictures.arrow;
+    return shell.game.isRunning() && isHot ? &shell.pictures.hand : &shell.pictures.arrow;
 }
 
 bool onWheel(Shell& shell, int notches) {

@@ -11,13 +11,13 @@ namespace ventrel {
 namespace {
 
 void repaintInGame(Shell& shell) {
-    if (shell.game.gameRunning) {
+    if (shell.game.isRunning()) {
         RadarRepaint(shell.radar);
     }
 }
 
 void rebuildInGame(Shell& shell) {
-    if (shell.game.gameRunning) {
+    if (shell.game.isRunning()) {
         RadarBuildMap(shell.radar, shell.pictures.radarFrame);
         RadarRepaint(shell.radar);
     }
@@ -27,7 +27,7 @@ void followMusic(Shell& shell) {
     if (shell.options.music == 0) {
         shell.sounds.stopMusic();
     } else {
-        shell.sounds.playMusic(shell.game.gameRunning ? gameMusic : idleMusic, false);
+        shell.sounds.playMusic(shell.game.isRunning() ? gameMusic : idleMusic, false);
     }
 }
 

@@ -42,29 +42,30 @@ void popUp(Shell& shell, const Menu& menu, const Rect& button) {
 }
 
 void tickOrders(Menu& menu, const CurrentSettings& current) {
-    if (current.heading >= 0) {
-        checkMenuItem(menu, command::planeHeading + current.heading / headingStep, true);
+    if (current.heading) {
+        checkMenuItem(menu, command::planeHeading + *current.heading / headingStep, true);
     }
-    if (current.altitude > 0) {
-        checkMenuItem(menu, command::planeAltitude + current.altitude - 1, true);
+    if (current.altitude) {
+        checkMenuItem(menu, command::planeAltitude + *current.altitude - 1, true);
     }
     constexpr std::array speeds{command::planeSlow, command::planeNormal, command::planeFast};
-    checkMenuItem(menu, speeds[static_cast<std::size_t>(current.speed - slowSpeed)], true);
-    if (current.direct == noVor) {
+    checkMenuItem(
+        menu, speeds[static_cast<std::size_t>(current.speed) - static_cast<std::size_t>(Speed::slow)], true);
+    if (current.holds) {
         checkMenuItem(menu, command::planeHold, true);
-    } else if (current.direct >= 0) {
-        checkMenuItem(menu, command::planeDirect + current.direct, true);
+    } else if (current.direct) {
+        checkMenuItem(menu, command::planeDirect + current.direct->number(), true);
     }
 }
 
 Menu orderMenu(const Shell& shell) {
     Menu menu = makeMenu(planeMenuItems);
-    const int targets = std::min(shell.game.vorCount(), command::planeTargets);
-    for (VorIndex i = 0; i < targets; ++i) {
+    const auto targets = std::min(shell.game.vors().size(), std::size_t{command::planeTargets});
+    for (const PointIndex i : TablePlaces<PointIndex>{targets}) {
         const Vor& vor = shell.game.vor(i);
         MenuItem item;
         item.text = FormatText("%s - %s", {std::string_view(vor.ident), std::string_view(vor.description)});
-        item.command = command::planeDirect + i;
+        item.command = command::planeDirect + i.number();
         menu[planeTargetMenu].items.push_back(std::move(item));
     }
     tickOrders(menu, currentSettings(shell.panel.state, shell.game));
@@ -75,7 +76,7 @@ Menu orderMenu(const Shell& shell) {
 
 void showFileMenu(Shell& shell) {
     Menu menu = makeMenu(fileMenuItems);
-    greyMenuItem(menu, command::endGame, !shell.game.gameRunning);
+    greyMenuItem(menu, command::endGame, !shell.game.isRunning());
     popUp(shell, menu, shell.console().topBar.fileButton);
 }
 
@@ -89,7 +90,7 @@ void showOptionsMenu(Shell& shell) {
     checkMenuItem(menu, command::largeResolution, shell.options.resolution == largeResolution);
     checkMenuItem(menu, command::fullScreen, shell.options.windowed == 0);
     for (const int gameCommand : gameCommands) {
-        greyMenuItem(menu, gameCommand, !shell.game.gameRunning);
+        greyMenuItem(menu, gameCommand, !shell.game.isRunning());
     }
     greyMenuItem(menu, command::highScores, true); // there is no table yet
     popUp(shell, menu, shell.console().topBar.optionsButton);

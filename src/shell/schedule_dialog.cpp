@@ -4,7 +4,6 @@
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/widget_place.h"
 #include "resources/dialogs.h"
-#include "sim/custom_skill.h"
 
 namespace ventrel {
 
@@ -19,7 +18,7 @@ std::string_view markOf(const Vor& vor) {
 
 /// Time, callsign, from where, to where, and the full name of that place, between tab characters.
 std::string rowOf(const Flight& flight, const Vor& origin, const Vor& destination) {
-    const std::string time = FormatMinutesSeconds(flight.scheduledAt);
+    const std::string time = FormatMinutesSeconds(flight.scheduledAt.count());
     const std::string_view entry = origin.ident.empty() ? noOrigin : std::string_view(origin.ident);
     return FormatText("%s\t%s\t\t%s%s\t%s%s\t%s",
                       {std::string_view(time), std::string_view(flight.callsign), entry, markOf(origin),
@@ -40,7 +39,7 @@ struct Counts {
     }
 };
 
-Counts listFlights(const GameState& game, const ListBox& list) {
+Counts listFlights(const Game& game, const ListBox& list) {
     list.setTabWidth(dialogUnitsAcross(schedule::tabStop));
     Counts counts;
     for (const Flight& flight : game.flights) {
@@ -54,11 +53,11 @@ Counts listFlights(const GameState& game, const ListBox& list) {
     return counts;
 }
 
-void open(const GameState& game, Dialog& dialog) {
+void open(const Game& game, Dialog& dialog) {
     const Counts counts = listFlights(game, dialog.list(schedule::list));
     dialog.setNumber(schedule::possibleScore, static_cast<unsigned>(game.possibleScore));
     dialog.setNumber(schedule::currentScore, static_cast<unsigned>(game.score));
-    dialog.setText(schedule::shiftLength, FormatText("%d:00", {long{game.shiftLength / secondsPerMinute}}));
+    dialog.setText(schedule::shiftLength, FormatText("%d:00", {long{game.shiftLength / clockMinute}}));
     dialog.setNumber(schedule::landings, counts.landings);
     dialog.setNumber(schedule::takeoffs, counts.takeoffs);
     dialog.setNumber(schedule::passThroughs, counts.passThroughs);

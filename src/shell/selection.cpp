@@ -7,7 +7,7 @@ namespace ventrel {
 namespace {
 
 /// Clock seconds after a press on the panel in which a new flight does not take it away.
-constexpr ClockSeconds touchLasts = 10;
+constexpr ClockSeconds touchLasts = 10_s;
 
 /// Marks the flight, which is not selected yet, and shows it everywhere.
 void mark(Shell& shell, FlightIndex flight) {
@@ -54,13 +54,13 @@ void StripsPress(Shell& shell, int slot) {
     shell.pressedStrip = slot;
 }
 
-FlightIndex ClearSelectedFlight(Shell& shell) {
+std::optional<FlightIndex> ClearSelectedFlight(Shell& shell) {
     const auto found = std::ranges::find(shell.game.flights, true, &Flight::selected);
     if (found == shell.game.flights.end()) {
-        return noFlight;
+        return std::nullopt;
     }
     found->selected = false;
-    return static_cast<FlightIndex>(found - shell.game.flights.begin());
+    return FlightIndex{static_cast<int>(found - shell.game.flights.begin())};
 }
 
 void SelectStripFlight(Shell& shell, int slot) {
@@ -70,11 +70,10 @@ void SelectStripFlight(Shell& shell, int slot) {
         RadarRepaint(shell.radar);
     }
     ClearSelectedFlight(shell);
-    const FlightIndex flight = StripsSlotFlight(shell.strips, slot);
-    if (flight == noFlight) {
-        CtrlClearFlight(shell.panel);
+    if (const auto flight = StripsSlotFlight(shell.strips, slot)) {
+        mark(shell, *flight);
     } else {
-        mark(shell, flight);
+        CtrlClearFlight(shell.panel);
     }
 }
 
@@ -87,7 +86,7 @@ void selectRadarFlight(Shell& shell, const FlightHit& hit) {
 
 bool isPanelTouched(const Shell& shell) {
     const ClockSeconds touch = CtrlTouchTime(shell.panel);
-    return touch != 0 && shell.topBar.clock.now < touch + touchLasts;
+    return touch != 0_s && shell.game.clock < touch + touchLasts;
 }
 
 void selectNextStrip(Shell& shell) {
@@ -101,7 +100,7 @@ void selectNextStrip(Shell& shell) {
         const bool isOutOfSight = shell.pressedStrip == noSlot;
         current = isOutOfSight ? last - 1 : std::min(shell.pressedStrip, last - 1);
     }
-    if (StripsSlotFlight(shell.strips, current + 1) != noFlight) {
+    if (StripsSlotFlight(shell.strips, current + 1)) {
         SelectStripFlight(shell, current + 1);
     }
 }

@@ -16,8 +16,8 @@ int StripsButtonAt(const Shell& shell, Point point);
 /// Shows that button pressed and every other one released; with `noSlot` all are released.
 void StripsPress(Shell& shell, int slot);
 
-/// Takes the mark off the selected flight and returns it; `noFlight` when none was.
-FlightIndex ClearSelectedFlight(Shell& shell);
+/// Takes the mark off the selected flight and returns it; none when none was.
+std::optional<FlightIndex> ClearSelectedFlight(Shell& shell);
 
 /// Selects the flight of a strip, with the click that goes with it. An empty strip empties the panel.
 void SelectStripFlight(Shell& shell, int slot);

@@ -9,15 +9,13 @@ namespace ventrel {
 namespace {
 
 ScrollerSources scrollerSources(Shell& shell) {
-    return {shell.desktop, shell.fonts, shell.pictures.arrow};
+    return {shell.desktop, shell.fonts, shell.pictures.arrow, shell.game.messages};
 }
 
 RadarCallbacks radarCallbacks(Shell& shell) {
     return {
-        .clockNow = [&shell] { return shell.topBar.clock.now; },
         .isPaused = [&shell] { return shell.paused; },
-        .tickScroller = [&shell] { ScrollerTick(shell.scroller); },
-        .setLamp = [&shell](LampLevel level) { setLamp(shell.topBar.lamps, shell.events, level); },
+        .makeFrame = [&shell] { makeFrame(shell.game, shell.events); },
         .updateBlips = [&shell] { ScopeUpdateBlips(shell.topBar); },
         .reportScore = [&shell] { reportScore(shell); },
         .resetTouch = [&shell] { CtrlResetTouch(shell.panel); },
@@ -29,7 +27,6 @@ RadarCallbacks radarCallbacks(Shell& shell) {
 
 ControlPanelCallbacks panelCallbacks(Shell& shell) {
     return {
-        .clockNow = [&shell] { return shell.topBar.clock.now; },
         .click = [&shell] { shell.sounds.clickControl(); },
         .enableExec = [&shell](bool enabled) { shell.exec.enable(enabled); },
     };
@@ -40,8 +37,8 @@ ControlPanelCallbacks panelCallbacks(Shell& shell) {
 Shell::Shell(ShellParts parts)
     : desktop(parts.desktop), sounds(parts.sounds), fonts(parts.fonts), widgetFonts(widgetFontsOf(fonts)),
       programFolder(std::move(parts.programFolder)), playersAirports(std::move(parts.playersAirports)),
-      profilePath(std::move(parts.profilePath)), pictures(std::move(parts.pictures)), options(parts.options),
-      random(parts.random), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
+      profilePath(std::move(parts.profilePath)), pictures(std::move(parts.pictures)),
+      options(parts.options), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
       scroller{.sources = scrollerSources(*this)},
       strips{.sources = {game, fonts, pictures.arrow},
              .callbacks = {.press = [this](int slot) { StripsPress(*this, slot); }}},
@@ -51,15 +48,9 @@ Shell::Shell(ShellParts parts)
             .callbacks = radarCallbacks(*this),
             .layout = radarLayoutFor(windowSize().width)},
       events(*this) {
+    game.random = parts.random;
+    game.lastStepTime = 0_s; // of the first game alone: its clock does not stand still at 0
     scroller.gameOverShown = [this] { mainWindow.post([this] { onGameOver(*this); }); };
-}
-
-Simulation Shell::simulation() {
-    return {.game = game,
-            .lamps = topBar.lamps,
-            .random = random,
-            .events = events,
-            .autoSelect = options.autoSelect != 0};
 }
 
 MessageAnswer Shell::showMessage(std::string_view text, MessageIcon icon, MessageButtons buttons) {

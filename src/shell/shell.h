@@ -24,8 +24,8 @@
 #include "shell/game_sounds.h"
 #include "shell/pictures.h"
 #include "shell/simulation_player.h"
+#include "sim/game.h"
 #include "sim/options.h"
-#include "sim/simulation.h"
 
 namespace ventrel {
 
@@ -59,9 +59,9 @@ struct Shell {
     const std::filesystem::path profilePath;
     Pictures pictures;
     Options options;
-    RandomGenerator random;
 
-    GameState game;
+    /// Also while none is played: its generator is the only one, handed on from game to game.
+    Game game;
     bool paused = false; ///< only means something while a game runs
 
     Window mainWindow;
@@ -80,8 +80,6 @@ struct Shell {
     /// Where everything stands in it.
     const ConsoleLayout& console() const { return consoleLayoutFor(windowSize().width); }
     int stripSlots() const { return console().strips.count; }
-    /// The simulation over this shell's game, for one call.
-    Simulation simulation();
     /// A message box over the main window, which pauses a running game. Returns when it has been answered.
     MessageAnswer showMessage(std::string_view text, MessageIcon icon, MessageButtons buttons);
     /// The same with a question of the string table.

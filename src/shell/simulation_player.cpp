@@ -2,16 +2,20 @@
 
 #include "shell/game_flow.h"
 #include "shell/shell.h"
+#include "sim/reports.h"
 
 namespace ventrel {
 
-void SimulationPlayer::messagePosted(std::string_view text, MessageClass messageClass) {
-    ScrollerPost(shell_.scroller, text, messageClass);
+void SimulationPlayer::reported(const Report& report) {
+    ScrollerPost(shell_.scroller, reportText(shell_.game, report), reportClass(report.topic));
 }
 
 void SimulationPlayer::pilotSpoke(const RadioCall& call) {
     if (shell_.options.voice != 0) {
-        shell_.sounds.speak(call);
+        const Flight& flight = shell_.game.flight(call.flight);
+        const std::string phrase = radioPhrase(shell_.game, call);
+        shell_.sounds.speak(
+            {.phrase = phrase, .voice = flight.pilotVoice, .tag = flight.radioId, .noise = call.hasNoise()});
     }
 }
 
@@ -35,8 +39,11 @@ void SimulationPlayer::stripsChanged() {
     StripsRebuild(shell_.strips);
 }
 
-void SimulationPlayer::selectionWanted(FlightIndex flight) {
-    const Cell cell = shell_.game.flight(flight).current().cell();
+void SimulationPlayer::flightActivated(FlightIndex flight) {
+    if (shell_.options.autoSelect == 0) {
+        return;
+    }
+    const Cell cell = shell_.game.flight(flight).current().cell;
     const Point point = radarPoint(shell_.radar.layout, cell);
     shell_.radar.window.post([this, point] { RadarSelectAt(shell_.radar, point); });
 }

@@ -12,13 +12,13 @@ class SimulationPlayer final : public SimulationEvents {
 public:
     explicit SimulationPlayer(Shell& shell) : shell_(shell) {}
 
-    void messagePosted(std::string_view text, MessageClass messageClass) override;
+    void reported(const Report& report) override;
     void pilotSpoke(const RadioCall& call) override;
     void lampChanged(LampLevel lit) override;
     void orderSent(FlightIndex flight) override;
     void panelChanged() override;
     void stripsChanged() override;
-    void selectionWanted(FlightIndex flight) override;
+    void flightActivated(FlightIndex flight) override;
     void shiftEnded(ShiftResult result) override;
 
 private:

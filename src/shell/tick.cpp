@@ -6,13 +6,12 @@
 namespace ventrel {
 
 std::optional<Millis> Tick(Shell& shell) {
-    if (shell.paused && shell.game.gameRunning) {
+    if (shell.paused && shell.game.isRunning()) {
         return std::nullopt;
     }
     std::optional<Millis> next = ClockTick(shell.topBar);
     next = earlier(next, ScrollerTick(shell.scroller));
-    Simulation simulation = shell.simulation();
-    SimulationStep(simulation, shell.topBar.clock.now);
+    SimulationStep(shell.game, shell.events);
     next = earlier(next, LampsTick(shell.topBar));
     next = earlier(next, RadarTick(shell.radar));
     CtrlTick(shell.panel);

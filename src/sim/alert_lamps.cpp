@@ -1,20 +1,20 @@
 #include "sim/alert_lamps.h"
 
-#include "sim/game_state.h"
+#include "sim/game.h"
 #include "sim/simulation_events.h"
 
 namespace ventrel {
 
-void setLamp(AlertLamps& lamps, SimulationEvents& events, LampLevel level) {
-    if (lamps.lit == level) {
+void setLamp(Game& game, SimulationEvents& events, LampLevel level) {
+    if (game.litLamp == level) {
         return;
     }
-    lamps.lit = level;
+    game.litLamp = level;
     events.lampChanged(level);
 }
 
-bool isLampLit(const AlertLamps& lamps, LampLevel level) {
-    return level == LampLevel::none || lamps.lit == level;
+bool isLampLit(const Game& game, LampLevel level) {
+    return level == LampLevel::none || game.litLamp == level;
 }
 
 std::optional<std::string_view> alarmSound(LampLevel lit) {
@@ -25,19 +25,19 @@ std::optional<std::string_view> alarmSound(LampLevel lit) {
     }
 }
 
-LampsTickResult LampsTick(AlertLamps& lamps, bool gameRunning, Millis now) {
-    if (!gameRunning || lamps.lit == LampLevel::none) {
+LampsTickResult LampsTick(LampBlink& blink, const Game& game, Millis now) {
+    if (!game.isRunning() || game.litLamp == LampLevel::none) {
         return LampsTickResult::asleep;
     }
-    if (now <= lamps.lastBlink + lampBlinkInterval) {
+    if (now <= blink.last + lampBlinkInterval) {
         return LampsTickResult::lit;
     }
-    lamps.lastBlink = now;
-    lamps.blinkOn = !lamps.blinkOn;
+    blink.last = now;
+    blink.isOn = !blink.isOn;
     return LampsTickResult::flipped;
 }
 
-LampLevel gatherAlertLevel(const GameState& game) {
+LampLevel gatherAlertLevel(const Game& game) {
     LampLevel level = LampLevel::none;
     for (const Flight& flight : game.flights) {
         if (!flight.isOnScope()) {

@@ -22,21 +22,22 @@ int drawDigitOtherThan(int other, RandomGenerator& random) {
 
 void appendDigit(Flight& flight, int digit) {
     flight.callsign += static_cast<char>('0' + digit);
-    VoiceAppend(flight.callsignPhrase, VoiceDigitCode(digit));
+    flight.callsignPhrase += VoiceDigitCode(digit);
 }
 
 /// Pass-throughs, arrivals at a major airport, and departures from one out of the area.
-bool mayBeHeavy(const GameState& game, const Flight& flight) {
+bool mayBeHeavy(const Game& game, const Flight& flight) {
     const bool leaves = flight.destinationKind == DestinationKind::exit;
     if (flight.originKind == OriginKind::scopeEdge) {
         return leaves || game.vor(flight.destination).isMajor;
     }
-    return leaves && game.vor(flight.origin).isMajor;
+    return leaves && copyVor(game, flight.origin).isMajor;
 }
 
 } // namespace
 
-void makeCallsign(const GameState& game, Flight& flight, RandomGenerator& random) {
+void makeCallsign(Game& game, Flight& flight) {
+    RandomGenerator& random = game.random;
     constexpr int noDigit = 0;
     const int row = Random(random, airlineCount);
     const int first = drawDigitOtherThan(noDigit, random);
@@ -46,7 +47,8 @@ void makeCallsign(const GameState& game, Flight& flight, RandomGenerator& random
     const bool threeDigits = RandomPercent(random) < threeDigitsBelow;
 
     flight.callsign = AIRLINES[static_cast<std::size_t>(row)].code;
-    flight.callsignPhrase = VoiceAirlineCode(row);
+    flight.callsignPhrase = {};
+    flight.callsignPhrase += VoiceAirlineCode(row);
     appendDigit(flight, first);
     appendDigit(flight, second);
     if (threeDigits) {
@@ -56,7 +58,7 @@ void makeCallsign(const GameState& game, Flight& flight, RandomGenerator& random
     flight.heavy = row < firstLightAircraft && RandomPercent(random) < heavyBelow && mayBeHeavy(game, flight);
     if (flight.heavy) {
         flight.callsign += 'H';
-        VoiceAppend(flight.callsignPhrase, snippet::heavy);
+        flight.callsignPhrase += snippet::heavy;
     }
 }
 

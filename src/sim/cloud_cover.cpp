@@ -2,14 +2,13 @@
 
 #include <algorithm>
 
-#include "sim/custom_skill.h"
-
 namespace ventrel {
 
 namespace {
 
-constexpr ClockSeconds minutesPerCloud = 4;
-constexpr ClockSeconds appearanceUnit = 5;
+constexpr ClockSeconds cloudInterval = 4 * clockMinute;
+constexpr ClockSeconds appearanceUnit = 5_s;
+constexpr int driftPixels = 2;           // for each frame
 constexpr std::size_t cloudsAtStart = 3; // already on the picture when the shift begins
 
 ClockSeconds roundedDown(ClockSeconds time) {
@@ -34,15 +33,16 @@ Point startAtEdge(int driftHeading, Size cloud, int pictureSize, RandomGenerator
 }
 
 /// A cloud comes with the flight of its number, or in the middle of the shift when there is no such flight.
-ClockSeconds appearanceTime(const GameState& game, std::size_t cloud) {
+ClockSeconds appearanceTime(const Game& game, std::size_t cloud) {
     return roundedDown(cloud < game.flights.size() ? game.flights[cloud].scheduledAt : game.shiftLength / 2);
 }
 
 } // namespace
 
-void makeClouds(GameState& game, bool wanted, std::span<const Size> sizes, RandomGenerator& random) {
+void makeClouds(Game& game, bool wanted, std::span<const Size> sizes) {
+    RandomGenerator& random = game.random;
     game.clouds.clear();
-    const int count = game.shiftLength / secondsPerMinute / minutesPerCloud;
+    const int count = game.shiftLength / cloudInterval;
     if (!wanted || count == 0) {
         return;
     }
@@ -56,15 +56,39 @@ void makeClouds(GameState& game, bool wanted, std::span<const Size> sizes, Rando
         cloud.driftHeading = drift;
         cloud.appearAt = appearanceTime(game, i);
         const auto image = static_cast<std::size_t>(cloud.image);
-        cloud.start = startAtEdge(drift, image < sizes.size() ? sizes[image] : Size{}, pictureSize, random);
+        cloud.size = image < sizes.size() ? sizes[image] : Size{};
+        cloud.start = startAtEdge(drift, cloud.size, pictureSize, random);
         cloud.position = cloud.start;
     }
     for (std::size_t i = 0; i < std::min(cloudsAtStart, game.clouds.size()); ++i) {
         Cloud& cloud = game.clouds[i];
-        cloud.appearAt = 0;
+        cloud.appearAt = 0_s;
         cloud.start.x = Random(random, pictureSize);
         cloud.start.y = Random(random, pictureSize);
         cloud.position = cloud.start;
+    }
+}
+
+bool CloudDrift(Cloud& cloud, int scopeSize) {
+    if (!cloud.visible) {
+        return false;
+    }
+    const Cell direction = stepCell({0, 0}, cloud.driftHeading);
+    cloud.position = cloud.position + Point{direction.x * driftPixels, direction.y * driftPixels};
+    const auto [x, y] = cloud.position;
+    return x <= scopeSize && y <= scopeSize && x >= -cloud.size.width && y >= -cloud.size.height;
+}
+
+void showClouds(Game& game) {
+    if (!game.cloudCover) {
+        return;
+    }
+    for (Cloud& cloud : game.clouds) {
+        if (cloud.isShown) {
+            cloud.visible = CloudDrift(cloud, game.layout.pictureSize());
+        } else {
+            cloud.isShown = cloud.appearAt < game.clock;
+        }
     }
 }
 

@@ -10,7 +10,7 @@ constexpr int headingCount = fullCircle / headingStep;
 constexpr int here = -1;
 constexpr int holdMoves = 8;
 // What the steps of a hold circle carry as their target; no map point is meant.
-constexpr VorIndex holdMark = 1;
+constexpr PointIndex holdMark{1};
 
 /// The heading that points from one cell to where another lies, or `here`.
 constexpr int directionTo(Cell from, Cell to) {
@@ -28,7 +28,7 @@ constexpr int directionTo(Cell from, Cell to) {
 /// The heading of the next step for a flight that steers toward a target lying in that direction.
 /// A target straight behind makes it turn right, except from 270.
 constexpr int steeredHeading(int heading, int direction) {
-    if (direction == here || heading < 0 || heading >= fullCircle || heading % headingStep != 0) {
+    if (direction == here || !isHeading(heading)) {
         return heading;
     }
     constexpr std::array<int, headingCount> turns{0, +1, +1, +1, +1, -1, -1, -1}; // by eighths to the right
@@ -47,38 +47,31 @@ constexpr int steppedAltitude(int altitude, int target) {
 
 /// Makes the present step the only one.
 PlanStep& restartPlan(Flight& flight) {
-    flight.plan[0] = flight.current();
+    flight.plan = Plan{flight.current()};
     flight.planIndex = 0;
-    flight.planLength = 1;
     return flight.plan[0];
 }
 
 /// Appends a copy of the last step, or nothing when the plan is full. The result is the new step.
 PlanStep* appendStep(Flight& flight) {
-    if (flight.planLength == longestPlan) {
-        return nullptr;
-    }
-    const PlanStep last = flight.lastStep();
-    ++flight.planLength;
-    flight.lastStep() = last;
-    return &flight.lastStep();
+    return flight.plan.extend() ? &flight.plan.last() : nullptr;
 }
 
 /// Steers from the last step to the target until it is reached at the altitude or the plan is full.
-void steerTo(Flight& flight, VorIndex target, Cell targetCell, int altitude) {
-    while (flight.lastStep().altitude != altitude || flight.lastStep().cell() != targetCell) {
+void steerTo(Flight& flight, PointIndex target, Cell targetCell, int altitude) {
+    while (flight.lastStep().altitude != altitude || flight.lastStep().cell != targetCell) {
         PlanStep* const step = appendStep(flight);
         if (step == nullptr) {
             break;
         }
-        PlanStep& previous = flight.plan[static_cast<std::size_t>(flight.planLength - 2)];
+        PlanStep& previous = flight.plan[flight.plan.length() - 2];
         previous.directTarget = target;
         step->directTarget = target;
-        step->heading = steeredHeading(previous.heading, directionTo(previous.cell(), targetCell));
-        step->setCell(stepCell(previous.cell(), step->heading));
+        step->heading = steeredHeading(previous.heading, directionTo(previous.cell, targetCell));
+        step->cell = stepCell(previous.cell, step->heading);
         step->altitude = steppedAltitude(previous.altitude, altitude);
     }
-    flight.lastStep().directTarget = noVor;
+    flight.plan.last().directTarget = DirectTarget::none();
 }
 
 /// The turn of 45 degrees with which the flight starts toward the heading: the shorter way, left for a
@@ -94,9 +87,9 @@ constexpr int turnToward(int from, int to) {
 
 } // namespace
 
-bool buildCourse(Flight& flight, std::span<const Vor> vors, VorIndex target, int altitude) {
-    const Cell targetCell = vors[static_cast<std::size_t>(target)].cell;
-    if (areNeighbours(flight.current().cell(), targetCell)) {
+bool buildCourse(Flight& flight, std::span<const Vor> vors, PointIndex target, int altitude) {
+    const Cell targetCell = vors[target.place()].cell;
+    if (areNeighbours(flight.current().cell, targetCell)) {
         return false;
     }
     restartPlan(flight);
@@ -104,17 +97,17 @@ bool buildCourse(Flight& flight, std::span<const Vor> vors, VorIndex target, int
     return true;
 }
 
-void planDirect(Flight& flight, std::span<const Vor> vors, VorIndex target, int altitude, int speed) {
+void planDirect(Flight& flight, std::span<const Vor> vors, PointIndex target, int altitude, Speed speed) {
     PlanStep& first = restartPlan(flight);
     first.speed = speed;
-    first.hold = 0;
-    steerTo(flight, target, vors[static_cast<std::size_t>(target)].cell, altitude);
+    first.hold = false;
+    steerTo(flight, target, vors[target.place()].cell, altitude);
 }
 
-void planTurn(Flight& flight, int heading, int altitude, int speed) {
+void planTurn(Flight& flight, int heading, int altitude, Speed speed) {
     PlanStep& first = restartPlan(flight);
-    first.directTarget = noVor;
-    first.hold = 0;
+    first.directTarget = DirectTarget::none();
+    first.hold = false;
     first.speed = speed;
     const int turn = turnToward(first.heading, heading);
     while (flight.lastStep().heading != heading || flight.lastStep().altitude != altitude) {
@@ -122,7 +115,7 @@ void planTurn(Flight& flight, int heading, int altitude, int speed) {
         if (step == nullptr) {
             return;
         }
-        step->setCell({});
+        step->cell = {};
         step->altitude = steppedAltitude(step->altitude, altitude);
         if (step->heading != heading) {
             step->heading = turned(step->heading, turn);
@@ -133,15 +126,15 @@ void planTurn(Flight& flight, int heading, int altitude, int speed) {
 void planHold(Flight& flight, int altitude) {
     PlanStep& first = restartPlan(flight);
     first.directTarget = holdMark;
-    first.hold = 1;
+    first.hold = true;
     for (int move = 0; move < holdMoves; ++move) {
         PlanStep& step = *appendStep(flight);
         step.heading = turned(step.heading, headingStep);
-        step.setCell(stepCell(step.cell(), step.heading));
+        step.cell = stepCell(step.cell, step.heading);
         step.altitude = steppedAltitude(step.altitude, altitude);
     }
-    flight.lastStep().directTarget = noVor;
-    flight.lastStep().hold = 0;
+    flight.plan.last().directTarget = DirectTarget::none();
+    flight.plan.last().hold = false;
 }
 
 } // namespace ventrel

@@ -4,8 +4,8 @@ namespace ventrel {
 
 namespace {
 
-constexpr ClockSeconds shortestShiftWithBonus = 600;
-constexpr ClockSeconds longestInterval = 100; // between planes, on average
+constexpr ClockSeconds shortestShiftWithBonus = 600_s;
+constexpr int longestInterval = 100; // seconds between planes, on average
 constexpr int pointsPerSecond = 30;
 constexpr int bonusUnit = 25; // every bonus is a multiple of it
 
@@ -15,7 +15,7 @@ int bonusFor(int planes, ClockSeconds seconds) {
     if (planes <= 0 || seconds < shortestShiftWithBonus) {
         return 0;
     }
-    const int interval = seconds / planes;
+    const int interval = seconds.count() / planes;
     if (interval > longestInterval) {
         return 0;
     }

@@ -5,14 +5,13 @@
 #include <optional>
 
 #include "base/string_table.h"
-#include "sim/time_units.h"
+#include "sim/clock_seconds.h"
 
 namespace ventrel {
 
 inline constexpr int mostPlanes = 99;
 inline constexpr int mostMinutes = 120;
 inline constexpr int mostPlanesPerMinute = 4;
-inline constexpr ClockSeconds secondsPerMinute = 60;
 
 /// Bonus points of a shift of so many planes in so much time: the denser the traffic, the more. 0 for fewer
 /// than ten minutes, for more than 100 seconds a plane, and without planes.

@@ -1,9 +1,12 @@
 #include "sim/flight_step.h"
 
+#include <algorithm>
+#include <array>
 #include <optional>
 
+#include "sim/arrival.h"
+#include "sim/cloud_cover.h"
 #include "sim/course_planner.h"
-#include "sim/flight_reports.h"
 #include "sim/scoring.h"
 #include "sim/separation.h"
 
@@ -11,57 +14,104 @@ namespace ventrel {
 
 namespace {
 
-constexpr ClockSeconds normalMoveInterval = 30;
-constexpr ClockSeconds slowMoveInterval = 60;
-constexpr ClockSeconds announcedAhead = 120;
-constexpr ClockSeconds complaintInterval = 300;
+constexpr ClockSeconds normalMoveInterval = 30_s;
+constexpr ClockSeconds slowMoveInterval = 60_s;
+constexpr ClockSeconds announcedAhead = 120_s;
+constexpr ClockSeconds complaintInterval = 300_s;
+
+constexpr int towerComplaintBelow = 30;
+constexpr int plainComplaintBelow = 60;
+constexpr int repeatedAbove = 50;
+
+/// What follows from standing at the destination: told at once, scored at the next move.
+struct ArrivalRow {
+    Arrival arrival;
+    Topic topic;
+    CallTopic call;
+    LampLevel lamp; ///< lit, it silences the call
+    Alert alert;
+    ScoreCause cause;
+    int points;
+};
+
+constexpr std::array arrivalRows{std::to_array<ArrivalRow>({
+    {Arrival::landing, Topic::landing, CallTopic::landing, LampLevel::green, Alert::success,
+     ScoreCause::landing, points::landing},
+    {Arrival::exit, Topic::leaving, CallTopic::leaving, LampLevel::green, Alert::success, ScoreCause::exit,
+     points::exit},
+    {Arrival::tooHigh, Topic::tooHighToLand, CallTopic::missedApproach, LampLevel::yellow, Alert::failure,
+     ScoreCause::missedApproach, points::missedApproach},
+    {Arrival::wrongHeading, Topic::wrongHeadingToLand, CallTopic::missedApproach, LampLevel::yellow,
+     Alert::failure, ScoreCause::missedApproach, points::missedApproach},
+    {Arrival::tooLowToExit, Topic::tooLowToLeave, CallTopic::cannotLeave, LampLevel::yellow, Alert::failure,
+     ScoreCause::missedExit, points::missedExit},
+})};
+
+/// Nothing for a flight that is not at its destination.
+const ArrivalRow* arrivalRowOf(const Game& game, const Flight& flight) {
+    const auto* found = std::ranges::find(arrivalRows, arrivalOf(game, flight), &ArrivalRow::arrival);
+    return found == arrivalRows.end() ? nullptr : found;
+}
 
 bool movesAt(const Flight& flight, ClockSeconds now) {
     return flight.inPlay && flight.isActive() && isDue(flight, now);
 }
 
-void loseFlight(Simulation& simulation, Flight& flight) {
-    reportLost(simulation, flight);
-    setLamp(simulation.lamps, simulation.events, LampLevel::yellow);
-    addScore(simulation.game, simulation.events, points::lostFlight);
-    flight.inPlay = false;
+void callUnlessLit(const Game& game, SimulationEvents& events, LampLevel lamp, const RadioCall& call) {
+    if (!isLampLit(game, lamp)) {
+        events.pilotSpoke(call);
+    }
+}
+
+void loseFlight(Game& game, SimulationEvents& events, FlightIndex index) {
+    events.reported({Topic::lost, index});
+    setLamp(game, events, LampLevel::yellow);
+    addScore(game, events, ScoreCause::lost, index, points::lostFlight);
+    game.flight(index).inPlay = false;
 }
 
 /// Scores a flight that stands on its destination; a right arrival leaves the game, a wrong one flies on.
-void judgeArrival(Simulation& simulation, Flight& flight) {
-    const Arrival arrival = arrivalOf(simulation.game, flight);
-    switch (arrival) {
-    case Arrival::none: return;
-    case Arrival::landing: addScore(simulation.game, simulation.events, points::landing); break;
-    case Arrival::exit: addScore(simulation.game, simulation.events, points::exit); break;
-    case Arrival::tooHigh:
-    case Arrival::wrongHeading: addScore(simulation.game, simulation.events, points::missedApproach); break;
-    case Arrival::tooLowToExit: addScore(simulation.game, simulation.events, points::missedExit); break;
+void judgeArrival(Game& game, SimulationEvents& events, FlightIndex index) {
+    Flight& flight = game.flight(index);
+    const ArrivalRow* const row = arrivalRowOf(game, flight);
+    if (row == nullptr) {
+        return;
     }
-    if (isSuccess(arrival)) {
+    addScore(game, events, row->cause, index, row->points);
+    if (isSuccess(row->arrival)) {
         flight.inPlay = false;
     } else {
-        flight.alert = Alert::failure;
+        flight.alert = row->alert;
+    }
+}
+
+/// Announces an arrival, good or bad, and marks the flight.
+void reportArrival(Game& game, SimulationEvents& events, FlightIndex index) {
+    Flight& flight = game.flight(index);
+    if (const ArrivalRow* const row = arrivalRowOf(game, flight)) {
+        events.reported({row->topic, index, flight.destination});
+        callUnlessLit(game, events, row->lamp, {row->call, index});
+        flight.alert = row->alert;
     }
 }
 
 /// Off the runway and onto a course for the destination.
-void liftOff(const GameState& game, Flight& flight) {
+void liftOff(const Game& game, Flight& flight) {
     flight.groundState = GroundState::airborne;
-    flight.current().setCell(stepCell(flight.current().cell(), flight.current().heading));
+    flight.current().cell = stepCell(flight.current().cell, flight.current().heading);
     const bool lands = flight.destinationKind == DestinationKind::airport;
-    buildCourse(flight, game.vors, flight.destination, lands ? approachAltitude : exitAltitude);
+    buildCourse(flight, game.vors(), flight.destination, lands ? approachAltitude : exitAltitude);
 }
 
 /// One move of a flight that goes on. False on a collision.
-bool moveFlight(Simulation& simulation, FlightIndex index) {
-    Flight& flight = simulation.game.flight(index);
+bool moveFlight(Game& game, SimulationEvents& events, FlightIndex index) {
+    Flight& flight = game.flight(index);
     switch (flight.groundState) {
     case GroundState::waiting: break;
     case GroundState::cleared: flight.groundState = GroundState::rolling; break;
-    case GroundState::rolling: liftOff(simulation.game, flight); break;
+    case GroundState::rolling: liftOff(game, flight); break;
     case GroundState::airborne:
-        if (checkSeparation(simulation, index)) {
+        if (checkSeparation(game, events, index)) {
             return false;
         }
         moveAlongPlan(flight);
@@ -72,64 +122,71 @@ bool moveFlight(Simulation& simulation, FlightIndex index) {
 
 /// Judges and moves the flights that are due, in table order: earlier ones have made this step's move when a
 /// later one is checked against them. False on a collision, which ends the pass at once.
-bool moveFlights(Simulation& simulation, ClockSeconds now) {
-    GameState& game = simulation.game;
-    for (FlightIndex i = 0; i < game.planeCount(); ++i) {
+bool moveFlights(Game& game, SimulationEvents& events) {
+    for (const FlightIndex i : game.flightPlaces()) {
         Flight& flight = game.flight(i);
-        if (!movesAt(flight, now)) {
+        if (!movesAt(flight, game.clock)) {
             continue;
         }
         flight.alert = Alert::none;
-        if (isOutsideScope(flight.current().cell())) {
-            loseFlight(simulation, flight);
+        if (isOutsideScope(flight.current().cell)) {
+            loseFlight(game, events, i);
             continue;
         }
-        judgeArrival(simulation, flight);
-        if (flight.inPlay && !moveFlight(simulation, i)) {
+        judgeArrival(game, events, i);
+        if (flight.inPlay && !moveFlight(game, events, i)) {
             return false;
         }
     }
     return true;
 }
 
-bool isAnyInPlay(const GameState& game) {
-    for (const Flight& flight : game.flights) {
-        if (flight.inPlay) {
-            return true;
-        }
-    }
-    return false;
-}
-
 /// How the shift ended, if it did.
-std::optional<ShiftResult> updateFlights(Simulation& simulation, ClockSeconds now) {
-    GameState& game = simulation.game;
-    if (!isAnyInPlay(game)) {
-        addScore(game, simulation.events, game.bonus);
+std::optional<ShiftResult> updateFlights(Game& game, SimulationEvents& events) {
+    if (std::ranges::none_of(game.flights, &Flight::inPlay)) {
+        addScore(game, events, ScoreCause::bonus, std::nullopt, game.bonus);
         return ShiftResult::everyFlightHandled;
     }
-    if (!moveFlights(simulation, now)) {
+    if (!moveFlights(game, events)) {
         return ShiftResult::collision;
     }
-    for (Flight& flight : game.flights) {
-        if (movesAt(flight, now)) {
-            reportArrival(simulation, flight);
+    for (const FlightIndex i : game.flightPlaces()) {
+        if (movesAt(game.flight(i), game.clock)) {
+            reportArrival(game, events, i);
         }
     }
     return std::nullopt;
 }
 
-void activate(Simulation& simulation, FlightIndex index, ClockSeconds now) {
-    Flight& flight = simulation.game.flight(index);
-    flight.activatedAt = now;
+void activate(Game& game, SimulationEvents& events, FlightIndex index) {
+    Flight& flight = game.flight(index);
+    flight.activatedAt = game.clock;
     if (flight.groundState == GroundState::waiting) {
-        reportDepartureRequest(simulation, flight);
+        events.reported({Topic::departureRequest, index, flight.origin});
+        events.pilotSpoke({CallTopic::departureRequest, index});
     } else {
-        separateOnEntry(simulation.game, flight);
-        reportEntry(simulation, flight);
+        separateOnEntry(game, flight);
+        events.reported({Topic::entry, index, flight.destination});
+        events.pilotSpoke({CallTopic::entry, index, flight.current().altitude});
     }
-    if (simulation.autoSelect) {
-        simulation.events.selectionWanted(index);
+    events.flightActivated(index);
+}
+
+Topic drawComplaint(RandomGenerator& random) {
+    const int draw = RandomPercent(random);
+    if (draw < towerComplaintBelow) {
+        return Topic::stillWaitingTower;
+    }
+    return draw < plainComplaintBelow ? Topic::stillWaiting : Topic::stillWaitingUrgent;
+}
+
+void complain(Game& game, SimulationEvents& events, FlightIndex index) {
+    addScore(game, events, ScoreCause::keptWaiting, index, points::keptWaiting);
+    events.reported({drawComplaint(game.random), index, game.flight(index).origin});
+    // The word is drawn only when the call is made.
+    if (!isLampLit(game, LampLevel::yellow)) {
+        const bool isRepeated = RandomPercent(game.random) > repeatedAbove;
+        events.pilotSpoke({isRepeated ? CallTopic::stillWaitingRepeated : CallTopic::stillWaiting, index});
     }
 }
 
@@ -139,19 +196,19 @@ bool complainsAt(const Flight& flight, ClockSeconds now) {
            now % complaintInterval == flight.activatedAt % complaintInterval;
 }
 
-/// Activates, announces or lets complain. True when the flight belongs on the strips.
-bool attendTo(Simulation& simulation, FlightIndex index, ClockSeconds now) {
-    Flight& flight = simulation.game.flight(index);
+/// What a flight in play does by the clock besides moving. Whether it is listed.
+bool attendTo(Game& game, SimulationEvents& events, FlightIndex index) {
+    Flight& flight = game.flight(index);
+    const ClockSeconds now = game.clock;
     if (now < flight.scheduledAt) {
         flight.announced = now > flight.scheduledAt - announcedAhead;
         return flight.announced;
     }
     flight.announced = false;
     if (!flight.isActive()) {
-        activate(simulation, index, now);
+        activate(game, events, index);
     } else if (complainsAt(flight, now)) {
-        addScore(simulation.game, simulation.events, points::keptWaiting);
-        reportComplaint(simulation, flight);
+        complain(game, events, index);
     }
     return true;
 }
@@ -160,44 +217,71 @@ bool attendTo(Simulation& simulation, FlightIndex index, ClockSeconds now) {
 
 bool isDue(const Flight& flight, ClockSeconds now) {
     switch (flight.current().speed) {
-    case fastSpeed: return true;
-    case normalSpeed: return now % normalMoveInterval == flight.activatedAt % normalMoveInterval;
-    case slowSpeed: return now % slowMoveInterval == flight.activatedAt % slowMoveInterval;
-    default: return false;
+    case Speed::fast: return true;
+    case Speed::normal: return now % normalMoveInterval == flight.activatedAt % normalMoveInterval;
+    case Speed::slow: return now % slowMoveInterval == flight.activatedAt % slowMoveInterval;
     }
+    return false;
 }
 
 void moveAlongPlan(Flight& flight) {
-    const Cell from = flight.current().cell();
-    if (flight.planIndex < flight.planLength - 1) {
+    const Cell from = flight.current().cell;
+    if (flight.planIndex < flight.plan.length() - 1) {
         ++flight.planIndex;
     }
-    flight.current().setCell(stepCell(from, flight.current().heading));
+    flight.current().cell = stepCell(from, flight.current().heading);
 }
 
-bool SimulationStep(Simulation& simulation, ClockSeconds now) {
-    GameState& game = simulation.game;
-    if (!game.gameRunning) {
-        return false;
+bool isStepDue(const Game& game) {
+    return game.isRunning() && game.clock != game.lastStepTime && game.clock % stepInterval == 0_s;
+}
+
+ClockSeconds timeOfNextStep(const Game& game) {
+    return isStepDue(game) ? game.clock : nextStepTime(game.clock);
+}
+
+bool SimulationStep(Game& game, SimulationEvents& events) {
+    if (!isStepDue(game)) {
+        return game.isRunning();
     }
-    if (now == game.lastStepTime || now % stepInterval != 0) {
-        return true;
-    }
-    game.lastStepTime = now;
-    if (const auto result = updateFlights(simulation, now)) {
-        simulation.events.shiftEnded(*result);
+    game.lastStepTime = game.clock;
+    if (const auto result = updateFlights(game, events)) {
+        game.phase = *result == ShiftResult::collision ? Phase::rings : Phase::lastLine;
+        events.shiftEnded(*result);
         return false;
     }
     game.listedCount = 0;
-    for (FlightIndex i = 0; i < game.planeCount(); ++i) {
-        if (game.flight(i).inPlay && attendTo(simulation, i, now)) {
+    for (const FlightIndex i : game.flightPlaces()) {
+        if (game.flight(i).inPlay && attendTo(game, events, i)) {
             ++game.listedCount;
         }
     }
     if (game.listedCount != 0) {
-        simulation.events.stripsChanged();
+        events.stripsChanged();
     }
     return true;
+}
+
+void makeFrame(Game& game, SimulationEvents& events) {
+    setLamp(game, events, gatherAlertLevel(game));
+    showClouds(game);
+}
+
+bool step(Game& game, SimulationEvents& events) {
+    if (!game.isRunning()) {
+        return false;
+    }
+    game.clock = timeOfNextStep(game);
+    if (!SimulationStep(game, events)) {
+        return false;
+    }
+    makeFrame(game, events);
+    return true;
+}
+
+bool step(Game& game) {
+    SimulationEvents nobody;
+    return step(game, nobody);
 }
 
 } // namespace ventrel

@@ -1,16 +1,18 @@
 #include "sim/game_clock.h"
 
+#include "sim/game.h"
+
 namespace ventrel {
 
-ClockTickResult ClockTick(GameClock& clock, bool gameRunning, Millis now) {
-    if (!gameRunning) {
+ClockTickResult ClockTick(GameClock& clock, Game& game, Millis now) {
+    if (!game.isRunning()) {
         return {};
     }
     ClockTickResult result{.running = true};
-    if (now > clock.lastClockTick + clockSecondLength) {
-        ++clock.now;
+    if (now > clock.lastClockTick + clockSecondLength && !isStepDue(game)) {
+        game.clock += 1_s;
         clock.lastClockTick = now;
-        result.clockPaintDue = clock.now % clockPaintInterval == 0;
+        result.clockPaintDue = game.clock % clockPaintInterval == 0_s;
     }
     if (now > clock.lastSweepTick + sweepStepLength) {
         clock.lastSweepTick = now;
@@ -20,13 +22,10 @@ ClockTickResult ClockTick(GameClock& clock, bool gameRunning, Millis now) {
     return result;
 }
 
-void ClockSkip(GameClock& clock) {
-    clock.now = (clock.now / stepInterval + 1) * stepInterval;
+void ClockSkip(GameClock& clock, Game& game, Millis now) {
+    game.clock = nextStepTime(game.clock);
+    clock.lastClockTick = now;
     clock.sweepIndex = sweepStraightUp;
-}
-
-void ClockReset(GameClock& clock) {
-    clock.now = 0;
 }
 
 } // namespace ventrel

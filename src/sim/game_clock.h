@@ -1,22 +1,26 @@
-// The game clock's value and the small scope's sweep, as pure logic over the time handed in.
+// What moves the game's clock in real time, and with it the small scope's sweep: pure logic over the time
+// handed in.
 //
 // The shell ticks it while a game runs and is not paused; a late tick never catches up on missed seconds.
+// Whoever plays without real time needs none of it (see step).
 
 #pragma once
 
-#include "sim/time_units.h"
+#include "base/millis.h"
+#include "sim/clock_seconds.h"
 
 namespace ventrel {
 
-inline constexpr Millis clockSecondLength =
-    400;                                      ///< real time that must be exceeded for the next clock second
-inline constexpr Millis sweepStepLength = 80; ///< and for the sweep's next position
-inline constexpr int sweepPositions = 120;    ///< of one turn
+struct Game;
+
+/// Real time that must be exceeded for the next clock second, and for the sweep's next position.
+inline constexpr Millis clockSecondLength = 400;
+inline constexpr Millis sweepStepLength = 80;
+inline constexpr int sweepPositions = 120; ///< of one turn
 inline constexpr int sweepStraightUp = 15;
-inline constexpr ClockSeconds clockPaintInterval = 5;
+inline constexpr ClockSeconds clockPaintInterval = 5_s;
 
 struct GameClock {
-    ClockSeconds now = 0;
     Millis lastClockTick = -clockSecondLength - 1; ///< so that the first tick advances at once
     int sweepIndex = sweepStraightUp;              ///< 0 to 119, clockwise from the upper left corner
     Millis lastSweepTick = -sweepStepLength - 1;
@@ -29,13 +33,11 @@ struct ClockTickResult {
     bool sweepMoved = false;
 };
 
-ClockTickResult ClockTick(GameClock& clock, bool gameRunning, Millis now);
+/// A second that is due waits while the step at the present one has still to act.
+ClockTickResult ClockTick(GameClock& clock, Game& game, Millis now);
 
-/// Jumps to the next multiple of 15, always later, and points the sweep straight up. The caller has checked
-/// that a game is in progress.
-void ClockSkip(GameClock& clock);
-
-/// Back to 0 when a game ends. The sweep stays where it is.
-void ClockReset(GameClock& clock);
+/// Jumps to the next multiple of 15, always later, where the second begins anew, and points the sweep
+/// straight up. The caller has checked that a game is in progress.
+void ClockSkip(GameClock& clock, Game& game, Millis now);
 
 } // namespace ventrel

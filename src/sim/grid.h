@@ -51,6 +51,11 @@ constexpr bool areNeighbours(Cell a, Cell b) {
     return a.x - b.x <= 1 && b.x - a.x <= 1 && a.y - b.y <= 1 && b.y - a.y <= 1;
 }
 
+/// Whether a flight can fly it.
+constexpr bool isHeading(int degrees) {
+    return degrees >= 0 && degrees < fullCircle && degrees % headingStep == 0;
+}
+
 /// The heading after a turn of `degrees`, at most one full circle either way.
 constexpr int turned(int heading, int degrees) {
     return (heading + degrees + fullCircle) % fullCircle;

@@ -6,16 +6,13 @@ namespace ventrel {
 
 namespace {
 
-constexpr int widthMargin = 2; // pixels
-
 bool isEmergency(const MessageSlot& slot) {
     return slot.inUse && slot.messageClass == MessageClass::emergency;
 }
 
 } // namespace
 
-bool postMessage(MessageQueue& queue, std::string_view text, MessageClass messageClass,
-                 const TextMeasure& measure) {
+bool postMessage(MessageQueue& queue, std::string_view text, MessageClass messageClass) {
     if (std::any_of(queue.slots.begin(), queue.slots.end(), isEmergency)) {
         return false;
     }
@@ -25,7 +22,7 @@ bool postMessage(MessageQueue& queue, std::string_view text, MessageClass messag
     if (slot == queue.slots.end()) {
         return false;
     }
-    *slot = {true, std::string{text}, measure(text) + widthMargin, messageClass};
+    *slot = {true, std::string{text}, messageClass};
     return true;
 }
 

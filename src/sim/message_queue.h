@@ -6,18 +6,17 @@
 #pragma once
 
 #include <array>
-#include <functional>
 #include <string>
 #include <string_view>
 
-#include "sim/simulation_events.h"
-
 namespace ventrel {
+
+/// What a line of the ticker is about; the scroller gives each its colour.
+enum class MessageClass { success = 10, trouble = 11, emergency = 12, information = 13 };
 
 struct MessageSlot {
     bool inUse = false;
     std::string text;
-    int width = 0; ///< pixels in the scroller's font, and a little more
     MessageClass messageClass = MessageClass::information;
 };
 
@@ -26,13 +25,9 @@ struct MessageQueue {
     bool idle = true; ///< the scroller has nothing to look for; cleared by a line that wants in
 };
 
-/// Pixels that a text takes in the scroller's font.
-using TextMeasure = std::function<int(std::string_view text)>;
-
 /// Queues a line in the first free slot. False when it is dropped: an emergency is in the queue, or it is
 /// full.
-bool postMessage(MessageQueue& queue, std::string_view text, MessageClass messageClass,
-                 const TextMeasure& measure);
+bool postMessage(MessageQueue& queue, std::string_view text, MessageClass messageClass);
 
 /// Frees every slot.
 void clearMessages(MessageQueue& queue);

@@ -46,8 +46,8 @@ Options ReadOptions(const ProfileFile& profile) {
         options.*key.value = profile.integer(section, key.name, options.*key.value);
     }
     options.singleSound = profile.integer(section, "SingleSound", options.singleSound);
-    options.customBonus =
-        profile.integer(section, customBonusKey, bonusFor(options.customPlanes, options.customSched));
+    options.customBonus = profile.integer(section, customBonusKey,
+                                          bonusFor(options.customPlanes, ClockSeconds{options.customSched}));
     return options;
 }
 

@@ -6,7 +6,6 @@
 #pragma once
 
 #include "base/profile_file.h"
-#include "sim/time_units.h"
 
 namespace ventrel {
 
@@ -31,8 +30,8 @@ struct Options {
     int directEntry = 1;   ///< flights enter on a direct course
     int customSkill = 1;   ///< kept for its file alone
     int customPlanes = 25;
-    ClockSeconds customSched = 2100; ///< length of a Custom shift
-    int customBonus = 475;           ///< bonus points of a Custom shift
+    int customSched = 2100; ///< length of a Custom shift in clock seconds
+    int customBonus = 475;  ///< bonus points of a Custom shift
 
     friend bool operator==(const Options&, const Options&) = default;
 };

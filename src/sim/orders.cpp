@@ -1,117 +1,162 @@
 #include "sim/orders.h"
 
-#include "base/string_table.h"
 #include "sim/course_planner.h"
-#include "sim/phrase.h"
+#include "sim/game.h"
 #include "sim/scoring.h"
 
 namespace ventrel {
 
 namespace {
 
-void charge(Simulation& simulation) {
-    if (simulation.game.freeOrders > 0) {
-        --simulation.game.freeOrders;
+/// Verdicts with which nothing is sent.
+bool isUnheard(OrderVerdict verdict) {
+    return verdict != OrderVerdict::accepted && verdict < OrderVerdict::notActive;
+}
+
+bool isFlown(const Flight& flight, int heading) {
+    return isHeading(heading) || heading == flight.current().heading;
+}
+
+bool isSpeed(Speed speed) {
+    return speed == Speed::slow || speed == Speed::normal || speed == Speed::fast;
+}
+
+bool isDirect(const PanelOrder& order) {
+    return order.directTarget.isOn() && !order.hold;
+}
+
+bool isTooClose(const Game& game, const Flight& flight, const PanelOrder& order) {
+    const auto target = order.directTarget.point();
+    return isDirect(order) && target && areNeighbours(flight.current().cell, game.vor(*target).cell);
+}
+
+void charge(Game& game, FlightIndex index, SimulationEvents& events) {
+    if (game.freeOrders > 0) {
+        --game.freeOrders;
     } else {
-        addScore(simulation.game, simulation.events, points::order);
+        addScore(game, events, ScoreCause::order, index, points::order);
     }
 }
 
-void clearForTakeoff(Simulation& simulation, Flight& flight) {
-    callOnRadio(simulation.events, flight, {snippet::roger});
+void clearForTakeoff(Flight& flight, FlightIndex index, SimulationEvents& events) {
+    events.pilotSpoke({CallTopic::clearance, index});
     flight.groundState = GroundState::cleared;
-    simulation.events.panelChanged();
-    simulation.events.stripsChanged();
+    events.panelChanged();
+    events.stripsChanged();
 }
 
-bool changesNothing(const PanelOrder& order, const PlanStep& current) {
-    PanelOrder pending = order;
-    pending.setCell(current.cell());
-    return pending == current;
-}
-
-/// Words about the way from the first to a later step: the altitude, or `level` when that stays.
-void appendAltitude(std::string& phrase, const PlanStep& from, const PlanStep& to, std::string_view level) {
-    if (to.altitude == from.altitude) {
-        phrase += level;
-        return;
-    }
-    VoiceAppend(phrase, to.altitude > from.altitude ? snippet::climbing : snippet::descending);
-    VoiceAppend(phrase, VoiceAltitudeCode(to.altitude));
-}
-
-void turn(Flight& flight, const PanelOrder& order, std::string& readBack) {
-    planTurn(flight, order.heading, order.altitude, order.speed);
+/// What the pilot says of the plan that has just been made.
+RadioCall readBack(const Flight& flight, FlightIndex index, const PanelOrder& order) {
     const PlanStep& first = flight.plan[0];
     const PlanStep& last = flight.lastStep();
-    if (last.heading != first.heading) {
-        VoiceAppend(readBack, VoiceHeadingCode(last.heading));
+    RadioCall call{CallTopic::headingOrder, index};
+    if (order.directTarget.isOn()) {
+        call.topic = order.hold ? CallTopic::holdOrder : CallTopic::directOrder;
+    } else if (last.heading != first.heading) {
+        call.heading = last.heading;
     }
-    appendAltitude(readBack, first, last, {});
+    call.altitude = last.altitude;
+    call.climb = last.altitude - first.altitude;
+    return call;
 }
 
-void circle(Flight& flight, const PanelOrder& order, std::string& readBack) {
-    planHold(flight, order.altitude);
-    appendAltitude(readBack, flight.plan[0], flight.lastStep(), {&snippet::roger, 1});
-}
-
-void goDirect(const GameState& game, Flight& flight, const PanelOrder& order, std::string& readBack) {
-    planDirect(flight, game.vors, order.directTarget, order.altitude, order.speed);
-    appendAltitude(readBack, flight.plan[0], flight.lastStep(), {});
-    VoiceAppend(readBack, snippet::directVor);
-}
-
-void refuseDirect(Simulation& simulation, const Flight& flight, const Vor& target) {
-    callOnRadio(simulation.events, flight, {snippet::repeat, snippet::requestVor});
-    simulation.events.messagePosted(
-        FormatStringId(TextId::tooCloseForDirect, {flight.callsign, target.ident}),
-        MessageClass::information);
-}
-
-void speak(Simulation& simulation, const Flight& flight, std::string_view phrase, bool noise) {
-    simulation.events.pilotSpoke(
-        {.phrase = phrase, .voice = flight.pilotVoice, .tag = flight.radioId, .noise = noise});
-}
-
-OrderResult steer(Simulation& simulation, Flight& flight, const PanelOrder& order) {
-    if (changesNothing(order, flight.current())) {
-        speak(simulation, flight, {&snippet::roger, 1}, false);
+OrderResult steer(Game& game, FlightIndex index, const PanelOrder& order, SimulationEvents& events) {
+    Flight& flight = game.flight(index);
+    if (changesNothing(game, flight, order)) {
+        events.pilotSpoke({CallTopic::noChange, index});
         return OrderResult::acknowledged;
     }
-    std::string readBack = flight.callsignPhrase;
-    if (order.directTarget == noVor) {
-        turn(flight, order, readBack);
-    } else if (order.hold != 0) {
-        circle(flight, order, readBack);
-    } else {
-        const Vor& target = simulation.game.vor(order.directTarget);
-        if (areNeighbours(flight.current().cell(), target.cell)) {
-            refuseDirect(simulation, flight, target);
-            return OrderResult::acknowledged;
-        }
-        goDirect(simulation.game, flight, order, readBack);
+    if (isTooClose(game, flight, order)) {
+        events.pilotSpoke({CallTopic::tooCloseForDirect, index});
+        events.reported({Topic::tooCloseForDirect, index, order.directTarget.point()});
+        return OrderResult::acknowledged;
     }
-    speak(simulation, flight, readBack, true);
-    simulation.events.panelChanged();
+    planOrder(game, flight, order);
+    events.pilotSpoke(readBack(flight, index, order));
+    events.panelChanged();
     return OrderResult::carriedOut;
 }
 
 } // namespace
 
-OrderResult executeOrder(Simulation& simulation, FlightIndex index, const PanelOrder& order) {
-    Flight& flight = simulation.game.flight(index);
-    if (!simulation.game.gameRunning || !flight.inPlay) {
+OrderVerdict judgeNumbers(const Game& game, const Flight& flight, const PanelOrder& order) {
+    const auto target = order.directTarget.point();
+    if ((target && target->number() >= game.vorCount()) ||
+        (order.directTarget.isHoldPlace() && !order.hold)) {
+        return OrderVerdict::unknownTarget;
+    }
+    if (order.altitude < approachAltitude || order.altitude > exitAltitude) {
+        return OrderVerdict::altitudeOutOfRange;
+    }
+    if (!isFlown(flight, order.heading)) {
+        return OrderVerdict::headingOutOfRange;
+    }
+    return isSpeed(order.speed) ? OrderVerdict::accepted : OrderVerdict::speedOutOfRange;
+}
+
+OrderVerdict judgeOrder(const Game& game, FlightIndex index, const PanelOrder& order) {
+    if (!game.isRunning()) {
+        return OrderVerdict::noGame;
+    }
+    if (index.number() >= game.planeCount()) {
+        return OrderVerdict::unknownFlight;
+    }
+    const Flight& flight = game.flight(index);
+    if (!flight.inPlay) {
+        return OrderVerdict::notInPlay;
+    }
+    if (const auto fault = judgeNumbers(game, flight, order); fault != OrderVerdict::accepted) {
+        return fault;
+    }
+    if (!flight.isActive()) {
+        return OrderVerdict::notActive;
+    }
+    if (!flight.isAirborne()) {
+        return OrderVerdict::accepted; // a clearance, whatever the numbers
+    }
+    if (flight.heavy && order.speed != flight.current().speed) {
+        return OrderVerdict::speedOfHeavy;
+    }
+    return isTooClose(game, flight, order) ? OrderVerdict::tooCloseForDirect : OrderVerdict::accepted;
+}
+
+OrderResult executeOrder(Game& game, FlightIndex index, const PanelOrder& order, SimulationEvents& events) {
+    if (isUnheard(judgeOrder(game, index, order))) {
         return OrderResult::acknowledged;
     }
-    simulation.events.orderSent(index);
-    charge(simulation);
+    events.orderSent(index);
+    charge(game, index, events);
+    Flight& flight = game.flight(index);
     switch (flight.groundState) {
     case GroundState::rolling:
     case GroundState::cleared: return OrderResult::carriedOut;
-    case GroundState::waiting: clearForTakeoff(simulation, flight); return OrderResult::carriedOut;
+    case GroundState::waiting: clearForTakeoff(flight, index, events); return OrderResult::carriedOut;
     case GroundState::airborne: break;
     }
-    return steer(simulation, flight, order);
+    return steer(game, index, order, events);
+}
+
+OrderResult executeOrder(Game& game, FlightIndex index, const PanelOrder& order) {
+    SimulationEvents nobody;
+    return executeOrder(game, index, order, nobody);
+}
+
+void planOrder(const Game& game, Flight& flight, const PanelOrder& order) {
+    if (!order.directTarget.isOn()) {
+        planTurn(flight, order.heading, order.altitude, order.speed);
+    } else if (order.hold) {
+        planHold(flight, order.altitude);
+    } else if (const auto target = order.directTarget.point()) {
+        planDirect(flight, game.vors(), *target, order.altitude, order.speed);
+    }
+}
+
+bool changesNothing(const Game& game, const Flight& flight, const PanelOrder& order) {
+    const PlanStep& now = flight.current();
+    // By number: in an airspace of one point the selector's hold is what the steps of a hold carry.
+    const auto number = [&](DirectTarget target) { return directTargetNumber(target, game.vorCount()); };
+    return order.altitude == now.altitude && order.heading == now.heading && order.speed == now.speed &&
+           number(order.directTarget) == number(now.directTarget) && order.hold == now.hold;
 }
 
 } // namespace ventrel

@@ -99,8 +99,7 @@ char VoiceAltitudeCode(int altitude) {
 }
 
 char VoiceHeadingCode(int heading) {
-    const bool isHeading = heading >= 0 && heading < fullCircle && heading % headingStep == 0;
-    return offsetBy('E', isHeading ? heading / headingStep : 0);
+    return offsetBy('E', isHeading(heading) ? heading / headingStep : 0);
 }
 
 char VoiceDigitCode(int digit) {

@@ -13,7 +13,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr ClockSeconds firstFlightAt = 60;
+constexpr ClockSeconds firstFlightAt = 60_s;
 constexpr int freeOrdersPerPlane = 5;
 constexpr int cloudCoverBonus = 300;
 constexpr int directEntryBonus = -100;
@@ -25,10 +25,10 @@ constexpr int lowestEntry = 3;
 constexpr int highestEntry = 9;
 
 constexpr std::array<ShiftSize, 4> shiftSizes{{
-    {12, 1200, 0},
-    {25, 2100, 0},
-    {35, 2400, 0},
-    {45, 2400, 0},
+    {12, 1200_s, 0},
+    {25, 2100_s, 0},
+    {35, 2400_s, 0},
+    {45, 2400_s, 0},
 }};
 
 /// The three kinds of traffic, in their order in the flight table.
@@ -42,46 +42,46 @@ Traffic trafficOf(int index, int planeCount) {
     return index >= planeCount - 2 * quarter ? Traffic::departure : Traffic::passThrough;
 }
 
-ClockSeconds drawScheduledTime(const GameState& game, RandomGenerator& random) {
-    const ClockSeconds time = Random(random, stepInterval, game.shiftLength);
+ClockSeconds drawScheduledTime(Game& game) {
+    const ClockSeconds time{Random(game.random, stepInterval.count(), game.shiftLength.count())};
     return time - time % stepInterval;
 }
 
-VorIndex pickOtherAirport(const GameState& game, VorIndex origin, RandomGenerator& random) {
-    VorIndex destination = origin;
+PointIndex pickOtherAirport(Game& game, PointIndex origin) {
+    PointIndex destination = origin;
     for (int draw = 0; draw < mostDestinationDraws && destination == origin; ++draw) {
-        destination = pickVor(game, VorKind::arrivalAirport, random);
+        destination = pickVor(game, VorKind::arrivalAirport);
     }
     return destination;
 }
 
-void setRoute(const GameState& game, Flight& flight, Traffic traffic, RandomGenerator& random) {
+void setRoute(Game& game, Flight& flight, Traffic traffic) {
     bool toAirport = traffic == Traffic::arrival;
     if (traffic == Traffic::departure) {
         flight.groundState = GroundState::waiting;
         flight.originKind = OriginKind::airport;
-        flight.origin = pickVor(game, VorKind::departureAirport, random);
-        toAirport = RandomPercent(random) > exitDrawLimit;
+        flight.origin = pickVor(game, VorKind::departureAirport);
+        toAirport = RandomPercent(game.random) > exitDrawLimit;
     }
     flight.destinationKind = toAirport ? DestinationKind::airport : DestinationKind::exit;
-    if (toAirport && traffic == Traffic::departure) {
-        flight.destination = pickOtherAirport(game, flight.origin, random);
+    if (toAirport && flight.origin) {
+        flight.destination = pickOtherAirport(game, *flight.origin);
     } else {
-        flight.destination = pickVor(game, toAirport ? VorKind::arrivalAirport : VorKind::exit, random);
+        flight.destination = pickVor(game, toAirport ? VorKind::arrivalAirport : VorKind::exit);
     }
 }
 
-void scheduleFlight(const GameState& game, FlightIndex index, Flight& flight, bool directEntry,
-                    RandomGenerator& random) {
+void scheduleFlight(Game& game, FlightIndex index, bool directEntry) {
+    Flight& flight = game.flight(index);
     flight.inPlay = true;
-    flight.scheduledAt = index == 0 ? firstFlightAt : drawScheduledTime(game, random);
-    setRoute(game, flight, trafficOf(index, game.planeCount()), random);
-    placeFlight(game, flight, directEntry, random);
-    makeCallsign(game, flight, random);
+    flight.scheduledAt = index == FlightIndex{0} ? firstFlightAt : drawScheduledTime(game);
+    setRoute(game, flight, trafficOf(index.number(), game.planeCount()));
+    placeFlight(game, flight, directEntry);
+    makeCallsign(game, flight);
 }
 
 /// Hands the voices out in the order in which the pilots will be heard first.
-void handOutVoices(GameState& game, int cursor, bool upward, int voiceSetCount) {
+void handOutVoices(Game& game, int cursor, bool upward, int voiceSetCount) {
     if (voiceSetCount <= 0) {
         return;
     }
@@ -130,76 +130,74 @@ Quadrant drawSideAwayFrom(Quadrant destination, RandomGenerator& random) {
 
 } // namespace
 
-ShiftSize shiftSizeFor(Skill skill, const Options& options) {
-    if (skill == Skill::custom) {
-        return {std::clamp(options.customPlanes, 1, mostPlanes),
-                std::clamp(options.customSched, secondsPerMinute, mostMinutes * secondsPerMinute),
-                options.customBonus};
+ShiftSize shiftSizeFor(const ShiftSetup& setup) {
+    if (setup.skill == Skill::custom) {
+        return {std::clamp(setup.custom.planeCount, 1, mostPlanes),
+                std::clamp(setup.custom.length, clockMinute, mostMinutes * clockMinute),
+                std::clamp(setup.custom.bonus, -mostCustomBonus, mostCustomBonus)};
     }
-    ShiftSize size = shiftSizes.at(static_cast<std::size_t>(skill));
-    size.bonus = bonusFor(size.planeCount, size.shiftLength);
+    ShiftSize size = shiftSizes.at(static_cast<std::size_t>(setup.skill));
+    size.bonus = bonusFor(size.planeCount, size.length);
     return size;
 }
 
-void setUpShift(GameState& game, const ShiftSetup& setup, const Options& options, RandomGenerator& random) {
-    const int voiceCursor = setup.voiceSetCount > 0 ? Random(random, setup.voiceSetCount) : 0;
-    const bool voicesUpward = RandomPercent(random) > voicesUpwardAbove;
-    const ShiftSize size = shiftSizeFor(setup.skill, options);
+void setUpShift(Game& game, const ShiftSetup& setup) {
+    const int voiceCursor = setup.voiceSetCount > 0 ? Random(game.random, setup.voiceSetCount) : 0;
+    const bool voicesUpward = RandomPercent(game.random) > voicesUpwardAbove;
+    const ShiftSize size = shiftSizeFor(setup);
     const bool isEasy = setup.skill == Skill::easy;
 
+    game.controllerName = setup.controllerName;
+    game.cloudCover = setup.cloudCover;
     game.score = 0;
-    game.shiftLength = size.shiftLength;
+    game.shiftLength = size.length;
     game.bonus = size.bonus;
     if (!isEasy) {
-        game.bonus += options.stormTrak != 0 ? cloudCoverBonus : 0;
-        game.bonus += options.directEntry != 0 ? directEntryBonus : 0;
+        game.bonus += setup.cloudCover ? cloudCoverBonus : 0;
+        game.bonus += setup.directEntry ? directEntryBonus : 0;
     }
     game.freeOrders = freeOrdersPerPlane * size.planeCount;
     game.flights.assign(static_cast<std::size_t>(size.planeCount), Flight{});
     game.possibleScore = game.bonus;
-    for (FlightIndex i = 0; i < size.planeCount; ++i) {
-        scheduleFlight(game, i, game.flight(i), options.directEntry != 0, random);
+    for (const FlightIndex i : game.flightPlaces()) {
+        scheduleFlight(game, i, setup.directEntry);
         const bool lands = game.flight(i).destinationKind == DestinationKind::airport;
         game.possibleScore += lands ? points::landing : points::exit;
     }
     handOutVoices(game, voiceCursor, voicesUpward, setup.voiceSetCount);
-    makeClouds(game, !isEasy, setup.cloudSizes, random);
+    makeClouds(game, !isEasy, setup.cloudSizes);
 }
 
-VorIndex pickVor(const GameState& game, VorKind kind, RandomGenerator& random) {
-    std::vector<VorIndex> candidates;
-    for (VorIndex i = 0; i < game.vorCount(); ++i) {
+PointIndex pickVor(Game& game, VorKind kind) {
+    std::vector<PointIndex> candidates;
+    for (const PointIndex i : game.vorPlaces()) {
         if (kind == VorKind::exit ? game.vor(i).isExit : game.vor(i).isAirport) {
             candidates.push_back(i);
         }
     }
-    if (kind == VorKind::arrivalAirport && RandomPercent(random) >= majorAirportFrom) {
+    if (kind == VorKind::arrivalAirport && RandomPercent(game.random) >= majorAirportFrom) {
         const auto major = std::find_if(candidates.begin(), candidates.end(),
-                                        [&](VorIndex i) { return game.vor(i).isMajor; });
+                                        [&](PointIndex i) { return game.vor(i).isMajor; });
         if (major != candidates.end()) {
             return *major;
         }
     }
-    return candidates[static_cast<std::size_t>(Random(random, static_cast<int>(candidates.size())))];
+    return candidates[static_cast<std::size_t>(Random(game.random, static_cast<int>(candidates.size())))];
 }
 
-void placeFlight(const GameState& game, Flight& flight, bool directEntry, RandomGenerator& random) {
-    PlanStep& step = flight.plan[0];
-    step = {};
-    if (flight.origin != noVor) {
-        const Vor& origin = game.vor(flight.origin);
-        step.setCell(origin.cell);
-        step.altitude = approachAltitude;
-        step.heading = origin.runwayHeading;
+void placeFlight(Game& game, Flight& flight, bool directEntry) {
+    if (flight.origin) {
+        const Vor& origin = game.vor(*flight.origin);
+        flight.plan =
+            Plan{{.cell = origin.cell, .altitude = approachAltitude, .heading = origin.runwayHeading}};
         return;
     }
-    const Quadrant side = drawSideAwayFrom(quadrantOf(game.vor(flight.destination).cell), random);
-    const EntryPoint entry = drawEntry(side, random);
-    step.setCell(entry.cell);
-    step.heading = entry.heading;
-    step.altitude = Random(random, lowestEntry, highestEntry);
+    const Quadrant side = drawSideAwayFrom(quadrantOf(game.vor(flight.destination).cell), game.random);
+    const EntryPoint entry = drawEntry(side, game.random);
+    const int altitude = Random(game.random, lowestEntry, highestEntry);
+    flight.plan = Plan{{.cell = entry.cell, .altitude = altitude, .heading = entry.heading}};
     if (directEntry) {
-        buildCourse(flight, game.vors, flight.destination, step.altitude);
+        buildCourse(flight, game.vors(), flight.destination, altitude);
     }
 }
 

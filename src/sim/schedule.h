@@ -5,45 +5,31 @@
 
 #pragma once
 
-#include "base/random.h"
-#include "sim/game_state.h"
-#include "sim/options.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
-enum class Skill { easy = 0, normal = 1, moderate = 2, hard = 3, custom = 4 };
+/// Points that a Custom shift can be worth at most, up or down: so that sums of points stay numbers.
+inline constexpr int mostCustomBonus = 1'000'000'000;
 
-/// The size of the shift of a skill level, and its bonus before the options change it. The numbers of a
-/// Custom shift come from the options, brought into the range that the dialog allows.
-struct ShiftSize {
-    int planeCount = 0;
-    ClockSeconds shiftLength = 0;
-    int bonus = 0;
-};
-ShiftSize shiftSizeFor(Skill skill, const Options& options);
+/// The size of the shift and its bonus before clouds and direct entry count. That of a Custom shift is
+/// brought into the range of the dialog: 1 to 99 planes, 1 to 120 minutes.
+ShiftSize shiftSizeFor(const ShiftSetup& setup);
 
-/// What the schedule needs to know from outside.
-struct ShiftSetup {
-    Skill skill = Skill::normal;
-    int voiceSetCount = 0; ///< installed pilot voices; with 0 every flight gets voice 0
-    /// Pixel sizes of the cloud pictures, by number; a missing one counts as empty.
-    std::span<const Size> cloudSizes{};
-};
-
-/// Replaces the shift entirely. The airport has been loaded. No game runs yet.
-void setUpShift(GameState& game, const ShiftSetup& setup, const Options& options, RandomGenerator& random);
+/// Replaces the shift entirely, drawing from the game's generator. The game's points have been settled.
+void setUpShift(Game& game, const ShiftSetup& setup);
 
 /// What a map point is looked for as.
 enum class VorKind { exit = 1, departureAirport = 2, arrivalAirport = 3 };
 
-/// Draws a map point of that kind; major airports are favoured for arrivals. The airport has one of each.
-VorIndex pickVor(const GameState& game, VorKind kind, RandomGenerator& random);
+/// Draws a map point of that kind; major airports are favoured for arrivals. The airspace has one of each.
+PointIndex pickVor(Game& game, VorKind kind);
 
-/// Step 0 of the flight's plan: on its airport's runway, or at a random place on a side of the scope away
-/// from its destination; there with `directEntry` on a course for the destination.
-void placeFlight(const GameState& game, Flight& flight, bool directEntry, RandomGenerator& random);
+/// The plan of a flight before it appears: on its airport's runway, or at a random place on a side of the
+/// scope away from its destination; there with `directEntry` on a course for the destination.
+void placeFlight(Game& game, Flight& flight, bool directEntry);
 
 /// Draws callsign, radio id and whether the flight is heavy. Its origin and destination are set.
-void makeCallsign(const GameState& game, Flight& flight, RandomGenerator& random);
+void makeCallsign(Game& game, Flight& flight);
 
 } // namespace ventrel

@@ -4,12 +4,13 @@
 
 namespace ventrel {
 
-void addScore(GameState& game, SimulationEvents& events, int delta) {
+void addScore(Game& game, SimulationEvents& events, ScoreCause cause, std::optional<FlightIndex> flight,
+              int delta) {
     game.score += delta;
     if (delta < 0) {
         game.score = std::max(game.score, 0);
     }
-    events.scoreChanged(delta, game.score);
+    events.scoreChanged({cause, flight, delta, game.score});
 }
 
 } // namespace ventrel

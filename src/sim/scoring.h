@@ -2,8 +2,7 @@
 
 #pragma once
 
-#include "sim/game_state.h"
-#include "sim/simulation_events.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
@@ -21,6 +20,7 @@ inline constexpr int order = -5; ///< beyond the free ones
 } // namespace points
 
 /// Adds to the score and tells the world. A penalty stops at 0; a gain is simply added.
-void addScore(GameState& game, SimulationEvents& events, int delta);
+void addScore(Game& game, SimulationEvents& events, ScoreCause cause, std::optional<FlightIndex> flight,
+              int delta);
 
 } // namespace ventrel

@@ -2,8 +2,6 @@
 
 #include <cstdlib>
 
-#include "base/string_table.h"
-#include "sim/phrase.h"
 #include "sim/scoring.h"
 
 namespace ventrel {
@@ -12,52 +10,50 @@ namespace {
 
 constexpr int deadAheadAbove = 50;
 
-void callMayday(Simulation& simulation, const Flight& flight) {
-    const bool deadAhead = RandomPercent(simulation.random) > deadAheadAbove;
-    callOnRadio(simulation.events, flight,
-                {snippet::mayday, deadAhead ? snippet::deadAhead : snippet::airVector});
+/// Which of its two wordings the call takes is drawn when it is made.
+void callMayday(Game& game, SimulationEvents& events, FlightIndex flight) {
+    const bool isAhead = RandomPercent(game.random) > deadAheadAbove;
+    events.pilotSpoke({isAhead ? CallTopic::nearMissAhead : CallTopic::nearMissVector, flight});
 }
 
-void reportNearMiss(Simulation& simulation, Flight& mover, const Flight& other) {
-    simulation.events.messagePosted(FormatStringId(TextId::nearMiss, {mover.callsign, other.callsign}),
-                                    MessageClass::emergency);
-    if (!isLampLit(simulation.lamps, LampLevel::red)) {
-        callMayday(simulation, mover);
-        callMayday(simulation, other);
+void reportNearMiss(Game& game, SimulationEvents& events, FlightIndex mover, FlightIndex other) {
+    events.reported({Topic::nearMiss, mover, std::nullopt, other});
+    if (!isLampLit(game, LampLevel::red)) {
+        callMayday(game, events, mover);
+        callMayday(game, events, other);
     }
-    addScore(simulation.game, simulation.events, points::nearMiss);
-    mover.alert = Alert::nearMiss;
+    addScore(game, events, ScoreCause::nearMiss, mover, points::nearMiss);
+    game.flight(mover).alert = Alert::nearMiss;
 }
 
 } // namespace
 
-bool checkSeparation(Simulation& simulation, FlightIndex mover) {
-    GameState& game = simulation.game;
-    Flight& flight = game.flight(mover);
-    const PlanStep here = flight.current();
-    for (FlightIndex i = 0; i < game.planeCount(); ++i) {
+bool checkSeparation(Game& game, SimulationEvents& events, FlightIndex mover) {
+    const PlanStep here = game.flight(mover).current();
+    for (const FlightIndex i : game.flightPlaces()) {
         const Flight& other = game.flight(i);
         if (i == mover || !other.isOnScope() || other.current().altitude != here.altitude ||
-            !areNeighbours(other.current().cell(), here.cell())) {
+            !areNeighbours(other.current().cell, here.cell)) {
             continue;
         }
-        if (other.current().cell() == here.cell()) {
+        if (other.current().cell == here.cell) {
             game.collisionFlights = {i, mover};
             return true;
         }
-        reportNearMiss(simulation, flight, other);
+        reportNearMiss(game, events, mover, i);
     }
     return false;
 }
 
-void separateOnEntry(GameState& game, Flight& entering) {
+void separateOnEntry(Game& game, Flight& entering) {
     PlanStep& step = entering.current();
     for (const Flight& other : game.flights) {
         if (&other == &entering || !other.inPlay || !other.isActive()) {
             continue;
         }
         const PlanStep& there = other.current();
-        const bool isClose = std::abs(there.x - step.x) <= 1 || std::abs(there.y - step.y) <= 1;
+        const bool isClose =
+            std::abs(there.cell.x - step.cell.x) <= 1 || std::abs(there.cell.y - step.cell.y) <= 1;
         if (isClose && there.altitude == step.altitude) {
             --step.altitude;
             return;

@@ -3,17 +3,17 @@
 
 #pragma once
 
-#include "sim/simulation.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
 /// Judges a flight against all others before it moves. Every near miss is reported, paid for, and marks the
 /// moving flight alone. True when it shares a cell with another: the collision's two flights are then noted
 /// in the game.
-bool checkSeparation(Simulation& simulation, FlightIndex mover);
+bool checkSeparation(Game& game, SimulationEvents& events, FlightIndex mover);
 
 /// Lowers a flight that is just entering by 1 when it comes in at the altitude of a flight within one column,
 /// or within one row, of it.
-void separateOnEntry(GameState& game, Flight& entering);
+void separateOnEntry(Game& game, Flight& entering);
 
 } // namespace ventrel

@@ -3,7 +3,6 @@
 #include <array>
 
 #include "base/string_table.h"
-#include "sim/custom_skill.h"
 
 namespace ventrel {
 
@@ -13,27 +12,28 @@ constexpr long feetPerAltitude = 1000;
 
 } // namespace
 
-std::string welcomeText(const GameState& game) {
+std::string welcomeText(const Game& game) {
     const ClockSeconds first = firstScheduledTime(game);
-    return FormatStringId(TextId::welcome, {game.controllerName, long{first / secondsPerMinute},
-                                            long{first % secondsPerMinute}});
+    return FormatStringId(TextId::welcome, {game.controllerName, long{first / clockMinute},
+                                            long{(first % clockMinute).count()}});
 }
 
-std::string scoreSoFarText(const GameState& game) {
+std::string scoreSoFarText(const Game& game) {
     return FormatStringId(TextId::scoreSoFar, {game.controllerName, long{game.score}});
 }
 
-std::string gameOverText(const GameState& game) {
+std::string gameOverText(const Game& game) {
     return FormatStringId(TextId::gameOver, {long{game.score}, long{game.possibleScore}});
 }
 
-PressRelease composePressRelease(const GameState& game, std::string_view date) {
+PressRelease composePressRelease(const Game& game, std::string_view date) {
     const Flight& standing = game.flight(game.collisionFlights[0]);
     const Flight& moving = game.flight(game.collisionFlights[1]);
     return {
         .heading = FormatStringId(TextId::pressReleaseDate, {date}),
         .accident = FormatStringId(TextId::pressReleaseAccident,
-                                   {game.airport.name, standing.callsign, moving.callsign,
+                                   {game.airspace->name, std::string_view{standing.callsign},
+                                    std::string_view{moving.callsign},
                                     standing.current().altitude * feetPerAltitude}),
         .controller =
             FormatStringId(TextId::pressReleaseController, {game.controllerName, game.controllerName}),

@@ -7,14 +7,14 @@
 #include <string>
 #include <string_view>
 
-#include "sim/game_state.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
 /// For the ticker, class information.
-std::string welcomeText(const GameState& game);
-std::string scoreSoFarText(const GameState& game);
-std::string gameOverText(const GameState& game);
+std::string welcomeText(const Game& game);
+std::string scoreSoFarText(const Game& game);
+std::string gameOverText(const Game& game);
 
 /// The paragraphs of the page that reports a collision.
 struct PressRelease {
@@ -24,7 +24,7 @@ struct PressRelease {
 };
 
 /// About the game's `collisionFlights`; `date` as the page writes it (see pressReleaseDate).
-PressRelease composePressRelease(const GameState& game, std::string_view date);
+PressRelease composePressRelease(const Game& game, std::string_view date);
 
 /// A day as the press release writes it: weekday, month, day and year.
 std::string pressReleaseDate(const std::tm& day);

@@ -1,26 +1,94 @@
-// How the simulation speaks to the world: lines, radio calls, lamps, the score, and what must be drawn anew.
+// How the simulation speaks to the world: what happened to which flight, the score, the lamps, and what must
+// be drawn anew.
 //
-// The shell plays these events, ventrel-sim records them, a test collects what it cares about. Everything is
-// told at the moment at which it happens, in the middle of a step or an order: a receiver must not change the
-// game then.
+// Events carry facts; reports.h turns them into the ticker's lines and the pilots' phrases. The shell plays
+// them, ventrel-sim records them, a test collects what it cares about. Everything is told at the moment at
+// which it happens, in the middle of a step or an order: a receiver must not change the game then, but for
+// its messages and its generator, which a spoken call may draw from.
 
 #pragma once
 
-#include <string_view>
+#include <optional>
 
-#include "sim/alert_lamps.h"
-#include "sim/flight.h"
+#include "sim/lamp_level.h"
+#include "sim/table_index.h"
 
 namespace ventrel {
 
-/// What a line of the ticker is about; the scroller gives each its colour.
-enum class MessageClass { success = 10, trouble = 11, emergency = 12, information = 13 };
+/// What the ticker tells of flights.
+enum class Topic {
+    departureRequest,
+    entry,
+    landing,
+    leaving,
+    tooHighToLand,
+    wrongHeadingToLand,
+    tooLowToLeave,
+    lost,
+    nearMiss,
+    stillWaitingTower, ///< a departure kept waiting complains in one of three wordings
+    stillWaiting,
+    stillWaitingUrgent,
+    tooCloseForDirect,
+};
 
+/// A line for the ticker (see reportText). The receiver's queue may drop it.
+struct Report {
+    Topic topic;
+    FlightIndex flight;
+    std::optional<PointIndex> point{};  ///< where it is, wants to leave from or is bound for
+    std::optional<FlightIndex> other{}; ///< of a near miss
+};
+
+/// What a pilot calls about.
+enum class CallTopic {
+    departureRequest,
+    entry,
+    landing,
+    leaving,
+    missedApproach,
+    cannotLeave,
+    stillWaiting,
+    stillWaitingRepeated,
+    nearMissAhead,
+    nearMissVector,
+    clearance,    ///< to take off, acknowledged
+    noChange,     ///< an order that changes nothing, acknowledged without callsign or noise
+    headingOrder, ///< the read-back of an order
+    holdOrder,
+    directOrder,
+    tooCloseForDirect,
+};
+
+/// A radio call (see radioPhrase).
 struct RadioCall {
-    std::string_view phrase; ///< phrase characters, valid during the call only
-    int voice = 0;           ///< the pilot's voice set
-    int tag = 0;             ///< the flight's radio id
-    bool noise = true;       ///< radio noise first
+    CallTopic topic;
+    FlightIndex flight;
+    int altitude = 0;             ///< of an entry; in a read-back, where the flight will end
+    int climb = 0;                ///< in a read-back: above 0 up to it, below 0 down to it, 0 level
+    std::optional<int> heading{}; ///< in a read-back: where it turns to
+
+    /// Whether radio noise comes first.
+    bool hasNoise() const { return topic != CallTopic::noChange; }
+};
+
+enum class ScoreCause {
+    landing,
+    exit,
+    missedApproach,
+    missedExit,
+    lost,
+    nearMiss,
+    keptWaiting,
+    order,
+    bonus
+};
+
+struct ScoreChange {
+    ScoreCause cause;
+    std::optional<FlightIndex> flight; ///< none for the bonus
+    int delta = 0;
+    int score = 0; ///< after it
 };
 
 enum class ShiftResult { everyFlightHandled = 0, collision = -1 };
@@ -32,20 +100,19 @@ public:
     SimulationEvents& operator=(const SimulationEvents&) = delete;
     virtual ~SimulationEvents() = default;
 
-    /// A line for the ticker, Windows-1252. The receiver's queue may drop it.
-    virtual void messagePosted(std::string_view /*text*/, MessageClass /*messageClass*/) {}
+    virtual void reported(const Report& /*report*/) {}
     virtual void pilotSpoke(const RadioCall& /*call*/) {}
     /// Another lamp is lit, or none. The lamp's alarm is to be sounded (see alarmSound).
     virtual void lampChanged(LampLevel /*lit*/) {}
-    virtual void scoreChanged(int /*delta*/, int /*score*/) {}
+    virtual void scoreChanged(const ScoreChange& /*change*/) {}
     /// An order was sent: its click is to be heard, and the player counts as active.
     virtual void orderSent(FlightIndex /*flight*/) {}
     /// The flight on the control panel has changed.
     virtual void panelChanged() {}
     /// The list of flight strips has changed.
     virtual void stripsChanged() {}
-    /// A flight has become active and the player wants such flights selected, once the step has returned.
-    virtual void selectionWanted(FlightIndex /*flight*/) {}
+    /// A flight has entered, or asks for departure. Who wants to select it waits until the step has returned.
+    virtual void flightActivated(FlightIndex /*flight*/) {}
     /// The shift is over; what follows must wait until the step has returned.
     virtual void shiftEnded(ShiftResult /*result*/) {}
 };

@@ -23,20 +23,31 @@ ConsoleStage::ConsoleStage(Size size)
       fonts(std::string(PROGRAM_FOLDER) + "/fonts", [](std::string_view, MessageIcon) {}), console(size) {
     Canvas(console).fill(console.bounds(), consoleGrey);
     main = desktop.create({.bounds = desktop.area(), .background = black});
-    game.gameRunning = true;
-    game.airport.flightColour = flightGreen;
-    game.airport.selectedFlightColour = selectedWhite;
-    game.vors = {point("ALB", false), point("JFK", true), point("SEA", false)};
+    game.phase = Phase::running;
+    game.clock = 100_s;
+    game.lastStepTime = game.clock;
+    use({point("ALB", false), point("JFK", true), point("SEA", false)});
     game.flights.reserve(mostFlights); // what `fly` hands out stays where it is
+}
+
+void ConsoleStage::use(std::vector<Vor> points) {
+    game.airspace = std::make_shared<const Airspace>(Airspace{.name = {},
+                                                              .layoutWidth = 0,
+                                                              .routeColour = routeBlue,
+                                                              .selectedFlightColour = selectedWhite,
+                                                              .flightColour = flightGreen,
+                                                              .points = {},
+                                                              .picture = {}});
+    game.points = std::make_shared<const std::vector<Vor>>(std::move(points));
 }
 
 Flight& ConsoleStage::fly(int heading) {
     Flight flight;
     flight.inPlay = true;
-    flight.activatedAt = 30;
-    flight.scheduledAt = 30;
-    flight.destination = 1;
-    flight.callsign = "UA" + std::to_string(game.planeCount());
+    flight.activatedAt = 30_s;
+    flight.scheduledAt = 30_s;
+    flight.destination = PointIndex{1};
+    flight.callsign = std::string_view{"UA" + std::to_string(game.planeCount())};
     flight.plan[0] = {.altitude = 5, .heading = heading};
     game.flights.push_back(std::move(flight));
     return game.flights.back();

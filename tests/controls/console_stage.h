@@ -10,7 +10,7 @@
 #include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 #include "platform/headless/script.h"
-#include "sim/game_state.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
@@ -18,6 +18,7 @@ using Lines = std::vector<std::string>;
 
 inline constexpr Colour consoleGrey = Colour::rgb(110, 112, 108);
 inline constexpr Colour flightGreen = Colour::rgb(0, 190, 0);
+inline constexpr Colour routeBlue = Colour::rgb(40, 80, 220);
 inline constexpr Colour selectedWhite = Colour::rgb(240, 240, 240);
 inline constexpr Colour black = Colour::rgb(0, 0, 0);
 
@@ -29,16 +30,18 @@ struct ConsoleStage {
     Desktop desktop;
     Script script{backend};
     FontSet fonts;
-    GameState game;
+    Game game;
     CursorImage hand;
     CursorImage arrow;
     Bitmap console;
     Window main;
-    ClockSeconds clock = 100;
+    ClockSeconds& clock = game.clock; ///< stands at 100
     Lines log;
 
     /// An active flight from the edge to the airport at 5000 feet; its callsign is "UA" and its number.
     Flight& fly(int heading = 90);
+    /// Takes other map points.
+    void use(std::vector<Vor> points);
     /// Counts the listed flights as the simulation's step does.
     void countListed();
     /// Runs the program through the script, and ends it.

@@ -17,8 +17,7 @@ struct PanelStage : ConsoleStage {
 
     ControlPanel panel{
         .sources = {game, fonts, hand, arrow},
-        .callbacks = {.clockNow = [this] { return clock; },
-                      .click = [this] { log.emplace_back("click"); },
+        .callbacks = {.click = [this] { log.emplace_back("click"); },
                       .enableExec = [this](bool on) { log.emplace_back(on ? "exec on" : "exec off"); }}};
 
     const PlanStep& pending() const { return panel.state.pending; }
@@ -26,16 +25,26 @@ struct PanelStage : ConsoleStage {
     Point inMain(Point p) const { return p + panel.window.bounds().topLeft(); }
 };
 
-PlanStep flying(int altitude, int heading, VorIndex target = noVor, int hold = 0) {
-    return {0, 0, altitude, heading, normalSpeed, target, hold};
+constexpr int pointCount = 3;
+
+/// `target` by its number: -1 none, 3 the selector's hold.
+PlanStep flying(int altitude, int heading, int target = -1, bool hold = false) {
+    return {.altitude = altitude,
+            .heading = heading,
+            .directTarget = directTargetOf(target, pointCount),
+            .hold = hold};
+}
+
+PlanStep atSpeed(Speed speed, PlanStep step) {
+    step.speed = speed;
+    return step;
 }
 
 TEST(PanelTest, TakesAFlightAsItFlies) {
     PanelStage stage;
     Flight& flight = stage.fly(45);
-    flight.planLength = 2;
-    flight.plan[1] = flying(3, 90);
-    CtrlSetFlight(stage.panel, 0);
+    flight.plan = {flight.plan[0], flying(3, 90)};
+    CtrlSetFlight(stage.panel, FlightIndex{0});
     EXPECT_EQ(stage.pending(), flight.plan[0]) << "the present heading, not the goal";
     CtrlClearFlight(stage.panel);
     EXPECT_EQ(stage.take(), (Lines{"exec on", "exec off"}));
@@ -44,24 +53,27 @@ TEST(PanelTest, TakesAFlightAsItFlies) {
 TEST(PanelTest, TheSelectorRunsInARingOverThePointsAndHold) {
     PanelStage stage;
     stage.fly();
-    CtrlSetFlight(stage.panel, 0);
+    CtrlSetFlight(stage.panel, FlightIndex{0});
+    using At = std::pair<int, bool>;
+    const auto at = [&] {
+        return At{directTargetNumber(stage.pending().directTarget, pointCount), stage.pending().hold};
+    };
     const auto selector = [&](bool up) {
         CtrlStepDirect(stage.panel, up);
-        return std::pair(stage.pending().directTarget, stage.pending().hold);
+        return at();
     };
-    using At = std::pair<int, int>;
     EXPECT_EQ(selector(true), (At{0, 0})) << "either arrow first switches it on";
     EXPECT_EQ(selector(true), (At{3, 1}));
     EXPECT_EQ(selector(true), (At{2, 0}));
     EXPECT_EQ(selector(false), (At{3, 1}));
     EXPECT_EQ(selector(false), (At{0, 0}));
     EXPECT_EQ(selector(false), (At{1, 0}));
-    CtrlSetDirect(stage.panel, noVor);
-    EXPECT_EQ(std::pair(stage.pending().directTarget, stage.pending().hold), (At{3, 1}));
+    CtrlSetHold(stage.panel);
+    EXPECT_EQ(at(), (At{3, 1}));
     CtrlToggleDirect(stage.panel);
-    EXPECT_EQ(std::pair(stage.pending().directTarget, stage.pending().hold), (At{noVor, 1}));
+    EXPECT_EQ(at(), (At{-1, 1}));
     EXPECT_EQ(selector(false), (At{0, 0}));
-    CtrlSetDirect(stage.panel, 2);
+    CtrlSetDirect(stage.panel, PointIndex{2});
     CtrlSetHeading(stage.panel, 135);
     EXPECT_EQ(stage.pending(), flying(5, 135));
     CtrlSetAltitude(stage.panel, 10);
@@ -77,14 +89,14 @@ TEST(PanelTest, NothingCanBeSetForAFlightThatIsNotInTheAir) {
         CtrlSetHeading(stage.panel, 180);
         CtrlSetAltitude(stage.panel, 9);
         CtrlStepAltitude(stage.panel, true);
-        CtrlSetSpeed(stage.panel, fastSpeed);
+        CtrlSetSpeed(stage.panel, Speed::fast);
         CtrlToggleDirect(stage.panel);
         CtrlStepDirect(stage.panel, true);
-        CtrlSetDirect(stage.panel, 1);
+        CtrlSetDirect(stage.panel, PointIndex{1});
         return stage.take();
     };
     EXPECT_EQ(trySettings(), Lines{}) << "without a flight";
-    CtrlSetFlight(stage.panel, 0);
+    CtrlSetFlight(stage.panel, FlightIndex{0});
     stage.take();
     const PlanStep before = stage.pending();
     flight.groundState = GroundState::waiting;
@@ -99,9 +111,9 @@ TEST(PanelTest, NothingCanBeSetForAFlightThatIsNotInTheAir) {
     EXPECT_EQ(stage.take(), Lines{"click"});
     flight.inPlay = true;
     flight.groundState = GroundState::cleared;
-    stage.panel.state.pending.directTarget = 2;
+    stage.panel.state.pending.directTarget = PointIndex{2};
     CtrlStepDirect(stage.panel, true);
-    EXPECT_EQ(stage.pending().directTarget, 1) << "a selector that is on turns on the ground too";
+    EXPECT_EQ(stage.pending().directTarget, PointIndex{1}) << "a selector that is on turns on the ground too";
     EXPECT_EQ(stage.take(), Lines{"click"});
 }
 
@@ -110,7 +122,7 @@ TEST(PanelTest, EveryControlAnswersToAPress) {
         Point at;
         PlanStep wanted;
     };
-    const PlanStep low{0, 0, 1, 225, normalSpeed};
+    const PlanStep low = flying(1, 225);
     const std::array<Press, 14> presses{{
         {{45, 20}, flying(5, 0)}, // the strip before the quarter
         {{70, 60}, flying(5, 135)},
@@ -119,8 +131,8 @@ TEST(PanelTest, EveryControlAnswersToAPress) {
         {{111, 8}, flying(10, 225)},
         {{160, 9}, flying(9, 225)},
         {{120, 88}, low},
-        {{93, 11}, {0, 0, 1, 225, fastSpeed}},
-        {{95, 59}, {0, 0, 1, 225, slowSpeed}},
+        {{93, 11}, atSpeed(Speed::fast, low)},
+        {{95, 59}, atSpeed(Speed::slow, low)},
         {{101, 39}, low},
         {{3, 74}, flying(1, 225, 0)},
         {{79, 83}, flying(1, 225, 1)},
@@ -129,7 +141,7 @@ TEST(PanelTest, EveryControlAnswersToAPress) {
     }};
     PanelStage stage;
     stage.fly(0);
-    CtrlSetFlight(stage.panel, 0);
+    CtrlSetFlight(stage.panel, FlightIndex{0});
     for (const Press& press : presses) {
         stage.script.click(stage.inMain(press.at)).then([&] {
             EXPECT_EQ(stage.pending(), press.wanted) << press.at.x << ", " << press.at.y;
@@ -137,11 +149,11 @@ TEST(PanelTest, EveryControlAnswersToAPress) {
     }
     stage.script.click(stage.inMain({30, 34})).then([&] {
         EXPECT_EQ(stage.pending(), flying(1, 270)) << "the dial switches the direct course off";
-        stage.game.flight(0).heavy = true;
+        stage.game.flight(FlightIndex{0}).heavy = true;
     });
     stage.script.click(stage.inMain({97, 15})).then([&] {
-        CtrlSetSpeed(stage.panel, slowSpeed);
-        EXPECT_EQ(stage.pending().speed, normalSpeed) << "a heavy flight keeps its speed";
+        CtrlSetSpeed(stage.panel, Speed::slow);
+        EXPECT_EQ(stage.pending().speed, Speed::normal) << "a heavy flight keeps its speed";
     });
     stage.take();
     stage.play();
@@ -150,17 +162,17 @@ TEST(PanelTest, EveryControlAnswersToAPress) {
 
 TEST(PanelTest, APressIsATouchWhateverElseItDoes) {
     PanelStage stage;
-    stage.clock = 321;
+    stage.clock = 321_s;
     stage.script.click(stage.inMain({160, 100}), MouseButton::right).then([&] {
-        EXPECT_EQ(CtrlTouchTime(stage.panel), 0);
+        EXPECT_EQ(CtrlTouchTime(stage.panel), 0_s);
     });
     stage.script.click(stage.inMain({160, 100})).then([&] {
-        EXPECT_EQ(CtrlTouchTime(stage.panel), 321);
+        EXPECT_EQ(CtrlTouchTime(stage.panel), 321_s);
         CtrlResetTouch(stage.panel);
     });
     stage.script.doubleClick(stage.inMain({1, 1}));
     stage.play();
-    EXPECT_EQ(CtrlTouchTime(stage.panel), 321);
+    EXPECT_EQ(CtrlTouchTime(stage.panel), 321_s);
 }
 
 TEST(PanelTest, TheHandShowsWhereAPressWouldDoSomething) {
@@ -172,13 +184,13 @@ TEST(PanelTest, TheHandShowsWhereAPressWouldDoSomething) {
         });
     };
     isHand({130, 40}, false);
-    stage.script.then([&] { CtrlSetFlight(stage.panel, 0); });
+    stage.script.then([&] { CtrlSetFlight(stage.panel, FlightIndex{0}); });
     isHand({130, 41}, true);
     isHand({40, 30}, true);
     isHand({84, 78}, false);
     isHand({102, 20}, true);
     isHand({100, 70}, false);
-    stage.script.then([&] { CtrlSetDirect(stage.panel, 1); });
+    stage.script.then([&] { CtrlSetDirect(stage.panel, PointIndex{1}); });
     isHand({40, 31}, false);
     isHand({84, 77}, true);
     isHand({84, 90}, true);
@@ -192,9 +204,8 @@ TEST(PreviewTest, TellsWhatTheFlightIsDoing) {
     Flight& flight = stage.fly();
     flight.callsign = "UA123";
     EXPECT_EQ(previewLine(stage.panel.state, stage.game), "");
-    CtrlSetFlight(stage.panel, 0);
+    CtrlSetFlight(stage.panel, FlightIndex{0});
     const auto line = [&](PlanStep now, PlanStep goal) {
-        flight.planLength = 2;
         flight.plan = {now, goal};
         return previewLine(stage.panel.state, stage.game);
     };
@@ -217,7 +228,7 @@ TEST(PreviewTest, TellsWhatTheFlightIsDoing) {
 TEST(PreviewTest, IsPaintedAnewOnceAfterEveryMoveOfTheFlights) {
     PanelStage stage;
     Flight& flight = stage.fly(90);
-    CtrlSetFlight(stage.panel, 0);
+    CtrlSetFlight(stage.panel, FlightIndex{0});
     const Bitmap before = stage.picture(stage.panel.window);
     flight.plan[0].heading = 45;
     const auto changesAt = [&](ClockSeconds now) {
@@ -225,8 +236,8 @@ TEST(PreviewTest, IsPaintedAnewOnceAfterEveryMoveOfTheFlights) {
         CtrlTick(stage.panel);
         return stage.picture(stage.panel.window) != before;
     };
-    EXPECT_FALSE(changesAt(105));
-    EXPECT_TRUE(changesAt(106));
+    EXPECT_FALSE(changesAt(105_s));
+    EXPECT_TRUE(changesAt(106_s));
 }
 
 TEST(PreviewTest, TheMenuIsToldWhatIsFlownNotWhatIsPending) {
@@ -234,15 +245,18 @@ TEST(PreviewTest, TheMenuIsToldWhatIsFlownNotWhatIsPending) {
     Flight& flight = stage.fly(45);
     const auto now = [&] {
         const CurrentSettings is = currentSettings(stage.panel.state, stage.game);
-        return std::array{is.heading, is.altitude, is.speed, is.direct};
+        return std::array{is.heading.value_or(-1), is.altitude.value_or(-1), static_cast<int>(is.speed),
+                          is.holds    ? -1
+                          : is.direct ? is.direct->number()
+                                      : -2};
     };
     EXPECT_EQ(now(), (std::array{-1, -1, -1, -2}));
-    CtrlSetFlight(stage.panel, 0);
+    CtrlSetFlight(stage.panel, FlightIndex{0});
     CtrlSetHeading(stage.panel, 180);
     EXPECT_EQ(now(), (std::array{45, 5, 0, -2}));
-    flight.plan[0].directTarget = 2;
+    flight.plan[0].directTarget = PointIndex{2};
     EXPECT_EQ(now(), (std::array{-1, 5, 0, 2}));
-    flight.plan[0].hold = 1;
+    flight.plan[0].hold = true;
     EXPECT_EQ(now(), (std::array{-1, 5, 0, -1}));
 }
 
@@ -258,7 +272,8 @@ TEST(PanelPictureTest, LooksAsItDidInEveryState) {
     Flight& flight = stage.fly(90);
     std::vector<PanelLook> looks;
     for (int i = 0; i < 8; ++i) {
-        looks.push_back({{0, 0, i + 1, i * headingStep, i % 3 - 1}, GroundState::airborne, i == 7});
+        looks.push_back({atSpeed(static_cast<Speed>(i % 3 - 1), flying(i + 1, i * headingStep)),
+                         GroundState::airborne, i == 7});
     }
     looks.push_back({flying(9, 0, 0)});
     looks.push_back({flying(10, 0, 1)});
@@ -270,7 +285,7 @@ TEST(PanelPictureTest, LooksAsItDidInEveryState) {
         const PanelLook& look = looks[static_cast<std::size_t>(i)];
         flight.groundState = look.ground;
         flight.heavy = look.heavy;
-        CtrlSetFlight(stage.panel, 0);
+        CtrlSetFlight(stage.panel, FlightIndex{0});
         stage.panel.state.pending = look.pending;
         CtrlRepaint(stage.panel);
         const Point corner{i % columns * (panelLayout.size.width + 4),

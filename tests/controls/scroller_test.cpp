@@ -16,7 +16,7 @@ struct ScrollerStage : ConsoleStage {
         scroller.window.update();
     }
 
-    Scroller scroller{.sources = {desktop, fonts, arrow},
+    Scroller scroller{.sources = {desktop, fonts, arrow, game.messages},
                       .gameOverShown = [this] { log.emplace_back("game over"); }};
 
     bool post(std::string_view text, MessageClass messageClass = MessageClass::information) {
@@ -32,7 +32,7 @@ struct ScrollerStage : ConsoleStage {
     /// The milliseconds until the slot is free, ticking every one of them.
     Millis runUntilFree(std::size_t slot) {
         const Millis start = backend.now();
-        while (scroller.queue.slots[slot].inUse && backend.now() - start < 100'000) {
+        while (scroller.sources.queue.slots[slot].inUse && backend.now() - start < 100'000) {
             run(1);
         }
         return backend.now() - start;
@@ -48,7 +48,7 @@ void expectPace(Size window, int stripWidth, Millis step) {
     EXPECT_EQ(stage.scroller.window.bounds(), Rect::at({443, 19}, {stripWidth, 20}));
     stage.post("Welcome Pat");
     ScrollerTick(stage.scroller);
-    const int lineWidth = stage.scroller.queue.slots[0].width;
+    const int lineWidth = stage.scroller.state.lineWidth;
     EXPECT_EQ(stage.runUntilFree(0), step * (stripWidth + lineWidth + 1));
     EXPECT_EQ(stage.inked(), 0) << "the line takes all its pixels along";
     stage.run(1);
@@ -77,7 +77,7 @@ TEST(ScrollerTest, LinesFollowEachOtherInSlotOrderEachInItsColour) {
     stage.runUntilFree(0);
     stage.post("third");
     expectOnly(teal);
-    EXPECT_TRUE(stage.scroller.queue.slots[1].inUse) << "a line in a lower slot overtakes";
+    EXPECT_TRUE(stage.scroller.sources.queue.slots[1].inUse) << "a line in a lower slot overtakes";
     stage.runUntilFree(0);
     expectOnly(yellow);
     EXPECT_EQ(messageColour(MessageClass::emergency), Colour::rgb(220, 0, 0));
@@ -92,7 +92,7 @@ TEST(ScrollerTest, ALateTickMovesOnePixelAndTheNextLineStartsAtOnce) {
     stage.backend.wait(5000);
     ScrollerTick(stage.scroller);
     EXPECT_EQ(stage.scroller.state.x, 339);
-    stage.scroller.state.x = -stage.scroller.queue.slots[0].width;
+    stage.scroller.state.x = -stage.scroller.state.lineWidth;
     stage.backend.wait(14);
     EXPECT_EQ(ScrollerTick(stage.scroller), stage.backend.now());
 }

@@ -27,38 +27,45 @@ struct StripsStage : ConsoleStage {
         countListed();
         StripsRebuild(strips);
     }
-    const std::vector<FlightIndex>& slots() const { return strips.list.slots; }
+    /// The flights by number; -1 for an empty strip.
+    std::vector<int> slots() const {
+        std::vector<int> numbers;
+        for (const auto& flight : strips.list.slots) {
+            numbers.push_back(flight ? flight->number() : -1);
+        }
+        return numbers;
+    }
 };
 
 TEST(StripsTest, EachScreenfulIsOrderedByTimeWithTheEmptyStripsLast) {
     StripsStage stage;
-    for (const ClockSeconds when : {60, 300, 15, 300}) {
+    for (const ClockSeconds when : {60_s, 300_s, 15_s, 300_s}) {
         stage.fly().scheduledAt = when;
     }
     stage.fly().inPlay = false;
     Flight& announced = stage.fly();
-    announced.activatedAt = 0;
+    announced.activatedAt = 0_s;
     announced.announced = true;
-    announced.scheduledAt = 400;
-    stage.fly().activatedAt = 0;
+    announced.scheduledAt = 400_s;
+    stage.fly().activatedAt = 0_s;
     stage.rebuild();
-    const std::vector<FlightIndex> wanted{5, 1, 3, 0, 2, -1, -1, -1, -1, -1};
+    const std::vector<int> wanted{5, 1, 3, 0, 2, -1, -1, -1, -1, -1};
     EXPECT_EQ(stage.slots(), wanted);
-    EXPECT_EQ(StripsFlightSlot(stage.strips, 0), 3);
-    EXPECT_EQ(StripsFlightSlot(stage.strips, 4), noSlot);
+    EXPECT_EQ(StripsFlightSlot(stage.strips, FlightIndex{0}), 3);
+    EXPECT_EQ(StripsFlightSlot(stage.strips, FlightIndex{4}), noSlot);
     EXPECT_TRUE(StripsSlotSelectable(stage.strips, 1));
     EXPECT_FALSE(StripsSlotSelectable(stage.strips, 0)) << "only announced";
     EXPECT_FALSE(StripsSlotSelectable(stage.strips, 5));
     EXPECT_FALSE(StripsSlotSelectable(stage.strips, noSlot));
-    stage.game.gameRunning = false;
+    stage.game.phase = Phase::idle;
     EXPECT_FALSE(StripsSlotSelectable(stage.strips, 1));
 }
 
 TEST(StripsTest, ElevenFlightsScrollByOneAndComeBackWhenOneLeaves) {
     StripsStage stage;
     stage.flyMany(11);
-    const std::vector<FlightIndex> top{9, 8, 7, 6, 5, 4, 3, 2, 1, 0};
-    const std::vector<FlightIndex> scrolled{10, 9, 8, 7, 6, 5, 4, 3, 2, 1};
+    const std::vector<int> top{9, 8, 7, 6, 5, 4, 3, 2, 1, 0};
+    const std::vector<int> scrolled{10, 9, 8, 7, 6, 5, 4, 3, 2, 1};
     EXPECT_EQ(stage.slots(), top);
     EXPECT_FALSE(StripsScrollUp(stage.strips));
     EXPECT_TRUE(StripsScrollDown(stage.strips));
@@ -67,11 +74,11 @@ TEST(StripsTest, ElevenFlightsScrollByOneAndComeBackWhenOneLeaves) {
     EXPECT_TRUE(StripsScrollUp(stage.strips));
     EXPECT_EQ(stage.slots(), top);
     StripsScrollDown(stage.strips);
-    stage.game.flight(10).inPlay = false;
+    stage.game.flight(FlightIndex{10}).inPlay = false;
     stage.rebuild();
     EXPECT_EQ(stage.slots(), top) << "every strip is filled again";
     StripsReset(stage.strips);
-    EXPECT_EQ(stage.slots(), std::vector<FlightIndex>(10, noFlight));
+    EXPECT_EQ(stage.slots(), std::vector<int>(10, -1));
 }
 
 TEST(StripsTest, EveryStateOfAFlightHasItsWords) {
@@ -80,11 +87,11 @@ TEST(StripsTest, EveryStateOfAFlightHasItsWords) {
     flight.callsign = "UA123";
     EXPECT_EQ(stripRouteLine(flight, stage.game), "UA123  to  JFK*");
     EXPECT_EQ(stripStateLine(flight), "90\xB0    5000 ft");
-    flight.plan[0].directTarget = 1;
+    flight.plan[0].directTarget = PointIndex{1};
     flight.plan[0].altitude = 10;
     EXPECT_EQ(stripStateLine(flight), "90\xB0  (direct)   10000 ft");
-    flight.origin = 1;
-    flight.destination = 2;
+    flight.origin = PointIndex{1};
+    flight.destination = PointIndex{2};
     EXPECT_EQ(stripRouteLine(flight, stage.game), "UA123  JFK* to SEA ");
     flight.groundState = GroundState::waiting;
     EXPECT_EQ(stripStateLine(flight), "Request Takeoff");
@@ -93,7 +100,7 @@ TEST(StripsTest, EveryStateOfAFlightHasItsWords) {
     flight.groundState = GroundState::rolling;
     EXPECT_EQ(stripStateLine(flight), "Takeoff in progress");
     flight.announced = true;
-    flight.scheduledAt = 4515;
+    flight.scheduledAt = 4515_s;
     EXPECT_EQ(stripStateLine(flight), "Arrives at: 75:15");
 }
 
@@ -120,7 +127,7 @@ TEST(StripsTest, ColoursAndPressedButtonFollowTheFlight) {
 TEST(StripsTest, AreEmptyWithoutAGame) {
     StripsStage stage;
     stage.flyMany(3);
-    stage.game.gameRunning = false;
+    stage.game.phase = Phase::idle;
     StripsRebuild(stage.strips);
     const Bitmap empty = stage.picture(stage.strips.window);
     EXPECT_EQ(count(empty, Colour::rgb(64, 8, 0), empty.bounds()), empty.width() * empty.height());

@@ -34,36 +34,36 @@ struct TopBarStage : ConsoleStage {
 TEST(ClockTest, ShowsTheTimeWhileAGameRuns) {
     TopBarStage stage;
     const auto shows = [&](ClockSeconds now) {
-        stage.bar.clock.now = now;
+        stage.game.clock = now;
         stage.bar.clockWindow.invalidate();
         return stage.picture(stage.bar.clockWindow);
     };
-    const Bitmap later = shows(75);
+    const Bitmap later = shows(75_s);
     EXPECT_EQ(later.size(), (Size{51, 15}));
-    EXPECT_NE(later, shows(76));
-    expectGolden(shows(3605), "controls_clock");
-    stage.game.gameRunning = false;
-    EXPECT_EQ(shows(75), Bitmap({51, 15})) << "a black box";
+    EXPECT_NE(later, shows(76_s));
+    expectGolden(shows(3605_s), "controls_clock");
+    stage.game.phase = Phase::idle;
+    EXPECT_EQ(shows(75_s), Bitmap({51, 15})) << "a black box";
 }
 
 TEST(ClockTest, APressSkipsToTheNextMoveOfTheFlights) {
     TopBarStage stage;
     const Point onClock = smallConsole.topBar.clock.topLeft() + Point{20, 7};
-    stage.bar.clock.now = 30;
+    stage.game.clock = 30_s;
     stage.bar.clock.sweepIndex = 70;
     stage.script.click(onClock).then([&] {
-        EXPECT_EQ(stage.bar.clock.now, 45);
+        EXPECT_EQ(stage.game.clock, 45_s);
         EXPECT_EQ(stage.bar.clock.sweepIndex, sweepStraightUp);
         EXPECT_EQ(stage.backend.cursor(), &stage.hand);
-        stage.bar.clock.now = 44;
+        stage.game.clock = 44_s;
     });
-    stage.script.doubleClick(onClock).then([&] { EXPECT_EQ(stage.bar.clock.now, 60); });
+    stage.script.doubleClick(onClock).then([&] { EXPECT_EQ(stage.game.clock, 60_s); });
     stage.script.click(onClock, MouseButton::right).then([&] {
-        EXPECT_EQ(stage.bar.clock.now, 60);
-        stage.game.gameRunning = false;
+        EXPECT_EQ(stage.game.clock, 60_s);
+        stage.game.phase = Phase::idle;
     });
     stage.script.click(onClock).moveTo(onClock + Point{1, 0}).then([&] {
-        EXPECT_EQ(stage.bar.clock.now, 60);
+        EXPECT_EQ(stage.game.clock, 60_s);
         EXPECT_EQ(stage.backend.cursor(), &stage.arrow);
     });
     stage.play();
@@ -71,7 +71,7 @@ TEST(ClockTest, APressSkipsToTheNextMoveOfTheFlights) {
 
 TEST(ClockTest, IsPaintedAnewEveryFiveSecondsAndTheScopeWithEveryStep) {
     TopBarStage stage;
-    stage.bar.clock.now = 8;
+    stage.game.clock = 8_s;
     stage.bar.clock.lastClockTick = stage.backend.now();
     const Bitmap atEight = stage.picture(stage.bar.clockWindow);
     const Bitmap scope = stage.picture(stage.bar.scopeWindow);
@@ -83,26 +83,26 @@ TEST(ClockTest, IsPaintedAnewEveryFiveSecondsAndTheScopeWithEveryStep) {
     EXPECT_EQ(next, stage.backend.now() + 81) << "when the scope moves again";
     EXPECT_NE(stage.picture(stage.bar.scopeWindow), scope);
     tickAfter(320);
-    EXPECT_EQ(stage.bar.clock.now, 9);
+    EXPECT_EQ(stage.game.clock, 9_s);
     EXPECT_EQ(stage.picture(stage.bar.clockWindow), atEight);
     tickAfter(60'000);
-    EXPECT_EQ(stage.bar.clock.now, 10) << "a late tick makes up for nothing";
+    EXPECT_EQ(stage.game.clock, 10_s) << "a late tick makes up for nothing";
     EXPECT_NE(stage.picture(stage.bar.clockWindow), atEight);
     stage.bar.clock.sweepIndex = 119;
     tickAfter(81);
     EXPECT_EQ(stage.bar.clock.sweepIndex, 0) << "once around the border";
-    stage.game.gameRunning = false;
+    stage.game.phase = Phase::idle;
     EXPECT_EQ(tickAfter(1000), std::nullopt);
 }
 
 TEST(SmallScopeTest, ShowsADotForEachOfTheFirst32FlightsInTheAir) {
     TopBarStage stage;
     for (int i = 0; i < 35; ++i) {
-        stage.fly().plan[0].setCell({i, 24});
+        stage.fly().plan[0].cell = {i, 24};
     }
-    stage.game.flight(0).groundState = GroundState::waiting;
-    stage.game.flight(2).selected = true;
-    stage.game.flight(34).plan[0].setCell({48, 48});
+    stage.game.flight(FlightIndex{0}).groundState = GroundState::waiting;
+    stage.game.flight(FlightIndex{2}).selected = true;
+    stage.game.flight(FlightIndex{34}).plan[0].cell = {48, 48};
     ScopeUpdateBlips(stage.bar);
     ASSERT_EQ(stage.bar.blips.size(), 32U);
     EXPECT_EQ(stage.bar.blips[0], (Blip{{4 + 24 / 49, 4 + 24 * 24 / 49}, false}));
@@ -111,7 +111,7 @@ TEST(SmallScopeTest, ShowsADotForEachOfTheFirst32FlightsInTheAir) {
         << "the 33rd and later are left out";
     ClockReset(stage.bar);
     EXPECT_TRUE(stage.bar.blips.empty());
-    EXPECT_EQ(stage.bar.clock.now, 0);
+    EXPECT_EQ(stage.game.clock, 0_s);
 }
 
 TEST(SmallScopeTest, TheSweepRunsAroundTheBorderWithItsTrailBehind) {
@@ -129,7 +129,8 @@ TEST(SmallScopeTest, TheSweepRunsAroundTheBorderWithItsTrailBehind) {
 
 TEST(LampTest, TheLitLampFlashesInsideItsRing) {
     TopBarStage stage;
-    stage.bar.lamps = {.lit = LampLevel::yellow, .blinkOn = true, .lastBlink = stage.backend.now()};
+    stage.game.litLamp = LampLevel::yellow;
+    stage.bar.blink = {.isOn = true, .last = stage.backend.now()};
     LampsRepaint(stage.bar);
     EXPECT_EQ(stage.lamp(0), Colour::rgb(0, 80, 0));
     EXPECT_EQ(stage.lamp(1), Colour::rgb(255, 255, 0));
@@ -149,9 +150,9 @@ TEST(LampTest, TheLitLampFlashesInsideItsRing) {
     EXPECT_EQ(tickAfter(400), Colour::rgb(255, 255, 0));
     EXPECT_EQ(tickAfter(1), Colour::rgb(80, 80, 0));
     EXPECT_EQ(tickAfter(401), Colour::rgb(255, 255, 0));
-    stage.game.gameRunning = false;
+    stage.game.phase = Phase::idle;
     EXPECT_EQ(LampsTick(stage.bar), std::nullopt) << "without a game nothing flashes";
-    stage.game.gameRunning = true;
+    stage.game.phase = Phase::running;
     LampsReset(stage.bar);
     EXPECT_EQ(stage.lamp(1), Colour::rgb(80, 80, 0));
     EXPECT_EQ(LampsTick(stage.bar), std::nullopt);

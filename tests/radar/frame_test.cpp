@@ -14,7 +14,12 @@ namespace {
 constexpr Colour cloudWhite = Colour::rgb(200, 200, 210);
 
 Cloud cloudAt(Point position, int heading = 90) {
-    return {.appearAt = 10, .start = position, .position = position, .driftHeading = heading, .image = 3};
+    return {.appearAt = 10_s,
+            .start = position,
+            .position = position,
+            .size = cloudSize,
+            .driftHeading = heading,
+            .image = 3};
 }
 
 TEST(FrameTest, EveryHeadingAndStateOfAFlightLooksAsItDid) {
@@ -42,10 +47,11 @@ TEST(FrameTest, ACrowdedPausedScopeLooksAsItDid) {
     RadarStage stage;
     stage.paused = true;
     Flight& steered = stage.flyAt({18, 22}, 90);
-    steered.planLength = 4;
-    for (int k = 0; k < steered.planLength; ++k) {
-        steered.plan[static_cast<std::size_t>(k)] = {18 + 3 * k, 22 + k, 4, 90, normalSpeed, 0, 0};
-    }
+    const auto along = [](int k) {
+        return PlanStep{
+            .cell = {18 + 3 * k, 22 + k}, .altitude = 4, .heading = 90, .directTarget = PointIndex{0}};
+    };
+    steered.plan = {along(0), along(1), along(2), along(3)};
     stage.flyAt({27, 24}, 315).alert = Alert::nearMiss;
     stage.flyAt({24, 21}, 180).selected = true;
     stage.game.clouds.push_back(cloudAt({285, 235}));
@@ -63,10 +69,9 @@ TEST(FrameTest, NothingIsDrawnOutsideTheScope) {
             Flight& flight = stage.flyAt(cell, 45);
             flight.alert = Alert::failure;
             flight.activatedAt = stage.clock;
-            flight.current().directTarget = 0;
-            flight.planLength = 2;
-            flight.plan[1] = flight.plan[0];
-            flight.plan[1].setCell({-5, 60});
+            flight.current().directTarget = PointIndex{0};
+            flight.plan = {flight.plan[0], flight.plan[0]};
+            flight.plan[1].cell = {-5, 60};
         }
         for (const Point corner : {Point{-10, 100}, {layout->scopeSize - 20, 300}, {0, 0}}) {
             stage.game.clouds.push_back(cloudAt(corner));
@@ -88,72 +93,64 @@ TEST(FrameTest, NothingIsDrawnOutsideTheScope) {
 
 TEST(FrameTest, ACloudShowsAfterItsTimeDriftsWithEveryFrameAndIsGoneForGood) {
     RadarStage stage;
-    stage.game.clouds.push_back(cloudAt({-40, 270}));
+    stage.game.clouds.push_back(cloudAt({-38, 270}));
     Cloud& cloud = stage.game.clouds.front();
+    const auto shown = [&] { return stage.count(cloudWhite, scopeSquare(stage.radar.layout)); };
     cloud.appearAt = stage.clock;
     stage.frame();
-    EXPECT_EQ(cloud.position.x, -40) << "its second has only begun";
-    ++stage.clock;
+    EXPECT_FALSE(cloud.isShown) << "its second has only begun";
+    stage.clock += 1_s;
     stage.frame();
-    EXPECT_EQ(cloud.position, (Point{-38, 270}));
+    EXPECT_EQ(cloud.position, (Point{-38, 270})) << "first it shows where it starts";
+    stage.frame();
+    EXPECT_EQ(cloud.position, (Point{-36, 270}));
     cloud.position.x = 200;
-    stage.options.stormTrak = 0;
+    EXPECT_GT((stage.frame(), shown()), 0);
+    stage.game.cloudCover = false;
     stage.frame();
-    EXPECT_EQ(stage.count(cloudWhite, scopeSquare(stage.radar.layout)), 0) << "switched off";
-    stage.options.stormTrak = 1;
+    EXPECT_EQ(cloud.position.x, 202) << "without a cover nothing drifts";
+    stage.game.cloudCover = true;
     cloud.position.x = stage.radar.layout.scopeSize - 2;
     stage.frame();
     EXPECT_TRUE(cloud.visible);
     stage.frame();
     EXPECT_FALSE(cloud.visible);
     cloud.position.x = 200;
-    stage.frame();
-    EXPECT_EQ(stage.count(cloudWhite, scopeSquare(stage.radar.layout)), 0);
+    EXPECT_EQ((stage.frame(), shown()), 0);
     EXPECT_EQ(cloud.position.x, 200);
 }
 
 TEST(FrameTest, ARouteGoesFromTheAircraftToItsLastQueuedStep) {
     RadarStage stage;
     Flight& flight = stage.flyAt({20, 20}, 90);
-    flight.planLength = 3;
     flight.planIndex = 1;
-    flight.plan = {PlanStep{18, 20}, PlanStep{20, 20}, PlanStep{24, 20}};
+    flight.plan = {{.cell = {18, 20}}, {.cell = {20, 20}}, {.cell = {24, 20}}};
     const auto routePixels = [&] {
         stage.frame();
         return stage.count(routeBlue, {0, 220, 210, 221}) + stage.count(routeBlue, {245, 220, 539, 221});
     };
     EXPECT_EQ(routePixels(), 0) << "on no direct course";
-    flight.current().directTarget = 2;
+    flight.current().directTarget = PointIndex{2};
     EXPECT_EQ(routePixels(), 264 - 245);
     stage.options.showRoutes = 0;
     EXPECT_EQ(routePixels(), 0);
 }
 
-TEST(FrameTest, GivesTheTickerATurnWithItselfAndEveryFlight) {
-    RadarStage stage;
-    stage.frame();
-    EXPECT_EQ(stage.scrollerTurns, 1);
-    stage.flyAt({20, 20});
-    stage.flyAt({20, 20});
-    stage.frame();
-    EXPECT_EQ(stage.scrollerTurns, 1 + 3);
-}
-
 TEST(BlinkTest, ANewFlightShowsOnEvenSecondsUntilItsFifteenth) {
     RadarStage stage;
-    stage.flyAt({20, 20}, 90).activatedAt = 304;
-    stage.flyAt({30, 20}, 90).activatedAt = 200;
+    stage.flyAt({20, 20}, 90).activatedAt = 304_s;
+    stage.flyAt({30, 20}, 90).activatedAt = 200_s;
     const Rect box = blinkBox({220, 220});
-    stage.clock = 303;
+    stage.clock = 303_s;
     stage.frame();
     const int shown = stage.count(flightGreen, box);
     const int other = stage.count(flightGreen, blinkBox({330, 220}));
     EXPECT_GT(shown, 20);
-    for (stage.clock = 304; stage.clock <= 322; ++stage.clock) {
+    for (stage.clock = 304_s; stage.clock <= 322_s; stage.clock += 1_s) {
         RadarTick(stage.radar);
-        const bool isFrame = stage.clock % 5 == 0;
-        const bool isHidden = stage.clock < 319 && stage.clock % 2 != 0 && !isFrame;
-        EXPECT_EQ(stage.count(flightGreen, box), isHidden ? 0 : shown) << stage.clock;
+        const bool isFrame = stage.clock % 5_s == 0_s;
+        const bool isHidden = stage.clock < 319_s && stage.clock % 2_s != 0_s && !isFrame;
+        EXPECT_EQ(stage.count(flightGreen, box), isHidden ? 0 : shown) << stage.clock.count();
         EXPECT_EQ(stage.count(flightGreen, blinkBox({330, 220})), other) << "it is long in the air";
     }
 }

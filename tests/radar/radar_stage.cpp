@@ -6,8 +6,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr Size cloudSize{40, 30};
-
 /// A plain white box with a transparent border.
 std::vector<Bitmap> plainClouds() {
     Bitmap cloud(cloudSize);
@@ -21,10 +19,13 @@ RadarCallbacks writingDown(RadarStage& stage) {
     const auto number = [](auto value) { return std::to_string(static_cast<int>(value)); };
     const auto write = [&stage](std::string line) { stage.log.push_back(std::move(line)); };
     return {
-        .clockNow = [&stage] { return stage.clock; },
         .isPaused = [&stage] { return stage.paused; },
-        .tickScroller = [&stage] { ++stage.scrollerTurns; },
-        .setLamp = [=](LampLevel level) { write("lamp " + number(level)); },
+        .makeFrame =
+            [=, &stage] {
+                SimulationEvents nobody;
+                makeFrame(stage.game, nobody);
+                write("frame");
+            },
         .updateBlips = [=] { write("blips"); },
         .reportScore = [=] { write("report"); },
         .resetTouch =
@@ -36,7 +37,7 @@ RadarCallbacks writingDown(RadarStage& stage) {
         .select =
             [=, &stage](const FlightHit& hit) {
                 stage.game.flight(hit.flight).selected = true;
-                write("select " + number(hit.flight) + " place " + number(hit.listPlace));
+                write("select " + number(hit.flight.number()) + " place " + number(hit.listPlace));
             },
         .showOrderMenu = [=](Point screen) { write("menu " + number(screen.x) + "," + number(screen.y)); }};
 }
@@ -50,8 +51,9 @@ RadarStage::RadarStage(const RadarLayout& layout)
             .callbacks = writingDown(*this),
             .layout = layout} {
     RadarCreate(radar, main, plainClouds());
-    game.vors.clear();
-    game.airport.routeColour = routeBlue;
+    use({});
+    game.layout = layout.windowWidth == largeWindow.width ? largeLayout : smallLayout;
+    game.cloudCover = true;
     options.radarSweep = 0;
     buildMap();
 }

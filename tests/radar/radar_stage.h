@@ -9,9 +9,9 @@
 namespace ventrel {
 
 inline constexpr Colour frameColour = consoleGrey;
-inline constexpr Colour routeBlue = Colour::rgb(40, 80, 220);
+inline constexpr Size cloudSize{40, 30};
 
-/// The log has "lamp 1", "blips", "report", "reset", "select 0 place 1", "menu 20,30".
+/// The log has "frame", "blips", "report", "reset", "select 0 place 1", "menu 20,30".
 struct RadarStage : ConsoleStage {
     /// A running game without flights or map points, its map shown in a frame of one colour. No sweep.
     explicit RadarStage(const RadarLayout& layout = smallRadarLayout);
@@ -19,13 +19,12 @@ struct RadarStage : ConsoleStage {
     Options options;
     bool paused = false;
     bool touched = false;
-    int scrollerTurns = 0;
     RadarWindow radar;
 
     /// An active flight, long in the air.
     Flight& flyAt(Cell cell, int heading = 0) {
         Flight& flight = fly(heading);
-        flight.current().setCell(cell);
+        flight.current().cell = cell;
         return flight;
     }
     /// The map again, with what the game and the options hold now.

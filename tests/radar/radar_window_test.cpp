@@ -12,7 +12,7 @@ namespace {
 /// The flight at a radar pixel of the small scope, or -1.
 int hitAt(const RadarStage& stage, Point p) {
     const auto hit = flightAt(stage.radar.layout, stage.game.flights, p);
-    return hit ? hit->flight : -1;
+    return hit ? hit->flight.number() : -1;
 }
 
 TEST(HitTest, AFlightIsHitInItsBoxOfEighteenPixels) {
@@ -34,12 +34,12 @@ TEST(HitTest, TheLowestNumberOfTheListedFlightsWins) {
     stage.flyAt({21, 20}).groundState = GroundState::waiting;
     stage.flyAt({20, 20});
     Flight& announced = stage.flyAt({30, 20});
-    announced.activatedAt = 0;
+    announced.activatedAt = 0_s;
     announced.announced = true;
-    stage.flyAt({40, 20}).activatedAt = 0;
+    stage.flyAt({40, 20}).activatedAt = 0_s;
     const auto hit = flightAt(stage.radar.layout, stage.game.flights, {229, 221});
     ASSERT_TRUE(hit);
-    EXPECT_EQ(hit->flight, 2) << "also where it is not drawn";
+    EXPECT_EQ(hit->flight, FlightIndex{2}) << "also where it is not drawn";
     EXPECT_EQ(hit->listPlace, 2) << "the one out of play has no place";
     EXPECT_EQ(hitAt(stage, {330, 220}), 4);
     EXPECT_EQ(hitAt(stage, {440, 220}), -1);
@@ -59,8 +59,8 @@ TEST(RadarClickTest, EitherButtonSelectsAndTheRightOneOpensTheMenu) {
     });
     stage.script.click(beside, MouseButton::right).click(beside).then([&] {
         EXPECT_EQ(stage.take(), (Lines{"reset", "reset"}));
-        stage.game.flight(0).selected = false;
-        stage.game.gameRunning = false;
+        stage.game.flight(FlightIndex{0}).selected = false;
+        stage.game.phase = Phase::idle;
     });
     stage.script.click(onFlight).click(onFlight, MouseButton::right).then([&] {
         EXPECT_EQ(stage.take(), Lines{});
@@ -81,13 +81,13 @@ TEST(RadarTickTest, FramesAndDotsAreDueEveryFiveSecondsAndTheScoreEveryQuarterOf
         stage.main.update();
         return stage.take();
     };
-    EXPECT_EQ(tickAt(899), Lines{});
-    EXPECT_EQ(tickAt(900), (Lines{"blips", "report", "lamp 3"}));
-    EXPECT_EQ(tickAt(900), Lines{}) << "once for each new value";
-    EXPECT_EQ(tickAt(905), (Lines{"blips", "lamp 3"}));
-    EXPECT_EQ(tickAt(1800), (Lines{"blips", "report", "lamp 3"}));
+    EXPECT_EQ(tickAt(899_s), Lines{});
+    EXPECT_EQ(tickAt(900_s), (Lines{"blips", "report", "frame"}));
+    EXPECT_EQ(tickAt(900_s), Lines{}) << "once for each new value";
+    EXPECT_EQ(tickAt(905_s), (Lines{"blips", "frame"}));
+    EXPECT_EQ(tickAt(1800_s), (Lines{"blips", "report", "frame"}));
     RadarHide(stage.radar);
-    EXPECT_EQ(tickAt(2700), Lines{}) << "a hidden radar rests";
+    EXPECT_EQ(tickAt(2700_s), Lines{}) << "a hidden radar rests";
 }
 
 TEST(CollisionTest, RingsSpreadOverTheScopeForEightSeconds) {
@@ -95,9 +95,9 @@ TEST(CollisionTest, RingsSpreadOverTheScopeForEightSeconds) {
     RadarStage stage;
     stage.flyAt({24, 24});
     stage.frame();
-    stage.game.gameRunning = false;
+    stage.game.phase = Phase::idle;
     const Millis start = stage.backend.now();
-    EXPECT_TRUE(RadarCollisionRings(stage.radar, 0));
+    EXPECT_TRUE(RadarCollisionRings(stage.radar, FlightIndex{0}));
     EXPECT_EQ(stage.backend.now() - start, 8000);
     const int row = 264 - 4; // through the rings' common middle
     const Bitmap shown = stage.shown();

@@ -20,7 +20,7 @@ struct SweepStage : RadarStage {
         radar.sweep.end = {200, 0}; // in sight
         radar.sweep.isOutward = true;
         desktop.setIdle([this, start = backend.now(), first = clock] {
-            clock = first + static_cast<ClockSeconds>((backend.now() - start) / clockSecond);
+            clock = first + ClockSeconds{static_cast<int>((backend.now() - start) / clockSecond)};
             return RadarTick(radar);
         });
     }
@@ -109,7 +109,7 @@ TEST(SweepTest, AFrameNeverLosesTheLineAlsoDuringAPause) {
 TEST(SweepTest, SendsOnlyItsOwnPixels) {
     SweepStage stage(largeRadarLayout);
     const int size = stage.radar.layout.scopeSize;
-    stage.clock = 101; // no frame for the next 400 ms and more
+    stage.clock = 101_s; // no frame for the next 400 ms and more
     stage.frame();
     stage.script.wait(20); // the first picture is sent whole
     for (int i = 0; i < 100; ++i) {

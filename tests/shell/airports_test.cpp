@@ -49,7 +49,7 @@ TEST(Airports, AGameStartsInThePlayersOwn) {
     fs::create_directory(stage.playersAirports());
     writeText(stage.playersAirports() / "a.apt", airportNamed("Aaa"));
     stage.startNewGame();
-    stage.look([&] { EXPECT_EQ(stage.game().airport.name, "Aaa"); });
+    stage.look([&] { EXPECT_EQ(stage.game().airspace->name, "Aaa"); });
     stage.play();
 }
 

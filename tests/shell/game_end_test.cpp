@@ -12,12 +12,14 @@ protected:
     GameStage stage;
 
     /// The airport and the exit that come first in the table.
-    const Vor& airport() { return *std::ranges::find(stage.game().vors, true, &Vor::isAirport); }
-    VorIndex indexOf(const Vor& vor) { return static_cast<VorIndex>(&vor - stage.game().vors.data()); }
+    const Vor& airport() { return *std::ranges::find(stage.game().vors(), true, &Vor::isAirport); }
+    PointIndex indexOf(const Vor& vor) {
+        return PointIndex{static_cast<int>(&vor - stage.game().vors().data())};
+    }
 
     /// The line that the ticker shows or will show.
     bool isOnTicker(std::string_view part) {
-        return std::ranges::any_of(stage.shell().scroller.queue.slots, [part](const MessageSlot& slot) {
+        return std::ranges::any_of(stage.game().messages.slots, [part](const MessageSlot& slot) {
             return slot.inUse && slot.text.find(part) != std::string::npos;
         });
     }
@@ -25,15 +27,15 @@ protected:
     /// Two flights at 5K, one in (10, 10), the other there; on to their first move.
     void meet(Cell other) {
         QuietShift shift(stage);
-        shift.enter(0, {.x = 10, .y = 10, .altitude = 5, .heading = 90});
-        shift.enter(1, {.x = 30, .y = 30, .altitude = 5, .heading = 90});
+        shift.enter(FlightIndex{0}, {.cell = {10, 10}, .altitude = 5, .heading = 90});
+        shift.enter(FlightIndex{1}, {.cell = {30, 30}, .altitude = 5, .heading = 90});
         stage.skipTo(QuietShift::entryTime);
         stage.look([this, other] {
-            stage.game().flight(0).plan[0].altitude = 5;
-            stage.game().flight(1).plan[0] = {.x = other.x, .y = other.y, .altitude = 5, .heading = 90};
+            stage.game().flight(FlightIndex{0}).plan[0].altitude = 5;
+            stage.game().flight(FlightIndex{1}).plan[0] = {.cell = other, .altitude = 5, .heading = 90};
         });
         if (selectsFirst) {
-            stage.selectByStrip(0);
+            stage.selectByStrip(FlightIndex{0});
         }
         stage.skip();
         stage.skip();
@@ -42,8 +44,8 @@ protected:
 
     void finishAllBut(FlightIndex first) {
         stage.look([this, first] {
-            for (FlightIndex i = first; i < stage.game().planeCount(); ++i) {
-                stage.game().flight(i).inPlay = false;
+            for (const FlightIndex i : stage.game().flightPlaces()) {
+                stage.game().flight(i).inPlay = stage.game().flight(i).inPlay && i < first;
             }
         });
     }
@@ -54,22 +56,22 @@ TEST_F(GameEndTest, ALandingIsAnnouncedScoredAndTakenOffTheStrips) {
     stage.todo([&](Script&) {
         const Vor field = airport();
         const Cell before = stepCell(field.cell, turned(field.runwayHeading, 180));
-        shift.enter(0, {.x = before.x, .y = before.y, .altitude = 1, .heading = field.runwayHeading});
-        shift.enter(1, {.x = 40, .y = 40, .altitude = 9, .heading = 0}); // somebody stays
+        shift.enter(FlightIndex{0}, {.cell = before, .altitude = 1, .heading = field.runwayHeading});
+        shift.enter(FlightIndex{1}, {.cell = {40, 40}, .altitude = 9, .heading = 0}); // somebody stays
         stage.look([this, field] {
-            stage.game().flight(0).destination = indexOf(airport());
-            stage.game().flight(0).destinationKind = DestinationKind::airport;
+            stage.game().flight(FlightIndex{0}).destination = indexOf(airport());
+            stage.game().flight(FlightIndex{0}).destinationKind = DestinationKind::airport;
         });
-        stage.skipTo(90);
+        stage.skipTo(90_s);
         stage.look([this, field] {
             EXPECT_TRUE(isOnTicker("F0 is landing at " + field.ident));
-            EXPECT_EQ(stage.shell().topBar.lamps.lit, LampLevel::green);
+            EXPECT_EQ(stage.game().litLamp, LampLevel::green);
         });
-        stage.skipTo(120);
+        stage.skipTo(120_s);
         stage.look([this] {
             EXPECT_EQ(stage.game().score, 150);
-            EXPECT_FALSE(stage.game().flight(0).inPlay);
-            EXPECT_EQ(StripsFlightSlot(stage.shell().strips, 0), noSlot);
+            EXPECT_FALSE(stage.game().flight(FlightIndex{0}).inPlay);
+            EXPECT_EQ(StripsFlightSlot(stage.shell().strips, FlightIndex{0}), noSlot);
         });
     });
     stage.play();
@@ -77,11 +79,11 @@ TEST_F(GameEndTest, ALandingIsAnnouncedScoredAndTakenOffTheStrips) {
 
 TEST_F(GameEndTest, ALostFlightLightsTheYellowLampOnce) {
     QuietShift shift(stage);
-    shift.enter(0, {.x = 1, .y = 23, .altitude = 5, .heading = 315, .speed = fastSpeed});
-    shift.enter(1, {.x = 1, .y = 21, .altitude = 6, .heading = 315, .speed = fastSpeed});
-    stage.skipTo(360);
+    shift.enter(FlightIndex{0}, {.cell = {1, 23}, .altitude = 5, .heading = 315, .speed = Speed::fast});
+    shift.enter(FlightIndex{1}, {.cell = {1, 21}, .altitude = 6, .heading = 315, .speed = Speed::fast});
+    stage.skipTo(360_s);
     stage.look([this] {
-        EXPECT_FALSE(stage.game().flight(0).inPlay);
+        EXPECT_FALSE(stage.game().flight(FlightIndex{0}).inPlay);
         EXPECT_EQ(stage.game().score, 0);
         EXPECT_GE(stage.sounds.count("snd\\yellow.snd"), 1);
     });
@@ -92,7 +94,7 @@ TEST_F(GameEndTest, ANearMissLightsTheRedLampAndFlashesIt) {
     meet({11, 11});
     stage.look([this] {
         EXPECT_TRUE(isOnTicker("F0, Emergency! Near miss with F1"));
-        EXPECT_EQ(stage.shell().topBar.lamps.lit, LampLevel::red);
+        EXPECT_EQ(stage.game().litLamp, LampLevel::red);
         EXPECT_EQ(stage.sounds.count("snd\\red.snd"), 1);
     });
     const auto lamp = [this] { return stage.desktop().picture().at(390, 30); };
@@ -105,15 +107,15 @@ TEST_F(GameEndTest, ANearMissLightsTheRedLampAndFlashesIt) {
 
 TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
     QuietShift shift(stage);
-    stage.skipTo(60);
-    finishAllBut(0);
+    stage.skipTo(60_s);
+    finishAllBut(FlightIndex{0});
     stage.look([this] {
         stage.game().score = 500;
         stage.game().bonus = 75;
     });
     stage.skip();
     stage.look([this] {
-        EXPECT_FALSE(stage.game().gameRunning);
+        EXPECT_FALSE(stage.game().isRunning());
         EXPECT_TRUE(isOnTicker("Game Over.   Score: 575 out of a possible"));
         EXPECT_TRUE(stage.shell().radar.window.isVisible());
     });
@@ -122,8 +124,8 @@ TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
     stage.wait(15000);
     stage.look([this] {
         EXPECT_FALSE(stage.shell().radar.window.isVisible());
-        EXPECT_EQ(stage.shell().topBar.clock.now, 0);
-        EXPECT_EQ(stage.shell().panel.state.flight, noFlight);
+        EXPECT_EQ(stage.shell().game.clock, 0_s);
+        EXPECT_EQ(stage.shell().panel.state.flight, std::nullopt);
     });
     stage.startNewGame(); // and the next game begins as the first one did
     stage.play();
@@ -131,23 +133,23 @@ TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
 
 TEST_F(GameEndTest, ANewGameDuringTheLastLineIsNotEndedByIt) {
     QuietShift shift(stage);
-    stage.skipTo(60);
-    finishAllBut(0);
+    stage.skipTo(60_s);
+    finishAllBut(FlightIndex{0});
     stage.skip();
     stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").key(Key::escape).wait(1); });
     stage.look([this] { EXPECT_TRUE(isOnTicker("Game Over.")) << "thinking of a new game ends nothing"; });
     stage.startNewGame();
-    stage.look([this] { EXPECT_LE(stage.shell().topBar.clock.now, 1) << "it begins anew"; });
+    stage.look([this] { EXPECT_LE(stage.shell().game.clock, 1_s) << "it begins anew"; });
     stage.wait(60000);
-    stage.look([this] { EXPECT_TRUE(stage.game().gameRunning); });
+    stage.look([this] { EXPECT_TRUE(stage.game().isRunning()); });
     stage.play();
 }
 
 TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
     meet({10, 10});
     stage.look([this] {
-        EXPECT_FALSE(stage.game().gameRunning);
-        EXPECT_EQ(stage.game().collisionFlights, (std::array<FlightIndex, 2>{1, 0}));
+        EXPECT_FALSE(stage.game().isRunning());
+        EXPECT_EQ(stage.game().collisionFlights, (std::array{FlightIndex{1}, FlightIndex{0}}));
         EXPECT_EQ(stage.sounds.count("snd\\collide.snd"), 1);
     });
     stage.wait(7000);
@@ -188,9 +190,9 @@ TEST_F(GameEndTest, AGameThatIsBegunWhileRingsSpreadStartsCleanAndGoesOn) {
     });
     stage.wait(9000);
     stage.look([this] {
-        EXPECT_TRUE(stage.game().gameRunning);
+        EXPECT_TRUE(stage.game().isRunning());
         EXPECT_EQ(stage.sounds.count("mci\\faa.mci"), 0);
-        EXPECT_EQ(stage.shell().panel.state.flight, noFlight);
+        EXPECT_EQ(stage.shell().panel.state.flight, std::nullopt);
         EXPECT_FALSE(stage.shell().exec.window.isEnabled());
     });
     stage.play();

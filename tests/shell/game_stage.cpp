@@ -52,9 +52,9 @@ GameStage::GameStage(int windowWidth, std::string_view profileText,
 }
 
 void GameStage::startNewGame(std::uint32_t seed) {
-    look([this, seed] { shell().random.state = seed; });
+    look([this, seed] { game().random.state = seed; });
     todo([](Script& script) { script.key(Key::f, withAlt).type("n").key(Key::enter).wait(aMoment); });
-    look([this] { ASSERT_TRUE(game().gameRunning) << "no game was started"; });
+    look([this] { ASSERT_TRUE(game().isRunning()) << "no game was started"; });
 }
 
 void GameStage::skip() {
@@ -63,7 +63,7 @@ void GameStage::skip() {
 
 void GameStage::skipTo(ClockSeconds clock) {
     todo([this, clock](Script& script) {
-        if (shell().topBar.clock.now < clock && game().gameRunning) {
+        if (shell().game.clock < clock && game().isRunning()) {
             script.key(Key::space).wait(aMoment);
             skipTo(clock);
         }
@@ -75,7 +75,7 @@ void GameStage::selectByStrip(FlightIndex flight) {
         const StripList& list = shell().strips.list;
         const auto& flights = game().flights;
         const auto place =
-            static_cast<int>(std::count_if(flights.begin(), flights.begin() + flight, isListed));
+            static_cast<int>(std::count_if(flights.begin(), flights.begin() + flight.number(), isListed));
         const int width = shell().windowSize().width;
         const Point up{width - 170, 72};
         const Point down{width - 170, width == 800 ? 440 : 608};
@@ -88,7 +88,7 @@ void GameStage::selectByStrip(FlightIndex flight) {
     });
     todo([this, flight](Script& script) {
         const int slot = StripsFlightSlot(shell().strips, flight);
-        ASSERT_NE(slot, noSlot) << "flight " << flight << " is on no strip";
+        ASSERT_NE(slot, noSlot) << "flight " << flight.number() << " is on no strip";
         const Rect button = stripButtonRect(shell(), slot);
         script.click({button.left + 3, button.top + 3}).wait(1);
     });
@@ -96,27 +96,28 @@ void GameStage::selectByStrip(FlightIndex flight) {
 
 void GameStage::sendByPanel(const PlanStep& order) {
     todo([this, order](Script& script) {
-        const Flight& flight = game().flight(shell().panel.state.flight);
+        const Flight& flight = game().flight(shell().panel.state.flight.value());
         if (!flight.isAirborne()) {
             script.key(Key::enter);
             return;
         }
         const PlanStep& pending = shell().panel.state.pending;
-        if (order.directTarget == noVor) {
+        if (!order.directTarget.isOn()) {
             script.click(onPanel(dialPoint(order.heading)));
         } else {
-            const int start = pending.directTarget == noVor ? 0 : pending.directTarget;
-            if (pending.directTarget == noVor) {
+            const int points = game().vorCount();
+            const int start = std::max(directTargetNumber(pending.directTarget, points), 0);
+            if (!pending.directTarget.isOn()) {
                 script.click(onPanel({10, 80})); // the direct button
             }
-            const int ring = game().vorCount() + 1;
-            for (int i = start; i != order.directTarget; i = (i + 1) % ring) {
+            const int wanted = directTargetNumber(order.directTarget, points);
+            for (int i = start; i != wanted; i = (i + 1) % (points + 1)) {
                 script.click(onPanel({84, 87})); // the arrow down
             }
         }
         script.click(onPanel({130, (10 - order.altitude) * 9 + 4}));
         if (!flight.heavy) {
-            script.click(onPanel({97, 35 - 20 * order.speed}));
+            script.click(onPanel({97, 35 - 20 * static_cast<int>(order.speed)}));
         }
         script.key(Key::enter);
     });
@@ -157,7 +158,7 @@ Point GameStage::onPanel(Point panel) {
 }
 
 Point GameStage::onFlight(FlightIndex flight) {
-    return onRadar(game().flight(flight).current().cell());
+    return onRadar(game().flight(flight).current().cell);
 }
 
 bool GameStage::isDialogOpen() {

@@ -2,7 +2,7 @@
 //
 //     GameStage stage;
 //     stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").key(Key::enter); });
-//     stage.look([&] { EXPECT_TRUE(stage.shell().game.gameRunning); });
+//     stage.look([&] { EXPECT_TRUE(stage.shell().game.isRunning()); });
 //     stage.play();
 
 #pragma once
@@ -31,7 +31,7 @@ public:
     void clickControl() override { heard.emplace_back("click"); }
     void clickSet() override { heard.emplace_back("set"); }
     void clickSelect() override { heard.emplace_back("select"); }
-    void speak(const RadioCall& call) override { heard.push_back("radio " + std::string(call.phrase)); }
+    void speak(const SpokenCall& call) override { heard.push_back("radio " + std::string(call.phrase)); }
     void stopEffects() override { heard.emplace_back("stop effects"); }
     void playMusic(std::string_view name, bool repeat) override {
         heard.push_back(std::string(name) + (repeat ? " again and again" : ""));
@@ -54,7 +54,7 @@ public:
     HeardSounds sounds;
 
     Shell& shell() { return program_->shell(); }
-    GameState& game() { return shell().game; }
+    Game& game() { return shell().game; }
     Desktop& desktop() { return program_->desktop(); }
     Program& program() { return *program_; }
     const std::filesystem::path& profile() const { return profile_; }

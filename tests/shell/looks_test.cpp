@@ -30,7 +30,7 @@ void makeRemarkable(GameStage& stage) {
     const auto heavy = std::ranges::find_if(
         stage.game().flights, [](const Flight& flight) { return flight.isOnScope() && flight.heavy; });
     ASSERT_NE(heavy, stage.game().flights.end());
-    stage.selectByStrip(static_cast<FlightIndex>(heavy - stage.game().flights.begin()));
+    stage.selectByStrip(FlightIndex{static_cast<int>(heavy - stage.game().flights.begin())});
 }
 
 void expectLooks(int width, const std::string& name) {
@@ -39,7 +39,7 @@ void expectLooks(int width, const std::string& name) {
     GameStage stage(width, "[Options]\nShowGrid=1\nAirportSelect=2\n[Game]\nName=mary\nSkill=3\n",
                     folder.path());
     stage.startNewGame(3);
-    stage.skipTo(600);
+    stage.skipTo(600_s);
     stage.todo([&](Script&) { makeRemarkable(stage); });
     // Away from a flight's first seconds, in which it blinks, and from the ticker.
     stage.look([&] {

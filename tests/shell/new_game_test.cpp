@@ -40,7 +40,7 @@ TEST(NewGame, TypedNameIsWrittenProperlyAndKept) {
     openNewGame(stage);
     stage.todo([](Script& script) { script.type("o\xC9 MacNAMARA").key(Key::enter).wait(1); });
     stage.look([&] {
-        EXPECT_TRUE(stage.game().gameRunning);
+        EXPECT_TRUE(stage.game().isRunning());
         EXPECT_EQ(stage.game().controllerName, "O\xE9 macnamara");
         EXPECT_EQ(ProfileFile(stage.profile()).text("Game", "Name", ""), "O\xE9 macnamara");
     });
@@ -67,7 +67,7 @@ TEST(NewGame, WithoutANameTheDialogStaysOpen) {
     press(stage, Key::enter); // the box
     stage.look([&] {
         EXPECT_TRUE(control(stage, new_game::name).exists());
-        EXPECT_FALSE(stage.game().gameRunning);
+        EXPECT_FALSE(stage.game().isRunning());
     });
     press(stage, Key::escape);
     stage.look([&] { EXPECT_FALSE(stage.isDialogOpen()); });
@@ -142,7 +142,7 @@ TEST(NewGame, AirportsAreChosenFromTheListByDoubleClick) {
     click(stage, okId);
     stage.look([&] {
         EXPECT_EQ(stage.shell().options.airportSelect, 2);
-        EXPECT_EQ(stage.game().airport.name, "New York");
+        EXPECT_EQ(stage.game().airspace->name, "New York");
     });
     stage.play();
 }
@@ -153,7 +153,7 @@ TEST(NewGame, AnAirportThatIsNoMoreAsksForAnother) {
     press(stage, Key::enter);
     stage.look([&] { EXPECT_EQ(stage.backend.beeps().size(), 1U); });
     press(stage, Key::enter);
-    stage.look([&] { EXPECT_FALSE(stage.game().gameRunning); });
+    stage.look([&] { EXPECT_FALSE(stage.game().isRunning()); });
     press(stage, Key::escape);
     stage.play();
 }
@@ -163,12 +163,12 @@ TEST(NewGame, CancelAfterGivingUpAGameLeavesNone) {
     stage.startNewGame();
     openNewGame(stage);
     press(stage, Key::escape); // Cancel: the game goes on
-    stage.look([&] { EXPECT_TRUE(stage.game().gameRunning); });
+    stage.look([&] { EXPECT_TRUE(stage.game().isRunning()); });
     openNewGame(stage);
     press(stage, Key::enter);
     press(stage, Key::escape);
     stage.look([&] {
-        EXPECT_FALSE(stage.game().gameRunning);
+        EXPECT_FALSE(stage.game().isRunning());
         EXPECT_FALSE(stage.shell().radar.window.isVisible());
         EXPECT_EQ(stage.sounds.heard.back(), "mci\\idle.mci");
     });

@@ -13,16 +13,17 @@ protected:
     /// Three flights well apart, in the air at 60.
     void begin() {
         QuietShift shift(stage);
-        shift.enter(0, {.x = 10, .y = 20, .altitude = 5, .heading = 90});
-        shift.enter(1, {.x = 30, .y = 12, .altitude = 7, .heading = 180});
-        shift.enter(2, {.x = 20, .y = 35, .altitude = 9, .heading = 0});
+        shift.enter(FlightIndex{0}, {.cell = {10, 20}, .altitude = 5, .heading = 90});
+        shift.enter(FlightIndex{1}, {.cell = {30, 12}, .altitude = 7, .heading = 180});
+        shift.enter(FlightIndex{2}, {.cell = {20, 35}, .altitude = 9, .heading = 0});
         stage.skipTo(QuietShift::entryTime);
     }
 
     void expectSelected(FlightIndex flight, const char* how) {
         stage.look([this, flight, how] {
-            for (FlightIndex i = 0; i < stage.game().planeCount(); ++i) {
-                EXPECT_EQ(stage.game().flight(i).selected, i == flight) << "flight " << i << ", " << how;
+            for (const FlightIndex i : stage.game().flightPlaces()) {
+                EXPECT_EQ(stage.game().flight(i).selected, i == flight)
+                    << "flight " << i.number() << ", " << how;
             }
             EXPECT_EQ(stage.shell().panel.state.flight, flight) << how;
             EXPECT_EQ(stage.shell().pressedStrip, StripsFlightSlot(stage.shell().strips, flight)) << how;
@@ -50,45 +51,44 @@ TEST_F(OrdersTest, RadarStripsAndKeysChooseFlights) {
             << "with none chosen the first strip comes first";
     });
     stage.look([this] { stage.sounds.heard.clear(); });
-    stage.todo([this](Script& script) { script.click(stage.onFlight(1)).wait(1); });
-    expectSelected(1, "by the radar");
-    stage.todo([this](Script& script) { script.click(stage.onFlight(1)).wait(1); });
+    stage.todo([this](Script& script) { script.click(stage.onFlight(FlightIndex{1})).wait(1); });
+    expectSelected(FlightIndex{1}, "by the radar");
+    stage.todo([this](Script& script) { script.click(stage.onFlight(FlightIndex{1})).wait(1); });
     stage.look([this] { EXPECT_EQ(stage.sounds.count("select"), 1) << "it was selected already"; });
-    stage.selectByStrip(2);
-    expectSelected(2, "by its strip");
+    stage.selectByStrip(FlightIndex{2});
+    expectSelected(FlightIndex{2}, "by its strip");
     stage.todo([this](Script& script) {
-        const int slot = StripsFlightSlot(stage.shell().strips, 0);
+        const int slot = StripsFlightSlot(stage.shell().strips, FlightIndex{0});
         const int from = stage.shell().pressedStrip;
         for (int i = from; i != slot; i += slot > from ? 1 : -1) {
             script.key(slot > from ? Key::down : Key::up);
         }
         script.wait(1);
     });
-    expectSelected(0, "by keys");
+    expectSelected(FlightIndex{0}, "by keys");
     stage.todo([this](Script& script) { script.click(stage.onRadar({40, 40})).wait(1); });
-    expectSelected(0, "a click on nothing");
+    expectSelected(FlightIndex{0}, "a click on nothing");
     stage.play();
 }
 
 TEST_F(OrdersTest, ThePanelSendsEveryKindOfOrder) {
     begin();
-    stage.selectByStrip(0);
-    stage.sendByPanel({.altitude = 3, .heading = 180, .speed = fastSpeed});
+    stage.selectByStrip(FlightIndex{0});
+    stage.sendByPanel({.altitude = 3, .heading = 180, .speed = Speed::fast});
     stage.look([this] {
-        EXPECT_EQ(flight(0).lastStep().heading, 180);
-        EXPECT_EQ(flight(0).lastStep().altitude, 3);
-        EXPECT_EQ(flight(0).current().speed, fastSpeed);
+        EXPECT_EQ(flight(FlightIndex{0}).lastStep().heading, 180);
+        EXPECT_EQ(flight(FlightIndex{0}).lastStep().altitude, 3);
+        EXPECT_EQ(flight(FlightIndex{0}).current().speed, Speed::fast);
     });
-    stage.sendByPanel({.altitude = 10, .directTarget = 3});
+    stage.sendByPanel({.altitude = 10, .directTarget = PointIndex{3}});
     stage.look([this] {
-        EXPECT_EQ(flight(0).current().directTarget, 3);
-        EXPECT_EQ(flight(0).lastStep().cell(), stage.game().vor(3).cell);
+        EXPECT_EQ(flight(FlightIndex{0}).current().directTarget, PointIndex{3});
+        EXPECT_EQ(flight(FlightIndex{0}).lastStep().cell, stage.game().vor(PointIndex{3}).cell);
     });
-    const auto hold = [this] { return stage.game().vorCount(); };
-    stage.todo([this, hold](Script&) { stage.sendByPanel({.altitude = 4, .directTarget = hold()}); });
+    stage.sendByPanel({.altitude = 4, .directTarget = DirectTarget::holdPlace()});
     stage.look([this] {
-        EXPECT_EQ(flight(0).planLength, 9);
-        EXPECT_EQ(flight(0).current().hold, 1);
+        EXPECT_EQ(flight(FlightIndex{0}).plan.length(), 9);
+        EXPECT_TRUE(flight(FlightIndex{0}).current().hold);
         EXPECT_EQ(stage.sounds.count("set"), 3);
     });
     stage.play();
@@ -96,16 +96,16 @@ TEST_F(OrdersTest, ThePanelSendsEveryKindOfOrder) {
 
 TEST_F(OrdersTest, KeysComposeAnOrderAndEnterSendsIt) {
     begin();
-    stage.selectByStrip(1);
+    stage.selectByStrip(FlightIndex{1});
     press(Key::keypad3);
     press(Key::keypadMinus, 2);
     press(Key::f);
-    stage.look([this] { EXPECT_EQ(flight(1).planLength, 1) << "nothing is sent yet"; });
+    stage.look([this] { EXPECT_EQ(flight(FlightIndex{1}).plan.length(), 1) << "nothing is sent yet"; });
     press(Key::keypadEnter);
     stage.look([this] {
-        EXPECT_EQ(flight(1).lastStep().heading, 135);
-        EXPECT_EQ(flight(1).lastStep().altitude, 9);
-        EXPECT_EQ(flight(1).current().speed, fastSpeed);
+        EXPECT_EQ(flight(FlightIndex{1}).lastStep().heading, 135);
+        EXPECT_EQ(flight(FlightIndex{1}).lastStep().altitude, 9);
+        EXPECT_EQ(flight(FlightIndex{1}).current().speed, Speed::fast);
     });
     // The same without a keypad: direct, two targets on, lower by one, slow.
     press(Key::k);
@@ -114,13 +114,13 @@ TEST_F(OrdersTest, KeysComposeAnOrderAndEnterSendsIt) {
     press(Key::s);
     press(Key::enter);
     stage.look([this] {
-        EXPECT_EQ(flight(1).current().directTarget, 2);
-        EXPECT_EQ(flight(1).current().speed, slowSpeed);
+        EXPECT_EQ(flight(FlightIndex{1}).current().directTarget, PointIndex{2});
+        EXPECT_EQ(flight(FlightIndex{1}).current().speed, Speed::slow);
         // At 45 degrees the order is turned back into a heading.
     });
     press(Key::o);
     press(Key::enter);
-    stage.look([this] { EXPECT_EQ(flight(1).lastStep().heading, 45); });
+    stage.look([this] { EXPECT_EQ(flight(FlightIndex{1}).lastStep().heading, 45); });
     stage.play();
 }
 
@@ -128,7 +128,7 @@ TEST_F(OrdersTest, TheRightButtonsMenuSendsAtOnce) {
     begin();
     const auto choose = [this](int submenu, int item) {
         stage.todo([this, submenu, item](Script& script) {
-            script.click(stage.onFlight(2), MouseButton::right).wait(1);
+            script.click(stage.onFlight(FlightIndex{2}), MouseButton::right).wait(1);
             for (int i = 0; i < submenu; ++i) {
                 script.key(Key::down);
             }
@@ -140,16 +140,16 @@ TEST_F(OrdersTest, TheRightButtonsMenuSendsAtOnce) {
         });
     };
     choose(1, 6); // heading 270
-    expectSelected(2, "by the right button");
-    stage.look([this] { EXPECT_EQ(flight(2).lastStep().heading, 270); });
+    expectSelected(FlightIndex{2}, "by the right button");
+    stage.look([this] { EXPECT_EQ(flight(FlightIndex{2}).lastStep().heading, 270); });
     choose(3, 2); // altitude 3K
-    stage.look([this] { EXPECT_EQ(flight(2).lastStep().altitude, 3); });
+    stage.look([this] { EXPECT_EQ(flight(FlightIndex{2}).lastStep().altitude, 3); });
     choose(4, 0); // fast
-    stage.look([this] { EXPECT_EQ(flight(2).current().speed, fastSpeed); });
+    stage.look([this] { EXPECT_EQ(flight(FlightIndex{2}).current().speed, Speed::fast); });
     choose(2, 2); // the second map point, after the hold
-    stage.look([this] { EXPECT_EQ(flight(2).current().directTarget, 1); });
+    stage.look([this] { EXPECT_EQ(flight(FlightIndex{2}).current().directTarget, PointIndex{1}); });
     choose(2, 0);
-    stage.look([this] { EXPECT_EQ(flight(2).current().hold, 1); });
+    stage.look([this] { EXPECT_EQ(flight(FlightIndex{2}).current().hold, 1); });
     stage.todo([this](Script& script) { script.click(stage.onRadar({40, 40}), MouseButton::right).wait(1); });
     stage.look([this] {
         EXPECT_EQ(stage.desktop().topLevels().size(), 1U) << "no menu where there is no flight";
@@ -163,14 +163,14 @@ TEST_F(OrdersTest, ExecIsGreyUntilAFlightIsChosenAndSendsByMouse) {
     const Point exec{1024 - 25, 768 - 80};
     stage.todo([exec](Script& script) { script.click(exec).wait(1); });
     stage.look([this] { EXPECT_EQ(stage.sounds.count("set"), 0); });
-    stage.selectByStrip(0);
+    stage.selectByStrip(FlightIndex{0});
     stage.todo([this, exec](Script& script) {
         script.click(stage.onPanel({46, 20})).click(exec).wait(1);
         script.key(Key::keypad1).key(Key::enter).wait(1); // the keyboard is back on the console
     });
     stage.look([this] {
         EXPECT_EQ(stage.sounds.count("set"), 2);
-        EXPECT_EQ(flight(0).lastStep().heading, 225);
+        EXPECT_EQ(flight(FlightIndex{0}).lastStep().heading, 225);
     });
     stage.play();
 }
@@ -178,22 +178,21 @@ TEST_F(OrdersTest, ExecIsGreyUntilAFlightIsChosenAndSendsByMouse) {
 TEST_F(OrdersTest, APressOnThePanelHoldsBackAutomaticSelection) {
     stage.look([this] { stage.shell().options.autoSelect = 1; });
     QuietShift shift(stage);
-    shift.enter(0, {.x = 10, .y = 20, .altitude = 5, .heading = 90});
+    shift.enter(FlightIndex{0}, {.cell = {10, 20}, .altitude = 5, .heading = 90});
     stage.skipTo(QuietShift::entryTime);
-    expectSelected(0, "by entering");
+    expectSelected(FlightIndex{0}, "by entering");
     stage.look([this] {
-        Flight& second = stage.game().flight(1);
-        second.scheduledAt = 75;
-        second.plan[0] = {.x = 30, .y = 30, .altitude = 5, .heading = 90};
-        second.planLength = 1;
+        Flight& second = stage.game().flight(FlightIndex{1});
+        second.scheduledAt = 75_s;
+        second.plan = {{.cell = {30, 30}, .altitude = 5, .heading = 90}};
     });
     stage.todo([this](Script& script) {
-        const ClockSeconds now = stage.shell().topBar.clock.now;
+        const ClockSeconds now = stage.shell().game.clock;
         // Close before the next step the player touches the panel.
-        script.wait(401 * (73 - now)).click(stage.onPanel({46, 50})).wait(1300);
+        script.wait(401 * (73_s - now).count()).click(stage.onPanel({46, 50})).wait(1300);
     });
-    stage.look([this] { EXPECT_TRUE(flight(1).isActive()); });
-    expectSelected(0, "the player was busy with it");
+    stage.look([this] { EXPECT_TRUE(flight(FlightIndex{1}).isActive()); });
+    expectSelected(FlightIndex{0}, "the player was busy with it");
     stage.play();
 }
 
@@ -205,7 +204,7 @@ TEST_F(OrdersTest, TheWheelScrollsTheStripsAndTheButtonFollowsItsFlight) {
         }
     });
     stage.skipTo(QuietShift::entryTime);
-    stage.selectByStrip(20);
+    stage.selectByStrip(FlightIndex{20});
     stage.todo([](Script& script) { script.wheel({900, 300}, 20).wait(1); });
     stage.look([this] { EXPECT_EQ(stage.shell().pressedStrip, noSlot) << "its strip is out of sight"; });
     stage.todo([](Script& script) { script.wheel({900, 300}, -20).wait(1); });
@@ -220,13 +219,13 @@ TEST_F(OrdersTest, TheWheelScrollsTheStripsAndTheButtonFollowsItsFlight) {
 TEST(Selection, AFlightAboveTheShownStripsIsScrolledTo) {
     GameStage stage(800, "[Game]\nName=mary\nSkill=3\n");
     stage.startNewGame();
-    constexpr FlightIndex chosen = 16; // beyond the strips of a console that is scrolled to its top
+    constexpr FlightIndex chosen{16}; // beyond the strips of a console that is scrolled to its top
     stage.look([&] {
         for (Flight& flight : stage.game().flights) {
             flight.scheduledAt = QuietShift::entryTime;
-            flight.plan[0].setCell({20, 20});
+            flight.plan[0].cell = {20, 20};
         }
-        stage.game().flight(chosen).plan[0].setCell({35, 35});
+        stage.game().flight(chosen).plan[0].cell = {35, 35};
     });
     stage.skipTo(QuietShift::entryTime);
     stage.todo([](Script& script) { script.wheel({700, 200}, -40).wait(1); });

@@ -28,20 +28,20 @@ TEST_F(PauseTest, APausedGameStandsStillAndSleeps) {
     auto clock = std::make_shared<ClockSeconds>();
     auto sleeps = std::make_shared<std::size_t>();
     stage.look([this, clock, sleeps] {
-        *clock = stage.shell().topBar.clock.now;
+        *clock = stage.shell().game.clock;
         *sleeps = stage.backend.sleeps();
     });
     stage.wait(60000);
     stage.look([this, clock, sleeps] {
-        EXPECT_EQ(stage.shell().topBar.clock.now, *clock);
+        EXPECT_EQ(stage.shell().game.clock, *clock);
         EXPECT_LE(stage.backend.sleeps(), *sleeps + 2) << "it woke up for nothing";
     });
     press(Key::p);
     expectTitle(playing, "by the other key");
     stage.wait(900);
     stage.look([this, clock] {
-        EXPECT_GT(stage.shell().topBar.clock.now, *clock);
-        EXPECT_LE(stage.shell().topBar.clock.now, *clock + 4) << "no second of the pause is made up for";
+        EXPECT_GT(stage.shell().game.clock, *clock);
+        EXPECT_LE(stage.shell().game.clock, *clock + 4_s) << "no second of the pause is made up for";
     });
     stage.play();
 }
@@ -92,10 +92,10 @@ TEST_F(PauseTest, LeavingARunningGameIsAskedAbout) {
     stage.todo([](Script& script) { script.window(WindowEvent::closeRequested).wait(1); });
     stage.look([this] { EXPECT_TRUE(stage.isDialogOpen()); });
     press(Key::escape);
-    stage.look([this] { EXPECT_TRUE(stage.game().gameRunning); });
+    stage.look([this] { EXPECT_TRUE(stage.game().isRunning()); });
     stage.todo([](Script& script) { script.key(Key::f, withAlt).type("e").wait(1).key(Key::enter).wait(1); });
     stage.look([this] {
-        EXPECT_FALSE(stage.game().gameRunning);
+        EXPECT_FALSE(stage.game().isRunning());
         EXPECT_FALSE(stage.isDialogOpen());
     });
     press(Key::f4, withAlt); // without a game at once

@@ -23,17 +23,16 @@ public:
         stage_.look([&stage = stage_, flight, step] {
             Flight& entering = stage.game().flight(flight);
             entering.scheduledAt = entryTime;
-            entering.plan[0] = step;
-            entering.planLength = 1;
-            entering.callsign = "F" + std::to_string(flight);
+            entering.plan = {step};
+            entering.callsign = std::string_view{"F" + std::to_string(flight.number())};
             entering.heavy = false;
         });
     }
 
-    static constexpr ClockSeconds entryTime = 60;
+    static constexpr ClockSeconds entryTime = 60_s;
 
 private:
-    static constexpr ClockSeconds farAway = 30000;
+    static constexpr ClockSeconds farAway = 30000_s;
 
     GameStage& stage_;
 };

@@ -3,8 +3,7 @@
 #include <map>
 
 #include "shell/game_stage.h"
-#include "sim/airport_loading.h"
-#include "sim/schedule.h"
+#include "sim/reports.h"
 #include "sim/shift_texts.h"
 #include "tools/sim/shift_run.h"
 
@@ -12,7 +11,7 @@ namespace ventrel {
 namespace {
 
 constexpr std::uint32_t seed = 7;
-constexpr ClockSeconds scoreReportInterval = 900;
+constexpr ClockSeconds scoreReportInterval = 900_s;
 constexpr const char* airportFile = "atlanta10.apt";
 
 /// What a step of the simulation alone brings: the lines of the ticker, as many as its queue takes, and the
@@ -25,43 +24,43 @@ struct Step {
 
 class StepRecorder final : public Recorder {
 public:
+    using Recorder::Recorder;
+
     std::map<ClockSeconds, Step> steps;
     int finalScore = 0;
 
-    void shiftSetUp(const GameState&) override {}
-    void stepTaken(const GameState& game) override { steps[clock()].score = game.score; }
-    void runEnded(const GameState& game, const RunResult& result) override {
-        finalScore = game.score;
+    void shiftSetUp() override {}
+    void stepTaken() override { now().score = game().score; }
+    void runEnded(const RunResult& result) override {
+        finalScore = game().score;
         EXPECT_EQ(result, ShiftResult::everyFlightHandled);
     }
-    void messagePosted(std::string_view text, MessageClass messageClass) override {
-        if (queueClock_ != clock()) {
-            queueClock_ = clock();
+    void reported(const Report& report) override {
+        if (queueClock_ != game().clock) {
+            queueClock_ = game().clock;
             clearMessages(queue_);
         }
-        if (postMessage(queue_, text, messageClass, [](std::string_view) { return 0; })) {
-            steps[clock()].lines.emplace_back(text);
+        const std::string text = reportText(game(), report);
+        if (postMessage(queue_, text, reportClass(report.topic))) {
+            now().lines.push_back(text);
         }
     }
-    void orderGiven(const GameState&, FlightIndex flight, const PanelOrder& order) override {
-        steps[clock()].orders.emplace_back(flight, order);
+    void orderGiven(FlightIndex flight, const PanelOrder& order) override {
+        now().orders.emplace_back(flight, order);
     }
 
 private:
+    Step& now() { return steps[game().clock]; }
+
     MessageQueue queue_;
-    ClockSeconds queueClock_ = -1;
+    ClockSeconds queueClock_{-1};
 };
 
-void simulateAlone(StepRecorder& recorder) {
-    GameState game;
-    RandomGenerator random{seed};
-    const auto file = std::filesystem::path(PROGRAM_FOLDER) / "apt" / airportFile;
-    const bool isLoaded = loadAirport(game, file, largeLayout, random,
-                                      [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; });
-    EXPECT_TRUE(isLoaded);
-    game.controllerName = "Mary";
-    setUpShift(game, {.skill = Skill::easy}, Options{.stormTrak = 0, .directEntry = 1}, random);
-    runShift(game, random, recorder, {.orders = {}, .until = 36000, .autopilot = true});
+Game shiftAlone() {
+    const auto airspace = loadAirport(std::filesystem::path(PROGRAM_FOLDER) / "apt" / airportFile);
+    return {airspace.value(),
+            {.skill = Skill::easy, .cloudCover = false, .layout = largeLayout, .controllerName = "Mary"},
+            RandomGenerator{seed}};
 }
 
 /// Plays in the window what was recorded, comparing step by step.
@@ -77,7 +76,7 @@ public:
 private:
     std::vector<std::string> takeLines() {
         std::vector<std::string> lines;
-        for (const MessageSlot& slot : stage_.shell().scroller.queue.slots) {
+        for (const MessageSlot& slot : stage_.game().messages.slots) {
             if (slot.inUse) {
                 lines.push_back(slot.text);
             }
@@ -87,18 +86,18 @@ private:
     }
 
     void compare() {
-        const ClockSeconds now = stage_.shell().topBar.clock.now / stepInterval * stepInterval;
-        if (!stage_.game().gameRunning) {
+        const ClockSeconds now = stage_.shell().game.clock / stepInterval * stepInterval;
+        if (!stage_.game().isRunning()) {
             return;
         }
         const auto found = recorded_.steps.find(now);
-        ASSERT_NE(found, recorded_.steps.end()) << "the shift in the window goes on at " << now;
+        ASSERT_NE(found, recorded_.steps.end()) << "the shift in the window goes on at " << now.count();
         std::vector<std::string> lines = found->second.lines;
-        if (now > 0 && now % scoreReportInterval == 0) {
+        if (now > 0_s && now % scoreReportInterval == 0_s) {
             lines.push_back(scoreSoFarText(stage_.game())); // the radar's own
         }
-        EXPECT_EQ(takeLines(), lines) << "at " << now;
-        ASSERT_EQ(stage_.game().score, found->second.score) << "at " << now;
+        EXPECT_EQ(takeLines(), lines) << "at " << now.count();
+        ASSERT_EQ(stage_.game().score, found->second.score) << "at " << now.count();
         for (const auto& [flight, order] : found->second.orders) {
             stage_.selectByStrip(flight);
             stage_.sendByPanel(order);
@@ -112,22 +111,23 @@ private:
 };
 
 TEST(WholeGame, PlayedByMouseAndKeysIsWhatTheSimulationAlonePlays) {
-    StepRecorder recorded;
-    simulateAlone(recorded);
+    Game alone = shiftAlone();
+    StepRecorder recorded{alone};
+    runShift(alone, recorded, {.orders = {}, .until = 36000_s, .autopilot = true});
     GameStage stage(1024, "[Game]\nName=mary\nSkill=0\n");
     Replay replay(stage, recorded);
     stage.startNewGame(seed);
     stage.look([&] { ScrollerClear(stage.shell().scroller); }); // the welcome
     replay.playOn();
     stage.look([&] {
-        EXPECT_FALSE(stage.game().gameRunning);
+        EXPECT_FALSE(stage.game().isRunning());
         EXPECT_EQ(stage.game().score, recorded.finalScore);
         EXPECT_TRUE(stage.shell().radar.window.isVisible()) << "the last line is still to be read";
     });
     stage.wait(20000);
     stage.look([&] {
         EXPECT_FALSE(stage.shell().radar.window.isVisible());
-        EXPECT_EQ(stage.shell().topBar.clock.now, 0);
+        EXPECT_EQ(stage.shell().game.clock, 0_s);
         EXPECT_EQ(stage.sounds.heard.back(), "mci\\idle.mci");
     });
     stage.play();

@@ -31,18 +31,18 @@ TEST(AirportFile, EveryFieldArrivesAndStoredCellsAreNotBelieved) {
     air.last().symbolColour = {0x05060708};
     air.last().runwayColour = {0x090A0B0C};
     air.last().labelPlace = 3;
-    const GameState game = air.game();
-    EXPECT_EQ(game.airport.name, air.name);
-    EXPECT_EQ(game.airport.routeColour, Colour{0x112233});
-    EXPECT_EQ(game.airport.layoutWidth, 800);
-    EXPECT_EQ(game.vor(0).ident, "ABCD");
-    EXPECT_EQ(game.vor(0).cell, (Cell{3, 4}));
-    EXPECT_TRUE(game.vor(0).isExit);
+    const Game game = air.game();
+    EXPECT_EQ(game.airspace->name, air.name);
+    EXPECT_EQ(game.airspace->routeColour, Colour{0x112233});
+    EXPECT_EQ(game.airspace->layoutWidth, 800);
+    EXPECT_EQ(game.vor(PointIndex{0}).ident, "ABCD");
+    EXPECT_EQ(game.vor(PointIndex{0}).cell, (Cell{3, 4}));
+    EXPECT_TRUE(game.vor(PointIndex{0}).isExit);
     Vor expected = air.last();
     expected.cell = {40, 41};
-    EXPECT_EQ(game.vor(1), expected);
-    ASSERT_EQ(game.mapPicture().size(), 5U);
-    EXPECT_EQ(game.mapPicture()[0], std::byte{'i'});
+    EXPECT_EQ(game.vor(PointIndex{1}), expected);
+    ASSERT_EQ(game.airspace->picture.size(), 5U);
+    EXPECT_EQ(game.airspace->picture[0], std::byte{'i'});
 }
 
 TEST(AirportFile, TruncatedFileIsRefusedByName) {
@@ -97,7 +97,7 @@ int reversals(int heading, int chance, bool isAirport) {
     air.last().reverseChance = chance;
     int count = 0;
     for (std::uint32_t seed = 0; seed < 300; ++seed) {
-        count += air.game(seed * 7919).vors.back().runwayHeading == (heading + 180) % 360 ? 1 : 0;
+        count += air.game({}, seed * 7919).vors().back().runwayHeading == (heading + 180) % 360 ? 1 : 0;
     }
     return count;
 }
@@ -111,25 +111,20 @@ TEST(AirportLoading, RunwaysAreReversedByTheirChanceAlone) {
     EXPECT_NEAR(reversals(90, 30, true), 90, 30);
 }
 
-TEST(AirportLoading, AFileThatCannotBePlayedLeavesTheLoadedAirport) {
+TEST(AirportLoading, CellsFollowTheLayoutAndWhatCannotBeReadIsNamed) {
     const TempFolder folder;
     const std::filesystem::path path = folder / "cut.apt";
     const auto whole = SmallAirspace::usual().file();
     const std::string_view bytes{reinterpret_cast<const char*>(whole.data()), whole.size()};
     writeText(path, bytes.substr(0, 100));
-    GameState game = SmallAirspace::usual().game();
-    RandomGenerator random{9};
-    Reports reports;
-    EXPECT_FALSE(loadAirport(game, path, largeLayout, random, reports.reporter()));
-    EXPECT_FALSE(loadAirport(game, path.string() + "missing", largeLayout, random, reports.reporter()));
-    EXPECT_EQ(reports.texts.size(), 2U);
-    EXPECT_EQ(game.vorCount(), 5);
-    EXPECT_EQ(game.mapPicture().size(), 5U);
-    EXPECT_EQ(random.state, 9U);
-
+    for (const auto& broken : {path, folder / "missing.apt"}) {
+        const auto loaded = loadAirport(broken);
+        ASSERT_FALSE(loaded);
+        EXPECT_NE(loaded.error().text.find(broken.filename().string()), std::string::npos);
+    }
     writeText(path, bytes);
-    EXPECT_TRUE(loadAirport(game, path, largeLayout, random, reports.reporter()));
-    EXPECT_EQ(game.vor(0).cell, (Cell{274 / 14, 264 / 14}));
+    const Game game{loadAirport(path).value(), {.layout = largeLayout}, RandomGenerator{9}};
+    EXPECT_EQ(game.vor(PointIndex{0}).cell, (Cell{274 / 14, 264 / 14}));
 }
 
 } // namespace

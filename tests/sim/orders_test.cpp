@@ -7,8 +7,8 @@
 namespace ventrel {
 namespace {
 
-constexpr VorIndex mid = 0;
-constexpr VorIndex northWest = 1;
+constexpr PointIndex mid{0};
+constexpr PointIndex northWest{1};
 
 class Orders : public ::testing::Test {
 protected:
@@ -16,8 +16,8 @@ protected:
 
     /// Sends an order; what happened after the EXEC click.
     Lines send(Flight& flight, const PanelOrder& order, OrderResult expected = OrderResult::carriedOut) {
-        const auto number = static_cast<FlightIndex>(&flight - test.game.flights.data());
-        EXPECT_EQ(executeOrder(test.simulation, number, order), expected);
+        const FlightIndex index{static_cast<int>(&flight - test.game.flights.data())};
+        EXPECT_EQ(executeOrder(test.game, index, order, test.events), expected);
         Lines lines = test.events.take();
         EXPECT_EQ(lines.front(), "sent 0");
         lines.erase(lines.begin());
@@ -27,7 +27,7 @@ protected:
     /// What the panel holds when nothing has been set: the flight's present state, without a cell.
     static PanelOrder nothingSet(const Flight& flight) {
         PanelOrder order = flight.current();
-        order.setCell({});
+        order.cell = {};
         return order;
     }
 
@@ -44,10 +44,12 @@ TEST_F(Orders, AreReadBackAsTheyWereUnderstood) {
              {{.altitude = 5, .heading = 270}, "turning 270"},
              {{.altitude = 3, .heading = 90}, "descending to 3 thousand"},
              {{.altitude = 10, .heading = 180}, "turning 180 climbing to 10 thousand"},
-             {{.altitude = 5, .heading = 90, .speed = fastSpeed}, ""},
-             {{.altitude = 8, .heading = 90, .directTarget = 4}, "climbing to 8 thousand direct to VOR"},
-             {{.altitude = 5, .heading = 90, .directTarget = 4, .hold = 1}, "roger"},
-             {{.altitude = 1, .heading = 90, .directTarget = 5, .hold = 1}, "descending to 1 thousand"}}) {
+             {{.altitude = 5, .heading = 90, .speed = Speed::fast}, ""},
+             {{.altitude = 8, .heading = 90, .directTarget = PointIndex{4}},
+              "climbing to 8 thousand direct to VOR"},
+             {{.altitude = 5, .heading = 90, .directTarget = PointIndex{4}, .hold = true}, "roger"},
+             {{.altitude = 1, .heading = 90, .directTarget = DirectTarget::holdPlace(), .hold = true},
+              "descending to 1 thousand"}}) {
         EXPECT_EQ(send(flight, each.order), (Lines{std::string("radio ") + each.readBack, "panel"}));
     }
 }
@@ -55,9 +57,9 @@ TEST_F(Orders, AreReadBackAsTheyWereUnderstood) {
 TEST_F(Orders, ThatChangeNothingAreAcknowledgedWithoutTouchingThePlan) {
     Flight& flight = test.fly({20, 30}, 5, 90, northWest);
     send(flight, {.altitude = 5, .heading = 0});
-    const int length = flight.planLength;
+    const int length = flight.plan.length();
     EXPECT_EQ(send(flight, nothingSet(flight), OrderResult::acknowledged), (Lines{"quiet radio roger"}));
-    EXPECT_EQ(flight.planLength, length);
+    EXPECT_EQ(flight.plan.length(), length);
     EXPECT_EQ(test.game.freeOrders, 98);
 }
 
@@ -68,13 +70,13 @@ TEST_F(Orders, BesideTheTargetADirectCourseIsRefusedButCharged) {
         Flight& flight = test.fly(cell, 5, 90, northWest);
         EXPECT_EQ(send(flight, toNorthWest, OrderResult::acknowledged),
                   (Lines{"radio repeat requesting VOR", "13 F0 is too close to NW for a direct VOR course"}));
-        EXPECT_EQ(flight.planLength, 1);
+        EXPECT_EQ(flight.plan.length(), 1);
     }
     EXPECT_EQ(test.game.freeOrders, 98);
     test.game.flights.clear();
     Flight& flight = test.fly({14, 12}, 5, 90, northWest);
     send(flight, toNorthWest);
-    EXPECT_GT(flight.planLength, 1);
+    EXPECT_GT(flight.plan.length(), 1);
 }
 
 TEST_F(Orders, ClearADepartureOnceAndAreThenChargedInVain) {
@@ -96,8 +98,8 @@ TEST_F(Orders, CostFivePointsOnceTheFreeOnesAreUsedUp) {
     EXPECT_EQ(test.game.score, 12);
     EXPECT_EQ(send(flight, nothingSet(flight), OrderResult::acknowledged),
               (Lines{"score -5 = 7", "quiet radio roger"}));
-    send(flight, {.altitude = 5, .heading = 90, .speed = slowSpeed});
-    send(flight, {.altitude = 5, .heading = 90, .speed = fastSpeed});
+    send(flight, {.altitude = 5, .heading = 90, .speed = Speed::slow});
+    send(flight, {.altitude = 5, .heading = 90, .speed = Speed::fast});
     EXPECT_EQ(test.game.score, 0);
     EXPECT_EQ(test.game.freeOrders, 0);
 }
@@ -105,10 +107,12 @@ TEST_F(Orders, CostFivePointsOnceTheFreeOnesAreUsedUp) {
 TEST_F(Orders, ToAFinishedFlightOrWithoutAGameCostNothing) {
     Flight& flight = test.fly({20, 30}, 5, 90, northWest);
     flight.inPlay = false;
-    EXPECT_EQ(executeOrder(test.simulation, 0, {}), OrderResult::acknowledged);
+    EXPECT_EQ(executeOrder(test.game, FlightIndex{0}, {.altitude = 5}, test.events),
+              OrderResult::acknowledged);
     flight.inPlay = true;
-    test.game.gameRunning = false;
-    EXPECT_EQ(executeOrder(test.simulation, 0, {}), OrderResult::acknowledged);
+    test.game.phase = Phase::idle;
+    EXPECT_EQ(executeOrder(test.game, FlightIndex{0}, {.altitude = 5}, test.events),
+              OrderResult::acknowledged);
     EXPECT_EQ(test.events.take(), Lines{});
     EXPECT_EQ(test.game.freeOrders, 100);
 }

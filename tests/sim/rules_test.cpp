@@ -32,10 +32,11 @@ TEST(Grid, CornersAreCutAndTheMiddleBelongsToTheLowerRight) {
 }
 
 TEST(GameStates, AnswerAboutNothing) {
-    GameState game;
-    EXPECT_EQ(firstScheduledTime(game), 30000);
-    EXPECT_EQ(copyVor(game, noVor), Vor{});
-    EXPECT_TRUE(game.mapPicture().empty());
+    Game game;
+    EXPECT_EQ(firstScheduledTime(game), 30000_s);
+    EXPECT_EQ(copyVor(game, std::nullopt), Vor{});
+    EXPECT_TRUE(game.airspace->picture.empty());
+    EXPECT_FALSE(step(game));
 }
 
 TEST(Phrases, EveryCharacterHasItsOwnSnippetFile) {
@@ -53,30 +54,28 @@ TEST(Phrases, EveryCharacterHasItsOwnSnippetFile) {
 }
 
 TEST(MessageQueues, DropTheNinthLineAndFillTheLowestFreeSlot) {
-    const TextMeasure measure = [](std::string_view text) { return static_cast<int>(text.size()) * 10; };
     MessageQueue queue;
     for (int i = 0; i < 8; ++i) {
-        EXPECT_TRUE(postMessage(queue, "line", MessageClass::success, measure));
+        EXPECT_TRUE(postMessage(queue, "line", MessageClass::success));
     }
     queue.idle = true;
-    EXPECT_FALSE(postMessage(queue, "ninth", MessageClass::emergency, measure));
+    EXPECT_FALSE(postMessage(queue, "ninth", MessageClass::emergency));
     EXPECT_FALSE(queue.idle);
-    EXPECT_EQ(queue.slots[7].width, 42);
 
     queue.slots[3].inUse = false;
     const std::string longName(69, 'x');
-    EXPECT_TRUE(postMessage(queue, longName, MessageClass::emergency, measure));
+    EXPECT_TRUE(postMessage(queue, longName, MessageClass::emergency));
     EXPECT_EQ(queue.slots[3].text, longName);
 }
 
 TEST(ShiftTexts, NameTheControllerTheScoreAndTheBlame) {
     TestGame test;
     test.game.controllerName = "Mary";
-    test.fly({24, 30}, 5, 90, 1).scheduledAt = 75;
-    test.fly({24, 30}, 5, 90, 1);
-    test.game.flight(1).inPlay = false;
+    test.fly({24, 30}, 5, 90, PointIndex{1}).scheduledAt = 75_s;
+    test.fly({24, 30}, 5, 90, PointIndex{1});
+    test.game.flight(FlightIndex{1}).inPlay = false;
     test.game.score = 40;
-    test.game.collisionFlights = {1, 0};
+    test.game.collisionFlights = {FlightIndex{1}, FlightIndex{0}};
     EXPECT_EQ(welcomeText(test.game), "Welcome Mary-  First plane arrives at 01:15");
     EXPECT_EQ(scoreSoFarText(test.game), "Mary's score so far: 40");
     std::tm day{};

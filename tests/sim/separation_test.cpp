@@ -7,7 +7,7 @@
 namespace ventrel {
 namespace {
 
-constexpr VorIndex northWest = 1;
+constexpr PointIndex northWest{1};
 
 /// Lines without the radio calls, whose wording is drawn.
 Lines withoutCalls(Lines lines) {
@@ -19,9 +19,9 @@ TEST(Separation, TouchingFlightsAtOneAltitudePayAtEachMoveOfTheirs) {
     TestGame test;
     Flight& first = test.fly({24, 30}, 5, 90, northWest);
     Flight& second = test.fly({25, 31}, 5, 90, northWest);
-    second.activatedAt = 45;
+    second.activatedAt = 45_s;
     test.game.score = 500;
-    const Lines lines = test.step(60);
+    const Lines lines = test.step(60_s);
     ASSERT_EQ(lines.size(), 5U);
     EXPECT_EQ(lines[0], "12 F0, Emergency! Near miss with F1");
     EXPECT_TRUE(lines[1].starts_with("radio mayday ") && lines[2].starts_with("radio mayday "));
@@ -30,48 +30,48 @@ TEST(Separation, TouchingFlightsAtOneAltitudePayAtEachMoveOfTheirs) {
     EXPECT_EQ(first.alert, Alert::nearMiss);
     EXPECT_EQ(second.alert, Alert::none);
     // The red lamp silences the second pair of calls, and their draws.
-    const std::uint32_t state = test.random.state;
-    EXPECT_EQ(test.step(75), (Lines{"12 F1, Emergency! Near miss with F0", "score -100 = 300"}));
-    EXPECT_EQ(test.random.state, state);
+    const std::uint32_t state = test.game.random.state;
+    EXPECT_EQ(test.step(75_s), (Lines{"12 F1, Emergency! Near miss with F0", "score -100 = 300"}));
+    EXPECT_EQ(test.game.random.state, state);
 }
 
 TEST(Separation, AltitudeGroundAndDistanceKeepFlightsApart) {
     TestGame test;
     test.fly({23, 24}, 1, 135, northWest);
-    test.wait(0, northWest);              // on the ground beside it
+    test.wait(PointIndex{0}, northWest);  // on the ground beside it
     test.fly({22, 24}, 2, 90, northWest); // above it
     test.fly({21, 26}, 1, 90, northWest); // two cells away
     Flight& gone = test.fly({23, 24}, 1, 90, northWest);
     gone.inPlay = false;
     Flight& notYet = test.fly({23, 24}, 1, 90, northWest);
-    notYet.activatedAt = 0;
-    notYet.scheduledAt = 900;
-    EXPECT_EQ(test.step(60), Lines{});
+    notYet.activatedAt = 0_s;
+    notYet.scheduledAt = 900_s;
+    EXPECT_EQ(test.step(60_s), Lines{});
 }
 
 TEST(Separation, TheFlightThatMovesSecondFindsTheCollision) {
     TestGame test;
     const Flight& standing = test.fly({24, 30}, 5, 90, northWest);
     test.fly({25, 30}, 5, 270, northWest);
-    test.fly({10, 24}, 5, 90, northWest).current().speed = fastSpeed;
-    test.game.flight(1).activatedAt = 45;
-    EXPECT_EQ(withoutCalls(test.step(60)),
+    test.fly({10, 24}, 5, 90, northWest).current().speed = Speed::fast;
+    test.game.flight(FlightIndex{1}).activatedAt = 45_s;
+    EXPECT_EQ(withoutCalls(test.step(60_s)),
               (Lines{"12 F0, Emergency! Near miss with F1", "score -100 = 0", "lamp 2"}));
-    EXPECT_EQ(standing.current().cell(), (Cell{25, 30}));
-    EXPECT_EQ(test.step(75), (Lines{"ended -1"}));
-    EXPECT_EQ(test.game.collisionFlights, (std::array<FlightIndex, 2>{0, 1}));
-    EXPECT_EQ(test.game.flight(2).current().x, 11); // nobody moved any more
+    EXPECT_EQ(standing.current().cell, (Cell{25, 30}));
+    EXPECT_EQ(test.step(75_s), (Lines{"ended -1"}));
+    EXPECT_EQ(test.game.collisionFlights, (std::array{FlightIndex{0}, FlightIndex{1}}));
+    EXPECT_EQ(test.game.flight(FlightIndex{2}).current().cell.x, 11); // nobody moved any more
 }
 
 TEST(Separation, NearMissesBeforeTheCollisionAreStillPaid) {
     TestGame test;
-    test.fly({24, 31}, 5, 90, northWest).activatedAt = 45;
+    test.fly({24, 31}, 5, 90, northWest).activatedAt = 45_s;
     test.fly({24, 30}, 5, 90, northWest);
     test.fly({24, 30}, 5, 90, northWest);
     test.game.score = 300;
-    EXPECT_EQ(withoutCalls(test.step(60)),
+    EXPECT_EQ(withoutCalls(test.step(60_s)),
               (Lines{"12 F1, Emergency! Near miss with F0", "score -100 = 200", "ended -1"}));
-    EXPECT_EQ(test.game.collisionFlights, (std::array<FlightIndex, 2>{2, 1}));
+    EXPECT_EQ(test.game.collisionFlights, (std::array{FlightIndex{2}, FlightIndex{1}}));
 }
 
 TEST(Lamps, TheLaterOfFailureAndNearMissCountsAndSuccessOnlyAlone) {
@@ -88,20 +88,19 @@ TEST(Lamps, TheLaterOfFailureAndNearMissCountsAndSuccessOnlyAlone) {
     EXPECT_EQ(level({Alert::success, Alert::failure}), LampLevel::yellow);
     EXPECT_EQ(level({Alert::none, Alert::success, Alert::none}), LampLevel::green);
     EXPECT_EQ(level({}), LampLevel::none);
-    test.wait(0, northWest).alert = Alert::failure;
+    test.wait(PointIndex{0}, northWest).alert = Alert::failure;
     EXPECT_EQ(gatherAlertLevel(test.game), LampLevel::none);
 }
 
 TEST(Lamps, OnlyChangesAreTold) {
-    AlertLamps lamps;
-    EventLog events;
+    TestGame test;
     for (const LampLevel level : {LampLevel::none, LampLevel::yellow, LampLevel::yellow, LampLevel::red}) {
-        setLamp(lamps, events, level);
+        setLamp(test.game, test.events, level);
     }
-    EXPECT_EQ(events.take(), (Lines{"lamp 1", "lamp 2"}));
-    EXPECT_TRUE(isLampLit(lamps, LampLevel::red));
-    EXPECT_FALSE(isLampLit(lamps, LampLevel::yellow));
-    EXPECT_TRUE(isLampLit(lamps, LampLevel::none));
+    EXPECT_EQ(test.events.take(), (Lines{"lamp 1", "lamp 2"}));
+    EXPECT_TRUE(isLampLit(test.game, LampLevel::red));
+    EXPECT_FALSE(isLampLit(test.game, LampLevel::yellow));
+    EXPECT_TRUE(isLampLit(test.game, LampLevel::none));
 }
 
 } // namespace

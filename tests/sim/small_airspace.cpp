@@ -90,17 +90,6 @@ std::vector<std::byte> SmallAirspace::file() const {
     return file;
 }
 
-GameState SmallAirspace::game(std::uint32_t seed) const {
-    LoadedAirport loaded;
-    loaded.file.data = file();
-    loaded.file.loaded = true;
-    loaded.airport = readAirportFile(loaded.file.data, "small.apt", [](auto&&...) {}).value();
-    GameState game;
-    RandomGenerator random{seed};
-    useAirport(game, std::move(loaded), smallLayout, random);
-    return game;
-}
-
 void putWord(std::vector<std::byte>& file, std::size_t offset, unsigned value) {
     file.at(offset) = static_cast<std::byte>(value & 0xFFU);
     file.at(offset + 1) = static_cast<std::byte>(value >> 8U & 0xFFU);
@@ -112,25 +101,28 @@ void putDoubleWord(std::vector<std::byte>& file, std::size_t offset, std::uint32
 }
 
 TestGame::TestGame(const SmallAirspace& airspace) : game{airspace.game()} {
-    game.gameRunning = true;
+    game.flights.clear();
     game.flights.reserve(mostPlanes); // so that flights may be kept by reference
+    game.clouds.clear();
+    game.bonus = 0;
+    game.random = {};
 }
 
-Flight& TestGame::fly(Cell cell, int altitude, int heading, VorIndex destination) {
+Flight& TestGame::fly(Cell cell, int altitude, int heading, PointIndex destination) {
     Flight flight;
     flight.inPlay = true;
-    flight.activatedAt = 30;
-    flight.scheduledAt = 30;
+    flight.activatedAt = 30_s;
+    flight.scheduledAt = 30_s;
     flight.destination = destination;
     const bool lands = game.vor(destination).isAirport;
     flight.destinationKind = lands ? DestinationKind::airport : DestinationKind::exit;
-    flight.callsign = "F" + std::to_string(game.planeCount());
-    flight.plan[0] = {.x = cell.x, .y = cell.y, .altitude = altitude, .heading = heading};
+    flight.callsign = std::string_view{"F" + std::to_string(game.planeCount())};
+    flight.plan = {{.cell = cell, .altitude = altitude, .heading = heading}};
     game.flights.push_back(flight);
     return game.flights.back();
 }
 
-Flight& TestGame::wait(VorIndex origin, VorIndex destination) {
+Flight& TestGame::wait(PointIndex origin, PointIndex destination) {
     const Vor& airport = game.vor(origin);
     Flight& flight = fly(airport.cell, approachAltitude, airport.runwayHeading, destination);
     flight.origin = origin;
@@ -140,11 +132,12 @@ Flight& TestGame::wait(VorIndex origin, VorIndex destination) {
 }
 
 std::vector<std::string> TestGame::step(ClockSeconds now) {
-    if (SimulationStep(simulation, now)) {
-        setLamp(lamps, events, gatherAlertLevel(game));
+    game.clock = now;
+    if (SimulationStep(game, events)) {
+        makeFrame(game, events);
     }
     std::vector<std::string> lines = events.take();
-    std::erase(lines, "strips");
+    std::erase_if(lines, [](const std::string& line) { return line == "strips"; });
     return lines;
 }
 

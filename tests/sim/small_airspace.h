@@ -7,10 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "sim/airport_loading.h"
+#include "sim/airport_file.h"
 #include "sim/phrase.h"
+#include "sim/reports.h"
 #include "sim/schedule.h"
-#include "sim/simulation.h"
 
 namespace ventrel {
 
@@ -30,8 +30,11 @@ public:
     /// A complete file of the small layout, with a picture of a few bytes.
     std::vector<std::byte> file() const;
 
-    /// A game with this airport in use and no shift yet.
-    GameState game(std::uint32_t seed = 1) const;
+    AirspacePtr load() const { return loadAirport(file(), "small.apt").value(); }
+    /// A game in it whose shift has been set up.
+    Game game(const ShiftSetup& setup = {}, std::uint32_t seed = 1) const {
+        return {load(), setup, RandomGenerator{seed}};
+    }
 
 private:
     std::vector<Vor> points_;
@@ -48,10 +51,12 @@ struct Reports {
     }
 };
 
-/// Writes everything that happens as one line each, in order: "13 text", "radio words", "lamp 1", "score -100
-/// = 0", "sent 0", "panel", "strips", "select 0", "ended -1".
+/// Writes everything that happens to a game as one line each, in order: "13 text", "radio words", "lamp 1",
+/// "score -100 = 0", "sent 0", "panel", "strips", "active 0", "ended -1".
 class EventLog final : public SimulationEvents {
 public:
+    explicit EventLog(const Game& game) : game_{game} {}
+
     std::vector<std::string> lines;
 
     /// The lines so far, and forgets them.
@@ -63,38 +68,43 @@ private:
         return std::to_string(static_cast<int>(value));
     }
 
-    void messagePosted(std::string_view text, MessageClass messageClass) override {
-        lines.push_back(number(messageClass) + " " + std::string{text});
+    void reported(const Report& report) override {
+        lines.push_back(number(reportClass(report.topic)) + " " + reportText(game_, report));
     }
     void pilotSpoke(const RadioCall& call) override {
-        lines.push_back((call.noise ? "radio " : "quiet radio ") + phraseAsWords(call.phrase));
+        lines.push_back((call.hasNoise() ? "radio " : "quiet radio ") +
+                        phraseAsWords(radioPhrase(game_, call)));
     }
-    void scoreChanged(int delta, int score) override {
-        lines.push_back("score " + number(delta) + " = " + number(score));
+    void scoreChanged(const ScoreChange& change) override {
+        lines.push_back("score " + number(change.delta) + " = " + number(change.score));
     }
     void lampChanged(LampLevel lit) override { lines.push_back("lamp " + number(lit)); }
-    void orderSent(FlightIndex flight) override { lines.push_back("sent " + number(flight)); }
+    void orderSent(FlightIndex flight) override { lines.push_back("sent " + number(flight.number())); }
     void panelChanged() override { lines.emplace_back("panel"); }
     void stripsChanged() override { lines.emplace_back("strips"); }
-    void selectionWanted(FlightIndex flight) override { lines.push_back("select " + number(flight)); }
+    void flightActivated(FlightIndex flight) override {
+        lines.push_back("active " + number(flight.number()));
+    }
     void shiftEnded(ShiftResult result) override { lines.push_back("ended " + number(result)); }
+
+    const Game& game_;
 };
 
 /// A running game in the usual airspace with hand-made flights.
 struct TestGame {
-    GameState game;
-    AlertLamps lamps;
-    RandomGenerator random;
-    EventLog events;
-    Simulation simulation{game, lamps, random, events};
+    Game game;
+    EventLog events{game};
 
     explicit TestGame(const SmallAirspace& airspace = SmallAirspace::usual());
+    TestGame(const TestGame&) = delete;
+    TestGame& operator=(const TestGame&) = delete;
+    ~TestGame() = default;
 
     /// An airborne flight, active since 30, bound for a map point. Its callsign is "F" and its number.
-    Flight& fly(Cell cell, int altitude, int heading, VorIndex destination);
+    Flight& fly(Cell cell, int altitude, int heading, PointIndex destination);
     /// A departure waiting at the airport since 30.
-    Flight& wait(VorIndex origin, VorIndex destination);
-    /// One acting step and the lamps' frame after it; what happened.
+    Flight& wait(PointIndex origin, PointIndex destination);
+    /// One acting step and the frame after it; what happened.
     std::vector<std::string> step(ClockSeconds now);
     std::vector<std::string> steps(ClockSeconds from, ClockSeconds to);
 };

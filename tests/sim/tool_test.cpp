@@ -56,20 +56,20 @@ protected:
 };
 
 TEST_F(OrderFile, IsReadInOrderOfTimeThenOfLines) {
-    test.fly({24, 30}, 5, 90, 1);
-    test.fly({24, 40}, 5, 90, 1);
+    test.fly({24, 30}, 5, 90, PointIndex{1});
+    test.fly({24, 40}, 5, 90, PointIndex{1});
     const auto result = read("# comment\n30 0 1 0 0 -1 0\r\n\n15 1 10\t315 -1 5 1 # hold\n30 1 2 90 1 4 0");
     const auto* const orders = std::get_if<std::vector<ScriptedOrder>>(&result);
     ASSERT_NE(orders, nullptr);
     ASSERT_EQ(orders->size(), 3U);
-    EXPECT_EQ((*orders)[0].clock, 15);
-    EXPECT_EQ((*orders)[0].order.directTarget, 5);
-    EXPECT_EQ((*orders)[1].flight, 0);
-    EXPECT_EQ((*orders)[2].flight, 1);
+    EXPECT_EQ((*orders)[0].clock, 15_s);
+    EXPECT_EQ((*orders)[0].order.directTarget, DirectTarget::holdPlace());
+    EXPECT_EQ((*orders)[1].flight, FlightIndex{0});
+    EXPECT_EQ((*orders)[2].flight, FlightIndex{1});
 }
 
 TEST_F(OrderFile, WithAFaultIsRefusedByFileAndLine) {
-    test.fly({24, 30}, 5, 90, 1);
+    test.fly({24, 30}, 5, 90, PointIndex{1});
     expectFault("15 0 5 90 0 -1 0\n20 0 5 90 0 -1 0\n", "orders.txt:2: clock");
     expectFault("15 1 5 90 0 -1 0", ":1: flight");
     expectFault("15 0 11 90 0 -1 0", ":1: altitude");
@@ -87,32 +87,35 @@ TEST_F(OrderFile, WithAFaultIsRefusedByFileAndLine) {
 }
 
 /// A game of one flight that enters at 15 and is soon lost.
-GameState shortGame() {
+Game shortGame() {
     TestGame test;
-    Flight& flight = test.fly({46, 24}, 5, 90, 1);
-    flight.activatedAt = 0;
-    flight.scheduledAt = 15;
+    Flight& flight = test.fly({46, 24}, 5, 90, PointIndex{1});
+    flight.activatedAt = 0_s;
+    flight.scheduledAt = 15_s;
     flight.callsign = "\xC4\"\\1";
     flight.callsignPhrase = "M<";
-    flight.current().speed = fastSpeed;
-    test.game.flights.front().pilotVoice = 2;
+    flight.current().speed = Speed::fast;
+    flight.pilotVoice = 2;
     test.game.bonus = 25;
+    test.game.shiftLength = {};
+    test.game.possibleScore = 0;
+    test.game.freeOrders = 0;
     return test.game;
 }
 
 template <typename Writer>
-std::string record(GameState game, const RunPlan& plan) {
+std::string record(Game game, const RunPlan& plan) {
     Output output;
-    Writer writer{output};
-    RandomGenerator random;
-    runShift(game, random, writer, plan);
+    Writer writer{output, game};
+    runShift(game, writer, plan);
     return output.text();
 }
 
 TEST(Trace, IsTheSameToTheByte) {
-    const std::vector<ScriptedOrder> orders{{0, 0, {.altitude = 5, .heading = 90}},
-                                            {15, 0, {.altitude = 5, .heading = 90, .speed = 1}}};
-    const std::string trace = record<TraceWriter>(shortGame(), {orders, 30, false});
+    const std::vector<ScriptedOrder> orders{
+        {0_s, FlightIndex{0}, {.altitude = 5, .heading = 90}},
+        {15_s, FlightIndex{0}, {.altitude = 5, .heading = 90, .speed = Speed::fast}}};
+    const std::string trace = record<TraceWriter>(shortGame(), {orders, 30_s, false});
     const std::string expected =
         R"({"type":"step","clock":0,"score":0,"listed":1,"flights":[[0,1,0,1,0,0,46,24,5,90,1,-1,0,0,1]]}
 {"type":"message","clock":15,"class":13,"text":")"
@@ -141,7 +144,7 @@ TEST(Trace, IsTheSameToTheByte) {
 }
 
 TEST(Log, TellsTheShiftInWords) {
-    const std::string log = record<LogWriter>(shortGame(), {{}, 36000, false});
+    const std::string log = record<LogWriter>(shortGame(), {{}, 36000_s, false});
     for (const std::string_view part :
          {"00:15         \xC3\x84\"\\1 entering airspace, proceeding to NW\n",
           "00:15  radio  United one level at 5 thousand\n", "has been lost \n", "lamp   yellow on\n",
@@ -154,12 +157,11 @@ TEST(Autopilot, BringsMostFlightsOfAnEasyShiftHome) {
     int score = 0;
     int possible = 0;
     for (std::uint32_t seed = 1; seed <= 8; ++seed) {
-        GameState game = SmallAirspace::usual().airport("TWO", {32, 28}, 180).game();
-        RandomGenerator random{seed * 977};
-        setUpShift(game, {.skill = Skill::easy}, {}, random);
+        Game game =
+            SmallAirspace::usual().airport("TWO", {32, 28}, 180).game({.skill = Skill::easy}, seed * 977);
         Output output;
-        TraceWriter writer{output};
-        runShift(game, random, writer, {{}, 36000, true});
+        TraceWriter writer{output, game};
+        runShift(game, writer, {{}, 36000_s, true});
         EXPECT_EQ(writer.result(), ShiftResult::everyFlightHandled);
         score += game.score;
         possible += game.possibleScore;

@@ -4,7 +4,8 @@
 
 #include <vector>
 
-#include "sim/flight.h"
+#include "sim/grid.h"
+#include "sim/plan.h"
 #include "sim/vor.h"
 
 namespace ventrel {

@@ -78,6 +78,16 @@ bool setCloudSize(Arguments& arguments, std::string_view word) {
            readNumber(word.substr(cross + 1), 1, largest, arguments.cloudSize.height);
 }
 
+bool setUntil(Arguments& arguments, std::string_view word) {
+    constexpr int latest = 2000000000;
+    int time = 0;
+    if (!readNumber(word, 0, latest, time)) {
+        return false;
+    }
+    arguments.until = ClockSeconds{time};
+    return true;
+}
+
 struct OptionRule {
     std::string_view name;
     std::string_view
@@ -113,8 +123,7 @@ constexpr std::array optionRules{
                    a.orders = v;
                    return true;
                }},
-    OptionRule{"--until", "a clock second from 0 to 2000000000",
-               [](Arguments& a, std::string_view v) { return readNumber(v, 0, 2000000000, a.until); }},
+    OptionRule{"--until", "a clock second from 0 to 2000000000", setUntil},
     OptionRule{"--autopilot", "", [](Arguments& a, std::string_view) { return a.autopilot = true; }},
     OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }},
     OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }},
@@ -188,15 +197,16 @@ std::string_view helpText() {
     return help;
 }
 
-Options optionsFor(const Arguments& arguments) {
+ShiftSetup setupFor(const Arguments& arguments) {
     const bool isEasy = arguments.skill == Skill::easy;
-    Options options;
-    options.stormTrak = arguments.clouds && !isEasy ? 1 : 0;
-    options.directEntry = arguments.directEntry || isEasy ? 1 : 0;
-    options.customPlanes = static_cast<int>(arguments.planes);
-    options.customSched = static_cast<ClockSeconds>(arguments.minutes) * secondsPerMinute;
-    options.customBonus = bonusFor(options.customPlanes, options.customSched);
-    return options;
+    const auto planes = static_cast<int>(arguments.planes);
+    const ClockSeconds length = static_cast<int>(arguments.minutes) * clockMinute;
+    return {.skill = arguments.skill,
+            .custom = {planes, length, bonusFor(planes, length)},
+            .cloudCover = arguments.clouds && !isEasy,
+            .directEntry = arguments.directEntry || isEasy,
+            .voiceSetCount = arguments.voices,
+            .controllerName = arguments.name};
 }
 
 } // namespace ventrel

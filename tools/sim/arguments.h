@@ -11,7 +11,7 @@
 #include <variant>
 
 #include "base/geometry.h"
-#include "sim/schedule.h"
+#include "sim/shift_setup.h"
 
 namespace ventrel {
 
@@ -28,7 +28,7 @@ struct Arguments {
     std::string name = "Test"; ///< Windows-1252
     std::uint32_t seed = 1;
     std::optional<std::filesystem::path> orders;
-    ClockSeconds until = 36000;
+    ClockSeconds until{36000};
     bool autopilot = false;
     bool log = false; ///< a log for people instead of the trace
     bool help = false;
@@ -39,7 +39,7 @@ std::variant<Arguments, std::string> parseArguments(std::span<const char* const>
 
 std::string_view helpText();
 
-/// The options of a game set up with these arguments, as the New Game dialog would leave them.
-Options optionsFor(const Arguments& arguments);
+/// The shift that these arguments ask for, as the New Game dialog would leave it.
+ShiftSetup setupFor(const Arguments& arguments);
 
 } // namespace ventrel

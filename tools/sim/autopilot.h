@@ -15,10 +15,10 @@ namespace ventrel {
 class Autopilot {
 public:
     /// Learns the ways to the runways of the game's airport, whose shift is set up.
-    explicit Autopilot(const GameState& game);
+    explicit Autopilot(const Game& game);
 
     /// Looks at every flight after a step and sends the orders that it finds best through the recorder.
-    void steer(Simulation& simulation, Recorder& recorder) const;
+    void steer(Game& game, Recorder& recorder) const;
 
 private:
     std::vector<Approach> approaches_; // by map point

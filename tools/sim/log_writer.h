@@ -9,17 +9,17 @@ namespace ventrel {
 
 class LogWriter final : public Recorder {
 public:
-    explicit LogWriter(Output& output) : output_{output} {}
+    LogWriter(Output& output, const Game& game) : Recorder{game}, output_{output} {}
 
-    void messagePosted(std::string_view text, MessageClass messageClass) override;
+    void reported(const Report& report) override;
     void pilotSpoke(const RadioCall& call) override;
     void lampChanged(LampLevel lit) override;
-    void scoreChanged(int delta, int score) override;
+    void scoreChanged(const ScoreChange& change) override;
 
-    void shiftSetUp(const GameState& game) override;
-    void orderGiven(const GameState& game, FlightIndex flight, const PanelOrder& order) override;
-    void stepTaken(const GameState& game) override;
-    void runEnded(const GameState& game, const RunResult& result) override;
+    void shiftSetUp() override;
+    void orderGiven(FlightIndex flight, const PanelOrder& order) override;
+    void stepTaken() override;
+    void runEnded(const RunResult& result) override;
 
 private:
     void line(std::string_view kind, std::string_view text);

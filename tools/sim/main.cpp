@@ -5,7 +5,6 @@
 #include <memory>
 
 #include "base/windows1252.h"
-#include "sim/airport_loading.h"
 #include "tools/sim/arguments.h"
 #include "tools/sim/log_writer.h"
 #include "tools/sim/shift_run.h"
@@ -21,28 +20,23 @@ void complain(std::string_view text) {
     std::fprintf(stderr, "ventrel-sim: %.*s\n", static_cast<int>(text.size()), text.data());
 }
 
-void setUp(GameState& game, const Arguments& arguments, RandomGenerator& random) {
-    std::array<Size, largeLayout.cloudImages> cloudSizes;
-    cloudSizes.fill(arguments.cloudSize);
-    game.controllerName = arguments.name;
-    setUpShift(game, {arguments.skill, arguments.voices, cloudSizes}, optionsFor(arguments), random);
-}
-
 ExitStatus play(const Arguments& arguments) {
-    auto loaded = openAirport(arguments.airport,
-                              [](std::string_view text, MessageIcon) { complain(toTerminal(text)); });
-    if (!loaded) {
+    const auto airspace = loadAirport(arguments.airport);
+    if (!airspace) {
+        complain(toTerminal(airspace.error().text));
         return scenarioRefused;
     }
-    const auto layout = scopeLayoutFor(arguments.width.value_or(loaded->airport.header.layoutWidth));
+    const auto layout = scopeLayoutFor(arguments.width.value_or((*airspace)->layoutWidth));
     if (!layout) {
         complain(arguments.airport.string() + " fits neither layout: --width 800 or --width 1024 is needed");
         return wrongUsage;
     }
-    GameState game;
-    RandomGenerator random{arguments.seed};
-    useAirport(game, std::move(*loaded), *layout, random);
-    setUp(game, arguments, random);
+    std::array<Size, largeLayout.cloudImages> cloudSizes;
+    cloudSizes.fill(arguments.cloudSize);
+    ShiftSetup setup = setupFor(arguments);
+    setup.cloudSizes = cloudSizes;
+    setup.layout = *layout;
+    Game game{*airspace, setup, RandomGenerator{arguments.seed}};
 
     std::vector<ScriptedOrder> orders;
     if (arguments.orders) {
@@ -56,11 +50,11 @@ ExitStatus play(const Arguments& arguments) {
     Output output{stdout};
     std::unique_ptr<Recorder> recorder;
     if (arguments.log) {
-        recorder = std::make_unique<LogWriter>(output);
+        recorder = std::make_unique<LogWriter>(output, game);
     } else {
-        recorder = std::make_unique<TraceWriter>(output);
+        recorder = std::make_unique<TraceWriter>(output, game);
     }
-    runShift(game, random, *recorder, {orders, arguments.until, arguments.autopilot});
+    runShift(game, *recorder, {orders, arguments.until, arguments.autopilot});
     if (!output.finish()) {
         complain("the output could not be written");
         return scenarioRefused;

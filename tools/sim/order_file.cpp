@@ -33,14 +33,14 @@ struct FieldRule {
     int unit;
 };
 
-std::array<FieldRule, fieldCount> fieldRules(const GameState& game) {
+std::array<FieldRule, fieldCount> fieldRules(const Game& game) {
     return {{
-        {"clock", 0, std::numeric_limits<int>::max(), stepInterval},
+        {"clock", 0, std::numeric_limits<int>::max(), stepInterval.count()},
         {"flight", 0, game.planeCount() - 1, 1},
         {"altitude", approachAltitude, exitAltitude, 1},
         {"heading", 0, fullCircle - headingStep, headingStep},
-        {"speed", slowSpeed, fastSpeed, 1},
-        {"directTarget", noVor, game.vorCount(), 1},
+        {"speed", static_cast<int>(Speed::slow), static_cast<int>(Speed::fast), 1},
+        {"directTarget", -1, game.vorCount(), 1},
         {"hold", 0, 1, 1},
     }};
 }
@@ -81,7 +81,7 @@ std::optional<int> readField(std::string_view word, const FieldRule& rule) {
 }
 
 std::variant<OrderFields, std::string> readFields(const std::vector<std::string_view>& words,
-                                                  const GameState& game) {
+                                                  const Game& game) {
     if (words.size() != fieldCount) {
         return "an order has seven fields, not " + std::to_string(words.size());
     }
@@ -101,20 +101,20 @@ std::variant<OrderFields, std::string> readFields(const std::vector<std::string_
     return fields;
 }
 
-ScriptedOrder toOrder(const OrderFields& fields) {
-    return {fields[clockField],
-            fields[flightField],
+ScriptedOrder toOrder(const OrderFields& fields, int pointCount) {
+    return {ClockSeconds{fields[clockField]},
+            FlightIndex{fields[flightField]},
             {.altitude = fields[altitudeField],
              .heading = fields[headingField],
-             .speed = fields[speedField],
-             .directTarget = fields[targetField],
-             .hold = fields[holdField]}};
+             .directTarget = directTargetOf(fields[targetField], pointCount),
+             .speed = static_cast<Speed>(fields[speedField]),
+             .hold = fields[holdField] != 0}};
 }
 
 } // namespace
 
 std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
-                                                                    const GameState& game) {
+                                                                    const Game& game) {
     std::ifstream stream{file, std::ios::binary};
     std::vector<ScriptedOrder> orders;
     std::string line;
@@ -127,7 +127,7 @@ std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::f
         if (const auto* const fault = std::get_if<std::string>(&fields)) {
             return file.string() + ":" + std::to_string(number) + ": " + *fault;
         }
-        orders.push_back(toOrder(std::get<OrderFields>(fields)));
+        orders.push_back(toOrder(std::get<OrderFields>(fields), game.vorCount()));
     }
     if (!stream.eof()) {
         return file.string() + ": the orders cannot be read";

@@ -8,19 +8,19 @@
 #include <variant>
 #include <vector>
 
-#include "sim/orders.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
 struct ScriptedOrder {
-    ClockSeconds clock = 0;
-    FlightIndex flight = 0;
+    ClockSeconds clock;
+    FlightIndex flight;
     PanelOrder order;
 };
 
 /// The orders sorted by time, in file order among equal times; or what is wrong, naming file and line.
 /// Flights and map points must exist in `game`, whose shift is set up.
 std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
-                                                                    const GameState& game);
+                                                                    const Game& game);
 
 } // namespace ventrel

@@ -3,8 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "sim/flight_reports.h"
-#include "sim/flight_step.h"
+#include "sim/arrival.h"
 
 namespace ventrel {
 
@@ -17,22 +16,22 @@ constexpr int lostCost = 1500;
 
 } // namespace
 
-Outlook::Outlook(const GameState& game, ClockSeconds now) : game_{game}, now_{now} {
+Outlook::Outlook(const Game& game) : game_{game} {
     for (const Flight& flight : game.flights) {
         forecasts_.push_back(forecastOf(flight));
     }
 }
 
 void Outlook::update(FlightIndex index) {
-    forecasts_[static_cast<std::size_t>(index)] = forecastOf(game_.flight(index));
+    forecasts_[index.place()] = forecastOf(game_.flight(index));
 }
 
 int Outlook::costOf(FlightIndex index, const Flight& plan) const {
     const Forecast forecast = forecastOf(plan);
     int cost = forecast.cost;
-    for (FlightIndex i = 0; i < game_.planeCount(); ++i) {
+    for (const FlightIndex i : game_.flightPlaces()) {
         if (i != index) {
-            cost += conflictCost(forecast, forecasts_[static_cast<std::size_t>(i)]);
+            cost += conflictCost(forecast, forecasts_[i.place()]);
         }
     }
     return cost;
@@ -55,7 +54,7 @@ Outlook::Forecast Outlook::forecastOf(Flight flight) const {
     if (!flight.isOnScope()) {
         return forecast;
     }
-    ClockSeconds time = now_;
+    ClockSeconds time = game_.clock;
     for (Spot& spot : forecast.spots) {
         time += stepInterval;
         if (isDue(flight, time)) {
@@ -63,14 +62,14 @@ Outlook::Forecast Outlook::forecastOf(Flight flight) const {
             if (isSuccess(arrival)) {
                 break;
             }
-            if (isOutsideScope(flight.current().cell())) {
+            if (isOutsideScope(flight.current().cell)) {
                 forecast.cost += lostCost;
                 break;
             }
             forecast.cost += arrival == Arrival::none ? 0 : missedGoalCost;
             moveAlongPlan(flight);
         }
-        spot = {flight.current().cell(), flight.current().altitude, true};
+        spot = {flight.current().cell, flight.current().altitude, true};
     }
     return forecast;
 }

@@ -6,7 +6,7 @@
 #include <array>
 #include <vector>
 
-#include "sim/game_state.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
@@ -14,8 +14,8 @@ namespace ventrel {
 /// flight 1500, a near miss about 1000, a wrong arrival 800.
 class Outlook {
 public:
-    /// As of the step at `now`. The game outlives the outlook.
-    Outlook(const GameState& game, ClockSeconds now);
+    /// As of the game's last step. The game outlives the outlook.
+    explicit Outlook(const Game& game);
 
     /// Looks again at a flight that has been given another plan.
     void update(FlightIndex index);
@@ -44,8 +44,7 @@ private:
     Forecast forecastOf(Flight flight) const;
     static int conflictCost(const Forecast& a, const Forecast& b);
 
-    const GameState& game_;
-    ClockSeconds now_;
+    const Game& game_;
     std::vector<Forecast> forecasts_; // by flight
 };
 

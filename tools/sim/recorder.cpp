@@ -2,9 +2,9 @@
 
 namespace ventrel {
 
-void Recorder::send(Simulation& simulation, FlightIndex flight, const PanelOrder& order) {
-    orderGiven(simulation.game, flight, order);
-    orderExecuted(flight, executeOrder(simulation, flight, order));
+void Recorder::send(Game& game, FlightIndex flight, const PanelOrder& order) {
+    orderGiven(flight, order);
+    orderExecuted(flight, executeOrder(game, flight, order, *this));
 }
 
 } // namespace ventrel

@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "sim/orders.h"
+#include "sim/game.h"
 
 namespace ventrel {
 
@@ -13,27 +13,29 @@ using RunResult = std::optional<ShiftResult>;
 
 class Recorder : public SimulationEvents {
 public:
-    /// Everything from now on happens at this time.
-    void setClock(ClockSeconds clock) { clock_ = clock; }
-    ClockSeconds clock() const { return clock_; }
+    /// Writes down this game, which outlives the recorder.
+    explicit Recorder(const Game& game) : game_{game} {}
 
-    virtual void shiftSetUp(const GameState& game) = 0;
-    virtual void orderGiven(const GameState& /*game*/, FlightIndex /*flight*/, const PanelOrder& /*order*/) {}
+    virtual void shiftSetUp() = 0;
+    virtual void orderGiven(FlightIndex /*flight*/, const PanelOrder& /*order*/) {}
     virtual void orderExecuted(FlightIndex /*flight*/, OrderResult /*result*/) {}
     /// After a step that did not end the shift, with the lamps as they are then.
-    virtual void stepTaken(const GameState& game) = 0;
-    virtual void runEnded(const GameState& game, const RunResult& result) = 0;
+    virtual void stepTaken() = 0;
+    virtual void runEnded(const RunResult& result) = 0;
 
     /// What `shiftEnded` has told.
     const RunResult& result() const { return result_; }
 
-    /// Sends an order, framed by the two.
-    void send(Simulation& simulation, FlightIndex flight, const PanelOrder& order);
+    /// Sends an order to the game, framed by the two.
+    void send(Game& game, FlightIndex flight, const PanelOrder& order);
+
+protected:
+    const Game& game() const { return game_; }
 
 private:
     void shiftEnded(ShiftResult result) override { result_ = result; }
 
-    ClockSeconds clock_ = 0;
+    const Game& game_;
     RunResult result_;
 };
 

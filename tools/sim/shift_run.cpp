@@ -2,56 +2,46 @@
 
 #include <optional>
 
-#include "sim/flight_step.h"
 #include "tools/sim/autopilot.h"
 
 namespace ventrel {
 
 namespace {
 
-constexpr ClockSeconds beforeFirstStep = -1;
+/// An order for a flight that is not in play, or not yet, is passed over.
+bool isPassedOver(OrderVerdict verdict) {
+    return verdict == OrderVerdict::notInPlay || verdict == OrderVerdict::notActive;
+}
 
-/// Sends the orders whose time has come off the front of the list. A flight that cannot hear them is passed
-/// over.
-void sendOrders(Simulation& simulation, Recorder& recorder, std::span<const ScriptedOrder>& orders) {
-    while (!orders.empty() && orders.front().clock <= recorder.clock()) {
+/// Sends the orders whose time has come off the front of the list.
+void sendOrders(Game& game, Recorder& recorder, std::span<const ScriptedOrder>& orders) {
+    while (!orders.empty() && orders.front().clock <= game.clock) {
         const ScriptedOrder& next = orders.front();
         orders = orders.subspan(1);
-        const Flight& flight = simulation.game.flight(next.flight);
-        if (flight.inPlay && flight.isActive()) {
-            recorder.send(simulation, next.flight, next.order);
+        if (!isPassedOver(judgeOrder(game, next.flight, next.order))) {
+            recorder.send(game, next.flight, next.order);
         }
     }
 }
 
 } // namespace
 
-void runShift(GameState& game, RandomGenerator& random, Recorder& recorder, const RunPlan& plan) {
-    AlertLamps lamps;
-    Simulation simulation{game, lamps, random, recorder};
+void runShift(Game& game, Recorder& recorder, const RunPlan& plan) {
     std::optional<Autopilot> autopilot;
     if (plan.autopilot) {
         autopilot.emplace(game);
     }
     std::span<const ScriptedOrder> orders = plan.orders;
 
-    recorder.shiftSetUp(game);
-    game.lastStepTime = beforeFirstStep;
-    game.gameRunning = true;
-    for (ClockSeconds now = 0; now <= plan.until; now += stepInterval) {
-        recorder.setClock(now);
-        if (!SimulationStep(simulation, now)) {
-            break;
-        }
-        setLamp(lamps, recorder, gatherAlertLevel(game));
-        recorder.stepTaken(game);
-        sendOrders(simulation, recorder, orders);
+    recorder.shiftSetUp();
+    while (timeOfNextStep(game) <= plan.until && step(game, recorder)) {
+        recorder.stepTaken();
+        sendOrders(game, recorder, orders);
         if (autopilot) {
-            autopilot->steer(simulation, recorder);
+            autopilot->steer(game, recorder);
         }
     }
-    game.gameRunning = false;
-    recorder.runEnded(game, recorder.result());
+    recorder.runEnded(recorder.result());
 }
 
 } // namespace ventrel

@@ -5,7 +5,6 @@
 
 #include <span>
 
-#include "base/random.h"
 #include "tools/sim/order_file.h"
 #include "tools/sim/recorder.h"
 
@@ -13,11 +12,12 @@ namespace ventrel {
 
 struct RunPlan {
     std::span<const ScriptedOrder> orders; ///< sorted by time
-    ClockSeconds until = 0;                ///< no step later than this
+    ClockSeconds until;                    ///< no step later than this
     bool autopilot = false;
 };
 
-/// The shift is set up; it is told to the recorder, run in steps of 15 clock seconds, and told to have ended.
-void runShift(GameState& game, RandomGenerator& random, Recorder& recorder, const RunPlan& plan);
+/// The shift has just been set up; it is told to the recorder, run in steps of 15 clock seconds, and told to
+/// have ended.
+void runShift(Game& game, Recorder& recorder, const RunPlan& plan);
 
 } // namespace ventrel

@@ -1,10 +1,13 @@
 #include "tools/sim/trace_writer.h"
 
+#include "sim/reports.h"
+
 namespace ventrel {
 
 namespace {
 
 constexpr int timeWasUp = 1;
+constexpr int noOrigin = -1;
 
 template <typename Enum>
 int number(Enum value) {
@@ -24,9 +27,10 @@ void writeList(Output& output, const Range& range, Write write) {
     }
 }
 
-void writeStep(Output& output, const PlanStep& step) {
-    output << step.x << ',' << step.y << ',' << step.altitude << ',' << step.heading << ',' << step.speed
-           << ',' << step.directTarget << ',' << step.hold;
+void writeStep(Output& output, const Game& game, const PlanStep& step) {
+    output << step.cell.x << ',' << step.cell.y << ',' << step.altitude << ',' << step.heading << ','
+           << number(step.speed) << ',' << directTargetNumber(step.directTarget, game.vorCount()) << ','
+           << number(step.hold);
 }
 
 void writePoint(Output& output, const Vor& vor) {
@@ -37,40 +41,41 @@ void writePoint(Output& output, const Vor& vor) {
                              << '}';
 }
 
-void writePlan(Output& output, const Flight& flight) {
-    const auto steps = std::span{flight.plan}.first(static_cast<std::size_t>(flight.planLength));
-    writeList(output, steps, [&](const PlanStep& step) {
+void writePlan(Output& output, const Game& game, const Flight& flight) {
+    writeList(output, flight.plan.steps(), [&](const PlanStep& step) {
         output << '[';
-        writeStep(output, step);
+        writeStep(output, game, step);
         output << ']';
     });
 }
 
-void writeFlight(Output& output, const Flight& flight) {
+void writeFlight(Output& output, const Game& game, const Flight& flight) {
     output << R"({"callsign":)";
     output.quoted(flight.callsign) << R"(,"phrase":)";
     output.quoted(flight.callsignPhrase)
         << R"(,"voice":)" << flight.pilotVoice << R"(,"radio":)" << flight.radioId << R"(,"at":)"
-        << flight.scheduledAt << R"(,"origin":)" << flight.origin << R"(,"destination":)"
-        << flight.destination << R"(,"originKind":)" << number(flight.originKind) << R"(,"destinationKind":)"
-        << number(flight.destinationKind) << R"(,"ground":)" << number(flight.groundState) << R"(,"heavy":)"
-        << number(flight.heavy) << R"(,"plan":[)";
-    writePlan(output, flight);
+        << flight.scheduledAt.count() << R"(,"origin":)"
+        << (flight.origin ? flight.origin->number() : noOrigin) << R"(,"destination":)"
+        << flight.destination.number() << R"(,"originKind":)" << number(flight.originKind)
+        << R"(,"destinationKind":)" << number(flight.destinationKind) << R"(,"ground":)"
+        << number(flight.groundState) << R"(,"heavy":)" << number(flight.heavy) << R"(,"plan":[)";
+    writePlan(output, game, flight);
     output << "]}";
 }
 
-void writeRow(Output& output, FlightIndex index, const Flight& flight) {
-    output << '[' << index << ',' << number(flight.inPlay) << ',' << flight.activatedAt << ','
-           << number(flight.announced) << ',' << number(flight.groundState) << ',' << number(flight.alert)
-           << ',';
-    writeStep(output, flight.current());
-    output << ',' << flight.planIndex << ',' << flight.planLength << ']';
+void writeRow(Output& output, const Game& game, FlightIndex index) {
+    const Flight& flight = game.flight(index);
+    output << '[' << index.number() << ',' << number(flight.inPlay) << ',' << flight.activatedAt.count()
+           << ',' << number(flight.announced) << ',' << number(flight.groundState) << ','
+           << number(flight.alert) << ',';
+    writeStep(output, game, flight.current());
+    output << ',' << flight.planIndex << ',' << flight.plan.length() << ']';
 }
 
 } // namespace
 
 Output& TraceWriter::begin(std::string_view type) {
-    return output_ << R"({"type":")" << type << R"(","clock":)" << clock();
+    return output_ << R"({"type":")" << type << R"(","clock":)" << game().clock.count();
 }
 
 void TraceWriter::end() {
@@ -78,15 +83,17 @@ void TraceWriter::end() {
     output_.endLine();
 }
 
-void TraceWriter::messagePosted(std::string_view text, MessageClass messageClass) {
-    begin("message") << R"(,"class":)" << number(messageClass) << R"(,"text":)";
-    output_.quoted(text);
+void TraceWriter::reported(const Report& report) {
+    begin("message") << R"(,"class":)" << number(reportClass(report.topic)) << R"(,"text":)";
+    output_.quoted(reportText(game(), report));
     end();
 }
 
 void TraceWriter::pilotSpoke(const RadioCall& call) {
-    begin("radio") << R"(,"voice":)" << call.voice << R"(,"tag":)" << call.tag << R"(,"phrase":)";
-    output_.quoted(call.phrase) << R"(,"noise":)" << number(call.noise);
+    const Flight& flight = game().flight(call.flight);
+    begin("radio") << R"(,"voice":)" << flight.pilotVoice << R"(,"tag":)" << flight.radioId
+                   << R"(,"phrase":)";
+    output_.quoted(radioPhrase(game(), call)) << R"(,"noise":)" << number(call.hasNoise());
     end();
 }
 
@@ -95,34 +102,36 @@ void TraceWriter::lampChanged(LampLevel lit) {
     end();
 }
 
-void TraceWriter::scoreChanged(int delta, int score) {
-    begin("score") << R"(,"delta":)" << delta << R"(,"score":)" << score;
+void TraceWriter::scoreChanged(const ScoreChange& change) {
+    begin("score") << R"(,"delta":)" << change.delta << R"(,"score":)" << change.score;
     end();
 }
 
-void TraceWriter::shiftSetUp(const GameState& game) {
+void TraceWriter::shiftSetUp() {
+    const Game& shift = game();
     output_ << R"({"type":"shift","airport":)";
-    output_.quoted(game.airport.name)
-        << R"(,"planes":)" << game.planeCount() << R"(,"length":)" << game.shiftLength << R"(,"bonus":)"
-        << game.bonus << R"(,"possible":)" << game.possibleScore << R"(,"free":)" << game.freeOrders
-        << R"(,"clouds":)" << static_cast<int>(game.clouds.size()) << R"(,"points":[)";
-    writeList(output_, game.vors, [&](const Vor& vor) { writePoint(output_, vor); });
+    output_.quoted(shift.airspace->name)
+        << R"(,"planes":)" << shift.planeCount() << R"(,"length":)" << shift.shiftLength.count()
+        << R"(,"bonus":)" << shift.bonus << R"(,"possible":)" << shift.possibleScore << R"(,"free":)"
+        << shift.freeOrders << R"(,"clouds":)" << static_cast<int>(shift.clouds.size()) << R"(,"points":[)";
+    writeList(output_, shift.vors(), [&](const Vor& vor) { writePoint(output_, vor); });
     output_ << R"(],"flights":[)";
-    writeList(output_, game.flights, [&](const Flight& flight) { writeFlight(output_, flight); });
+    writeList(output_, shift.flights, [&](const Flight& flight) { writeFlight(output_, shift, flight); });
     output_ << ']';
     end();
 }
 
 void TraceWriter::orderExecuted(FlightIndex flight, OrderResult result) {
-    begin("order") << R"(,"flight":)" << flight << R"(,"result":)" << number(result);
+    begin("order") << R"(,"flight":)" << flight.number() << R"(,"result":)" << number(result);
     end();
 }
 
-void TraceWriter::stepTaken(const GameState& game) {
-    begin("step") << R"(,"score":)" << game.score << R"(,"listed":)" << game.listedCount << R"(,"flights":[)";
+void TraceWriter::stepTaken() {
+    begin("step") << R"(,"score":)" << game().score << R"(,"listed":)" << game().listedCount
+                  << R"(,"flights":[)";
     bool isFirst = true;
-    for (FlightIndex i = 0; i < game.planeCount(); ++i) {
-        const Flight& flight = game.flight(i);
+    for (const FlightIndex i : game().flightPlaces()) {
+        const Flight& flight = game().flight(i);
         if (!flight.isActive() && !flight.announced) {
             continue;
         }
@@ -130,17 +139,18 @@ void TraceWriter::stepTaken(const GameState& game) {
             output_ << ',';
         }
         isFirst = false;
-        writeRow(output_, i, flight);
+        writeRow(output_, game(), i);
     }
     output_ << ']';
     end();
 }
 
-void TraceWriter::runEnded(const GameState& game, const RunResult& result) {
-    begin("end") << R"(,"result":)" << (result ? number(*result) : timeWasUp) << R"(,"score":)" << game.score
-                 << R"(,"possible":)" << game.possibleScore;
+void TraceWriter::runEnded(const RunResult& result) {
+    begin("end") << R"(,"result":)" << (result ? number(*result) : timeWasUp) << R"(,"score":)"
+                 << game().score << R"(,"possible":)" << game().possibleScore;
     if (result == ShiftResult::collision) {
-        output_ << R"(,"collision":[)" << game.collisionFlights[0] << ',' << game.collisionFlights[1] << ']';
+        output_ << R"(,"collision":[)" << game().collisionFlights[0].number() << ','
+                << game().collisionFlights[1].number() << ']';
     }
     end();
 }

@@ -9,17 +9,17 @@ namespace ventrel {
 
 class TraceWriter final : public Recorder {
 public:
-    explicit TraceWriter(Output& output) : output_{output} {}
+    TraceWriter(Output& output, const Game& game) : Recorder{game}, output_{output} {}
 
-    void messagePosted(std::string_view text, MessageClass messageClass) override;
+    void reported(const Report& report) override;
     void pilotSpoke(const RadioCall& call) override;
     void lampChanged(LampLevel lit) override;
-    void scoreChanged(int delta, int score) override;
+    void scoreChanged(const ScoreChange& change) override;
 
-    void shiftSetUp(const GameState& game) override;
+    void shiftSetUp() override;
     void orderExecuted(FlightIndex flight, OrderResult result) override;
-    void stepTaken(const GameState& game) override;
-    void runEnded(const GameState& game, const RunResult& result) override;
+    void stepTaken() override;
+    void runEnded(const RunResult& result) override;
 
 private:
     /// The beginning of every line but the first.

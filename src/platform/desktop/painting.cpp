@@ -110,6 +110,7 @@ void paintMarkedInside(const WindowPtr& window) {
     });
     for (const WindowPtr& each : marked) {
         if (mayHandle(*each) && isShown(*each)) {
+            callHandler(each, &WindowHandlers::prepare);
             paint(each);
         }
     }

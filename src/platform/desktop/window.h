@@ -187,6 +187,9 @@ struct Activation {
 struct WindowHandlers {
     /// Paints at least `update`; the canvas lets through only what needs it. The canvas is gone afterwards.
     std::function<void(Canvas& canvas, const Rect& update)> paint = nullptr;
+    /// The window is about to be painted: the moment to bring up to date what it will show, which painting
+    /// leaves as it is. It may mark other windows.
+    std::function<void()> prepare = nullptr;
 
     std::function<void(const MouseInput&)> press = nullptr;
     std::function<void(const MouseInput&)> release = nullptr;

@@ -13,13 +13,11 @@
 
 #include "base/failure.h"
 #include "base/geometry.h"
+#include "base/millis.h"
 #include "platform/canvas/bitmap.h"
 #include "platform/devices/input.h"
 
 namespace ventrel {
-
-/// Milliseconds; as a point in time, since some moment before the program's first call.
-using Millis = std::int64_t;
 
 /// A pointer picture with its hot spot. `mask` marks with white (0xFFFFFF) the pixels that are drawn.
 /// The record is kept by its owner for as long as any window may show it.

@@ -1,0 +1,40 @@
+#include "sim/airspace.h"
+
+#include "base/file_buffer.h"
+#include "sim/airport_file.h"
+
+namespace ventrel {
+
+Result<AirspacePtr> loadAirport(const std::filesystem::path& file) {
+    Failure failure;
+    FileBuffer buffer;
+    const bool isLoaded =
+        buffer.Load(file, false, std::nullopt, [&](std::string_view text, MessageIcon icon) {
+            failure = {std::string{text}, icon};
+        });
+    if (!isLoaded) {
+        return tl::unexpected(failure);
+    }
+    return loadAirport(buffer.data, file);
+}
+
+Result<AirspacePtr> loadAirport(std::span<const std::byte> bytes, const std::filesystem::path& name) {
+    Failure failure;
+    auto file = readAirportFile(bytes, name, [&](std::string_view text, MessageIcon icon) {
+        failure = {std::string{text}, icon};
+    });
+    if (!file) {
+        return tl::unexpected(failure);
+    }
+    const auto picture = embeddedPicture(bytes, file->header);
+    return std::make_shared<const Airspace>(
+        Airspace{.name = std::move(file->header.name),
+                 .layoutWidth = file->header.layoutWidth,
+                 .routeColour = file->header.routeColour,
+                 .selectedFlightColour = file->header.selectedFlightColour,
+                 .flightColour = file->header.flightColour,
+                 .points = std::move(file->vors),
+                 .picture = {picture.begin(), picture.end()}});
+}
+
+} // namespace ventrel

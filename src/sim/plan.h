@@ -1,0 +1,123 @@
+// The path that a flight has been told to fly, move by move, and the order that changes it.
+
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <initializer_list>
+#include <optional>
+#include <span>
+
+#include "base/geometry.h"
+#include "sim/table_index.h"
+
+namespace ventrel {
+
+/// Altitudes are thousands of feet, from the one of the runways to the one of the exits.
+inline constexpr int approachAltitude = 1;
+inline constexpr int exitAltitude = 10;
+
+enum class Speed : std::int8_t { slow = -1, normal = 0, fast = 1 };
+
+/// What a step steers to, or what the control panel's selector stands on: nothing, a map point, or the
+/// selector's place for a hold.
+class DirectTarget {
+public:
+    constexpr DirectTarget() = default;
+    constexpr DirectTarget(PointIndex point) : kind_{Kind::point}, point_{point} {}
+
+    static constexpr DirectTarget none() { return DirectTarget{Kind::none}; }
+    static constexpr DirectTarget holdPlace() { return DirectTarget{Kind::holdPlace}; }
+
+    constexpr bool isOn() const { return kind_ != Kind::none; }
+    constexpr bool isHoldPlace() const { return kind_ == Kind::holdPlace; }
+    constexpr std::optional<PointIndex> point() const {
+        return kind_ == Kind::point ? std::optional{point_} : std::nullopt;
+    }
+
+    friend constexpr bool operator==(DirectTarget, DirectTarget) = default;
+
+private:
+    enum class Kind : std::uint8_t { none, point, holdPlace };
+    constexpr explicit DirectTarget(Kind kind) : kind_{kind}, point_{} {}
+
+    Kind kind_ = Kind::none;
+    PointIndex point_;
+};
+
+/// The number of a target in files and traces: -1 for nothing, the number of points for the selector's hold.
+constexpr int directTargetNumber(DirectTarget target, int pointCount) {
+    const auto point = target.point();
+    return point ? point->number() : target.isHoldPlace() ? pointCount : -1;
+}
+
+/// The target of such a number, which lies between the two.
+constexpr DirectTarget directTargetOf(int number, int pointCount) {
+    if (number < 0) {
+        return DirectTarget::none();
+    }
+    return number >= pointCount ? DirectTarget::holdPlace() : DirectTarget{PointIndex{number}};
+}
+
+/// One move of a plan: where, and how to fly.
+struct PlanStep {
+    Cell cell{};
+    int altitude = 0;            ///< 1 to 10
+    int heading = 0;             ///< degrees
+    DirectTarget directTarget{}; ///< the steps of a hold carry point 1, whatever that is
+    Speed speed = Speed::normal;
+    bool hold = false; ///< on a hold circle
+
+    friend bool operator==(const PlanStep&, const PlanStep&) = default;
+};
+
+/// The control panel's pending order: the fields of a plan step, of which the cell does not count.
+/// Without `directTarget` it is a heading order; with it and `hold` a hold, otherwise a direct course.
+using PanelOrder = PlanStep;
+
+/// At least one step and at most `capacity`. Copying copies the steps in use alone.
+class Plan {
+public:
+    static constexpr int capacity = 48;
+    /// Builders stop here, so a plan never fills its array.
+    static constexpr int longest = 47;
+
+    Plan() = default;
+    Plan(std::initializer_list<PlanStep> steps) : length_{static_cast<int>(steps.size())} {
+        std::ranges::copy(steps, steps_.begin());
+    }
+    Plan(const Plan& other) : length_{other.length_} { copySteps(other); }
+    Plan& operator=(const Plan& other) {
+        length_ = other.length_;
+        copySteps(other);
+        return *this;
+    }
+    ~Plan() = default;
+
+    int length() const { return length_; }
+    PlanStep& operator[](int step) { return steps_[static_cast<std::size_t>(step)]; }
+    const PlanStep& operator[](int step) const { return steps_[static_cast<std::size_t>(step)]; }
+    PlanStep& last() { return (*this)[length_ - 1]; }
+    const PlanStep& last() const { return (*this)[length_ - 1]; }
+    std::span<const PlanStep> steps() const { return std::span{steps_}.first(inUse()); }
+
+    /// Adds a copy of the last step; false when the plan is as long as it gets.
+    bool extend() {
+        if (length_ >= longest) {
+            return false;
+        }
+        (*this)[length_] = last();
+        ++length_;
+        return true;
+    }
+
+private:
+    std::size_t inUse() const { return static_cast<std::size_t>(length_); }
+    void copySteps(const Plan& other) { std::copy_n(other.steps_.begin(), inUse(), steps_.begin()); }
+
+    int length_ = 1;
+    std::array<PlanStep, capacity> steps_{};
+};
+
+} // namespace ventrel
