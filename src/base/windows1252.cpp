@@ -87,6 +87,10 @@ char32_t toUnicode(char windows1252) {
     return byte >= firstSpecial && byte < pastSpecial ? specials[byte - firstSpecial] : byte;
 }
 
+bool isControlCharacter(char windows1252) {
+    return isControl(toUnicode(windows1252));
+}
+
 std::string toUtf8(std::string_view windows1252) {
     std::string utf8;
     for (const char c : windows1252) {
@@ -98,7 +102,7 @@ std::string toUtf8(std::string_view windows1252) {
 std::string toTerminal(std::string_view windows1252) {
     std::string text(windows1252);
     std::ranges::replace_if(
-        text, [](char c) { return c != '\n' && isControl(toUnicode(c)); }, '?');
+        text, [](char c) { return c != '\n' && isControlCharacter(c); }, '?');
     return toUtf8(text);
 }
 

@@ -22,6 +22,10 @@ std::string fromUtf8(std::string_view utf8, char missing = '?');
 /// The Unicode character of a byte.
 char32_t toUnicode(char windows1252);
 
+/// Whether the byte is no character that can be shown: the control characters, and the five bytes that have
+/// none.
+bool isControlCharacter(char windows1252);
+
 /// A path as it is shown to the player.
 std::string pathText(const std::filesystem::path& path);
 

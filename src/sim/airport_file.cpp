@@ -19,6 +19,8 @@ constexpr std::string_view pointsOutsideText =
     "The airport file %s ('%s') is damaged: its table of map points does not lie within the file.";
 constexpr std::string_view pictureOutsideText =
     "The airport file %s ('%s') is damaged: its picture does not lie within the file.";
+constexpr std::string_view controlCharacterText =
+    "The airport file %s ('%s') is damaged: a name in it has a control character.";
 constexpr std::string_view noExitText =
     "The airport file %s ('%s') cannot be played: it has no VOR through which flights may leave.";
 constexpr std::string_view noAirportText = "The airport file %s ('%s') cannot be played: it has no airport.";
@@ -94,7 +96,29 @@ std::string_view outlineFault(std::span<const std::byte> file, const AirportHead
     return {};
 }
 
-std::string_view mapFault(const std::vector<Vor>& vors) {
+bool hasControlCharacter(std::string_view text) {
+    return std::ranges::any_of(text, isControlCharacter);
+}
+
+/// Names stand in lines: of the ticker, on strips, in traces.
+bool hasControlCharacter(const AirportFile& airport) {
+    return hasControlCharacter(airport.header.name) || std::ranges::any_of(airport.vors, [](const Vor& vor) {
+               return hasControlCharacter(vor.ident) || hasControlCharacter(vor.description);
+           });
+}
+
+/// The airspace's name for a message about its file.
+std::string shownName(const AirportHeader& header) {
+    std::string name = header.name;
+    std::ranges::replace_if(name, isControlCharacter, '?');
+    return name;
+}
+
+std::string_view mapFault(const AirportFile& airport) {
+    const auto& vors = airport.vors;
+    if (hasControlCharacter(airport)) {
+        return controlCharacterText;
+    }
     if (std::none_of(vors.begin(), vors.end(), [](const Vor& vor) { return vor.isExit; })) {
         return noExitText;
     }
@@ -142,12 +166,12 @@ std::optional<AirportFile> readAirportFile(std::span<const std::byte> file, cons
         return std::nullopt;
     }
     if (const auto fault = outlineFault(file, *header); !fault.empty()) {
-        report(FormatText(fault, {fileName, header->name}), MessageIcon::stop);
+        report(FormatText(fault, {fileName, shownName(*header)}), MessageIcon::stop);
         return std::nullopt;
     }
     AirportFile airport{*header, readPoints(file, *header)};
-    if (const auto fault = mapFault(airport.vors); !fault.empty()) {
-        report(FormatText(fault, {fileName, header->name}), MessageIcon::stop);
+    if (const auto fault = mapFault(airport); !fault.empty()) {
+        report(FormatText(fault, {fileName, shownName(*header)}), MessageIcon::stop);
         return std::nullopt;
     }
     return airport;

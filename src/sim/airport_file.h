@@ -92,7 +92,8 @@ struct AirportFile {
 std::optional<AirportHeader> readAirportHeader(std::span<const std::byte> file);
 
 /// Decodes and checks a whole file. `path` names the file in the report (stop icon) that goes with a refusal:
-/// too short, unfinished, not an airport file, table or picture outside the file, no exit, no airport.
+/// too short, unfinished, not an airport file, table or picture outside the file, a control character in a
+/// name, no exit, no airport.
 std::optional<AirportFile> readAirportFile(std::span<const std::byte> file, const std::filesystem::path& path,
                                            const FailureReporter& report);
 

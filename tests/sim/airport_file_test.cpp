@@ -91,6 +91,20 @@ TEST(AirportFile, AnAirspaceWithoutExitOrAirportIsRefused) {
     expectRefused(SmallAirspace{}.file(), "no VOR");
 }
 
+TEST(AirportFile, AControlCharacterInANameIsRefused) {
+    for (const char bad : {'\n', '\x1B', '\x7F', '\x81'}) {
+        SmallAirspace air = SmallAirspace::usual();
+        air.name = std::string("Test") + bad + "ville";
+        expectRefused(air.file(), "('Test?ville') is damaged: a name in it has a control character");
+        air = SmallAirspace::usual();
+        air.last().ident = bad;
+        expectRefused(air.file(), "control character");
+        air = SmallAirspace::usual();
+        air.last().description = std::string("Field") + bad;
+        expectRefused(air.file(), "control character");
+    }
+}
+
 int reversals(int heading, int chance, bool isAirport) {
     SmallAirspace air = SmallAirspace::usual().airport("REV", {10, 24}, heading);
     air.last().isAirport = isAirport;
