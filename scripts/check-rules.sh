@@ -64,6 +64,6 @@ standard src/controls
 standard src/shell
 machine 'SDL2?[/.]' 'src/platform/sdl/'
 machine '(ft2build|png|jpeglib|turbojpeg)\.h' 'src/platform/canvas/'
-machine 'toml\+\+' 'tools/apt/'
+machine 'toml\+\+' 'tools/(apt|sound)/'
 
 exit "$broken"
