@@ -1,6 +1,7 @@
 #include "tools/sound/midi.h"
 
 #include <algorithm>
+#include <ranges>
 #include <stdexcept>
 
 namespace ventrel::sound {
@@ -137,15 +138,15 @@ Result<std::string> endOnBeat(const std::string& bytes) {
     }
     std::string result = bytes;
     // From the last track to the first: places before a change stay where they are.
-    for (auto track = piece->tracks.rbegin(); track != piece->tracks.rend(); ++track) {
-        if (track->lastEvent > end) {
+    for (const MidiTrack& track : std::views::reverse(piece->tracks)) {
+        if (track.lastEvent > end) {
             return failed("a note sounds beyond the last beat");
         }
-        const std::string wait = grouped(end - track->lastEvent);
-        const std::size_t oldWait = track->waitEnd - track->waitBegin;
-        const std::size_t length = Reader(bytes, track->header + 4).number(4) + wait.size() - oldWait;
-        result.replace(track->waitBegin, oldWait, wait);
-        result.replace(track->header + 4, 4, bigEndian(length));
+        const std::string wait = grouped(end - track.lastEvent);
+        const std::size_t oldWait = track.waitEnd - track.waitBegin;
+        const std::size_t length = Reader(bytes, track.header + 4).number(4) + wait.size() - oldWait;
+        result.replace(track.waitBegin, oldWait, wait);
+        result.replace(track.header + 4, 4, bigEndian(length));
     }
     return result;
 }

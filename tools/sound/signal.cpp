@@ -63,7 +63,7 @@ void fadeEnds(Signal& signal, std::size_t rise, std::size_t fall) {
     }
 }
 
-Chance::Chance(std::string_view seed) : state_(14695981039346656037ULL) {
+Chance::Chance(std::string_view seed) {
     constexpr unsigned long long prime = 1099511628211ULL;
     for (const char letter : seed) {
         state_ = (state_ ^ static_cast<unsigned char>(letter)) * prime;

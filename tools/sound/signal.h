@@ -44,7 +44,7 @@ public:
     double next();
 
 private:
-    unsigned long long state_;
+    unsigned long long state_ = 14695981039346656037ULL;
 };
 
 } // namespace ventrel::sound
