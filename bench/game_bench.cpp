@@ -26,11 +26,12 @@ struct Game {
     FontSet fonts{fs::path(PROGRAM_FOLDER) / "fonts", complain};
     SilentSounds sounds;
     fs::path profile = fs::temp_directory_path() / "ventrel-bench.ini";
+    OptionsStore store{profile};
     Program program;
 
     explicit Game(Size window)
         : backend(window),
-          program({backend, fonts, sounds}, {PROGRAM_FOLDER, profile}, optionsFor(window), 3) {}
+          program({backend, fonts, sounds, store}, {PROGRAM_FOLDER}, optionsFor(window), 3) {}
     ~Game() { fs::remove(profile); }
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;
@@ -64,10 +65,10 @@ void MinuteOfPlay(benchmark::State& state) {
             state.SkipWithError("The program does not start.");
             return;
         }
-        ProfileFile profile(game.profile);
-        profile.set("Game", "Name", "Mary");
-        profile.set("Game", "Skill", "3");
-        profile.save();
+        game.store.update([](ProfileFile& profile) {
+            profile.set("Game", "Name", "Mary");
+            profile.set("Game", "Skill", "3");
+        });
         Script script(game.backend);
         script.wait(aMoment).key(Key::f, withAlt).type("n").key(Key::enter).wait(aMoment);
         for (int i = 0; i < 40; ++i) {

@@ -1,15 +1,19 @@
 // Ventrel: the game on this machine's screen.
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <cstdlib>
+#include <span>
 #include <string>
 #include <string_view>
 
+#include "base/version.h"
 #include "base/windows1252.h"
 #include "platform/machine/instance_lock.h"
 #include "platform/machine/places.h"
+#include "platform/machine/sudden_end.h"
 #include "platform/sdl/sdl_backend.h"
 #include "shell/program.h"
 #include "shell/program_data.h"
@@ -20,46 +24,45 @@ namespace ventrel {
 namespace {
 
 constexpr std::string_view programName = "ventrel";
-constexpr std::string_view instanceName = "VNTL_MUTEX";
+constexpr std::string_view lockName = "VNTL_MUTEX";
 constexpr std::uint32_t seedMask = 0xFFFF;
 
 constexpr int ended = 0;
 constexpr int cannotStart = 1;
+constexpr int wrongUsage = 2;
 
 constexpr std::string_view usage =
     "Ventrel, an air-traffic-control game.\n"
     "\n"
-    "    ventrel\n"
+    "    ventrel              plays\n"
+    "    ventrel /NOSPLASH    plays without the pictures at the start\n"
+    "    ventrel --version    tells its version\n"
+    "    ventrel --help       tells this\n"
     "\n"
     "Keys and rules: F1 in the game. The options are kept in ventrel.ini beside the program, or in the data\n"
-    "folder of the player where the program's folder cannot be written.\n";
+    "folder of the player where the program's folder cannot be written.\n"
+    "\n"
+    "Exit status: 0 played, also when another copy runs already; 1 there is no screen or a file is missing;\n"
+    "2 wrong usage.\n";
 
-void complain(std::string_view text, MessageIcon /*icon*/) {
-    std::fprintf(stderr, "ventrel: %s\n", toUtf8(text).c_str());
+/// `text` is Windows-1252, and may hold what a file or the command line has brought along.
+void complain(std::string_view text, MessageIcon /*icon*/ = MessageIcon::none) {
+    std::fprintf(stderr, "ventrel: %s\n", toTerminal(text).c_str());
 }
 
-/// The player's choices, as the options file has them and as they go back into it.
+/// What the options file says of the start.
 struct Settings {
-    std::filesystem::path file;
     Options options = {};
     Size window = {}; ///< of the picture
     std::optional<Rect> windowPlace = {};
-
-    void read() {
-        const ProfileFile profile(file);
-        options = ReadOptions(profile);
-        window = chooseWindowSize(options, screenSize().value_or(Size{}));
-        windowPlace = readWindowPlace(profile, window.width);
-    }
-    void write() const {
-        ProfileFile profile(file);
-        WriteOptions(options, profile);
-        if (windowPlace) {
-            writeWindowPlace(*windowPlace, window.width, profile);
-        }
-        profile.save();
-    }
 };
+
+Settings readSettings(const ProfileFile& profile) {
+    Settings settings{.options = ReadOptions(profile)};
+    settings.window = chooseWindowSize(settings.options, screenSize().value_or(Size{}));
+    settings.windowPlace = readWindowPlace(profile, settings.window.width);
+    return settings;
+}
 
 std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::optional<CursorImage>& icon) {
     SdlOptions options{.title = std::string(programTitle), .picture = settings.window};
@@ -82,9 +85,7 @@ std::optional<std::uint32_t> wantedSeed() {
     std::uint32_t seed = 0;
     const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), seed);
     if (fault != std::errc() || end != digits.data() + digits.size()) {
-        complain("VENTREL_SEED must be a whole number from 0 to 4294967295, not '" + std::string(digits) +
-                     "'",
-                 MessageIcon::none);
+        complain("VENTREL_SEED must be a whole number from 0 to 4294967295, not '" + fromUtf8(digits) + "'");
         return std::nullopt;
     }
     return seed;
@@ -97,16 +98,42 @@ std::uint32_t seedOfTheMoment() {
     return static_cast<std::uint32_t>(sinceStart.count()) & seedMask;
 }
 
+/// Empty where the player has no folder to keep it in.
+std::filesystem::path optionsFile(const std::filesystem::path& executable,
+                                  const std::filesystem::path& playerFolder) {
+    const std::string name = executable.stem().string() + ".ini";
+    return playerFolder.empty() ? std::filesystem::path() : playerFolder / name;
+}
+
+/// Where the player's own airspaces lie, also beside a portable copy. Empty for nowhere.
+std::filesystem::path playersAirports() {
+    const std::filesystem::path folder = userDataFolder(programName);
+    return folder.empty() ? folder : folder / "apt";
+}
+
+/// Writes what the next start begins with.
+void keepSettings(OptionsStore& store, const Options& options, Size window, const SdlBackend& backend) {
+    store.update([&](ProfileFile& profile) {
+        WriteOptions(options, profile);
+        if (const auto place = backend.placement()) {
+            writeWindowPlace(place->bounds, window.width, profile);
+        }
+    });
+    if (const auto failure = store.takeFailure()) {
+        complain(failure->text);
+    }
+}
+
 /// From start-up to shutdown, within the program's own folder.
 int play(const std::filesystem::path& executable) {
     const std::filesystem::path programFolder = executable.parent_path();
-    const std::string profileName = executable.stem().string() + ".ini";
-    Settings settings{.file = writableFile(programFolder, programName, profileName)};
-    settings.read();
+    const std::filesystem::path playerFolder = playerDataFolder(programFolder, programName);
+    OptionsStore store(optionsFile(executable, playerFolder));
+    const Settings settings = readSettings(store.atStart());
 
     ProgramData data = openProgramData(programFolder);
     if (!data.fonts.hasFaces()) {
-        complain(data.troubles.front(), MessageIcon::stop);
+        complain(data.troubles.front());
         return cannotStart;
     }
     const auto backend = openScreen(settings, data.icon);
@@ -114,22 +141,48 @@ int play(const std::filesystem::path& executable) {
         return cannotStart;
     }
     SilentSounds sounds;
+    Program program({*backend, data.fonts, sounds, store, std::move(data.troubles)},
+                    {programFolder, playerFolder, playersAirports()}, settings.options,
+                    wantedSeed().value_or(seedOfTheMoment()));
+    const auto keep = [&] { keepSettings(store, program.options(), settings.window, *backend); };
     {
-        Program program({*backend, data.fonts, sounds, std::move(data.troubles)},
-                        {programFolder, settings.file, userDataFolder(programName) / "apt"}, settings.options,
-                        wantedSeed().value_or(seedOfTheMoment()));
+        const SuddenEnd whenTheScreenIsLost(keep);
         if (const auto started = program.startUp()) {
             program.run();
         } else {
-            complain(started.error().text, started.error().icon);
+            complain(started.error().text);
         }
-        settings.options = program.options();
     }
-    if (const auto place = backend->placement()) {
-        settings.windowPlace = place->bounds;
-    }
-    settings.write();
+    keep();
     return ended;
+}
+
+/// Exactly this word skips the pictures, in any case.
+bool skipsSplash(std::string_view word) {
+    constexpr std::string_view wanted = "/NOSPLASH";
+    const auto raised = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
+    return std::ranges::equal(word, wanted, {}, raised);
+}
+
+/// What the command line asks for in place of playing, as the status to end with.
+std::optional<int> answerWords(std::span<char*> words) {
+    const std::string_view word = words.empty() ? "" : words.front();
+    if (words.empty() || (words.size() == 1 && skipsSplash(word))) {
+        return std::nullopt;
+    }
+    const bool isAlone = words.size() == 1;
+    if (isAlone && word == "--help") {
+        std::fputs(usage.data(), stdout);
+        return ended;
+    }
+    if (isAlone && word == "--version") {
+        std::printf("ventrel %s\n", programVersion.data());
+        return ended;
+    }
+    const bool isKnown = skipsSplash(word) || word == "--help" || word == "--version";
+    const std::string_view refused = isKnown ? words[1] : word;
+    complain("unknown argument '" + fromUtf8(refused) + "'; see ventrel --help");
+    return wrongUsage;
 }
 
 } // namespace
@@ -138,10 +191,14 @@ int play(const std::filesystem::path& executable) {
 
 int main(int count, char** words) {
     using namespace ventrel;
-    if (count == 2 && std::string_view(words[1]) == "--help") {
-        std::fputs(usage.data(), stdout);
+    if (const auto status = answerWords({words + 1, words + count})) {
+        return *status;
+    }
+    const std::filesystem::path lockFolder = userDataFolder(programName);
+    const InstanceLock lock(lockFolder.empty() ? lockFolder : lockFolder / lockName);
+    if (lock.isTaken()) {
+        complain("another copy is running already");
         return ended;
     }
-    const InstanceLock lock(instanceName);
-    return lock.isTaken() ? ended : play(executableFile(words[0]));
+    return play(executableFile(words[0]));
 }

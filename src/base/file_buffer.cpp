@@ -1,13 +1,13 @@
 #include "base/file_buffer.h"
 
 #include <algorithm>
-#include <fstream>
 #include <new>
 #include <system_error>
 #include <utility>
 
+#include "base/file_reading.h"
+#include "base/fresh_file.h"
 #include "base/string_table.h"
-#include "base/whole_file.h"
 #include "base/windows1252.h"
 
 namespace ventrel {
@@ -16,75 +16,69 @@ namespace fs = std::filesystem;
 
 namespace {
 
-void reportOpenFailure(const FailureReporter& report, TextId text, const fs::path& file) {
-    report(FormatStringId(text, {pathText(file)}), MessageIcon::stop);
+tl::unexpected<Failure> cannotOpen(TextId text, const fs::path& file) {
+    return failed(FormatStringId(text, {pathText(file)}));
 }
 
 /// Texts 4 and 29: how much was wanted, of which file, and how much it became.
-void reportTransferFailure(const FailureReporter& report, TextId text, std::size_t wanted,
-                           const fs::path& file, std::size_t done) {
-    report(FormatStringId(text, {static_cast<long>(wanted), pathText(file), static_cast<long>(done)}),
-           MessageIcon::stop);
+tl::unexpected<Failure> cutShort(TextId text, std::size_t wanted, const fs::path& file, std::size_t done) {
+    return failed(FormatStringId(text, {static_cast<long>(wanted), pathText(file), static_cast<long>(done)}));
 }
 
-/// The first `wanted` bytes of a file of `length` bytes, or what is there; nothing when memory cannot hold
-/// them.
-std::optional<std::vector<std::byte>> readWithinMemory(const fs::path& file, std::size_t wanted,
-                                                       std::size_t length) {
-    if (std::min(wanted, length) > FileBuffer::mostBytes) {
-        return std::nullopt;
-    }
+/// The first `wanted` bytes of the file.
+Result<Bytes> readFirst(const FileHandle& handle, std::size_t wanted, const fs::path& file) {
     try {
-        return readFileStart(file, wanted).value_or(std::vector<std::byte>{});
+        ReadPart part = readUpTo(handle, wanted);
+        if (part.content.size() < wanted) {
+            return cutShort(TextId::fileReadFailed, wanted, file, part.content.size());
+        }
+        return std::move(part.content);
     } catch (const std::bad_alloc&) {
-        return std::nullopt;
+        return failed(FormatStringId(TextId::notEnoughMemory, {static_cast<long>(wanted)}));
     }
 }
 
 } // namespace
 
-bool FileBuffer::Load(const fs::path& file, bool mayWrite, std::optional<std::size_t> size,
-                      const FailureReporter& report) {
+Result<> FileBuffer::Load(const fs::path& file, bool mayWrite, std::optional<std::size_t> size) {
     Free();
     path = file;
-    std::error_code error;
-    const auto length = static_cast<std::size_t>(fs::file_size(file, error));
-    if (error || !FileExists(file)) {
-        reportOpenFailure(report, TextId::cannotOpenFile, file);
-        return false;
+    const OpenedFile opened = openForReading(file);
+    if (!opened.handle.isOpen()) {
+        return cannotOpen(TextId::cannotOpenFile, file);
     }
-    const std::size_t wanted = size.value_or(length);
-    auto content = readWithinMemory(file, wanted, length);
+    const std::size_t wanted = size.value_or(opened.length);
+    if (std::min(wanted, opened.length) > mostBytes) {
+        return tl::unexpected(tooLarge(file, mostBytes));
+    }
+    auto content = readFirst(opened.handle, wanted, file);
     if (!content) {
-        report(FormatStringId(TextId::notEnoughMemory, {static_cast<long>(wanted)}), MessageIcon::stop);
-        return false;
-    }
-    if (content->size() < wanted) {
-        reportTransferFailure(report, TextId::fileReadFailed, wanted, file, content->size());
-        return false;
+        return tl::unexpected(std::move(content.error()));
     }
     data = std::move(*content);
     loaded = true;
     writable = mayWrite;
-    return true;
+    return {};
 }
 
-bool FileBuffer::Save(const FailureReporter& report) {
+Result<> FileBuffer::Save() {
     if (!writable) {
-        return false;
+        return failed("");
     }
     std::error_code error;
     const auto length = static_cast<std::size_t>(fs::file_size(path, error));
     if (error || !canBeRewritten(path)) {
-        reportOpenFailure(report, TextId::cannotOpenForWriting, path);
-        return false;
+        return cannotOpen(TextId::cannotOpenForWriting, path);
     }
-    const std::size_t written = data.size() < length ? data.size() : replaceFile(path, {data.data(), length});
-    if (written < length) {
-        reportTransferFailure(report, TextId::fileWriteFailed, length, path, written);
-        return false;
+    auto fresh = FreshFile::beside(path);
+    if (!fresh) {
+        return cannotOpen(TextId::cannotOpenForWriting, path);
     }
-    return true;
+    const std::size_t written = fresh->write({data.data(), std::min(data.size(), length)});
+    if (written < length || !fresh->putInPlace()) {
+        return cutShort(TextId::fileWriteFailed, length, path, written);
+    }
+    return {};
 }
 
 void FileBuffer::Free() {
@@ -95,8 +89,7 @@ void FileBuffer::Free() {
 }
 
 bool FileExists(const fs::path& file) {
-    std::error_code error;
-    return fs::is_regular_file(file, error) && std::ifstream(file).is_open();
+    return openForReading(file).handle.isOpen();
 }
 
 } // namespace ventrel

@@ -7,12 +7,12 @@
 #include <optional>
 #include <vector>
 
-#include "base/failure.h"
+#include "base/result.h"
 
 namespace ventrel {
 
 struct FileBuffer {
-    /// Far above any file of the game; whatever is longer counts as more than memory holds.
+    /// Far above any file of the game; what is longer is refused.
     static constexpr std::size_t mostBytes = std::size_t{256} << 20;
 
     std::vector<std::byte> data;
@@ -21,14 +21,14 @@ struct FileBuffer {
     bool writable = false;      ///< Save may write the buffer back
 
     /// Reads `size` bytes, or the whole file without a size, releasing what was held before.
-    /// A failure is reported (texts 1, 3 or 4, stop icon) and leaves the buffer empty.
-    bool Load(const std::filesystem::path& file, bool mayWrite, std::optional<std::size_t> size,
-              const FailureReporter& report);
+    /// A failure (texts 1, 3 or 4, stop icon; or that the file is too large) leaves the buffer empty.
+    Result<> Load(const std::filesystem::path& file, bool mayWrite, std::optional<std::size_t> size);
 
     /// Writes the buffer over its file, whose length never changes; the file must exist, and the buffer must
     /// hold at least as many bytes. The new content is written beside the file and renamed over it.
-    /// False without a report when not writable; other failures are reported (texts 28 or 29, stop icon).
-    bool Save(const FailureReporter& report);
+    /// Fails with texts 28 or 29 and the stop icon, and without a text, as there is nothing to tell, when it
+    /// is not writable.
+    Result<> Save();
 
     /// Lets go of the content; `path` stays.
     void Free();

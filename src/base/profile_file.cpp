@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
-#include <limits>
 #include <span>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -13,8 +11,6 @@
 namespace ventrel {
 
 namespace {
-
-constexpr std::size_t wholeFile = std::numeric_limits<std::size_t>::max();
 
 constexpr std::string_view blanks = " \t\r\v\f";
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
@@ -98,12 +94,13 @@ std::string written(std::string_view value) {
 
 } // namespace
 
-ProfileFile::ProfileFile(std::filesystem::path file) {
-    const auto content = readFileStart(file, wholeFile).value_or(std::vector<std::byte>{});
-    std::error_code missing;
-    const auto length = std::filesystem::file_size(file, missing);
-    *this = fromText(std::move(file), {reinterpret_cast<const char*>(content.data()), content.size()});
-    isPartial_ = !missing && content.size() != length;
+Result<ProfileFile> ProfileFile::read(std::filesystem::path file) {
+    const auto content = readWholeFileIfThere(file, mostBytes);
+    if (!content) {
+        return tl::unexpected(content.error());
+    }
+    const Bytes bytes = content->value_or(Bytes{});
+    return fromText(std::move(file), {reinterpret_cast<const char*>(bytes.data()), bytes.size()});
 }
 
 ProfileFile ProfileFile::fromText(std::filesystem::path file, std::string_view text) {
@@ -201,16 +198,13 @@ void ProfileFile::set(std::string_view section, std::string_view key, std::strin
     changed_ = true;
 }
 
-bool ProfileFile::save() {
+Result<> ProfileFile::save() {
     if (!changed_) {
-        return true;
+        return {};
     }
-    const auto content = std::as_bytes(std::span(text_));
-    if (isPartial_ || replaceFile(path_, content) < content.size()) {
-        return false;
-    }
-    changed_ = false;
-    return true;
+    auto saved = replaceFile(path_, std::as_bytes(std::span(text_)));
+    changed_ = !saved;
+    return saved;
 }
 
 } // namespace ventrel

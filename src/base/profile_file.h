@@ -12,13 +12,18 @@
 #include <string>
 #include <string_view>
 
+#include "base/result.h"
+
 namespace ventrel {
 
 class ProfileFile {
 public:
-    /// Reads the file. One that is missing or unreadable counts as empty; an unreadable one is never
-    /// replaced.
-    explicit ProfileFile(std::filesystem::path file);
+    /// Far above what a person writes into one.
+    static constexpr std::size_t mostBytes = std::size_t{1} << 20;
+
+    /// Reads the file. One that is missing counts as empty; one that is there and cannot be read whole, or
+    /// holds more than `mostBytes`, is a failure, so that nobody takes it for empty and writes over it.
+    static Result<ProfileFile> read(std::filesystem::path file);
 
     /// The same from a text, as if it stood in `file`.
     static ProfileFile fromText(std::filesystem::path file, std::string_view text);
@@ -39,9 +44,8 @@ public:
     /// or quotes at its ends is enclosed in quotes; line breaks within it become blanks.
     void set(std::string_view section, std::string_view key, std::string_view value);
 
-    /// Writes the file when something was set, making it if need be. False when it could not be written; the
-    /// old file then stands.
-    bool save();
+    /// Writes the file when something was set, making it if need be. After a failure the old file stands.
+    Result<> save();
 
 private:
     /// Where a section has a key, as offsets into the text.
@@ -61,7 +65,6 @@ private:
     std::filesystem::path path_;
     std::string text_;
     bool changed_ = false;
-    bool isPartial_ = false; // the file holds more than could be read, so it must not be replaced
 };
 
 } // namespace ventrel

@@ -1,8 +1,14 @@
 #include "base/whole_file.h"
 
+#include <fcntl.h>
+#include <sys/stat.h>
+
 #include <algorithm>
-#include <fstream>
-#include <system_error>
+#include <cerrno>
+
+#include "base/file_reading.h"
+#include "base/fresh_file.h"
+#include "base/windows1252.h"
 
 namespace ventrel {
 
@@ -12,94 +18,104 @@ namespace {
 
 constexpr std::size_t pieceSize = std::size_t{64} << 10;
 
-/// Where the new content stands until it is whole.
-fs::path besides(const fs::path& file) {
-    fs::path path = file;
-    path += ".new";
-    return path;
+tl::unexpected<Failure> cannotRead(const fs::path& file, int error) {
+    return failed("The file " + pathText(file) + " cannot be read: " + systemWords(error) + ".");
 }
 
-/// Writes piece by piece, so that the count says where the disk was full.
-std::size_t writePieces(std::ofstream& stream, std::span<const std::byte> content) {
-    std::size_t written = 0;
-    while (written < content.size()) {
-        const auto piece = content.subspan(written, std::min(pieceSize, content.size() - written));
-        stream.write(reinterpret_cast<const char*>(piece.data()), static_cast<std::streamsize>(piece.size()));
-        if (!stream.flush()) {
-            return written;
-        }
-        written += piece.size();
+Result<Bytes> readStart(const OpenedFile& opened, const fs::path& file, std::size_t limit) {
+    if (!opened.handle.isOpen()) {
+        return cannotRead(file, opened.error);
     }
-    return written;
-}
-
-/// Makes the file. Fewer than all bytes when the disk fails, also when it does so on closing alone.
-std::size_t writeFresh(const fs::path& file, std::span<const std::byte> content) {
-    std::ofstream stream(file, std::ios::binary | std::ios::trunc);
-    const std::size_t written = writePieces(stream, content);
-    stream.close();
-    return stream ? written : std::min(written, content.size() - 1);
-}
-
-/// A link is followed, so that the file it names is the one replaced.
-fs::path resolved(const fs::path& file) {
-    std::error_code error;
-    const fs::path target = fs::canonical(file, error);
-    return error ? file : target;
-}
-
-} // namespace
-
-std::optional<std::vector<std::byte>> readFileStart(const fs::path& file, std::size_t limit) {
-    std::error_code error;
-    if (!fs::is_regular_file(file, error)) {
-        return std::nullopt; // and not opened: a pipe would wait for its writer
+    ReadPart part = readUpTo(opened.handle, limit);
+    if (part.error != 0) {
+        return cannotRead(file, part.error);
     }
-    std::ifstream stream(file, std::ios::binary);
-    if (!stream) {
-        return std::nullopt;
+    return std::move(part.content);
+}
+
+Result<Bytes> readWhole(const OpenedFile& opened, const fs::path& file, std::size_t limit) {
+    if (opened.length > limit) {
+        return tl::unexpected(tooLarge(file, limit));
     }
-    std::vector<std::byte> content;
-    // Grows with what is there, so that a hostile length never becomes a giant allocation.
-    while (stream && content.size() < limit) {
-        const std::size_t had = content.size();
-        content.resize(had + std::min(pieceSize, limit - had));
-        stream.read(reinterpret_cast<char*>(content.data() + had),
-                    static_cast<std::streamsize>(content.size() - had));
-        content.resize(had + static_cast<std::size_t>(stream.gcount()));
+    auto content = readStart(opened, file, limit + 1); // a file can grow meanwhile, or not tell its length
+    if (content && content->size() > limit) {
+        return tl::unexpected(tooLarge(file, limit));
     }
     return content;
 }
 
-bool canBeRewritten(const fs::path& file) {
-    std::error_code error;
-    return fs::is_regular_file(file, error) &&
-           std::fstream(file, std::ios::binary | std::ios::in | std::ios::out).is_open();
+} // namespace
+
+OpenedFile openForReading(const fs::path& file) {
+    // Not waiting for the writer of a pipe.
+    OpenedFile opened{FileHandle(::open(file.c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY))};
+    struct stat status = {};
+    if (!opened.handle.isOpen() || ::fstat(opened.handle.get(), &status) != 0) {
+        return {.handle = FileHandle(), .error = errno};
+    }
+    if (!S_ISREG(status.st_mode)) {
+        return {.handle = FileHandle(), .error = S_ISDIR(status.st_mode) ? EISDIR : EINVAL};
+    }
+    opened.length = static_cast<std::size_t>(status.st_size);
+    return opened;
 }
 
-std::size_t replaceFile(const fs::path& file, std::span<const std::byte> content) {
-    const fs::path target = resolved(file);
-    const fs::path fresh = besides(target);
-    std::error_code error;
-    // Renaming asks the folder alone, so the file itself has to be asked first.
-    if (fs::exists(target, error) && !canBeRewritten(target)) {
-        return 0;
+ReadPart readUpTo(const FileHandle& file, std::size_t limit) {
+    ReadPart part;
+    // Grows with what is there, so that a hostile length never becomes a giant allocation.
+    while (part.content.size() < limit) {
+        const std::size_t had = part.content.size();
+        part.content.resize(had + std::min(pieceSize, limit - had));
+        const ssize_t count = ::read(file.get(), part.content.data() + had, part.content.size() - had);
+        part.content.resize(had + static_cast<std::size_t>(std::max<ssize_t>(count, 0)));
+        if (count < 0 && errno != EINTR) {
+            part.error = errno;
+        }
+        if (count == 0 || part.error != 0) {
+            break;
+        }
     }
-    const std::size_t written = writeFresh(fresh, content);
-    if (written < content.size()) {
-        fs::remove(fresh, error);
-        return written;
+    return part;
+}
+
+Result<Bytes> readFileStart(const fs::path& file, std::size_t limit) {
+    return readStart(openForReading(file), file, limit);
+}
+
+Result<Bytes> readWholeFile(const fs::path& file, std::size_t limit) {
+    return readWhole(openForReading(file), file, limit);
+}
+
+Result<std::optional<Bytes>> readWholeFileIfThere(const fs::path& file, std::size_t limit) {
+    const OpenedFile opened = openForReading(file);
+    if (opened.error == ENOENT || opened.error == ENOTDIR) {
+        return std::nullopt;
     }
-    const fs::perms mode = fs::status(target, error).permissions();
-    if (!error && mode != fs::perms::unknown) {
-        fs::permissions(fresh, mode, error);
+    auto content = readWhole(opened, file, limit);
+    if (!content) {
+        return tl::unexpected(std::move(content.error()));
     }
-    fs::rename(fresh, target, error);
-    if (error) {
-        fs::remove(fresh, error);
-        return 0;
+    return std::move(*content);
+}
+
+Failure tooLarge(const fs::path& file, std::size_t limit) {
+    return {"The file " + pathText(file) + " is too large: at most " + std::to_string(limit) +
+            " bytes can be read."};
+}
+
+bool canBeRewritten(const fs::path& file) {
+    const FileHandle handle(::open(file.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK | O_NOCTTY));
+    struct stat status = {};
+    return handle.isOpen() && ::fstat(handle.get(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+Result<> replaceFile(const fs::path& file, std::span<const std::byte> content) {
+    auto fresh = FreshFile::beside(file);
+    if (!fresh) {
+        return tl::unexpected(std::move(fresh.error()));
     }
-    return content.size();
+    fresh->write(content);
+    return fresh->putInPlace();
 }
 
 } // namespace ventrel

@@ -56,15 +56,13 @@ AirportCatalogue BuildAirportCatalogue(const fs::path& programsOwn, const fs::pa
     addAirportFiles(files, programsOwn);
     addAirportFiles(files, playersOwn);
     AirportCatalogue catalogue;
-    const auto note = [&catalogue](std::string_view text, MessageIcon) {
-        catalogue.troubles.emplace_back(text);
-    };
     for (const auto& [name, file] : files) {
         FileBuffer start;
         if (catalogue.entries.size() == mostEntries) {
             break;
         }
-        if (!start.Load(file, false, airport_layout::headerSize, note)) {
+        if (const auto read = start.Load(file, false, airport_layout::headerSize); !read) {
+            catalogue.troubles.push_back(read.error().text);
             continue;
         }
         const auto header = readAirportHeader(start.data);

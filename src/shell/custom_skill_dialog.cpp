@@ -44,6 +44,7 @@ void accept(Shell& shell, Dialog& dialog) {
     shell.options.customPlanes = static_cast<int>(shift.planes);
     shell.options.customSched = shift.length().count();
     shell.options.customBonus = shift.bonus();
+    saveOptions(shell);
     dialog.end(okId);
 }
 

@@ -52,7 +52,7 @@ void showSkill(const NewGame& game, Dialog& dialog, int skill) {
 }
 
 void open(NewGame& game, Dialog& dialog) {
-    const ProfileFile profile(game.shell.profilePath);
+    const ProfileFile profile = game.shell.store.now();
     const int skill = profile.integer(gameSection, skillKey, defaultSkill);
     if (skill >= 0 && skill < new_game::skillCount) {
         dialog.setChecked(new_game::firstSkill + skill, true);
@@ -78,6 +78,7 @@ void chooseSkill(NewGame& game, Dialog& dialog, int skill) {
 void chooseAirport(NewGame& game, Dialog& dialog) {
     if (const auto chosen = runAirportDialog(game.shell, game.catalogue)) {
         game.shell.options.airportSelect = *chosen;
+        saveOptions(game.shell);
         dialog.setText(new_game::airport, chosenAirport(game).name);
     }
 }
@@ -93,10 +94,10 @@ int checkedSkill(const Dialog& dialog) {
 
 /// The name and the level are kept for the next time.
 void remember(const GameSetup& setup, Shell& shell) {
-    ProfileFile profile(shell.profilePath);
-    profile.set(gameSection, nameKey, setup.controllerName);
-    profile.set(gameSection, skillKey, std::to_string(static_cast<int>(setup.skill)));
-    profile.save();
+    shell.store.update([&setup](ProfileFile& profile) {
+        profile.set(gameSection, nameKey, setup.controllerName);
+        profile.set(gameSection, skillKey, std::to_string(static_cast<int>(setup.skill)));
+    });
 }
 
 /// Takes what the dialog shows. The dialog stays open when something is missing.
@@ -116,6 +117,7 @@ void accept(NewGame& game, Dialog& dialog) {
     remember(game.setup, shell);
     shell.options.stormTrak = dialog.isChecked(new_game::clouds) ? 1 : 0;
     shell.options.directEntry = dialog.isChecked(new_game::directEntry) ? 1 : 0;
+    saveOptions(shell);
     const CatalogueEntry airport = chosenAirport(game);
     if (airport.name.empty()) {
         shell.report(StringTableText(TextId::chooseAirport), MessageIcon::information);

@@ -62,12 +62,14 @@ bool agreesToRestart(Shell& shell, TextId question) {
 void changeResolution(Shell& shell, int resolution) {
     if (shell.options.resolution != resolution && agreesToRestart(shell, TextId::confirmResolution)) {
         shell.options.resolution = resolution;
+        saveOptions(shell);
         shell.mainWindow.destroy();
     }
 }
 
 void changeFullScreen(Shell& shell) {
     toggle(shell.options.windowed);
+    saveOptions(shell);
     if (agreesToRestart(shell, TextId::confirmFullScreen)) {
         shell.mainWindow.destroy();
     }
@@ -80,6 +82,7 @@ void changeOption(Shell& shell, int id) {
     if (found != toggles.end()) {
         toggle(shell.options.*found->option);
         found->follow(shell);
+        saveOptions(shell);
     } else if (id == command::smallResolution) {
         changeResolution(shell, smallResolution);
     } else if (id == command::largeResolution) {

@@ -41,9 +41,10 @@ Result<> Program::startUp() {
     shell_ = std::make_unique<Shell>(ShellParts{.desktop = desktop_,
                                                 .sounds = parts_.sounds,
                                                 .fonts = parts_.fonts,
+                                                .store = parts_.store,
                                                 .programFolder = places_.programFolder,
+                                                .playerFolder = places_.playerFolder,
                                                 .playersAirports = places_.playersAirports,
-                                                .profilePath = places_.profilePath,
                                                 .pictures = std::move(loaded->pictures),
                                                 .options = options_,
                                                 .random = {seed_}});
@@ -61,6 +62,9 @@ void Program::finishStartUp() {
         shell_->report(StringTableText(TextId::colourDepthTooLow), MessageIcon::exclamation);
     }
     shell_->mainWindow.show();
+    if (const auto failure = parts_.store.takeFailure()) {
+        shell_->report(*failure);
+    }
     shell_->sounds.stopMusic();
     shell_->sounds.playMusic(idleMusic, true);
     if (!parts_.troubles.empty()) {

@@ -14,10 +14,10 @@
 
 namespace ventrel {
 
-/// Where the program finds its data and keeps its options.
+/// Where the program finds its data and the player's own (see Shell).
 struct ProgramPlaces {
     std::filesystem::path programFolder;
-    std::filesystem::path profilePath;
+    std::filesystem::path playerFolder = {};
     std::filesystem::path playersAirports = {}; ///< a folder, which need not be there
 };
 
@@ -30,6 +30,7 @@ struct ProgramParts {
     Backend& backend;
     FontSet& fonts; ///< with a face at least
     GameSounds& sounds;
+    OptionsStore& store;
     std::vector<std::string> troubles = {}; ///< what is missing but not needed; told once the console stands
 };
 

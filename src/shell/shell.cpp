@@ -36,9 +36,10 @@ ControlPanelCallbacks panelCallbacks(Shell& shell) {
 
 Shell::Shell(ShellParts parts)
     : desktop(parts.desktop), sounds(parts.sounds), fonts(parts.fonts), widgetFonts(widgetFontsOf(fonts)),
-      programFolder(std::move(parts.programFolder)), playersAirports(std::move(parts.playersAirports)),
-      profilePath(std::move(parts.profilePath)), pictures(std::move(parts.pictures)),
-      options(parts.options), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
+      store(parts.store), programFolder(std::move(parts.programFolder)),
+      playerFolder(std::move(parts.playerFolder)), playersAirports(std::move(parts.playersAirports)),
+      pictures(std::move(parts.pictures)), options(parts.options),
+      topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
       scroller{.sources = scrollerSources(*this)},
       strips{.sources = {game, fonts, pictures.arrow},
              .callbacks = {.press = [this](int slot) { StripsPress(*this, slot); }}},
@@ -64,6 +65,12 @@ MessageAnswer Shell::ask(TextId question, MessageButtons buttons) {
 
 void Shell::report(std::string_view text, MessageIcon icon) {
     showMessage(text, icon, MessageButtons::ok);
+}
+
+void Shell::report(const Failure& failure) {
+    if (!failure.text.empty()) {
+        report(failure.text, failure.icon);
+    }
 }
 
 FailureReporter Shell::reporter() {

@@ -9,7 +9,6 @@
 #include <filesystem>
 #include <set>
 
-#include "base/profile_file.h"
 #include "base/random.h"
 #include "base/string_table.h"
 #include "console/console_layout.h"
@@ -22,6 +21,7 @@
 #include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
 #include "shell/game_sounds.h"
+#include "shell/options_store.h"
 #include "shell/pictures.h"
 #include "shell/simulation_player.h"
 #include "sim/game.h"
@@ -36,9 +36,10 @@ struct ShellParts {
     Desktop& desktop;
     GameSounds& sounds;
     FontSet& fonts;
+    OptionsStore& store;
     std::filesystem::path programFolder;
+    std::filesystem::path playerFolder;
     std::filesystem::path playersAirports; ///< the folder of the player's own airport files
-    std::filesystem::path profilePath;     ///< of the options file
     Pictures pictures;
     Options options;
     RandomGenerator random;
@@ -54,9 +55,11 @@ struct Shell {
     GameSounds& sounds;
     FontSet& fonts;
     const WidgetFonts widgetFonts; ///< of menus, dialogs and message boxes
+    OptionsStore& store;
     const std::filesystem::path programFolder;
+    /// Where the player's own files lie; the program folder itself for a portable copy, empty for nowhere.
+    const std::filesystem::path playerFolder;
     const std::filesystem::path playersAirports;
-    const std::filesystem::path profilePath;
     Pictures pictures;
     Options options;
 
@@ -86,6 +89,8 @@ struct Shell {
     MessageAnswer ask(TextId question, MessageButtons buttons);
     /// The same with nothing to choose.
     void report(std::string_view text, MessageIcon icon);
+    /// The same with what an operation failed of; nothing for a failure without words.
+    void report(const Failure& failure);
     FailureReporter reporter();
 };
 

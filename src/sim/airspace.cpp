@@ -6,14 +6,9 @@
 namespace ventrel {
 
 Result<AirspacePtr> loadAirport(const std::filesystem::path& file) {
-    Failure failure;
     FileBuffer buffer;
-    const bool isLoaded =
-        buffer.Load(file, false, std::nullopt, [&](std::string_view text, MessageIcon icon) {
-            failure = {std::string{text}, icon};
-        });
-    if (!isLoaded) {
-        return tl::unexpected(failure);
+    if (const auto read = buffer.Load(file, false, std::nullopt); !read) {
+        return tl::unexpected(read.error());
     }
     return loadAirport(buffer.data, file);
 }

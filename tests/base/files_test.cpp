@@ -4,22 +4,22 @@
 
 #include "base/data_path.h"
 #include "base/file_buffer.h"
+#include "base/whole_file.h"
 #include "temp_folder.h"
 
 namespace ventrel {
 namespace {
 
-struct Report {
-    std::string text;
-    MessageIcon icon;
-};
-
 class Files : public ::testing::Test {
 protected:
-    FailureReporter report = [this](std::string_view text, MessageIcon icon) {
-        reports.push_back({std::string(text), icon});
-    };
-    std::vector<Report> reports;
+    /// What loading the file fails with.
+    Failure refusalOf(const std::filesystem::path& file, std::optional<std::size_t> size = {}) {
+        const auto loaded = buffer.Load(file, true, size);
+        EXPECT_FALSE(loaded.has_value()) << file;
+        EXPECT_FALSE(buffer.loaded || !buffer.data.empty()) << file;
+        return loaded ? Failure{} : loaded.error();
+    }
+
     TempFolder folder;
     FileBuffer buffer;
 };
@@ -27,75 +27,55 @@ protected:
 TEST_F(Files, WhatIsNoFileIsRefusedByName) {
     makePipe(folder / "pipe"); // reading it would wait for ever
     for (const auto& path : {folder / "none.apt", folder.path(), folder / "pipe"}) {
-        EXPECT_FALSE(buffer.Load(path, false, {}, report));
         EXPECT_FALSE(FileExists(path));
-        EXPECT_EQ(reports.back().text, "Can't open the file " + path.string() + ". Please re-install.");
-        EXPECT_EQ(reports.back().icon, MessageIcon::stop);
+        EXPECT_EQ(refusalOf(path),
+                  (Failure{"Can't open the file " + path.string() + ". Please re-install."}));
     }
-    EXPECT_FALSE(buffer.loaded);
 }
 
-TEST_F(Files, ShortFilesAreRefusedAndGiantSizesTakeNoMemory) {
-    writeText(folder / "short.apt", "x");
-    EXPECT_FALSE(buffer.Load(folder / "short.apt", false, std::size_t{1} << 60, report));
-    EXPECT_NE(reports.back().text.find("only read 1 bytes"), std::string::npos);
-    EXPECT_FALSE(buffer.Load(folder / "short.apt", false, 76, report));
-    EXPECT_NE(reports.back().text.find("Tried to read 76 bytes"), std::string::npos);
-    std::filesystem::resize_file(folder / "short.apt", std::size_t{1} << 30);
-    EXPECT_FALSE(buffer.Load(folder / "short.apt", false, {}, report));
-    EXPECT_NE(reports.back().text.find("Tried to allocate 1073741824 bytes"), std::string::npos);
-    EXPECT_TRUE(buffer.Load(folder / "short.apt", false, 76, report));
+TEST_F(Files, ShortFilesAreRefusedAndGiantOnesTakeNoMemory) {
+    const auto file = folder / "short.apt";
+    writeText(file, "x");
+    EXPECT_EQ(refusalOf(file, 76).text, "File read failed. Tried to read 76 bytes from " + file.string() +
+                                            " and could only read 1 bytes. Try re-installing. Something is "
+                                            "seriously wrong here.");
+    EXPECT_NE(refusalOf(file, std::size_t{1} << 60).text.find("only read 1 bytes"), std::string::npos);
+    std::filesystem::resize_file(file, std::size_t{1} << 40);
+    const std::string tooLarge =
+        "The file " + file.string() + " is too large: at most 268435456 bytes can be read.";
+    EXPECT_EQ(refusalOf(file).text, tooLarge);
+    EXPECT_EQ(readWholeFile(file, std::size_t{1} << 28).error().text, tooLarge);
+    EXPECT_TRUE(buffer.Load(file, false, 76));
 }
 
 TEST_F(Files, NextLoadReplacesTheContent) {
     writeText(folder / "a", "first");
-    EXPECT_TRUE(buffer.Load(folder / "a", false, {}, report));
+    EXPECT_TRUE(buffer.Load(folder / "a", false, {}));
     EXPECT_EQ(buffer.data.size(), 5U);
-    EXPECT_TRUE(buffer.Load(folder / "a", false, 2, report));
+    EXPECT_TRUE(buffer.Load(folder / "a", false, 2));
     EXPECT_EQ(buffer.data.size(), 2U);
-    EXPECT_FALSE(buffer.Load(folder / "b", false, {}, report));
-    EXPECT_TRUE(buffer.data.empty());
+    refusalOf(folder / "b");
 }
 
 TEST_F(Files, SavingKeepsTheLengthAndNeedsPermission) {
-    using std::filesystem::perms;
     writeText(folder / "scores", "0123456789");
-    std::filesystem::permissions(folder / "scores", perms::owner_read | perms::owner_write);
-    ASSERT_TRUE(buffer.Load(folder / "scores", false, {}, report));
-    EXPECT_FALSE(buffer.Save(report));
-    EXPECT_TRUE(reports.empty());
+    ASSERT_TRUE(buffer.Load(folder / "scores", false, {}));
+    EXPECT_EQ(buffer.Save().error().text, "");
 
-    ASSERT_TRUE(buffer.Load(folder / "scores", true, {}, report));
+    ASSERT_TRUE(buffer.Load(folder / "scores", true, {}));
     buffer.data[0] = std::byte{'X'};
     buffer.data.push_back(std::byte{'!'});
-    EXPECT_TRUE(buffer.Save(report));
+    EXPECT_TRUE(buffer.Save());
     EXPECT_EQ(readText(folder / "scores"), "X123456789");
-    EXPECT_FALSE(std::filesystem::exists(folder / "scores.new"));
-    EXPECT_EQ(std::filesystem::status(folder / "scores").permissions(),
-              perms::owner_read | perms::owner_write);
 
     buffer.data.resize(4);
-    EXPECT_FALSE(buffer.Save(report));
-    EXPECT_NE(reports.back().text.find("Tried to write 10 bytes"), std::string::npos);
+    EXPECT_NE(buffer.Save().error().text.find("Tried to write 10 bytes"), std::string::npos);
     EXPECT_EQ(readText(folder / "scores"), "X123456789");
 
     std::filesystem::remove(folder / "scores");
-    EXPECT_FALSE(buffer.Save(report));
-    EXPECT_NE(reports.back().text.find("for writing"), std::string::npos);
+    EXPECT_EQ(buffer.Save().error().text,
+              "Can't open the file " + (folder / "scores").string() + " for writing. Please re-install.");
     EXPECT_FALSE(std::filesystem::exists(folder / "scores"));
-}
-
-TEST_F(Files, FullDiskLeavesTheOldFile) {
-    if (!std::filesystem::exists("/dev/full")) {
-        GTEST_SKIP() << "no /dev/full here";
-    }
-    writeText(folder / "scores", "old");
-    std::filesystem::create_symlink("/dev/full", folder / "scores.new");
-    ASSERT_TRUE(buffer.Load(folder / "scores", true, {}, report));
-    buffer.data[0] = std::byte{'X'};
-    EXPECT_FALSE(buffer.Save(report));
-    EXPECT_NE(reports.back().text.find("could only write 0 bytes"), std::string::npos);
-    EXPECT_EQ(readText(folder / "scores"), "old");
 }
 
 TEST_F(Files, DataNamesFindTheirFilesWhateverTheCaseAndNeverLeaveTheFolder) {

@@ -82,8 +82,9 @@ Start startFrom(const fs::path& folder) {
             start.told += trouble + "\n";
         }
     }
-    Program program({backend, data.fonts, sounds, data.troubles}, {folder, folder / "ventrel.ini"},
-                    Options{.resolution = 2}, 1);
+    OptionsStore store({});
+    Program program({backend, data.fonts, sounds, store, data.troubles}, {folder}, Options{.resolution = 2},
+                    1);
     Script(backend).wait(10).key(Key::enter).wait(10).then([&] {
         start.isShown = backend.isShown() && program.shell().mainWindow.isActive();
         program.desktop().quit();

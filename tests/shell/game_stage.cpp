@@ -15,7 +15,7 @@ Size windowOf(int width) {
 }
 
 Options optionsOf(const std::filesystem::path& profile, int width) {
-    Options options = ReadOptions(ProfileFile(profile));
+    Options options = ReadOptions(ProfileFile::read(profile).value());
     options.resolution = width == 800 ? 2 : 3;
     return options;
 }
@@ -46,8 +46,9 @@ GameStage::GameStage(int windowWidth, std::string_view profileText,
       fonts_(std::filesystem::path(PROGRAM_FOLDER) / "fonts",
              [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; }) {
     writeText(profile_, profileText);
-    program_ = std::make_unique<Program>(ProgramParts{backend, fonts_, sounds},
-                                         ProgramPlaces{programFolder, profile_, playersAirports()},
+    store_ = std::make_unique<OptionsStore>(profile_);
+    program_ = std::make_unique<Program>(ProgramParts{backend, fonts_, sounds, *store_},
+                                         ProgramPlaces{programFolder, {}, playersAirports()},
                                          optionsOf(profile_, windowWidth), 1);
 }
 

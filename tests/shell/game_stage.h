@@ -101,6 +101,7 @@ private:
     TempFolder folder_;
     std::filesystem::path profile_;
     FontSet fonts_;
+    std::unique_ptr<OptionsStore> store_;
     std::unique_ptr<Program> program_;
     std::deque<Task> tasks_;
 };

@@ -42,7 +42,7 @@ TEST(NewGame, TypedNameIsWrittenProperlyAndKept) {
     stage.look([&] {
         EXPECT_TRUE(stage.game().isRunning());
         EXPECT_EQ(stage.game().controllerName, "O\xE9 macnamara");
-        EXPECT_EQ(ProfileFile(stage.profile()).text("Game", "Name", ""), "O\xE9 macnamara");
+        EXPECT_EQ(ProfileFile::read(stage.profile())->text("Game", "Name", ""), "O\xE9 macnamara");
     });
     stage.play();
     EXPECT_EQ(properName(""), "");

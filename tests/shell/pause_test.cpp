@@ -145,7 +145,8 @@ TEST(StartUp, AScreenOfFewColoursIsComplainedOfAndThenUsed) {
     HeadlessBackend backend({800, 600}, {{800, 600}, 8});
     FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
     SilentSounds sounds;
-    Program program({backend, fonts, sounds}, {PROGRAM_FOLDER, "none.ini"},
+    OptionsStore store("none.ini");
+    Program program({backend, fonts, sounds, store}, {PROGRAM_FOLDER},
                     Options{.resolution = 2, .windowed = 1}, 1);
     ASSERT_TRUE(program.startUp().has_value());
     Script(backend).wait(10).key(Key::enter).wait(10).then([&] {
@@ -161,8 +162,8 @@ TEST(StartUp, AMissingPictureIsNamedAndNothingStarts) {
     HeadlessBackend backend({800, 600});
     FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
     SilentSounds sounds;
-    Program program({backend, fonts, sounds}, {folder.path(), folder / "ventrel.ini"},
-                    Options{.resolution = 2}, 1);
+    OptionsStore store(folder / "ventrel.ini");
+    Program program({backend, fonts, sounds, store}, {folder.path()}, Options{.resolution = 2}, 1);
     Script(backend).wait(10).key(Key::enter);
     EXPECT_FALSE(program.startUp().has_value());
     EXPECT_EQ(backend.beeps(), std::vector{MessageIcon::stop});

@@ -95,7 +95,7 @@ TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
     const std::filesystem::path path = folder / "options.ini";
     std::ofstream{path} << "; mine\n[Options]\nSingleSound=4\nCustomPlanes=99\nCustomSched=7200\nMusic=off\n"
                            "CustomSkill=-17\nFuture=1\n";
-    ProfileFile profile{path};
+    auto profile = ProfileFile::read(path).value();
     Options options = ReadOptions(profile);
     EXPECT_EQ(options.singleSound, 4);
     EXPECT_EQ(options.customBonus, 825);
@@ -105,12 +105,12 @@ TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
     options.windowed = 1;
     WriteOptions(options, profile);
     ASSERT_TRUE(profile.save());
-    Options again = ReadOptions(ProfileFile{path});
+    Options again = ReadOptions(ProfileFile::read(path).value());
     EXPECT_EQ(again.singleSound, 4);
     again.singleSound = 9;
     EXPECT_EQ(again, options);
-    EXPECT_EQ(ProfileFile{path}.integer("Options", "Future", 0), 1);
-    EXPECT_EQ(ReadOptions(ProfileFile{folder / "none.ini"}), Options{});
+    EXPECT_EQ(ProfileFile::read(path)->integer("Options", "Future", 0), 1);
+    EXPECT_EQ(ReadOptions(ProfileFile::read(folder / "none.ini").value()), Options{});
 }
 
 } // namespace

@@ -33,7 +33,7 @@ std::vector<std::byte> read(const fs::path& file) {
 }
 
 void write(const fs::path& file, std::span<const std::byte> content) {
-    if (replaceFile(file, content) < content.size()) {
+    if (!replaceFile(file, content)) {
         throw SourceFault{file.string() + ": cannot be written"};
     }
 }

@@ -39,7 +39,7 @@ int draw(const std::string& name, const std::string& materials, const std::strin
         std::fprintf(stderr, "ventrel-art: there is no drawing '%s'\n", name.c_str());
         return wrongUsage;
     }
-    if (replaceFile(target, std::as_bytes(std::span(text))) < text.size()) {
+    if (!replaceFile(target, std::as_bytes(std::span(text)))) {
         std::fprintf(stderr, "ventrel-art: %s cannot be written\n", target.c_str());
         return failure;
     }

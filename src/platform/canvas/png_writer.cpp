@@ -84,7 +84,7 @@ std::vector<std::byte> encodePng(const Bitmap& bitmap) {
 
 bool writePng(const std::filesystem::path& file, const Bitmap& bitmap) {
     const std::vector<std::byte> content = encodePng(bitmap);
-    return !content.empty() && replaceFile(file, content) == content.size();
+    return !content.empty() && replaceFile(file, content).has_value();
 }
 
 } // namespace ventrel

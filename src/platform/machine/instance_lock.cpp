@@ -2,12 +2,10 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
-#include <cstdlib>
-#include <filesystem>
-#include <string>
 
 namespace ventrel {
 
@@ -15,25 +13,22 @@ namespace {
 
 constexpr int ownerOnly = 0600;
 
-/// In the player's own run-time folder, or in the common one under a name that carries the player's number.
-std::string lockFile(std::string_view name) {
-    const char* runtime = std::getenv("XDG_RUNTIME_DIR");
-    if (runtime != nullptr && *runtime != '\0') {
-        return (std::filesystem::path(runtime) / name).string();
-    }
-    return "/tmp/" + std::string(name) + "." + std::to_string(getuid());
+/// Whether it is the player's, and, from now on, nobody else's to open.
+bool isOurs(int file) {
+    struct stat status = {};
+    return ::fstat(file, &status) == 0 && status.st_uid == ::geteuid() && ::fchmod(file, ownerOnly) == 0;
 }
 
 } // namespace
 
-InstanceLock::InstanceLock(std::string_view name)
-    : file_(open(lockFile(name).c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly)) {
-    isTaken_ = file_ >= 0 && flock(file_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+InstanceLock::InstanceLock(const std::filesystem::path& file)
+    : file_(::open(file.c_str(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, ownerOnly)) {
+    isTaken_ = file_ >= 0 && isOurs(file_) && ::flock(file_, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 InstanceLock::~InstanceLock() {
     if (file_ >= 0) {
-        close(file_);
+        ::close(file_);
     }
 }
 

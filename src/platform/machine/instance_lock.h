@@ -2,20 +2,22 @@
 
 #pragma once
 
-#include <string_view>
+#include <filesystem>
 
 namespace ventrel {
 
-/// Holds a name for as long as it lives. The system lets go of it when the process ends, however that
-/// happens.
+/// Holds a file of the player's own for as long as it lives. The system lets go of it when the process ends,
+/// however that happens.
 class InstanceLock {
 public:
-    explicit InstanceLock(std::string_view name);
+    /// Makes the file when it is missing, so that nobody but the player can open it.
+    explicit InstanceLock(const std::filesystem::path& file);
     ~InstanceLock();
     InstanceLock(const InstanceLock&) = delete;
     InstanceLock& operator=(const InstanceLock&) = delete;
 
-    /// Whether another process of this player holds the name. Where no lock can be made nobody is shut out.
+    /// Whether another process of this player holds it. Where no lock can be made, and where the file is
+    /// somebody else's, nobody is shut out.
     bool isTaken() const { return isTaken_; }
 
 private:

@@ -1,5 +1,7 @@
 #include "platform/machine/places.h"
 
+#include <pwd.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <cstdlib>
@@ -11,10 +13,30 @@ namespace fs = std::filesystem;
 
 namespace {
 
-/// The value of an environment variable; empty when it is not set.
+constexpr mode_t ownerOnly = 0700;
+
+/// The path in an environment variable; empty when it is not set, and for one below the current folder.
 fs::path fromEnvironment(const char* name) {
     const char* value = std::getenv(name);
-    return value == nullptr ? fs::path() : fs::path(value);
+    const fs::path path = value == nullptr ? fs::path() : fs::path(value);
+    return path.is_absolute() ? path : fs::path();
+}
+
+/// The player's home as the environment has it, else as the system's list of users has it.
+fs::path homeFolder() {
+    const fs::path home = fromEnvironment("HOME");
+    if (!home.empty()) {
+        return home;
+    }
+    const passwd* user = ::getpwuid(::geteuid());
+    const fs::path listed = user == nullptr || user->pw_dir == nullptr ? fs::path() : fs::path(user->pw_dir);
+    return listed.is_absolute() ? listed : fs::path();
+}
+
+fs::path dataHome() {
+    const fs::path data = fromEnvironment("XDG_DATA_HOME");
+    const fs::path home = data.empty() ? homeFolder() : fs::path();
+    return home.empty() ? data : home / ".local/share";
 }
 
 } // namespace
@@ -26,18 +48,20 @@ fs::path executableFile(const char* invokedAs) {
 }
 
 fs::path userDataFolder(std::string_view program) {
-    const fs::path data = fromEnvironment("XDG_DATA_HOME");
-    return (data.is_absolute() ? data : fromEnvironment("HOME") / ".local/share") / program;
+    const fs::path data = dataHome();
+    if (data.empty()) {
+        return {};
+    }
+    const fs::path folder = data / program;
+    std::error_code error;
+    fs::create_directories(data, error);
+    ::mkdir(folder.c_str(), ownerOnly);
+    return fs::is_directory(folder, error) ? folder : fs::path();
 }
 
-fs::path writableFile(const fs::path& programFolder, std::string_view program, std::string_view name) {
-    if (access(programFolder.c_str(), W_OK) == 0) {
-        return programFolder / name;
-    }
-    const fs::path folder = userDataFolder(program);
-    std::error_code error; // a folder that cannot be made shows when the file is written
-    fs::create_directories(folder, error);
-    return folder / name;
+fs::path playerDataFolder(const fs::path& programFolder, std::string_view program) {
+    const bool isPortable = ::access(programFolder.c_str(), W_OK) == 0;
+    return isPortable ? programFolder : userDataFolder(program);
 }
 
 } // namespace ventrel

@@ -11,12 +11,12 @@ namespace ventrel {
 /// not tell.
 std::filesystem::path executableFile(const char* invokedAs);
 
-/// The folder in which the player's own files of this program go (the XDG data folder); not made here.
+/// The folder of that program's name below the player's XDG data folder, made for the player alone when it is
+/// missing. Empty when there is no such folder and none can be made; never one below the current folder.
 std::filesystem::path userDataFolder(std::string_view program);
 
-/// `name` beside the program, or in the player's data folder, which is made, where the program's folder
-/// cannot be written.
-std::filesystem::path writableFile(const std::filesystem::path& programFolder, std::string_view program,
-                                   std::string_view name);
+/// Where the player's own files go (options, airspaces): the program's folder where the player may write
+/// there, so that a copied folder takes them along, else the user data folder. Empty as that is.
+std::filesystem::path playerDataFolder(const std::filesystem::path& programFolder, std::string_view program);
 
 } // namespace ventrel

@@ -1,0 +1,69 @@
+#include "shell/options_store.h"
+
+#include <utility>
+
+#include "shell/shell.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view cannotRead = "The options are not as you left them, and none will be kept today. ";
+constexpr std::string_view cannotSave = "The options cannot be saved. ";
+constexpr std::string_view nowhere = "No folder of yours is known (is HOME set?).";
+
+} // namespace
+
+OptionsStore::OptionsStore(std::filesystem::path file)
+    : file_(std::move(file)), atStart_(ProfileFile::fromText(file_, "")) {
+    auto profile = ProfileFile::read(file_);
+    if (profile) {
+        atStart_ = std::move(*profile);
+    } else {
+        mayWrite_ = false;
+        note(cannotRead, profile.error());
+    }
+}
+
+ProfileFile OptionsStore::now() const {
+    return ProfileFile::read(file_).value_or(ProfileFile::fromText(file_, ""));
+}
+
+void OptionsStore::update(const std::function<void(ProfileFile&)>& change) {
+    if (!mayWrite_) {
+        return;
+    }
+    if (file_.empty()) {
+        note(cannotSave, {std::string(nowhere)});
+        return;
+    }
+    auto profile = ProfileFile::read(file_);
+    if (!profile) {
+        note(cannotSave, profile.error());
+        return;
+    }
+    change(*profile);
+    if (const auto saved = profile->save(); !saved) {
+        note(cannotSave, saved.error());
+    }
+}
+
+std::optional<Failure> OptionsStore::takeFailure() {
+    wasTold_ = wasTold_ || failure_;
+    return std::exchange(failure_, std::nullopt);
+}
+
+void OptionsStore::note(std::string_view what, const Failure& reason) {
+    if (!wasTold_) {
+        failure_ = Failure{std::string(what) + reason.text, MessageIcon::exclamation};
+    }
+}
+
+void saveOptions(Shell& shell) {
+    shell.store.update([&shell](ProfileFile& profile) { WriteOptions(shell.options, profile); });
+    if (const auto failure = shell.store.takeFailure()) {
+        shell.report(*failure);
+    }
+}
+
+} // namespace ventrel
