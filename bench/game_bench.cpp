@@ -30,8 +30,8 @@ struct Game {
     Program program;
 
     explicit Game(Size window)
-        : backend(window),
-          program({backend, fonts, sounds, store}, {PROGRAM_FOLDER}, optionsFor(window), 3) {}
+        : backend(window), program({backend, fonts, sounds, store}, {PROGRAM_FOLDER}, optionsFor(window), 3) {
+    }
     ~Game() { fs::remove(profile); }
     Game(const Game&) = delete;
     Game& operator=(const Game&) = delete;

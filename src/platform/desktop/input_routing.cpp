@@ -190,6 +190,7 @@ void routeWindowEvent(DesktopState& state, WindowEvent event) {
     case WindowEvent::minimised: programWasMinimised(state, true); break;
     case WindowEvent::restored: programWasMinimised(state, false); break;
     case WindowEvent::closeRequested: routeClose(state); break;
+    case WindowEvent::endRequired: state.desktop.quit(); break;
     case WindowEvent::displayChanged: state.damage.addAll(); break;
     }
 }

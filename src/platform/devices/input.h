@@ -65,6 +65,7 @@ enum class WindowEvent {
     minimised,
     restored,
     closeRequested,
+    endRequired,    ///< the program is to end without a question: a signal, or the session is over
     displayChanged, ///< another size, scale or screen
 };
 

@@ -370,6 +370,7 @@ std::unique_ptr<SdlBackend> openSdlBackend(const SdlOptions& options, const Fail
         report(std::string("The window cannot be opened: ") + SDL_GetError(), MessageIcon::stop);
         return nullptr;
     }
+    endOnHangUp();
     return backend;
 }
 

@@ -69,7 +69,7 @@ std::optional<InputEvent> windowEvent(const SDL_WindowEvent& event) {
     case SDL_WINDOWEVENT_FOCUS_LOST: return WindowEvent::deactivated;
     case SDL_WINDOWEVENT_MINIMIZED: return WindowEvent::minimised;
     case SDL_WINDOWEVENT_RESTORED: return WindowEvent::restored;
-    case SDL_WINDOWEVENT_CLOSE: return std::nullopt; // SDL asks to quit after its last window
+    case SDL_WINDOWEVENT_CLOSE: return WindowEvent::closeRequested;
     case SDL_WINDOWEVENT_DISPLAY_CHANGED: return WindowEvent::displayChanged;
     default: return std::nullopt;
     }
@@ -79,7 +79,7 @@ std::optional<InputEvent> windowEvent(const SDL_WindowEvent& event) {
 
 std::optional<InputEvent> inputOf(const SDL_Event& event, const PicturePlace& place) {
     switch (event.type) {
-    case SDL_QUIT: return WindowEvent::closeRequested;
+    case SDL_QUIT: return WindowEvent::endRequired;
     case SDL_KEYDOWN:
     case SDL_KEYUP: return keyEvent(event.key);
     case SDL_TEXTINPUT: return textEvent(event.text);

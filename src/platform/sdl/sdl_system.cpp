@@ -1,12 +1,16 @@
 #include "platform/sdl/sdl_system.h"
 
+#include <signal.h>
+
+#include <csignal>
 #include <cstdlib>
 #include <string_view>
 
 namespace ventrel {
 
 VideoSystem::VideoSystem() {
-    SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
+    // So that quitting is not asked for by a person, but by a signal or the end of the session.
+    SDL_SetHint(SDL_HINT_QUIT_ON_LAST_WINDOW_CLOSE, "0");
     // Plain pictures in memory: through a graphics driver every small change would cost a whole frame.
     SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     SDL_SetHint(SDL_HINT_VIDEO_MINIMIZE_ON_FOCUS_LOSS, "0");
@@ -28,6 +32,14 @@ bool VideoSystem::hasScreen() const {
     const bool showsNothing = driver == "dummy" || driver == "offscreen" || driver == "evdev";
     const char* wanted = std::getenv("SDL_VIDEODRIVER");
     return !showsNothing || (wanted != nullptr && driver == wanted);
+}
+
+void endOnHangUp() {
+    struct sigaction before = {};
+    const bool isFree = ::sigaction(SIGHUP, nullptr, &before) == 0 && before.sa_handler == SIG_DFL;
+    if (isFree) { // else whoever has started the program wants it to stay
+        std::signal(SIGHUP, [](int) { std::raise(SIGTERM); });
+    }
 }
 
 SurfacePointer surfaceOf(const CursorImage& image, int multiple) {

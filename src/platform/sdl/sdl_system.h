@@ -39,6 +39,10 @@ private:
     bool isOpen_ = false;
 };
 
+/// From now on a hang-up ends the program as SDL lets the other two signals end it: by its quit event. A
+/// hang-up that whoever started the program has shut out stays so.
+void endOnHangUp();
+
 /// The pointer's or icon's picture with its clear parts, `multiple` times as large; null without memory.
 SurfacePointer surfaceOf(const CursorImage& image, int multiple);
 
