@@ -1,140 +1,272 @@
-// The airspace tool, as an author meets it: faults are named, and what is shown can be built again.
-
-#include <gtest/gtest.h>
+// The airspace tool, as an author meets it: every fault is named with its line, its place and its size.
 
 #include <algorithm>
+#include <array>
+#include <sstream>
 
-#include "../base/temp_folder.h"
+#include "airspace_stage.h"
 #include "sim/airport_file.h"
-#include "sim/grid.h"
 #include "tools/apt/airspace_source.h"
 #include "tools/apt/airspace_writer.h"
-#include "tools/apt/commands.h"
+#include "tools/apt/files.h"
+#include "tools/apt/scope_measure.h"
 
 namespace ventrel {
 namespace {
 
 namespace fs = std::filesystem;
 
-fs::path planted(const std::string& name) {
-    return fs::path(AIRSPACE_FOLDER) / (name + ".toml");
-}
-
-/// What a command prints on standard output, or on standard error.
-template <typename Command>
-std::string printedBy(Command command, int expectedStatus) {
-    ::testing::internal::CaptureStdout();
-    ::testing::internal::CaptureStderr();
-    EXPECT_EQ(command(), expectedStatus);
-    return ::testing::internal::GetCapturedStdout() + ::testing::internal::GetCapturedStderr();
-}
-
 struct PlantedFault {
     const char* file;
     const char* said;
 };
 constexpr PlantedFault plantedFaults[] = {
-    {"point_outside_scope", "'OUT': it lies outside the scope"},
-    {"cut_by_edge", "'RIM': its circle is cut by the edge"},
-    {"cone_leaves_scope", "'EDG': its approach cone leaves the scope"},
-    {"points_too_near", "'CLO': it is only 2 cells from 'SSS'"},
-    {"no_exit", "no VOR through which flights may leave"},
-    {"no_airport", "has no airport"},
-    {"labels_collide", "'TWO': its label collides with that of 'ONE'"},
-    {"label_covers_runway", "'COV': its label covers 'AAA'"},
-    {"label_in_cone", "'AAA': its label lies in its own approach cone"},
-    {"too_many_points", "there are 34 points"},
-    {"exit_and_airport", "'BTH': it is both an exit and an airport"},
-    {"dark_colours", "aircraft colour cannot be seen"},
-    {"same_colours", "a selected aircraft looks like the others"},
+    {"point_outside_scope", ":31: point 'OUT': it lies outside the scope by 3 cells;"},
+    {"cut_by_edge",
+     ":31: point 'RIM': its circle is cut by the edge of the scope (21 pixels) (at 800 pixels)"},
+    {"cone_leaves_scope",
+     ":33: point 'EDG': its approach cone leaves the scope by 14 pixels (at 1024 pixels)"},
+    {"points_too_near", ":38: point 'CLO': it is only 2 cells from 'SSS'; 3 are needed\n"},
+    {"no_exit", ":1: airspace: no point is an exit"},
+    {"no_airport", ":1: airspace: no point is an airport"},
+    {"labels_collide", ":40: point 'TWO': its label collides with that of 'ONE' (8 x 11 pixels)"},
+    {"label_covers_runway", ":33: point 'COV': its label covers 'AAA' (18 x 11 pixels)"},
+    {"label_in_cone", ":19: point 'AAA': its label lies in its own approach cone (18 x 5 pixels)"},
+    {"too_many_points", ":12: there are 34 points; the order menu offers 32\n"},
+    {"exit_and_airport", ":32: point 'BTH': it is both an exit and an airport"},
+    {"dark_colours", ":5: the aircraft colour cannot be seen on black: its brightest part is 20 of 255, 72"},
+    {"same_colours", ":6: a selected aircraft looks like the others: the colours are 20 apart, 96 are"},
     {"unknown_key", ":15: point 1: unknown key 'cells'"},
-    {"long_name", ":2: airspace: 'name' must have 1 to 31 characters"},
+    {"long_name", ":2: airspace: 'name' must have 1 to 31 characters; it has 38\n"},
     {"bad_heading", ":17: point 1: 'runway' must be a multiple of 45"},
     {"duplicate_ident", ":29: point 3: another point is called 'NNN'"},
     {"not_in_character_set", ":23: point 2: 'name' has a character"},
-    {"broken", "broken.toml:1"},
+    {"outside_grid", ":20: point 1: its place lies outside the grid, 4 cells east\n"},
+    {"broken", "broken.toml:1: "},
 };
 
 TEST(AirspaceTool, NamesEveryPlantedFault) {
-    for (const auto& [file, said] : plantedFaults) {
-        const std::string printed = printedBy([&] { return apt::check({planted(file)}); }, apt::faulty);
-        EXPECT_NE(printed.find(said), std::string::npos) << printed;
-        EXPECT_NE(printed.find(std::string(file) + ".toml"), std::string::npos) << printed;
+    for (const auto& [name, said] : plantedFaults) {
+        const std::string file = std::string(name) + ".toml";
+        const std::string printed = checked(planted(file), apt::faulty);
+        expectSays(printed, said);
+        expectSays(printed, file);
     }
 }
 
+TEST(AirspaceTool, TellsAllFaultsOfASourceAtOnce) {
+    const std::string file = planted("many_faults.toml").string();
+    std::string expected;
+    std::istringstream lines(readText(planted("many_faults.txt")));
+    for (std::string line; std::getline(lines, line);) {
+        expected += file + ':' + line + '\n';
+    }
+    EXPECT_EQ(checked(file, apt::faulty), expected);
+}
+
 TEST(AirspaceTool, IsSilentOnSoundAirspaces) {
-    std::vector<fs::path> files{planted("sound")};
+    std::vector<fs::path> files{planted("sound.toml")};
     for (const auto& entry : fs::directory_iterator(SHIPPED_AIRSPACES)) {
         if (entry.path().extension() == ".toml") {
             files.push_back(entry.path());
         }
     }
-    EXPECT_EQ(printedBy([&] { return apt::check(files); }, apt::success), "");
+    EXPECT_EQ(printedBy(apt::success, [&] { return apt::check(files); }), "");
 }
 
 TEST(AirspaceTool, ChecksTheFilesThatPlayersGet) {
     const TempFolder folder;
-    ASSERT_EQ(apt::build(planted("points_too_near"), folder / "near.apt", 800), apt::success);
-    const auto check = [&] { return apt::check({folder / "near.apt", folder / "none.apt"}); };
-    const std::string printed = printedBy(check, apt::faulty);
-    EXPECT_NE(printed.find("near.apt: point 'CLO'"), std::string::npos) << printed;
-    EXPECT_NE(printed.find("none.apt: cannot be opened"), std::string::npos) << printed;
+    built(planted("points_too_near.toml"), folder / "near.apt", apt::success);
+    const std::string printed = printedBy(apt::faulty, [&] {
+        return apt::check({folder / "near.apt", folder / "none.apt"});
+    });
+    expectSays(printed, "near.apt: point 'CLO'");
+    expectSays(printed, "none.apt cannot be read: ");
 }
 
-/// Builds a file from the source, and the same file again from what is shown of it as FOLDER/shown.toml.
-void expectShownBuildsAgain(const TempFolder& folder, const fs::path& source, int width) {
-    ASSERT_EQ(apt::build(source, folder / "first.apt", width), apt::success);
-    const auto show = [&] { return apt::show(folder / "first.apt", {}); };
-    writeText(folder / "shown.toml", printedBy(show, apt::success));
-    ASSERT_EQ(apt::build(folder / "shown.toml", folder / "again.apt", width), apt::success);
-    EXPECT_EQ(readText(folder / "first.apt"), readText(folder / "again.apt"));
+TEST(AirspaceTool, FarOffIsMeasuredFromTheEdge) {
+    // The small scope is the ellipse 27 to 535 across; on its middle row a point 10 beyond is 10 outside.
+    const auto outside = [](Point p) { return apt::pixelsOutside(smallRadarLayout, std::array{p}); };
+    EXPECT_EQ(outside({534, 267}), 0);
+    EXPECT_EQ(outside({535, 267}), 1);
+    EXPECT_EQ(outside({545, 267}), 10);
+    EXPECT_EQ(outside({17, 267}), 10);
+    EXPECT_EQ(apt::cellsOutside({24, 0}), 0);
+    EXPECT_EQ(apt::cellsOutside({24, 52}), 4);
+    EXPECT_EQ(apt::cellsOutside({0, 0}), 8); // towards the middle of the corner's diagonal
 }
 
-TEST(AirspaceTool, WhatIsShownBuildsTheSameFileAgain) {
+TEST(AirspaceTool, BuildRefusesWhatCannotBePlayedAndLeavesTheOldFile) {
     const TempFolder folder;
-    // Places beside the grid and odd letters too.
-    const std::string odd =
-        "\n[[point]]\nident = \"\\\\\\\"€\"\nname = \"Über\"\nexit = true\nlabel = \"left\"\n";
-    const std::string corner = "pixel = [539, 0]\n"; // of a cell, but of none on the grid
-    writeText(folder / "odd.toml", "layout = 800\n" + readText(planted("sound")) + odd + corner);
-    expectShownBuildsAgain(folder, folder / "odd.toml", 800);
-    expectShownBuildsAgain(folder, planted("sound"), 800);
-    expectShownBuildsAgain(folder, planted("sound"), 1024);
-    const auto otherWidth = [&] { return apt::build(folder / "shown.toml", folder / "x.apt", 800); };
-    EXPECT_NE(printedBy(otherWidth, apt::faulty).find("1024"), std::string::npos);
+    writeText(folder / "old.apt", "old");
+    expectSays(built(planted("no_exit.toml"), folder / "old.apt", apt::faulty), "no point is an exit");
+    expectSays(built(planted("no_airport.toml"), folder / "old.apt", apt::faulty), "no point is an airport");
+    EXPECT_EQ(readText(folder / "old.apt"), "old");
+    EXPECT_EQ(ran("build " + planted("no_exit.toml").string() + " --width 800 -o " +
+                  (folder / "x.apt").string() + " 2>/dev/null"),
+              apt::faulty);
     EXPECT_FALSE(fs::exists(folder / "x.apt"));
 }
 
-TEST(AirspaceTool, PictureTravelsWithTheFileAndMustFit) {
+TEST(AirspaceTool, NothingIsWrittenOverItsInput) {
     const TempFolder folder;
-    // The head of a JPEG: start of image, then a frame of the given height and width.
-    const auto jpeg = [](int side) {
-        const std::string size{static_cast<char>(side >> 8), static_cast<char>(side)};
-        return std::string("\xFF\xD8\xFF\xC0\x00\x0B\x08", 7) + size + size +
-               std::string("\x01\x01\x11\x00", 4);
+    fs::copy_file(planted("map800.jpg"), folder / "map.jpg");
+    writeSource(folder / "map.toml", "\n[picture]\n800 = \"map.jpg\"\n");
+    fs::create_symlink("map.toml", folder / "link.toml");
+    fs::create_hard_link(folder / "map.jpg", folder / "hard.jpg");
+    const std::string source = readText(folder / "map.toml");
+    for (const char* const target : {"map.toml", "link.toml", "map.jpg", "hard.jpg"}) {
+        expectSays(built(folder / "map.toml", folder / target, apt::faulty), "is the same file as the input");
+    }
+    built(folder / "map.toml", folder / "map.apt", apt::success);
+    fs::create_symlink("map.apt", folder / "link.jpg");
+    const std::string file = readText(folder / "map.apt");
+    const auto show = [&] { return apt::show(folder / "map.apt", folder / "link.jpg"); };
+    expectSays(printedBy(apt::faulty, show), "is the same file as the input");
+    const apt::Drawing drawing{.file = folder / "map.toml",
+                               .target = folder / "map.jpg",
+                               .width = {},
+                               .fonts = PROGRAM_FOLDER "/fonts"};
+    expectSays(printedBy(apt::faulty, [&] { return apt::draw(drawing); }), "is the same file as the input");
+    EXPECT_EQ(readText(folder / "map.toml"), source);
+    EXPECT_EQ(readText(folder / "map.apt"), file);
+    EXPECT_EQ(readText(folder / "map.jpg"), readText(planted("map800.jpg")));
+}
+
+TEST(AirspaceTool, PicturesAreDecodedAsInTheGame) {
+    const TempFolder folder;
+    const std::string whole = readText(planted("map800.jpg"));
+    writeSource(folder / "map.toml", "\n[picture]\n800 = \"map.jpg\"\n");
+    const auto expectRefused = [&](const std::string& reason) {
+        expectSays(checked(folder / "map.toml", apt::faulty), "map.toml:36: " + reason);
+        expectSays(built(folder / "map.toml", folder / "map.apt", apt::faulty), reason);
     };
-    const std::string source = readText(planted("sound"));
-    writeText(folder / "map.toml", source + "\n[picture]\n800 = \"map.jpg\"\n");
+    writeText(folder / "map.jpg", whole.substr(0, whole.size() / 2));
+    expectRefused("the game drops the picture: it is damaged");
+    writeText(folder / "map.jpg", "no picture");
+    expectRefused("the game drops the picture: it is no JPEG");
+    fs::remove(folder / "map.jpg");
+    expectRefused("The file " + (folder / "map.jpg").string() + " cannot be read: ");
+    writeText(folder / "map.jpg", whole);
+    EXPECT_EQ(checked(folder / "map.toml", apt::success), "");
 
-    writeText(folder / "map.jpg", jpeg(540));
-    const auto build = [&] { return apt::build(folder / "map.toml", folder / "map.apt", 800); };
-    EXPECT_NE(printedBy(build, apt::faulty).find("map.jpg: not a JPEG of 539 x 539"), std::string::npos);
+    writeSource(folder / "large.toml", "\n[picture]\n1024 = \"map.jpg\"\n");
+    expectSays(checked(folder / "large.toml", apt::faulty),
+               "the picture has 539 x 539 pixels; the radar has 686 x 686 (at 1024 pixels)");
 
-    writeText(folder / "map.jpg", jpeg(539));
-    ASSERT_EQ(build(), apt::success);
-    const auto show = [&] { return apt::show(folder / "map.apt", folder / "out.jpg"); };
-    printedBy(show, apt::success);
-    EXPECT_EQ(readText(folder / "out.jpg"), jpeg(539));
+    // In a file, too.
+    built(folder / "map.toml", folder / "map.apt", apt::success);
+    EXPECT_EQ(checked(folder / "map.apt", apt::success), "");
+    std::string bytes = readText(folder / "map.apt");
+    bytes.replace(bytes.size() - 200, 100, 100, '\xFF');
+    writeText(folder / "map.apt", bytes);
+    expectSays(checked(folder / "map.apt", apt::faulty),
+               "map.apt: the game drops the picture: it is damaged");
+}
+
+TEST(AirspaceTool, PicturesStayBelowTheirSource) {
+    const TempFolder folder;
+    fs::create_directories(folder / "source/below");
+    fs::copy_file(planted("map800.jpg"), folder / "outside.jpg");
+    fs::copy_file(planted("map800.jpg"), folder / "source/below/map.jpg");
+    fs::create_symlink("../outside.jpg", folder / "source/out.jpg");
+    fs::create_symlink("below/map.jpg", folder / "source/in.jpg");
+    const auto status = [&](const std::string& name, int expected) {
+        writeSource(folder / "source/map.toml", "\n[picture]\n800 = \"" + name + "\"\n");
+        return checked(folder / "source/map.toml", expected);
+    };
+    EXPECT_EQ(status("below/map.jpg", apt::success), "");
+    EXPECT_EQ(status("in.jpg", apt::success), "");
+    expectSays(status("out.jpg", apt::faulty), "leads out of the source's folder");
+    expectSays(status("../outside.jpg", apt::faulty), ":36: picture: '800' must lie in the source's folder");
+    expectSays(status("below/../../outside.jpg", apt::faulty), "must lie in the source's folder");
+    expectSays(status((folder / "outside.jpg").string(), apt::faulty), "must lie in the source's folder");
+}
+
+TEST(AirspaceTool, DeepSourcesAreRefusedBeforeTheyAreRead) {
+    const TempFolder folder;
+    constexpr int many = 50'000;
+    const auto repeated = [](const std::string& piece, int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i) {
+            text += piece;
+        }
+        return text;
+    };
+    const fs::path file = folder / "deep.toml";
+    for (const std::string& key : {repeated("a.", many) + "a = 1", '[' + repeated("a.", many) + "a]",
+                                   repeated("a . \"b\".", 8) + "c = 1"}) {
+        writeText(file, "name = \"deep\"\n" + key);
+        expectSays(checked(file, apt::faulty), "deep.toml:2: a key has more than 16 parts");
+        EXPECT_EQ(ran("check " + file.string() + " >/dev/null"), apt::faulty);
+    }
+    writeText(file, "a = \"\"\"\n\\\"\"\"\n.\"\"\"\nb = " + repeated("[\n", many));
+    expectSays(checked(file, apt::faulty), "deep.toml:20: values lie more than 16 deep");
+    writeText(file, "a = " + repeated("{a=", many));
+    expectSays(checked(file, apt::faulty), "deep.toml:1: values lie more than 16 deep");
+    // Dots in texts, comments and numbers, and brackets beside each other, are no depth.
+    writeText(file, "# " + repeated(".[", many) + "\na = [" + repeated("[1.5], ", 40) + "]\nb = '" +
+                        repeated("[.", 40) + "'\nc = '''\n" + repeated("[.", 40) + "\n'''");
+    expectSays(checked(file, apt::faulty), "deep.toml:2: airspace: unknown key 'a'");
+}
+
+TEST(AirspaceTool, LargeFilesAreRefusedByNameAndLimit) {
+    const TempFolder folder;
+    const auto makeSparse = [&](const char* name, std::uintmax_t size) {
+        writeText(folder / name, "");
+        fs::resize_file(folder / name, size);
+        return folder / name;
+    };
+    constexpr std::uintmax_t huge = std::uintmax_t{20} << 30;
+    expectSays(checked(makeSparse("huge.toml", huge), apt::faulty),
+               "huge.toml is too large: at most 1048576");
+    expectSays(checked(makeSparse("huge.apt", huge), apt::faulty), "huge.apt is too large: at most 16777216");
+    makeSparse("map.jpg", apt::largestPicture + 1);
+    writeSource(folder / "map.toml", "\n[picture]\n800 = \"map.jpg\"\n");
+    expectSays(checked(folder / "map.toml", apt::faulty), "map.jpg is too large: at most 4194304");
+    makeSparse("map.jpg", apt::largestPicture);
+    expectSays(checked(folder / "map.toml", apt::faulty), "it is no JPEG");
+}
+
+TEST(AirspaceTool, TextsOfAFileCannotReachTheTerminalAsTheyAre) {
+    const TempFolder folder;
+    writeSource(folder / "x.toml", "\n[[point]]\n\"\\u001b[2J\\nkey\" = 1\n\"\\u009b\" = 2\n");
+    const std::string printed = checked(folder / "x.toml", apt::faulty);
+    expectSays(printed, "unknown key '?[2J?key'");
+    expectSays(printed, "unknown key '?'");
 }
 
 TEST(AirspaceTool, PointsStandWhereTheirFlightsAreDrawn) {
-    const std::string text = readText(planted("sound"));
-    const auto source = apt::parseAirspace(text, "sound.toml");
+    const auto source = apt::parseAirspace(readText(planted("sound.toml"))).airspace;
     EXPECT_EQ(apt::pixelOf(source.points[1], smallRadarLayout), (Point{24 * 11, 8 * 11}));
     EXPECT_EQ(apt::pixelOf(source.points[1], largeRadarLayout), (Point{24 * 14, 8 * 14}));
     // Hartsfield-Jackson on the grid of Atlanta.
     EXPECT_EQ(apt::cellOf({33.73, -84.71, 4.0}, 33.63470, -84.42845), (Cell{28, 25}));
+    // Two degrees of longitude on the equator, over the date line both ways.
+    EXPECT_EQ(apt::cellOf({0, 179, 6.0}, 0, -179), (Cell{24 + 20, 24}));
+    EXPECT_EQ(apt::cellOf({0, -179, 6.0}, 0, 179), (Cell{24 - 20, 24}));
+}
+
+TEST(AirspaceTool, CommandLineSaysWhatIsWrongWithIt) {
+    const TempFolder folder;
+    const std::string said = (folder / "said").string();
+    const auto refused = [&](const std::string& words) {
+        EXPECT_EQ(ran(words + " >/dev/null 2>" + said), 2) << words;
+        return readText(said);
+    };
+    expectSays(refused(""), "A command is required");
+    expectSays(refused("frob"), "frob");
+    expectSays(refused("build a.toml --width 800"), "-o is required");
+    expectSays(refused("build a.toml -o a.apt --width 640"), "640");
+    expectSays(refused("check"), "FILE is required");
+    expectSays(refused("show a.apt --pictures b"), "--pictures");
+    expectSays(refused("draw -o a.png"), "FILE or --blank");
+    expectSays(refused("draw a.apt --blank -o a.png"), "excludes");
+    EXPECT_EQ(ran("--help >" + said), 0);
+    expectSays(readText(said), "Exit status: 0 all is well");
+    EXPECT_EQ(ran("check --help >/dev/full 2>/dev/null"), apt::faulty);
+    EXPECT_EQ(ran("check " + planted("broken.toml").string() + " >/dev/full 2>" + said), apt::faulty);
+    expectSays(readText(said), "standard output cannot be written");
 }
 
 } // namespace

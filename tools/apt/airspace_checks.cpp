@@ -4,9 +4,10 @@
 #include <array>
 #include <cstdlib>
 
-#include "base/windows1252.h"
+#include "platform/canvas/image.h"
 #include "radar/map_geometry.h"
-#include "tools/apt/picture_check.h"
+#include "tools/apt/label_checks.h"
+#include "tools/apt/scope_measure.h"
 
 namespace ventrel::apt {
 
@@ -16,98 +17,90 @@ constexpr int leastDistance = 3;          // cells between two points, as a king
 constexpr std::size_t mostPoints = 32;    // that the order menu can offer
 constexpr std::size_t mostLookedAt = 256; // one by one and in pairs; a file with more is no use anyway
 constexpr int leastBrightness = 72;       // of 255, for a colour to be seen on black
+constexpr int mostChance = 100;           // percent
 constexpr int leastColourDifference =
     96; // between the selected aircraft and the others, all channels together
 
-/// The size of a label, a little on the large side: the map's font has narrow letters of at most this size.
-struct LabelMeasure {
-    int letterWidth = 0;
-    int height = 0;
-};
-constexpr LabelMeasure smallLabels{6, 10};
-constexpr LabelMeasure largeLabels{7, 11};
+int brightness(Colour colour) {
+    return std::max({colour.red(), colour.green(), colour.blue()});
+}
+
+int difference(Colour a, Colour b) {
+    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+}
 
 class Checker {
 public:
-    Checker(const AirportFile& airport, std::span<const std::byte> picture)
-        : airport_(airport), vors_(airport.vors), picture_(picture),
+    explicit Checker(const AirportFile& airport)
+        : header_(airport.header), points_(airport.vors),
+          lookedAt_(points_.first(std::min(points_.size(), mostLookedAt))),
           layout_(radarLayoutFor(airport.header.layoutWidth)) {}
 
-    std::vector<std::string> run() {
+    Problems run(std::span<const std::byte> picture) {
         checkHeader();
-        checkPicture();
-        for (std::size_t i = 0; i < lookedAt_; ++i) {
+        if (const std::string problem = pictureProblem(picture, header_.layoutWidth); !problem.empty()) {
+            add(Subject::picture, problem);
+        }
+        for (std::size_t i = 0; i < lookedAt_.size(); ++i) {
             checkNames(i);
-            checkPlace(vors_[i]);
-            checkRunway(vors_[i]);
-            checkColours(vors_[i]);
-            checkLabel(i);
+            checkPlace(i);
+            checkRunway(i);
+            checkColours(i);
+            checkLabel(lookedAt_, i, layout_, problems_);
             for (std::size_t k = 0; k < i; ++k) {
-                checkDistance(vors_[k], vors_[i]);
+                checkDistance(k, i);
             }
         }
         return std::move(problems_);
     }
 
 private:
-    void add(const std::string& problem) { problems_.push_back(problem); }
-    void add(const Vor& vor, const std::string& problem) {
-        add("point '" + toTerminal(vor.ident) + "': " + problem);
+    void add(Subject subject, const std::string& text) { problems_.push_back({{}, subject, text}); }
+    void add(std::size_t point, Subject subject, const std::string& text) {
+        problems_.push_back({point, subject, "point '" + points_[point].ident + "': " + text});
     }
 
     void checkHeader() {
-        const AirportHeader& header = airport_.header;
-        if (header.name.empty()) {
-            add("the airspace has no name");
+        if (header_.name.empty()) {
+            add(Subject::name, "the airspace has no name");
         }
-        if (!scopeLayoutFor(header.layoutWidth)) {
-            add("the layout width is " + std::to_string(header.layoutWidth) + ", neither 800 nor 1024");
+        if (!scopeLayoutFor(header_.layoutWidth)) {
+            add(Subject::layout, "the layout width is " + std::to_string(header_.layoutWidth) +
+                                     ", neither 800 nor 1024; the game never offers it");
         }
-        if (vors_.size() > mostPoints) {
-            add("there are " + std::to_string(vors_.size()) + " points; the order menu offers " +
-                std::to_string(mostPoints));
+        if (points_.size() > mostPoints) {
+            add(Subject::points, "there are " + std::to_string(points_.size()) +
+                                     " points; the order menu offers " + std::to_string(mostPoints));
         }
-        checkBrightness("aircraft", header.flightColour);
-        checkBrightness("selected aircraft", header.selectedFlightColour);
-        checkBrightness("route", header.routeColour);
-        if (difference(header.flightColour, header.selectedFlightColour) < leastColourDifference) {
-            add("a selected aircraft looks like the others");
-        }
-    }
-
-    void checkPicture() {
-        if (picture_.empty()) {
-            return;
-        }
-        const auto size = jpegSize(picture_);
-        if (!size) {
-            add("the picture is no JPEG");
-        } else if (*size != scopeSquare(layout_).size()) {
-            add("the picture has " + std::to_string(size->width) + " x " + std::to_string(size->height) +
-                " pixels; the radar has " + std::to_string(layout_.scopeSize) + " x " +
-                std::to_string(layout_.scopeSize));
+        checkBrightness({}, Subject::flightColour, "aircraft", header_.flightColour);
+        checkBrightness({}, Subject::selectedColour, "selected aircraft", header_.selectedFlightColour);
+        checkBrightness({}, Subject::routeColour, "route", header_.routeColour);
+        const int apart = difference(header_.flightColour, header_.selectedFlightColour);
+        if (apart < leastColourDifference) {
+            add(Subject::selectedColour, "a selected aircraft looks like the others: the colours are " +
+                                             std::to_string(apart) + " apart, " +
+                                             std::to_string(leastColourDifference) + " are needed");
         }
     }
 
     void checkNames(std::size_t index) {
-        const Vor& vor = vors_[index];
+        const Vor& vor = points_[index];
         if (vor.ident.empty()) {
-            add("point " + std::to_string(index + 1) + " has no ident");
+            add(Subject::ident, "point " + std::to_string(index + 1) + " has no ident");
         }
         if (vor.description.empty()) {
-            add(vor, "it has no name");
+            add(index, Subject::name, "it has no name");
         }
-        const auto before = vors_.begin() + static_cast<std::ptrdiff_t>(index);
-        if (std::find_if(vors_.begin(), before, [&](const Vor& v) { return v.ident == vor.ident; }) !=
-            before) {
-            add(vor, "another point has the same ident");
+        const auto before = points_.first(index);
+        if (std::ranges::find(before, vor.ident, &Vor::ident) != before.end()) {
+            add(index, Subject::ident, "another point has the same ident");
         }
         if (vor.isExit && vor.isAirport) {
-            add(vor,
+            add(index, Subject::kind,
                 "it is both an exit and an airport; flights that should leave there are judged as landings");
         }
         if (!vor.isExit && !vor.isAirport) {
-            add(vor, "it is neither an exit nor an airport");
+            add(index, Subject::kind, "it is neither an exit nor an airport");
         }
     }
 
@@ -115,169 +108,115 @@ private:
         return {vor.pixel.x / layout_.cellSize, vor.pixel.y / layout_.cellSize};
     }
 
-    /// Within the round glass, edge included.
-    bool isOnScope(Point p) const {
-        const Rect& e = layout_.scopeEllipse;
-        const long width = e.width();
-        const long height = e.height();
-        const long x = 2L * p.x - e.left - e.right;
-        const long y = 2L * p.y - e.top - e.bottom;
-        return x * x * height * height + y * y * width * width <= width * width * height * height;
-    }
-
-    bool isOnScope(const Rect& r) const {
-        const std::array<Point, 4> corners{
-            {r.topLeft(), {r.right - 1, r.top}, {r.left, r.bottom - 1}, {r.right - 1, r.bottom - 1}}};
-        return std::ranges::all_of(corners, [this](Point corner) { return isOnScope(corner); });
-    }
-
-    void checkPlace(const Vor& vor) {
-        const Cell cell = cellOf(vor);
-        const bool isOnGrid = cell.x >= 0 && cell.x < gridSize && cell.y >= 0 && cell.y < gridSize;
-        if (!isOnGrid || isOutsideScope(cell)) {
-            add(vor, "it lies outside the scope; flights are lost before they reach it");
-        } else if (!isOnScope(markerBox(layout_, vor.pixel))) {
-            add(vor, "its circle is cut by the edge of the scope");
+    void checkPlace(std::size_t index) {
+        const Vor& vor = points_[index];
+        if (const int cells = cellsOutside(cellOf(vor)); cells > 0) {
+            add(index, Subject::place,
+                "it lies outside the scope by " + counted(cells, "cell") +
+                    "; flights are lost before they reach it");
+        } else if (const int pixels = pixelsOutside(layout_, markerBox(layout_, vor.pixel)); pixels > 0) {
+            add(index, Subject::place,
+                "its circle is cut by the edge of the scope (" + counted(pixels, "pixel") + ')');
         }
     }
 
-    void checkRunway(const Vor& vor) {
+    void checkRunway(std::size_t index) {
+        const Vor& vor = points_[index];
         if (!vor.isAirport) {
             return;
         }
         if (!headingNumber(vor.runwayHeading)) {
-            add(vor, "its runway heading " + std::to_string(vor.runwayHeading) + " is not a multiple of 45");
+            add(index, Subject::runway,
+                "its runway heading " + std::to_string(vor.runwayHeading) +
+                    " is none of 0 to 315 in steps of 45; nobody can land");
             return;
         }
-        if (vor.reverseChance > 100) {
-            add(vor, "its reverse chance is above 100");
+        if (vor.reverseChance > mostChance) {
+            add(index, Subject::reverseChance,
+                "its reverse chance is " + std::to_string(vor.reverseChance) + " percent");
         }
-        checkCone(vor, vor.runwayHeading, "its approach cone leaves the scope");
+        checkCone(index, vor.runwayHeading, "its approach cone");
         if (vor.reverseChance > 0) {
-            checkCone(vor, turned(vor.runwayHeading, fullCircle / 2),
-                      "the approach cone of the opposite direction leaves the scope");
+            checkCone(index, turned(vor.runwayHeading, fullCircle / 2),
+                      "the approach cone of the opposite direction");
         }
     }
 
-    void checkCone(const Vor& vor, int heading, const std::string& problem) {
-        const auto cone = approachCone(layout_, vor.pixel, heading);
-        const bool isInside = std::ranges::all_of(
-            *cone, [this](const MapLine& line) { return isOnScope(line.from) && isOnScope(line.to); });
-        if (!isInside) {
-            add(vor, problem);
+    void checkCone(std::size_t index, int heading, const std::string& what) {
+        const auto cone = *approachCone(layout_, points_[index].pixel, heading);
+        const std::array<Point, 4> ends{cone[0].from, cone[0].to, cone[1].from, cone[1].to};
+        if (const int pixels = pixelsOutside(layout_, ends); pixels > 0) {
+            add(index, Subject::runway, what + " leaves the scope by " + counted(pixels, "pixel"));
         }
     }
 
-    void checkDistance(const Vor& a, const Vor& b) {
-        const Cell p = cellOf(a);
-        const Cell q = cellOf(b);
+    void checkDistance(std::size_t first, std::size_t second) {
+        const Cell p = cellOf(points_[first]);
+        const Cell q = cellOf(points_[second]);
         const int distance = std::max(std::abs(p.x - q.x), std::abs(p.y - q.y));
         if (distance < leastDistance) {
-            add(b, "it is only " + std::to_string(distance) + " cells from '" + toTerminal(a.ident) + "'");
+            add(second, Subject::place,
+                "it is only " + counted(distance, "cell") + " from '" + points_[first].ident + "'; " +
+                    std::to_string(leastDistance) + " are needed");
         }
     }
 
-    static int brightness(Colour colour) { return std::max({colour.red(), colour.green(), colour.blue()}); }
-
-    static int difference(Colour a, Colour b) {
-        return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
-    }
-
-    void checkBrightness(const std::string& what, Colour colour) {
+    void checkBrightness(std::optional<std::size_t> point, Subject subject, const std::string& what,
+                         Colour colour) {
         if (brightness(colour) < leastBrightness) {
-            add("the " + what + " colour cannot be seen on black");
+            problems_.push_back({point, subject,
+                                 "the " + what + " colour cannot be seen on black: its brightest part is " +
+                                     std::to_string(brightness(colour)) + " of 255, " +
+                                     std::to_string(leastBrightness) + " are needed"});
         }
     }
 
-    void checkColours(const Vor& vor) {
-        const std::string of = " of '" + toTerminal(vor.ident) + '\'';
-        checkBrightness("label" + of, vor.labelColour);
-        checkBrightness("symbol" + of, vor.symbolColour);
+    void checkColours(std::size_t index) {
+        const Vor& vor = points_[index];
+        const std::string of = " of '" + vor.ident + '\'';
+        checkBrightness(index, Subject::labelColour, "label" + of, vor.labelColour);
+        checkBrightness(index, Subject::symbolColour, "symbol" + of, vor.symbolColour);
         if (vor.isAirport) {
-            checkBrightness("runway" + of, vor.runwayColour);
+            checkBrightness(index, Subject::runwayColour, "runway" + of, vor.runwayColour);
         }
     }
 
-    Rect labelBox(const Vor& vor) const {
-        const bool isLarge = layout_.windowWidth == largeRadarLayout.windowWidth;
-        const LabelMeasure& measure = isLarge ? largeLabels : smallLabels;
-        const Size size{static_cast<int>(vor.ident.size()) * measure.letterWidth, measure.height};
-        return Rect::at(labelCorner(layout_, vor, size), size);
-    }
-
-    /// The boxes around an airport's approach cone, and around that of the opposite direction where it may be
-    /// used.
-    std::vector<Rect> coneBoxes(const Vor& vor) const {
-        std::vector<Rect> boxes;
-        const auto add = [&](int heading) {
-            if (const auto cone = vor.isAirport ? approachCone(layout_, vor.pixel, heading) : std::nullopt) {
-                boxes.push_back(boxAround(*cone));
-            }
-        };
-        add(vor.runwayHeading);
-        if (vor.reverseChance > 0) {
-            add(turned(vor.runwayHeading, fullCircle / 2));
-        }
-        return boxes;
-    }
-
-    /// The boxes of a point's circle, runway and approach cones, which no other point's label may cover.
-    std::vector<Rect> drawnBoxes(const Vor& vor) const {
-        std::vector<Rect> boxes = coneBoxes(vor);
-        boxes.push_back(markerBox(layout_, vor.pixel));
-        if (const auto runway =
-                vor.isAirport ? runwayLines(layout_, vor.pixel, vor.runwayHeading) : std::nullopt) {
-            boxes.push_back(boxAround(*runway));
-        }
-        return boxes;
-    }
-
-    static Rect boxAround(const std::array<MapLine, 2>& lines) {
-        Rect box;
-        for (const MapLine& line : lines) {
-            for (const Point p : {line.from, line.to}) {
-                box = box.unitedWith({p.x, p.y, p.x + 1, p.y + 1});
-            }
-        }
-        return box;
-    }
-
-    static bool meetsAny(const Rect& rect, const std::vector<Rect>& boxes) {
-        return std::ranges::any_of(boxes, [&](const Rect& box) { return rect.intersects(box); });
-    }
-
-    void checkLabel(std::size_t index) {
-        const Vor& vor = vors_[index];
-        const Rect label = labelBox(vor);
-        if (!isOnScope(label)) {
-            add(vor, "its label is cut by the edge of the scope");
-        }
-        if (meetsAny(label, coneBoxes(vor))) {
-            add(vor, "its label lies in its own approach cone");
-        }
-        for (std::size_t k = 0; k < lookedAt_; ++k) {
-            const Vor& other = vors_[k];
-            if (k < index && label.intersects(labelBox(other))) {
-                add(vor, "its label collides with that of '" + toTerminal(other.ident) + '\'');
-            }
-            if (k != index && meetsAny(label, drawnBoxes(other))) {
-                add(vor, "its label covers '" + toTerminal(other.ident) + '\'');
-            }
-        }
-    }
-
-    const AirportFile& airport_;
-    const std::vector<Vor>& vors_;
-    const std::size_t lookedAt_ = std::min(vors_.size(), mostLookedAt);
-    std::span<const std::byte> picture_;
+    const AirportHeader& header_;
+    std::span<const Vor> points_;
+    std::span<const Vor> lookedAt_;
     const RadarLayout& layout_;
-    std::vector<std::string> problems_;
+    Problems problems_;
 };
+
+std::string_view reasonOf(ImageError error) {
+    switch (error) {
+    case ImageError::wrongFormat: return "it is no JPEG";
+    case ImageError::tooLarge: return "it is too large";
+    default: return "it is damaged";
+    }
+}
 
 } // namespace
 
-std::vector<std::string> airspaceProblems(const AirportFile& airport, std::span<const std::byte> picture) {
-    return Checker(airport, picture).run();
+std::string pictureProblem(std::span<const std::byte> jpeg, int layoutWidth) {
+    if (jpeg.empty()) {
+        return {};
+    }
+    Image image;
+    const ImageError error = ImageLoadMemory(image, jpeg, ImageFormat::jpeg);
+    if (error != ImageError::none) {
+        return "the game drops the picture: " + std::string(reasonOf(error));
+    }
+    const auto side = static_cast<std::uint32_t>(radarLayoutFor(layoutWidth).scopeSize);
+    if (image.width != side || image.height != side) {
+        return "the picture has " + std::to_string(image.width) + " x " + std::to_string(image.height) +
+               " pixels; the radar has " + std::to_string(side) + " x " + std::to_string(side);
+    }
+    return {};
+}
+
+Problems airspaceProblems(const AirportFile& airport, std::span<const std::byte> picture) {
+    return Checker(airport).run(picture);
 }
 
 } // namespace ventrel::apt

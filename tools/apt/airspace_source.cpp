@@ -3,12 +3,16 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdint>
+#include <cstdlib>
+#include <filesystem>
 #include <limits>
 #include <numbers>
+#include <set>
 
 #include "base/windows1252.h"
 #include "sim/airport_file.h"
 #include "sim/grid.h"
+#include "tools/apt/source_limits.h"
 #include "tools/apt/toml_reader.h"
 
 namespace ventrel::apt {
@@ -29,10 +33,11 @@ struct PointColours {
 
 class SourceReader {
 public:
-    SourceReader(const toml::table& root, const std::filesystem::path& file) : root_(root), file_(file) {}
+    explicit SourceReader(const toml::table& root) : root_(root) {}
 
-    AirspaceSource read() {
-        TableReader reader(root_, file_, "airspace");
+    SourceReading read() {
+        TableReader reader(root_, faults_, "airspace");
+        source_.lines = reader.lines();
         source_.name = reader.text("name", airport_layout::nameSize - 1);
         if (reader.has("layout")) {
             readLayout(reader);
@@ -44,35 +49,42 @@ public:
         if (reader.has("picture")) {
             readPictures(reader.table("picture"));
         }
-        const toml::array& points = reader.tables("point");
-        if (points.size() > mostPoints) {
-            reader.fail("there are too many points", "point");
-        }
-        for (const toml::node& point : points) {
-            readPoint(*point.as_table());
-        }
+        readPoints(reader);
         reader.finish();
-        return std::move(source_);
+        std::ranges::stable_sort(faults_, {}, &Fault::line);
+        return {std::move(source_), std::move(faults_)};
     }
 
 private:
     void readLayout(TableReader& reader) {
         const int width = reader.integer("layout", smallLayout.windowWidth, largeLayout.windowWidth);
-        if (!scopeLayoutFor(width)) {
+        if (reader.isSound() && !scopeLayoutFor(width)) {
             reader.fail("'layout' must be 800 or 1024", "layout");
         }
-        source_.layoutWidth = width;
+        if (scopeLayoutFor(width)) {
+            source_.layoutWidth = width;
+        }
     }
 
-    void readGrid(const toml::table& table) {
-        TableReader reader(table, file_, "grid");
-        source_.grid = GridPlace{reader.real("latitude", -89, 89), reader.real("longitude", -180, 180),
-                                 reader.real("nm_per_cell", 0.01, 100)};
+    void readGrid(const toml::table* table) {
+        if (table == nullptr) {
+            return;
+        }
+        TableReader reader(*table, faults_, "grid");
+        const GridPlace grid{reader.real("latitude", -89, 89), reader.real("longitude", -180, 180),
+                             reader.real("nm_per_cell", 0.01, 100)};
         reader.finish();
+        if (reader.isSound()) {
+            source_.grid = grid;
+        }
     }
 
-    void readColours(const toml::table& table) {
-        TableReader reader(table, file_, "colours");
+    void readColours(const toml::table* table) {
+        if (table == nullptr) {
+            return;
+        }
+        TableReader reader(*table, faults_, "colours");
+        source_.colourLines = reader.lines();
         source_.flightColour = reader.colour("aircraft");
         source_.selectedFlightColour = reader.colour("selected");
         source_.routeColour = reader.colour("route");
@@ -80,29 +92,72 @@ private:
         reader.finish();
     }
 
-    void readPictures(const toml::table& table) {
-        TableReader reader(table, file_, "picture");
+    void readPictures(const toml::table* table) {
+        if (table == nullptr) {
+            return;
+        }
+        TableReader reader(*table, faults_, "picture");
+        source_.pictureLines = reader.lines();
         for (const ScopeLayout& layout : {smallLayout, largeLayout}) {
             const std::string width = std::to_string(layout.windowWidth);
             if (reader.has(width)) {
-                constexpr std::size_t longestName = 255;
-                source_.pictures[layout.windowWidth] =
-                    file_.parent_path() / toUtf8(reader.text(width, longestName));
+                readPicture(reader, width, layout.windowWidth);
             }
         }
         reader.finish();
     }
 
+    void readPicture(TableReader& reader, const std::string& key, int width) {
+        constexpr std::size_t longestName = 255;
+        const std::filesystem::path name = toUtf8(reader.text(key, longestName));
+        if (name.is_absolute() || std::ranges::find(name, "..") != name.end()) {
+            reader.fail(
+                '\'' + key + "' must lie in the source's folder or below: no '/' at its start, no '..'", key);
+        } else if (!name.empty()) {
+            source_.pictures[width] = name.string();
+        }
+    }
+
+    void readPoints(TableReader& reader) {
+        const toml::array* points = reader.tables("point");
+        if (points == nullptr) {
+            return;
+        }
+        if (points->size() > mostPoints) {
+            reader.fail("there are " + std::to_string(points->size()) + " points; a file holds " +
+                            std::to_string(mostPoints),
+                        "point");
+            return;
+        }
+        for (const toml::node& point : *points) {
+            readPoint(*point.as_table());
+        }
+        // A point that is refused may be the one.
+        if (faults_.empty()) {
+            refuseUnplayable(reader);
+        }
+    }
+
+    void refuseUnplayable(TableReader& reader) const {
+        const auto has = [&](bool Vor::*kind) {
+            return std::ranges::any_of(source_.points, [&](const SourcePoint& p) { return p.vor.*kind; });
+        };
+        if (!has(&Vor::isExit)) {
+            reader.fail("no point is an exit, through which flights may leave");
+        }
+        if (!has(&Vor::isAirport)) {
+            reader.fail("no point is an airport");
+        }
+    }
+
     void readPoint(const toml::table& table) {
-        const std::size_t number = source_.points.size() + 1;
-        TableReader reader(table, file_, "point " + std::to_string(number));
+        TableReader reader(table, faults_, "point " + std::to_string(++pointNumber_));
         SourcePoint point;
+        point.lines = reader.lines();
         Vor& vor = point.vor;
         vor.ident = reader.text("ident", airport_layout::identSize - 1);
-        const bool isTaken = std::ranges::any_of(
-            source_.points, [&](const SourcePoint& p) { return p.vor.ident == vor.ident; });
-        if (isTaken) {
-            reader.fail("another point is called '" + toUtf8(vor.ident) + "' already", "ident");
+        if (!vor.ident.empty() && !idents_.insert(vor.ident).second) {
+            reader.fail("another point is called '" + vor.ident + "' already", "ident");
         }
         vor.description = reader.text("name", airport_layout::descriptionSize - 1);
         vor.isExit = reader.flag("exit", false);
@@ -114,10 +169,12 @@ private:
         readLook(reader, vor);
         readPlace(reader, point);
         reader.finish();
-        source_.points.push_back(std::move(point));
+        if (reader.isSound()) {
+            source_.points.push_back(std::move(point));
+        }
     }
 
-    void readRunway(TableReader& reader, Vor& vor) {
+    static void readRunway(TableReader& reader, Vor& vor) {
         vor.runwayHeading = reader.integer("runway", 0, fullCircle - 1);
         if (vor.runwayHeading % headingStep != 0) {
             reader.fail("'runway' must be a multiple of 45", "runway");
@@ -136,61 +193,86 @@ private:
         constexpr std::size_t longestPlace = 16;
         const std::string place = reader.text("label", longestPlace);
         const auto found = std::ranges::find(places, place);
-        if (found == places.end()) {
+        if (found != places.end()) {
+            vor.labelPlace = static_cast<int>(found - places.begin());
+        } else if (!place.empty()) {
             std::string known;
             for (const std::string_view name : places) {
                 known += (known.empty() ? "\"" : ", \"") + std::string(name) + '"';
             }
             reader.fail("'label' must be one of " + known, "label");
         }
-        vor.labelPlace = static_cast<int>(found - places.begin());
     }
 
     void readPlace(TableReader& reader, SourcePoint& point) {
+        const bool hasPlaceOnEarth = reader.has("latitude") || reader.has("longitude");
         if (reader.has("pixel")) {
-            if (!source_.layoutWidth) {
+            if (!root_.contains("layout")) {
                 reader.fail("a 'pixel' position needs the airspace's 'layout'", "pixel");
             }
             point.pixel = reader.pair("pixel", 0, largestPixel);
             return;
         }
         if (reader.has("cell")) {
+            const std::size_t faults = faults_.size();
             const Point cell = reader.pair("cell", 0, gridSize - 1);
-            point.cell = Cell{cell.x, cell.y};
+            if (faults_.size() == faults) {
+                point.cell = Cell{cell.x, cell.y};
+            }
         }
-        const bool hasPlaceOnEarth = reader.has("latitude") || reader.has("longitude");
         if (hasPlaceOnEarth) {
             readPlaceOnEarth(reader, point);
-        } else if (!point.cell) {
-            reader.finish(); // a misspelt key says more than the one that it was meant for
+        } else if (!reader.has("cell")) {
             reader.fail("a 'cell', a 'latitude' and 'longitude', or a 'pixel' is missing");
         }
     }
 
     void readPlaceOnEarth(TableReader& reader, SourcePoint& point) {
+        const std::size_t faults = faults_.size();
         const double latitude = reader.real("latitude", -90, 90);
         const double longitude = reader.real("longitude", -180, 180);
-        if (!source_.grid) {
+        if (!root_.contains("grid")) {
             reader.fail("a place on the earth needs a [grid]", "latitude");
         }
+        if (!source_.grid || faults_.size() > faults) {
+            return; // and the fault is told
+        }
         const Cell cell = cellOf(*source_.grid, latitude, longitude);
-        const bool isOnGrid = cell.x >= 0 && cell.x < gridSize && cell.y >= 0 && cell.y < gridSize;
-        if (!point.cell && !isOnGrid) {
-            reader.fail("its place lies outside the grid", "latitude");
+        if (!reader.has("cell") && farthest(outside(cell.x), outside(cell.y)) > 0) {
+            reader.fail("its place lies outside the grid" + farOutside(cell), "latitude");
         }
         const Cell used = point.cell.value_or(cell);
-        if (std::abs(used.x - cell.x) > mostNudge || std::abs(used.y - cell.y) > mostNudge) {
-            reader.fail("'cell' is more than " + std::to_string(mostNudge) + " cells from its place, [" +
-                            std::to_string(cell.x) + ", " + std::to_string(cell.y) + "]",
+        const int nudge = farthest(used.x - cell.x, used.y - cell.y);
+        if (nudge > mostNudge) {
+            reader.fail("'cell' is " + counted(nudge, "cell") + " from its place, [" +
+                            std::to_string(cell.x) + ", " + std::to_string(cell.y) + "]; at most " +
+                            std::to_string(mostNudge) + " are allowed",
                         "cell");
         }
         point.cell = used;
     }
 
+    /// Cells beyond either end of the grid, negative before its start.
+    static int outside(int position) {
+        return std::min(position, 0) + std::max(position - (gridSize - 1), 0);
+    }
+
+    static int farthest(int across, int down) { return std::max(std::abs(across), std::abs(down)); }
+
+    /// Such as ", 3 cells west, 1 cell south".
+    static std::string farOutside(Cell cell) {
+        const auto way = [](int cells, const char* before, const char* beyond) {
+            return cells == 0 ? "" : ", " + counted(std::abs(cells), "cell") + (cells < 0 ? before : beyond);
+        };
+        return way(outside(cell.x), " west", " east") + way(outside(cell.y), " north", " south");
+    }
+
     const toml::table& root_;
-    const std::filesystem::path& file_;
+    Faults faults_;
     AirspaceSource source_;
     PointColours colours_;
+    std::size_t pointNumber_ = 0;
+    std::set<std::string> idents_;
 };
 
 } // namespace
@@ -198,18 +280,48 @@ private:
 Cell cellOf(const GridPlace& grid, double latitude, double longitude) {
     constexpr double middle = gridSize / 2.0;
     const double shrink = std::cos(grid.latitude * std::numbers::pi / 180);
-    const double east = (longitude - grid.longitude) * minutesPerDegree * shrink / grid.nauticalMilesPerCell;
+    const double eastward = std::remainder(longitude - grid.longitude, 360.0);
+    const double east = eastward * minutesPerDegree * shrink / grid.nauticalMilesPerCell;
     const double south = (grid.latitude - latitude) * minutesPerDegree / grid.nauticalMilesPerCell;
     return {static_cast<int>(std::floor(middle + east)), static_cast<int>(std::floor(middle + south))};
 }
 
-AirspaceSource parseAirspace(std::string_view text, const std::filesystem::path& file) {
-    try {
-        const toml::table root = toml::parse(text);
-        return SourceReader(root, file).read();
-    } catch (const toml::parse_error& error) {
-        throw faultAt(file, error.source(), std::string(error.description()));
+SourceReading parseAirspace(std::string_view toml) {
+    if (auto fault = nestingFault(toml)) {
+        return {{}, {std::move(*fault)}};
     }
+    try {
+        const toml::table root = toml::parse(toml);
+        return SourceReader(root).read();
+    } catch (const toml::parse_error& error) {
+        return {{}, {{lineOf(error.source()), fromUtf8(error.description())}}};
+    }
+}
+
+int lineOf(const AirspaceSource& source, const Problem& problem, int width) {
+    const KeyLines& own = problem.point ? source.points[*problem.point].lines : source.lines;
+    const auto colour = [&](const char* ownKey, const char* shared) {
+        return own.keys.contains(ownKey) ? own.of(ownKey) : source.colourLines.of(shared);
+    };
+    switch (problem.subject) {
+    case Subject::name: return own.of("name");
+    case Subject::layout: return own.of("layout");
+    case Subject::points: return own.of("point");
+    case Subject::picture: return source.pictureLines.of(std::to_string(width));
+    case Subject::flightColour: return source.colourLines.of("aircraft");
+    case Subject::selectedColour: return source.colourLines.of("selected");
+    case Subject::routeColour: return source.colourLines.of("route");
+    case Subject::ident: return own.of("ident");
+    case Subject::place: return own.of("cell", "pixel", "latitude");
+    case Subject::kind: return own.of("exit", "airport");
+    case Subject::runway: return own.of("runway");
+    case Subject::reverseChance: return own.of("reverse_chance", "runway");
+    case Subject::label: return own.of("label");
+    case Subject::labelColour: return colour("label_colour", "label");
+    case Subject::symbolColour: return colour("symbol_colour", "symbol");
+    case Subject::runwayColour: return colour("runway_colour", "runway");
+    }
+    return own.table;
 }
 
 } // namespace ventrel::apt

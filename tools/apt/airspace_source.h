@@ -6,7 +6,6 @@
 #pragma once
 
 #include <array>
-#include <filesystem>
 #include <map>
 #include <optional>
 #include <string>
@@ -16,6 +15,7 @@
 #include "base/colour.h"
 #include "base/geometry.h"
 #include "sim/vor.h"
+#include "tools/apt/faults.h"
 
 namespace ventrel::apt {
 
@@ -30,6 +30,7 @@ struct SourcePoint {
     Vor vor;                    ///< all but its place
     std::optional<Cell> cell;   ///< as given, or from its place on the earth
     std::optional<Point> pixel; ///< only where no cell fits
+    KeyLines lines;
 };
 
 struct AirspaceSource {
@@ -39,24 +40,35 @@ struct AirspaceSource {
     Colour routeColour;
     Colour selectedFlightColour;
     Colour flightColour;
-    std::map<int, std::filesystem::path> pictures; ///< by layout width
+    std::map<int, std::string> pictures; ///< names of files beside the source, in UTF-8, by layout width
     std::vector<SourcePoint> points;
+
+    KeyLines lines;
+    KeyLines colourLines;
+    KeyLines pictureLines;
+
+    bool serves(int width) const { return layoutWidth.value_or(width) == width; }
 };
 
-/// Why a source is refused, as it is shown: "FILE:LINE: reason".
-struct SourceFault {
-    std::string text;
+/// A source, and all of its faults in the order of their lines. With faults, the airspace holds what of it is
+/// sound.
+struct SourceReading {
+    AirspaceSource airspace;
+    Faults faults;
 };
 
-/// Reads and checks a source. Throws SourceFault at the first fault; `file` names it in the text.
-AirspaceSource parseAirspace(std::string_view toml, const std::filesystem::path& file);
+/// Reads a source, whatever the text is. An airspace without an exit or an airport is faulty.
+SourceReading parseAirspace(std::string_view toml);
+
+/// The line of the source that a problem at that layout width is about.
+int lineOf(const AirspaceSource& source, const Problem& problem, int width);
 
 /// The names of the places of a label, by the number that the airport file has for them.
 inline constexpr std::array<std::string_view, 4> vorLabelPlaces{"above", "left", "right", "below"};
 inline constexpr std::array<std::string_view, 4> airportLabelPlaces{"upper left", "upper right", "lower left",
                                                                     "lower right"};
 
-/// The cell of a place on the earth.
+/// The cell of a place on the earth, the shorter way around it.
 Cell cellOf(const GridPlace& grid, double latitude, double longitude);
 
 } // namespace ventrel::apt

@@ -1,27 +1,17 @@
 #include "tools/apt/airspace_text.h"
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 
 #include "base/windows1252.h"
 #include "radar/radar_layout.h"
 #include "tools/apt/airspace_source.h"
+#include "tools/apt/airspace_writer.h"
 
 namespace ventrel::apt {
 
 namespace {
-
-/// A control character as TOML wants it; every other one as it stands.
-std::string escaped(char c) {
-    constexpr unsigned deletion = 0x7F;
-    const char32_t unicode = toUnicode(c);
-    if (unicode >= ' ' && unicode != deletion) {
-        return toUtf8({&c, 1});
-    }
-    std::array<char, 16> text{};
-    std::snprintf(text.data(), text.size(), "\\u%04x", static_cast<unsigned>(unicode));
-    return text.data();
-}
 
 std::string inQuotes(std::string_view windows1252) {
     std::string text = "\"";
@@ -29,7 +19,7 @@ std::string inQuotes(std::string_view windows1252) {
         if (c == '"' || c == '\\') {
             text += '\\';
         }
-        text += escaped(c);
+        text += c;
     }
     return text + '"';
 }
@@ -97,18 +87,16 @@ void writePoint(std::string& text, const RadarLayout& layout, const Vor& vor, co
     writeColours(text, vor, shared);
 }
 
-} // namespace
-
-std::string airspaceText(const AirportFile& airport, const std::string& pictureName) {
+std::string sourceText(const AirportFile& airport, const ShownPicture& picture) {
     const AirportHeader& header = airport.header;
     const RadarLayout& layout = radarLayoutFor(header.layoutWidth);
     const Vor& shared = airport.vors.front();
     std::string text;
     line(text, "name", inQuotes(header.name));
     line(text, "layout", std::to_string(header.layoutWidth));
-    if (!pictureName.empty()) {
-        text += "\n[picture]\n";
-        line(text, std::to_string(header.layoutWidth), inQuotes(pictureName));
+    if (!picture.name.empty()) {
+        text += "\n[picture] # beside this source\n";
+        line(text, std::to_string(header.layoutWidth), inQuotes(picture.name));
     }
     text += "\n[colours]\n";
     line(text, "aircraft", colourText(header.flightColour));
@@ -121,6 +109,66 @@ std::string airspaceText(const AirportFile& airport, const std::string& pictureN
         writePoint(text, layout, vor, shared);
     }
     return text;
+}
+
+/// What of a point a source cannot say, as comments.
+void tellPointLosses(std::string& text, const Vor& vor, const Vor& rebuilt) {
+    const auto tell = [&](const std::string& loss) {
+        text += "# Point '" + vor.ident + "': " + loss + ".\n";
+    };
+    if (vor.labelPlace != rebuilt.labelPlace) {
+        tell("label place " + std::to_string(vor.labelPlace) + " becomes " +
+             std::to_string(rebuilt.labelPlace) + ", which looks the same");
+    }
+    if (vor.runwayHeading != rebuilt.runwayHeading || vor.reverseChance != rebuilt.reverseChance) {
+        tell("the runway of a point that is no airport is left out");
+    }
+    if (vor.labelColour != rebuilt.labelColour || vor.symbolColour != rebuilt.symbolColour ||
+        vor.runwayColour != rebuilt.runwayColour) {
+        tell("its colours lose their fourth byte, which nothing shows");
+    }
+}
+
+/// What building the source again would not give back, as comments.
+std::string losses(const AirportFile& airport, const AirportFile& rebuilt) {
+    std::string text;
+    const AirportHeader& was = airport.header;
+    const AirportHeader& is = rebuilt.header;
+    if (was.routeColour != is.routeColour || was.flightColour != is.flightColour ||
+        was.selectedFlightColour != is.selectedFlightColour) {
+        text += "# The colours of aircraft or routes lose their fourth byte, which nothing shows.\n";
+    }
+    for (std::size_t i = 0; i < airport.vors.size(); ++i) {
+        tellPointLosses(text, airport.vors[i], rebuilt.vors[i]);
+    }
+    return text.empty() ? "# Bytes of the file that are not read, or the order of its parts, are lost.\n"
+                        : text;
+}
+
+} // namespace
+
+Result<std::string> airspaceText(const AirportFile& airport, std::span<const std::byte> file,
+                                 const ShownPicture& picture) {
+    const auto [source, faults] = parseAirspace(toUtf8(sourceText(airport, {})));
+    if (!faults.empty()) {
+        std::string reasons;
+        for (const Fault& fault : faults) {
+            reasons += "\n    " + fault.text;
+        }
+        return failed("no source makes this file:" + reasons);
+    }
+    const AirportFile rebuilt = airportOf(source, radarLayoutFor(airport.header.layoutWidth));
+    const auto bytes = airportFileBytes(rebuilt, embeddedPicture(file, airport.header));
+    std::string text =
+        "# From an airport file, which holds cells and pixels alone: the [grid], the coordinates and the\n"
+        "# comments of the source that it was made of are not in it.\n";
+    if (!std::ranges::equal(bytes, file)) {
+        text += losses(airport, rebuilt);
+    }
+    if (!picture.remark.empty()) {
+        text += "# " + picture.remark + '\n';
+    }
+    return text + '\n' + sourceText(airport, picture);
 }
 
 } // namespace ventrel::apt

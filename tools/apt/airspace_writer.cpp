@@ -3,8 +3,6 @@
 #include <algorithm>
 #include <cstdint>
 
-#include "sim/airport_file.h"
-
 namespace ventrel::apt {
 
 namespace {
@@ -34,34 +32,31 @@ private:
     std::span<std::byte> record_;
 };
 
-void writeHeader(std::span<std::byte> file, const AirspaceSource& source, const RadarLayout& layout,
-                 std::size_t pictureSize) {
+void writeHeader(std::span<std::byte> file, const AirportFile& airport, std::size_t pictureSize) {
     RecordWriter header(file.first(headerSize));
     header.u16(magicOffset, magic);
-    header.text(nameOffset, source.name);
-    header.u16(pointCountOffset, static_cast<int>(source.points.size()));
+    header.text(nameOffset, airport.header.name);
+    header.u16(pointCountOffset, static_cast<int>(airport.vors.size()));
     header.u32(pointTableOffset, headerSize);
-    header.u32(pictureStartOffset, headerSize + pointSize * source.points.size());
+    header.u32(pictureStartOffset, headerSize + pointSize * airport.vors.size());
     header.u32(pictureSizeOffset, pictureSize);
-    header.u16(layoutWidthOffset, layout.windowWidth);
+    header.u16(layoutWidthOffset, airport.header.layoutWidth);
     for (std::size_t i = 0; i < completionCount; ++i) {
         header.u16(completionOffset + 2 * i, 1);
     }
-    header.colour(routeColourOffset, source.routeColour);
-    header.colour(selectedFlightColourOffset, source.selectedFlightColour);
-    header.colour(flightColourOffset, source.flightColour);
+    header.colour(routeColourOffset, airport.header.routeColour);
+    header.colour(selectedFlightColourOffset, airport.header.selectedFlightColour);
+    header.colour(flightColourOffset, airport.header.flightColour);
 }
 
-void writePoint(std::span<std::byte> bytes, const SourcePoint& point, const RadarLayout& layout) {
+void writePoint(std::span<std::byte> bytes, const Vor& vor, int cellSize) {
     RecordWriter record(bytes);
-    const Vor& vor = point.vor;
-    const Point pixel = pixelOf(point, layout);
     record.text(identOffset, vor.ident);
     record.text(descriptionOffset, vor.description);
-    record.u16(cellXOffset, pixel.x / layout.cellSize);
-    record.u16(cellYOffset, pixel.y / layout.cellSize);
-    record.u16(pixelXOffset, pixel.x);
-    record.u16(pixelYOffset, pixel.y);
+    record.u16(cellXOffset, vor.pixel.x / cellSize);
+    record.u16(cellYOffset, vor.pixel.y / cellSize);
+    record.u16(pixelXOffset, vor.pixel.x);
+    record.u16(pixelYOffset, vor.pixel.y);
     record.u16(isExitOffset, vor.isExit ? 1 : 0);
     record.u16(isAirportOffset, vor.isAirport ? 1 : 0);
     record.u16(isMajorOffset, vor.isMajor ? 1 : 0);
@@ -79,14 +74,28 @@ Point pixelOf(const SourcePoint& point, const RadarLayout& layout) {
     return point.pixel ? *point.pixel : radarPoint(layout, point.cell.value_or(Cell{}));
 }
 
-std::vector<std::byte> airportFileBytes(const AirspaceSource& source, const RadarLayout& layout,
-                                        std::span<const std::byte> picture) {
-    const std::size_t tableEnd = headerSize + pointSize * source.points.size();
+AirportFile airportOf(const AirspaceSource& source, const RadarLayout& layout) {
+    AirportFile airport;
+    airport.header.name = source.name;
+    airport.header.layoutWidth = layout.windowWidth;
+    airport.header.routeColour = source.routeColour;
+    airport.header.selectedFlightColour = source.selectedFlightColour;
+    airport.header.flightColour = source.flightColour;
+    for (const SourcePoint& point : source.points) {
+        airport.vors.push_back(point.vor);
+        airport.vors.back().pixel = pixelOf(point, layout);
+    }
+    return airport;
+}
+
+std::vector<std::byte> airportFileBytes(const AirportFile& airport, std::span<const std::byte> picture) {
+    const int cellSize = radarLayoutFor(airport.header.layoutWidth).cellSize;
+    const std::size_t tableEnd = headerSize + pointSize * airport.vors.size();
     std::vector<std::byte> bytes(tableEnd);
-    writeHeader(bytes, source, layout, picture.size());
-    for (std::size_t i = 0; i < source.points.size(); ++i) {
-        const auto record = std::span(bytes).subspan(headerSize + pointSize * i, pointSize);
-        writePoint(record, source.points[i], layout);
+    writeHeader(bytes, airport, picture.size());
+    for (std::size_t i = 0; i < airport.vors.size(); ++i) {
+        writePoint(std::span(bytes).subspan(headerSize + pointSize * i, pointSize), airport.vors[i],
+                   cellSize);
     }
     bytes.insert(bytes.end(), picture.begin(), picture.end());
     return bytes;

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "radar/radar_layout.h"
+#include "sim/airport_file.h"
 #include "tools/apt/airspace_source.h"
 
 namespace ventrel::apt {
@@ -15,8 +16,10 @@ namespace ventrel::apt {
 /// drawn.
 Point pixelOf(const SourcePoint& point, const RadarLayout& layout);
 
-/// The file's bytes. `picture` is the JPEG of that layout, or empty. The same source gives the same bytes.
-std::vector<std::byte> airportFileBytes(const AirspaceSource& source, const RadarLayout& layout,
-                                        std::span<const std::byte> picture);
+/// The source as a file of that layout holds it.
+AirportFile airportOf(const AirspaceSource& source, const RadarLayout& layout);
+
+/// The file's bytes. `picture` is the JPEG of that layout, or empty. The same airport gives the same bytes.
+std::vector<std::byte> airportFileBytes(const AirportFile& airport, std::span<const std::byte> picture);
 
 } // namespace ventrel::apt

@@ -1,119 +1,118 @@
-// ventrel-apt: compiles airspaces from text, checks them, and prints them as text again.
+// ventrel-apt: compiles airspaces from text, checks them, draws them, and prints them as text again.
 
-#include <cstdio>
-#include <optional>
+#include <CLI/CLI.hpp>
+
+#include <functional>
 #include <string>
-#include <string_view>
+#include <system_error>
 #include <vector>
 
 #include "sim/grid.h"
 #include "tools/apt/commands.h"
+#include "tools/apt/files.h"
 
 namespace {
 
 using namespace ventrel;
+namespace fs = std::filesystem;
 
 constexpr int wrongUsage = 2;
+constexpr const char* footer =
+    "\nExit status: 0 all is well; 1 a file has problems or cannot be read or written; 2 wrong usage.\n"
+    "The source format and what check looks at are described in docs/formats.md.";
 
-constexpr const char* usage =
-    "Makes airspaces for Ventrel.\n"
-    "\n"
-    "    ventrel-apt build SOURCE.toml -o FILE.apt --width 800|1024\n"
-    "        compiles a text source for one screen layout\n"
-    "    ventrel-apt check FILE...\n"
-    "        names every problem that a player would meet in airport files or sources; silent when there is "
-    "none\n"
-    "    ventrel-apt show FILE.apt [--picture OUT.jpg]\n"
-    "        prints a file as a source; its picture goes to OUT.jpg\n"
-    "    ventrel-apt --help\n"
-    "\n"
-    "Exit status: 0 all is well; 1 a file has problems or cannot be read or written; 2 wrong usage.\n"
-    "The source format is described in docs/formats.md.\n";
-
-/// The words after the command, options taken out.
+/// The words of the command line, for whichever command they are.
 struct Arguments {
-    std::vector<std::filesystem::path> files;
-    std::optional<std::string> output;
-    std::optional<std::string> width;
-    std::optional<std::string> picture;
+    std::vector<std::string> files;
+    std::string file;
+    std::string output;
+    std::string picture;
+    std::optional<int> width;
+    bool grid = false;
+    bool blank = false;
 };
 
-int refuse(const std::string& reason) {
-    std::fprintf(stderr, "ventrel-apt: %s\nventrel-apt --help tells more.\n", reason.c_str());
-    return wrongUsage;
+CLI::Validator oneOfTheLayouts() {
+    return CLI::IsMember({smallLayout.windowWidth, largeLayout.windowWidth});
 }
 
-/// Sorts the words. On failure returns the reason.
-std::optional<std::string> sortWords(const std::vector<std::string>& words, Arguments& arguments) {
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        const std::string& word = words[i];
-        std::optional<std::string>* option = word == "-o"          ? &arguments.output
-                                             : word == "--width"   ? &arguments.width
-                                             : word == "--picture" ? &arguments.picture
-                                                                   : nullptr;
-        if (option == nullptr) {
-            if (word.starts_with('-')) {
-                return "unknown option '" + word + "'";
-            }
-            arguments.files.emplace_back(word);
-        } else if (i + 1 == words.size()) {
-            return "'" + word + "' needs a value";
-        } else {
-            *option = words[++i];
+void addBuild(CLI::App& app, Arguments& a, std::function<int()>& run) {
+    CLI::App* command = app.add_subcommand("build", "Compiles a text source for one screen layout");
+    command->add_option("SOURCE.toml", a.file, "The text source")->required();
+    command->add_option("-o", a.output, "The airport file to write")->required()->type_name("FILE.apt");
+    command->add_option("--width", a.width, "The layout, by the width of its window")
+        ->required()
+        ->check(oneOfTheLayouts());
+    command->callback([&] { run = [&] { return apt::build(a.file, a.output, *a.width); }; });
+}
+
+void addCheck(CLI::App& app, Arguments& a, std::function<int()>& run) {
+    CLI::App* command = app.add_subcommand("check", "Names every problem that a player would meet in airport "
+                                                    "files or sources; silent when there is none");
+    command->add_option("FILE", a.files, "Airport files and sources, by their ends .apt and .toml")
+        ->required();
+    command->callback([&] { run = [&] { return apt::check({a.files.begin(), a.files.end()}); }; });
+}
+
+void addShow(CLI::App& app, Arguments& a, std::function<int()>& run) {
+    CLI::App* command = app.add_subcommand("show", "Prints an airport file as a source");
+    command->add_option("FILE.apt", a.file, "The airport file")->required();
+    command->add_option("--picture", a.picture, "Where its picture goes")->type_name("OUT.jpg");
+    command->callback([&] { run = [&] { return apt::show(a.file, a.picture); }; });
+}
+
+void addDraw(CLI::App& app, Arguments& a, std::function<int()>& run, const fs::path& fonts) {
+    CLI::App* command = app.add_subcommand("draw", "Draws the map of an airport file or a source");
+    CLI::Option* file = command->add_option("FILE", a.file, "The airport file or the source");
+    command->add_option("-o", a.output, "The picture to write")->required()->type_name("PICTURE.png");
+    command->add_option("--width", a.width, "The layout; without it the file's own, or 800")
+        ->check(oneOfTheLayouts());
+    CLI::Option* grid = command->add_flag("--grid", a.grid, "With the dots of the grid");
+    command->add_flag("--blank", a.blank, "No file, but the empty grid with cell numbers, to paint over")
+        ->excludes(file)
+        ->excludes(grid);
+    command->callback([&, fonts] {
+        if (a.file.empty() && !a.blank) {
+            throw CLI::RequiredError("FILE or --blank");
         }
-    }
-    return std::nullopt;
+        run = [&, fonts] {
+            return apt::draw({.file = a.file,
+                              .target = a.output,
+                              .width = a.width,
+                              .dots = a.grid ? apt::GridDots::shown : apt::GridDots::hidden,
+                              .fonts = fonts});
+        };
+    });
 }
 
-int runBuild(const Arguments& a) {
-    if (a.files.size() != 1 || !a.output || !a.width || a.picture) {
-        return refuse("build takes SOURCE.toml -o FILE.apt --width 800|1024");
-    }
-    for (const ScopeLayout& layout : {smallLayout, largeLayout}) {
-        if (*a.width == std::to_string(layout.windowWidth)) {
-            return apt::build(a.files.front(), *a.output, layout.windowWidth);
-        }
-    }
-    return refuse("the width '" + *a.width + "' is neither 800 nor 1024");
-}
-
-int runCheck(const Arguments& a) {
-    if (a.files.empty() || a.output || a.width || a.picture) {
-        return refuse("check takes one or more files");
-    }
-    return apt::check(a.files);
-}
-
-int runShow(const Arguments& a) {
-    if (a.files.size() != 1 || a.output || a.width) {
-        return refuse("show takes one airport file");
-    }
-    return apt::show(a.files.front(), a.picture.value_or(""));
+fs::path programFolder(const char* startedAs) {
+    std::error_code error;
+    const fs::path program = fs::read_symlink("/proc/self/exe", error);
+    return (error ? fs::path(startedAs) : program).parent_path();
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> words(argv + 1, argv + argc);
-    if (words.empty()) {
-        return refuse("a command is missing");
-    }
-    if (words.front() == "--help" || words.front() == "-h") {
-        std::fputs(usage, stdout);
-        return 0;
-    }
+    CLI::App app("Makes airspaces for Ventrel.", "ventrel-apt");
+    app.require_subcommand(0, 1);
+    app.footer(footer);
     Arguments arguments;
-    if (const auto reason = sortWords({words.begin() + 1, words.end()}, arguments)) {
-        return refuse(*reason);
+    std::function<int()> run;
+    addBuild(app, arguments, run);
+    addCheck(app, arguments, run);
+    addShow(app, arguments, run);
+    addDraw(app, arguments, run, programFolder(argv[0]) / "fonts");
+    try {
+        app.parse(argc, argv);
+        if (!run) {
+            throw CLI::RequiredError("A command");
+        }
+    } catch (const CLI::CallForHelp&) {
+        return apt::print(app.help()) ? apt::success : apt::faulty;
+    } catch (const CLI::ParseError& error) {
+        apt::complain(std::string(error.what()) + "\nventrel-apt --help tells more.");
+        return wrongUsage;
     }
-    if (words.front() == "build") {
-        return runBuild(arguments);
-    }
-    if (words.front() == "check") {
-        return runCheck(arguments);
-    }
-    if (words.front() == "show") {
-        return runShow(arguments);
-    }
-    return refuse("unknown command '" + words.front() + "'");
+    return run();
 }

@@ -1,28 +1,31 @@
 // Strict access to a TOML table: every key has its type, a missing one is refused, and so is one that nobody
-// asked for.
+// asked for. Faults are gathered, so that an author sees them all at once; what was refused reads as nothing.
 
 #pragma once
 
 #include <toml++/toml.h>
 
-#include <filesystem>
-#include <optional>
 #include <set>
 #include <string>
 #include <string_view>
 
-#include "tools/apt/airspace_source.h"
+#include "base/colour.h"
+#include "base/geometry.h"
+#include "tools/apt/faults.h"
 
 namespace ventrel::apt {
 
 class TableReader {
 public:
-    /// `table` and `file` outlive the reader. `what` names the table in messages, such as "point 3".
-    TableReader(const toml::table& table, const std::filesystem::path& file, std::string what);
+    /// `table` and `faults` outlive the reader. `what` names the table in messages, such as "point 3".
+    TableReader(const toml::table& table, Faults& faults, std::string what);
 
     bool has(std::string_view key) const { return table_.contains(key); }
+    /// Whether nothing was refused so far.
+    bool isSound() const { return isSound_; }
+    KeyLines lines() const;
 
-    /// A text in Windows-1252 of 1 to `longest` characters.
+    /// A text in Windows-1252 of 1 to `longest` characters; empty when it was refused.
     std::string text(std::string_view key, std::size_t longest);
     int integer(std::string_view key, int lowest, int highest);
     double real(std::string_view key, double lowest, double highest);
@@ -30,27 +33,29 @@ public:
     /// "#rrggbb".
     Colour colour(std::string_view key);
     Point pair(std::string_view key, int lowest, int highest);
-    const toml::table& table(std::string_view key);
-    /// An array of tables.
-    const toml::array& tables(std::string_view key);
+    /// A table, or nothing.
+    const toml::table* table(std::string_view key);
+    /// An array of tables, or nothing.
+    const toml::array* tables(std::string_view key);
 
     /// Refuses the keys that were not read.
-    void finish() const;
+    void finish();
 
     /// Refuses the table, or its value of that key, at its line.
-    [[noreturn]] void fail(const std::string& reason, std::string_view key = {}) const;
+    void fail(const std::string& reason, std::string_view key = {});
 
 private:
-    const toml::node& node(std::string_view key);
+    const toml::node* node(std::string_view key);
+    void failAt(const toml::source_region& place, const std::string& reason);
 
     const toml::table& table_;
-    const std::filesystem::path& file_;
+    Faults& faults_;
     std::string what_;
+    bool isSound_ = true;
     std::set<std::string, std::less<>> read_;
 };
 
-/// The text of a fault at a line.
-SourceFault faultAt(const std::filesystem::path& file, const toml::source_region& place,
-                    const std::string& reason);
+/// The line of a place in a source.
+int lineOf(const toml::source_region& place);
 
 } // namespace ventrel::apt
