@@ -20,6 +20,9 @@ inline constexpr int name = 1010;
 inline constexpr int clouds = 1017;
 inline constexpr int directEntry = 1018;
 
+/// One more character than are kept of a name.
+inline constexpr std::size_t nameLimit = 31;
+
 inline constexpr std::array controls{std::to_array<ControlTemplate>({
     {ControlKind::groupBox, 0, "Skill", {7, 4, 85, 97}},
     {ControlKind::radioButton, firstSkill, "Easy", {15, 19, 77, 29}, groupStart},
@@ -29,7 +32,7 @@ inline constexpr std::array controls{std::to_array<ControlTemplate>({
     {ControlKind::radioButton, firstSkill + 4, "Custom...", {15, 79, 77, 89}},
     {ControlKind::groupBox, 0, "Controller", {91, 4, 195, 42}},
     {ControlKind::staticText, 0, "Name:", {98, 21, 120, 29}},
-    {ControlKind::edit, name, "", {121, 18, 188, 31}},
+    {ControlKind::edit, name, "", {121, 18, 188, 31}, plainStyle, nameLimit},
     {ControlKind::groupBox, 0, "Airport", {91, 46, 195, 97}},
     {ControlKind::staticText, airport, "None Selected", {98, 59, 188, 71}, sunkenStatic},
     {ControlKind::pushButton, choose, "&Choose...", {118, 76, 168, 90}},

@@ -42,11 +42,7 @@ void runAboutDialog(Shell& shell) {
     }
     DialogHandlers handlers;
     handlers.escapeCommand = noEscape;
-    handlers.command = [](Dialog& dialog, const CommandInput& input) {
-        if (input.id == okId) {
-            dialog.end(okId);
-        }
-    };
+    handlers.command = [](Dialog& dialog, const CommandInput&) { dialog.end(okId); };
     if (picture) {
         handlers.init = [&picture](Dialog& dialog) { fitTo(dialog, picture->size()); };
         handlers.paint = [&picture](Dialog&, Canvas& canvas) { canvas.draw({0, 0}, *picture); };

@@ -18,7 +18,6 @@ constexpr std::string_view nameKey = "Name";
 constexpr int defaultSkill = 1;
 constexpr int easySkill = 0;
 constexpr int customSkill = 4;
-constexpr std::size_t nameLimit = longestControllerName + 1;
 
 /// The dialog while it is open.
 struct NewGame {
@@ -57,8 +56,8 @@ void open(NewGame& game, Dialog& dialog) {
     if (skill >= 0 && skill < new_game::skillCount) {
         dialog.setChecked(new_game::firstSkill + skill, true);
     }
-    dialog.edit(new_game::name).setLimit(nameLimit);
-    dialog.setText(new_game::name, properName(profile.text(gameSection, nameKey, "").substr(0, nameLimit)));
+    const std::string lastName = profile.text(gameSection, nameKey, "").substr(0, new_game::nameLimit);
+    dialog.setText(new_game::name, properName(lastName));
     dialog.setText(new_game::airport, chosenAirport(game).name);
     game.wantsClouds = game.shell.options.stormTrak != 0;
     game.wantsDirectEntry = game.shell.options.directEntry != 0;

@@ -36,9 +36,7 @@ std::string_view nameOf(MessageAnswer answer) {
 }
 
 void fillDialog(Dialog& dialog) {
-    constexpr std::size_t longestName = 30;
     dialog.setChecked(gallery_tables::lastRadioId, true);
-    dialog.edit(gallery_tables::nameId).setLimit(longestName);
     for (const char* name : gallery_tables::airports) {
         dialog.list(gallery_tables::listId).add(name);
     }

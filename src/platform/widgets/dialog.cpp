@@ -60,8 +60,8 @@ void Dialog::createControl(const ControlTemplate& shape) {
         break;
     }
     case ControlKind::edit:
-        add(createEdit(desktop_,
-                       {inside_, shape.id, place, &fonts_.text, (shape.style & readOnlyEdit) != 0}));
+        add(createEdit(desktop_, {inside_, shape.id, place, &fonts_.text, (shape.style & readOnlyEdit) != 0,
+                                  shape.limit}));
         break;
     case ControlKind::staticText:
     case ControlKind::groupBox:

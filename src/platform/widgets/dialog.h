@@ -23,8 +23,8 @@ namespace ventrel {
 
 class Dialog;
 
-/// What a dialog does. `command` gets every command of its controls; Esc and the close box arrive as
-/// `cancelId`, Enter as the number of the default button.
+/// What a dialog does. `command` gets every command of its controls; Esc, the close box and a person who
+/// closes the program's window meanwhile arrive as `cancelId`, Enter as the number of the default button.
 struct DialogHandlers {
     std::function<void(Dialog&)> init = nullptr;
     std::function<void(Dialog&, const CommandInput&)> command = nullptr;
@@ -32,8 +32,6 @@ struct DialogHandlers {
     std::function<void(Dialog&, Canvas&)> paint = nullptr;
     /// Another number for Esc; `noEscape` makes it do nothing.
     int escapeCommand = cancelId;
-    /// Closing the program's window presses the close box; false: it ends the program.
-    bool takesClose = true;
 };
 
 inline constexpr int noEscape = -1;

@@ -38,9 +38,7 @@ void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
         isActive_ = activation.active;
         frame_.invalidate();
     };
-    if (handlers_.takesClose) {
-        handlers.close = [this] { cancel(); };
-    }
+    handlers.close = [this] { cancel(); };
     frame_ = desktop_.create({.owner = owner, .visible = false, .handlers = std::move(handlers)});
 
     WindowHandlers insideHandlers;

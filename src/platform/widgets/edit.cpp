@@ -188,6 +188,7 @@ struct Edit::State {
 
 Edit createEdit(Desktop& desktop, EditSetup setup) {
     auto state = std::make_shared<Edit::State>();
+    state->line.limit = setup.limit;
     state->setup = std::move(setup);
     WindowHandlers handlers;
     handlers.paint = [state](Canvas& canvas, const Rect&) { state->paint(canvas); };
@@ -228,10 +229,6 @@ void Edit::setText(std::string text) const {
 
 const std::string& Edit::text() const {
     return state_->line.text;
-}
-
-void Edit::setLimit(std::size_t limit) const {
-    state_->line.limit = limit;
 }
 
 void Edit::selectAll() const {

@@ -7,6 +7,7 @@
 
 #include "platform/desktop/desktop.h"
 #include "platform/widgets/look.h"
+#include "platform/widgets/templates.h"
 
 namespace ventrel {
 
@@ -15,7 +16,8 @@ struct EditSetup {
     int id = 0;
     Rect bounds;
     const Font* font = nullptr;
-    bool readOnly = false; ///< can be selected and copied, not changed
+    bool readOnly = false;              ///< can be selected and copied, not changed
+    std::size_t limit = usualEditLimit; ///< so many characters can be typed or pasted
 };
 
 /// What the field tells with its command.
@@ -28,8 +30,6 @@ public:
 
     void setText(std::string text) const;
     const std::string& text() const;
-    /// No more characters than that can be typed or pasted.
-    void setLimit(std::size_t limit) const;
     void selectAll() const;
 
 private:

@@ -10,9 +10,9 @@ namespace ventrel {
 
 struct EditText {
     std::string text;
-    std::size_t caret = 0;  ///< before which character the next one is inserted
-    std::size_t anchor = 0; ///< the other end of the selection; equal to the caret when nothing is selected
-    std::size_t limit = 32767;
+    std::size_t caret = 0;   ///< before which character the next one is inserted
+    std::size_t anchor = 0;  ///< the other end of the selection; equal to the caret when nothing is selected
+    std::size_t limit = 255; ///< no more characters than that are inserted
 
     bool hasSelection() const { return caret != anchor; }
     std::size_t selectionStart() const { return caret < anchor ? caret : anchor; }

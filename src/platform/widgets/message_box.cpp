@@ -41,14 +41,14 @@ int numberOf(MessageAnswer answer) {
     return static_cast<int>(answer) + 1;
 }
 
-/// What Esc answers: nothing where a yes or no is wanted.
-int escapeNumber(MessageButtons buttons) {
+/// What closing the box answers: whatever changes least.
+MessageAnswer closingAnswer(MessageButtons buttons) {
     switch (buttons) {
-    case MessageButtons::ok: return numberOf(MessageAnswer::ok);
-    case MessageButtons::okCancel: return numberOf(MessageAnswer::cancel);
+    case MessageButtons::ok: return MessageAnswer::ok;
+    case MessageButtons::okCancel: return MessageAnswer::cancel;
     case MessageButtons::yesNo: break;
     }
-    return noEscape;
+    return MessageAnswer::no;
 }
 
 constexpr TextLayout textLayout{.wrap = true};
@@ -88,19 +88,15 @@ MessageAnswer showMessageBox(Desktop& desktop, const WidgetFonts& fonts, const W
         controls.push_back({.kind = kind, .id = numberOf(button.answer), .text = button.text, .place = {}});
     }
     DialogHandlers handlers;
-    handlers.escapeCommand = escapeNumber(message.buttons);
+    handlers.escapeCommand = message.buttons == MessageButtons::yesNo ? noEscape : cancelId;
     handlers.paint = [&](Dialog&, Canvas& canvas) {
         drawMessageIcon(canvas, places.icon, message.icon);
         drawTextBox(canvas, fonts.text, places.text, message.text, {look::text, {}}, textLayout);
     };
-    handlers.takesClose = false;
-    const int onClose = escapeNumber(message.buttons);
+    const int onClose = numberOf(closingAnswer(message.buttons));
     handlers.command = [onClose](Dialog& dialog, const CommandInput& input) {
-        const bool isClose = !input.sender && input.id == cancelId;
-        const int answer = isClose ? onClose : input.id;
-        if (answer != noEscape) {
-            dialog.end(answer);
-        }
+        const bool isClosed = !input.sender && input.id == cancelId;
+        dialog.end(isClosed ? onClose : input.id);
     };
     const DialogTemplate shape{.title = message.title,
                                .size = {},

@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <cstddef>
 #include <span>
 #include <string_view>
 
@@ -40,6 +41,9 @@ enum ControlStyle : unsigned {
     multiLine = 1U << 6, ///< a static text that wraps
 };
 
+/// Characters of a field that asks for no other limit.
+inline constexpr std::size_t usualEditLimit = 255;
+
 /// A control of a dialog; `place` is in dialog units from the dialog's inner corner.
 struct ControlTemplate {
     ControlKind kind = ControlKind::staticText;
@@ -47,6 +51,7 @@ struct ControlTemplate {
     std::string_view text;
     Rect place;
     unsigned style = plainStyle;
+    std::size_t limit = usualEditLimit; ///< of an edit's characters
 };
 
 /// A dialog; `size` is its inner size in dialog units.

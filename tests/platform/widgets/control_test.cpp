@@ -8,7 +8,7 @@ namespace {
 
 struct FieldTest : ::testing::Test {
     WidgetStage stage;
-    Edit field = createEdit(stage.desktop, {stage.main, 5, {20, 20, 120, 41}, &stage.fonts.text, false});
+    Edit field = createEdit(stage.desktop, {stage.main, 5, {20, 20, 120, 41}, &stage.fonts.text});
 
     void expectText(const std::string& text) {
         stage.script.then([this, text] { EXPECT_EQ(field.text(), text); });
@@ -28,7 +28,7 @@ TEST_F(FieldTest, ClicksPlaceTheCaretAndDoubleClicksTakeAWord) {
 }
 
 TEST_F(FieldTest, TheClipboardKeepsToTheLimitAndToOneLine) {
-    field.setLimit(6);
+    field = createEdit(stage.desktop, {stage.main, 5, {20, 60, 120, 81}, &stage.fonts.text, false, 6});
     field.window.focus();
     stage.script.type("abcdefgh");
     expectText("abcdef");
@@ -44,6 +44,14 @@ TEST_F(FieldTest, TheClipboardKeepsToTheLimitAndToOneLine) {
     stage.script.key(Key::backspace).key(Key::home).key(Key::del);
     expectText("234");
     stage.play();
+}
+
+TEST_F(FieldTest, ABookPastedIntoAFieldIsCutShort) {
+    field.window.focus();
+    stage.script.then([this] { stage.backend.setClipboard(std::string(1'000'000, 'x')); });
+    stage.script.key(Key::v, withControl).key(Key::home).type("y");
+    stage.play();
+    EXPECT_EQ(field.text(), std::string(usualEditLimit, 'x'));
 }
 
 TEST_F(FieldTest, WhatIsReadOnlyCanBeCopiedAndNothingElse) {

@@ -187,5 +187,22 @@ TEST(MessageBox, AnswersToLettersArrowsAndEscWhereThatHasAMeaning) {
     EXPECT_TRUE(stage.backend.beeps().empty()) << "no icon, no sound";
 }
 
+TEST(MessageBox, ClosedWithTheWindowItAgreesToNothingAndTheProgramGoesOn) {
+    WidgetStage stage;
+    std::vector<MessageAnswer> answers;
+    for (int box = 0; box < 3; ++box) {
+        stage.script.window(WindowEvent::closeRequested).wait(1);
+    }
+    stage.play([&] {
+        for (const auto buttons : {MessageButtons::yesNo, MessageButtons::okCancel, MessageButtons::ok}) {
+            answers.push_back(showMessageBox(stage.desktop, stage.fonts, stage.main,
+                                             {.text = "Sure?", .title = "Test", .buttons = buttons}));
+            EXPECT_FALSE(stage.desktop.isQuitting());
+        }
+    });
+    EXPECT_EQ(answers,
+              (std::vector<MessageAnswer>{MessageAnswer::no, MessageAnswer::cancel, MessageAnswer::ok}));
+}
+
 } // namespace
 } // namespace ventrel
