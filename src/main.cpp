@@ -115,9 +115,7 @@ std::filesystem::path playersAirports() {
 void keepSettings(OptionsStore& store, const Options& options, Size window, const SdlBackend& backend) {
     store.update([&](ProfileFile& profile) {
         WriteOptions(options, profile);
-        if (const auto place = backend.placement()) {
-            writeWindowPlace(place->bounds, window.width, profile);
-        }
+        writeWindowPlace(backend.placement().bounds, window.width, profile);
     });
     if (const auto failure = store.takeFailure()) {
         complain(failure->text);

@@ -1,5 +1,8 @@
 // The keys of the main window. Keypad keys are the keypad's own; each has a companion for keyboards without
 // one.
+//
+// A command that is named by its letter goes by the letter, wherever the person's layout has it. The
+// companions of the keypad lie as the keypad does: they go by their places, whatever is written there.
 
 #pragma once
 
@@ -27,9 +30,6 @@ inline constexpr std::array mainAccelerators{std::to_array<Accelerator>({
     {Key::space, noModifiers, command::skipClock},
     {Key::down, noModifiers, command::nextStrip},
     {Key::up, noModifiers, command::previousStrip},
-    {Key::f, noModifiers, command::fast},
-    {Key::n, noModifiers, command::normal},
-    {Key::s, noModifiers, command::slow},
     {Key::keypad8, noModifiers, command::heading0},
     {Key::keypad9, noModifiers, command::heading45},
     {Key::keypad6, noModifiers, command::heading90},
@@ -43,23 +43,34 @@ inline constexpr std::array mainAccelerators{std::to_array<Accelerator>({
     {Key::keypadMultiply, noModifiers, command::directDown},
     {Key::keypadMinus, noModifiers, command::altitudeUp},
     {Key::keypadPlus, noModifiers, command::altitudeDown},
-    // Without a keypad: its block of digits, as it lies, on the letters around K ...
-    {Key::i, noModifiers, command::heading0},
-    {Key::o, noModifiers, command::heading45},
-    {Key::l, noModifiers, command::heading90},
-    {Key::period, noModifiers, command::heading135},
-    {Key::comma, noModifiers, command::heading180},
-    {Key::m, noModifiers, command::heading225},
-    {Key::j, noModifiers, command::heading270},
-    {Key::u, noModifiers, command::heading315},
-    {Key::k, noModifiers, command::toggleDirect},
+    // Without a keypad: its block of digits, as it lies, on the keys around K ...
+    {Key::i, noModifiers, command::heading0, KeyBy::place},
+    {Key::o, noModifiers, command::heading45, KeyBy::place},
+    {Key::l, noModifiers, command::heading90, KeyBy::place},
+    {Key::period, noModifiers, command::heading135, KeyBy::place},
+    {Key::comma, noModifiers, command::heading180, KeyBy::place},
+    {Key::m, noModifiers, command::heading225, KeyBy::place},
+    {Key::j, noModifiers, command::heading270, KeyBy::place},
+    {Key::u, noModifiers, command::heading315, KeyBy::place},
+    {Key::k, noModifiers, command::toggleDirect, KeyBy::place},
     // ... and the rest on keys beside it.
-    {Key::leftBracket, noModifiers, command::directUp},
-    {Key::rightBracket, noModifiers, command::directDown},
-    {Key::pageUp, noModifiers, command::altitudeUp},
-    {Key::pageDown, noModifiers, command::altitudeDown},
+    {Key::leftBracket, noModifiers, command::directUp, KeyBy::place},
+    {Key::rightBracket, noModifiers, command::directDown, KeyBy::place},
+    {Key::pageUp, noModifiers, command::altitudeUp, KeyBy::place},
+    {Key::pageDown, noModifiers, command::altitudeDown, KeyBy::place},
+    {Key::p, noModifiers, command::pause, KeyBy::place},
+    {Key::f, noModifiers, command::fast},
+    {Key::n, noModifiers, command::normal},
+    {Key::s, noModifiers, command::slow},
+    // A layout that has one of these letters on a key of the block (Dvorak its N on the L) still reaches the
+    // command, at the letter's place in the United States.
+    {Key::f, noModifiers, command::fast, KeyBy::place},
+    {Key::n, noModifiers, command::normal, KeyBy::place},
+    {Key::s, noModifiers, command::slow, KeyBy::place},
     {Key::p, noModifiers, command::pause},
     {Key::f1, noModifiers, command::help},
+    {Key::f11, noModifiers, command::switchFullScreen},
+    {Key::enter, altKey, command::switchFullScreen},
 })};
 
 } // namespace ventrel

@@ -65,6 +65,7 @@ inline constexpr int planeAltitudes = 10;
 inline constexpr int planeSpeeds = 3; ///< slow, normal, fast
 
 // Beyond the classic set.
-inline constexpr int help = 4201; ///< the keys and the rules
+inline constexpr int help = 4201;             ///< the keys and the rules
+inline constexpr int switchFullScreen = 4202; ///< at once, where the menu's item asks for a restart
 
 } // namespace ventrel::command

@@ -75,6 +75,12 @@ void changeFullScreen(Shell& shell) {
     }
 }
 
+void switchFullScreen(Shell& shell) {
+    const bool fullScreen = !shell.desktop.isFullScreen();
+    shell.desktop.setFullScreen(fullScreen);
+    shell.options.windowed = fullScreen ? 0 : 1;
+}
+
 } // namespace
 
 void changeOption(Shell& shell, int id) {
@@ -89,6 +95,8 @@ void changeOption(Shell& shell, int id) {
         changeResolution(shell, largeResolution);
     } else if (id == command::fullScreen) {
         changeFullScreen(shell);
+    } else if (id == command::switchFullScreen) {
+        switchFullScreen(shell);
     }
 }
 

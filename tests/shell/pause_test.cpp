@@ -91,8 +91,11 @@ TEST_F(PauseTest, LeavingARunningGameIsAskedAbout) {
     stage.look([this] { EXPECT_FALSE(stage.isDialogOpen()) << "a dialog is closed first"; });
     stage.todo([](Script& script) { script.window(WindowEvent::closeRequested).wait(1); });
     stage.look([this] { EXPECT_TRUE(stage.isDialogOpen()); });
-    press(Key::escape);
-    stage.look([this] { EXPECT_TRUE(stage.game().isRunning()); });
+    stage.todo([](Script& script) { script.window(WindowEvent::closeRequested).wait(1); });
+    stage.look([this] {
+        EXPECT_FALSE(stage.isDialogOpen());
+        EXPECT_TRUE(stage.game().isRunning()) << "closing twice gives no game up";
+    });
     stage.todo([](Script& script) { script.key(Key::f, withAlt).type("e").wait(1).key(Key::enter).wait(1); });
     stage.look([this] {
         EXPECT_FALSE(stage.game().isRunning());
@@ -128,6 +131,33 @@ TEST_F(PauseTest, FullScreenIsKeptEvenWhenThePlayerGoesOn) {
         EXPECT_FALSE(stage.isDialogOpen());
         EXPECT_EQ(stage.shell().options.windowed, 1);
     });
+    stage.play();
+}
+
+TEST_F(PauseTest, FullScreenSwitchesAtOnceAndIsRemembered) {
+    press(Key::f11);
+    stage.look([this] {
+        EXPECT_TRUE(stage.backend.isFullScreen());
+        EXPECT_EQ(stage.shell().options.windowed, 0);
+    });
+    // No to the menu's restart: the option waits for the next start, the key goes by what is to be seen.
+    stage.todo(
+        [](Script& script) { script.key(Key::o, withAlt).type("r").type("f").wait(1).type("n").wait(1); });
+    press(Key::enter, withAlt);
+    stage.look([this] {
+        EXPECT_FALSE(stage.backend.isFullScreen());
+        EXPECT_EQ(stage.shell().options.windowed, 1);
+        EXPECT_FALSE(stage.isDialogOpen());
+    });
+    stage.play();
+}
+
+TEST_F(PauseTest, AboutIsClosedWithTheWindowButNotByEsc) {
+    stage.todo(
+        [](Script& script) { script.key(Key::h, withAlt).type("a").wait(1).key(Key::escape).wait(1); });
+    stage.look([this] { EXPECT_TRUE(stage.isDialogOpen()); });
+    stage.todo([](Script& script) { script.window(WindowEvent::closeRequested).wait(1); });
+    stage.look([this] { EXPECT_FALSE(stage.isDialogOpen()); });
     stage.play();
 }
 

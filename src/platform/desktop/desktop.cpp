@@ -112,6 +112,10 @@ void Desktop::setFullScreen(bool fullScreen) {
     state_->backend.setFullScreen(fullScreen);
 }
 
+bool Desktop::isFullScreen() const {
+    return state_->backend.isFullScreen();
+}
+
 void Desktop::minimise() {
     state_->backend.minimise();
 }

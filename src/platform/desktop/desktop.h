@@ -62,6 +62,7 @@ public:
     /// The area by which a person drags the machine's window about.
     void setDragStrip(std::optional<Rect> strip);
     void setFullScreen(bool fullScreen);
+    bool isFullScreen() const;
     void minimise();
     void restore();
 

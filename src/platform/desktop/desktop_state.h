@@ -59,6 +59,7 @@ struct DesktopState {
     Bitmap picture; ///< all top-levels laid together
     Damage damage;  ///< what of it must be laid anew and sent
     bool paintIsNeeded = false;
+    Millis nextSending = 0; ///< the earliest: the screen still shows what was sent before
     bool machineWindowIsShown = false;
 
     ActivityState activity;

@@ -40,12 +40,15 @@ WindowPtr keyTarget(const DesktopState& state) {
     return active == nullptr || isLocked(state, *active) ? nullptr : focusTarget(state);
 }
 
+bool isMeant(const Accelerator& accelerator, const KeyEvent& key) {
+    const Key pressed = accelerator.by == KeyBy::place ? key.place : key.key;
+    return accelerator.key == pressed && accelerator.modifiers == key.modifiers;
+}
+
 bool runAccelerator(const WindowPtr& target, const KeyEvent& key) {
     WindowRecord& topLevel = topLevelOf(*target);
-    const auto found = std::find_if(
-        topLevel.accelerators.begin(), topLevel.accelerators.end(), [&](const Accelerator& accelerator) {
-            return accelerator.key == key.key && accelerator.modifiers == key.modifiers;
-        });
+    const auto found = std::ranges::find_if(topLevel.accelerators,
+                                            [&](const Accelerator& each) { return isMeant(each, key); });
     if (!key.down || found == topLevel.accelerators.end()) {
         return false;
     }

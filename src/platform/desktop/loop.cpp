@@ -100,11 +100,11 @@ std::optional<Millis> runPass(DesktopState& state, const LoopMode& mode) {
     if (isOver(state, mode)) {
         return state.backend.now();
     }
-    presentChanges(state);
+    const auto rest = presentChanges(state);
     if (state.paintIsNeeded || !isQueueEmpty(state)) {
         return state.backend.now();
     }
-    return earlier(idleDeadline, nextTimer(state.timers));
+    return earlier(rest, earlier(idleDeadline, nextTimer(state.timers)));
 }
 
 void sleepUntil(DesktopState& state, std::optional<Millis> moment) {

@@ -67,19 +67,27 @@ void showMachineWindow(DesktopState& state) {
     }
 }
 
+void sendChanges(DesktopState& state) {
+    const std::vector<Rect> changed = state.damage.rectangles();
+    state.damage.clear();
+    for (const Rect& part : changed) {
+        layPart(state, part);
+    }
+    state.backend.present(state.picture, changed);
+}
+
 } // namespace
 
-void presentChanges(DesktopState& state) {
+std::optional<Millis> presentChanges(DesktopState& state) {
     collectDamage(state);
-    if (!state.damage.isEmpty()) {
-        const std::vector<Rect> changed = state.damage.rectangles();
-        state.damage.clear();
-        for (const Rect& part : changed) {
-            layPart(state, part);
-        }
-        state.backend.present(state.picture, changed);
+    const Millis now = state.backend.now();
+    const bool isDue = now >= state.nextSending;
+    if (isDue && !state.damage.isEmpty()) {
+        sendChanges(state);
+        state.nextSending = now + state.backend.frameTime();
     }
     showMachineWindow(state);
+    return state.damage.isEmpty() ? std::nullopt : std::optional(state.nextSending);
 }
 
 } // namespace ventrel

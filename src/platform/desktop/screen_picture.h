@@ -7,8 +7,9 @@
 
 namespace ventrel {
 
-/// Lays and sends what changed since the last time; nothing happens when nothing did. The machine's window is
-/// shown while any top-level is.
-void presentChanges(DesktopState& state);
+/// Lays and sends what changed since the last time; nothing happens when nothing did, or while the screen
+/// still shows what was sent before. Returns the moment at which the rest can be sent, none when all is. The
+/// machine's window is shown while any top-level is.
+std::optional<Millis> presentChanges(DesktopState& state);
 
 } // namespace ventrel

@@ -26,11 +26,16 @@ namespace ventrel {
 class Desktop;
 struct WindowRecord;
 
-/// A key that stands for a command. The modifiers must agree exactly; a held key repeats its command.
+/// How an accelerator tells its key: by what is written on it, on whatever layout, or by where it lies.
+enum class KeyBy { name, place };
+
+/// A key that stands for a command. The modifiers must agree exactly; a held key repeats its command. Of two
+/// that fit, the first of the table counts.
 struct Accelerator {
     Key key = Key::unknown;
     Modifiers modifiers = {};
     int command = 0;
+    KeyBy by = KeyBy::name;
 };
 
 class Window {

@@ -48,6 +48,9 @@ public:
     /// was opened with. After WindowEvent::exposed the caller sends everything.
     virtual void present(const Bitmap& picture, std::span<const Rect> changed) = 0;
 
+    /// How long the screen shows one picture: nobody sees more than one sent in that time.
+    virtual Millis frameTime() = 0;
+
     /// Shows or hides the whole window. It starts hidden.
     virtual void show(bool visible) = 0;
     virtual void setTitle(std::string_view title) = 0;
@@ -61,8 +64,13 @@ public:
     /// The area by which a person drags the window about (none: nowhere).
     virtual void setDragStrip(std::optional<Rect> strip) = 0;
     virtual void setFullScreen(bool fullScreen) = 0;
+    virtual bool isFullScreen() const = 0;
     virtual void minimise() = 0;
     virtual void restore() = 0;
+
+    /// What the person's keyboard has written on the key at that place, in Windows-1252: "U", ";", "PageUp".
+    /// Empty for a character outside that set, and for a place that no keyboard has.
+    virtual std::string keyName(Key place) = 0;
 
     /// Windows-1252; characters outside that set are left out when reading.
     virtual std::string clipboard() = 0;

@@ -34,10 +34,11 @@ struct Modifiers {
 };
 
 struct KeyEvent {
-    Key key = Key::unknown;
+    Key key = Key::unknown; ///< by what the person's layout writes on it
     Modifiers modifiers;
     bool down = true;
     bool repeat = false; ///< sent again because the key is held
+    Key place = key;     ///< by where it lies: what the keyboard of the United States has there
 };
 
 /// Typed characters, already composed, in Windows-1252. What that set lacks is left out.

@@ -11,6 +11,17 @@ namespace {
 /// Time stands still between them, so a program that does nothing else never gets on.
 constexpr int mostEmptyPolls = 1'000'000;
 
+constexpr std::string_view letters = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789"; // in the order of their keys
+constexpr std::string_view signs = "-=[];',./\\`";
+
+std::string americanName(Key key) {
+    const auto nameIn = [key](std::string_view names, Key first) {
+        const auto offset = static_cast<std::size_t>(key) - static_cast<std::size_t>(first);
+        return key >= first && offset < names.size() ? std::string(1, names[offset]) : std::string();
+    };
+    return nameIn(letters, Key::a) + nameIn(signs, Key::minus);
+}
+
 } // namespace
 
 HeadlessBackend::HeadlessBackend(Size size, DisplayInfo display) : screen_(size), display_(display) {}
@@ -93,6 +104,11 @@ void HeadlessBackend::present(const Bitmap& picture, std::span<const Rect> chang
             std::copy(from.begin(), from.end(), screen_.row(y).begin() + part.left);
         }
     }
+}
+
+std::string HeadlessBackend::keyName(Key place) {
+    const auto written = keyNames_.find(place);
+    return written != keyNames_.end() ? written->second : americanName(place);
 }
 
 void HeadlessBackend::minimise() {

@@ -9,6 +9,7 @@
 #include <cstddef>
 #include <deque>
 #include <functional>
+#include <map>
 #include <string>
 #include <variant>
 #include <vector>
@@ -30,6 +31,13 @@ public:
     /// has been painted and sent.
     void addAction(Millis when, std::function<void()> action);
     bool timelineIsEmpty() const { return timeline_.empty(); }
+
+    /// A slow screen; at first it shows whatever is sent.
+    void setFrameTime(Millis time) { frameTime_ = time; }
+
+    /// Writes something else on the key at that place. At first letters, digits and signs have those of the
+    /// United States, and no other key has anything.
+    void writeOnKey(Key place, std::string name) { keyNames_[place] = std::move(name); }
 
     /// Called when the program waits for ever with nothing left in the timeline. Without it, or when it
     /// leaves the program waiting, `wait` throws std::logic_error: a real program would hang.
@@ -56,7 +64,6 @@ public:
     bool isShown() const { return shown_; }
     bool isCaptured() const { return captured_; }
     bool isMinimised() const { return minimised_; }
-    bool isFullScreen() const { return fullScreen_; }
     std::optional<Rect> dragStrip() const { return dragStrip_; }
     const std::vector<MessageIcon>& beeps() const { return beeps_; }
 
@@ -73,9 +80,12 @@ public:
     Point mousePosition() override { return mouse_; }
     void setDragStrip(std::optional<Rect> strip) override { dragStrip_ = strip; }
     void setFullScreen(bool fullScreen) override { fullScreen_ = fullScreen; }
+    bool isFullScreen() const override { return fullScreen_; }
+    Millis frameTime() override { return frameTime_; }
     /// Minimising and restoring answer with the events that a window manager sends.
     void minimise() override;
     void restore() override;
+    std::string keyName(Key place) override;
     std::string clipboard() override { return clipboard_; }
     void setClipboard(std::string_view text) override { clipboard_ = text; }
     void beep(MessageIcon kind) override { beeps_.push_back(kind); }
@@ -95,6 +105,7 @@ private:
 
     Bitmap screen_;
     DisplayInfo display_;
+    Millis frameTime_ = 0;
     Millis now_ = 1000; // not 0, so that nobody mistakes "never" for "now"
     std::deque<Entry> timeline_;
     bool timelineHasEnded_ = false;
@@ -106,6 +117,7 @@ private:
     const CursorImage* cursor_ = nullptr;
     std::string title_;
     std::string clipboard_;
+    std::map<Key, std::string> keyNames_;
     Point mouse_;
     std::optional<Rect> dragStrip_;
     std::vector<MessageIcon> beeps_;

@@ -32,11 +32,11 @@ int floorDiv(int a, int b) {
 
 } // namespace
 
-Rect pictureArea(Size window, Size picture) {
+Rect pictureArea(Size window, Size picture, PictureFit fit) {
     const Size largest = fitted(window, picture);
     const Size sharp = multiplied(picture, wholeMultiple(window, picture));
     const bool isLargeEnough = sharp.height * whole >= largest.height * leastPart;
-    const Size size = isLargeEnough ? sharp : largest;
+    const Size size = fit == PictureFit::sharp && isLargeEnough ? sharp : largest;
     return Rect::at({(window.width - size.width) / 2, (window.height - size.height) / 2}, size);
 }
 

@@ -1,5 +1,5 @@
-// How the picture lies in the machine's window: with its shape kept, by whole multiples where they nearly
-// fill it.
+// How the picture lies in the machine's window: with its shape kept, as large as it fits on a full screen, in
+// a window by whole multiples where they nearly fill it.
 
 #pragma once
 
@@ -7,9 +7,12 @@
 
 namespace ventrel {
 
-/// The part of a window of that size that the picture takes: the largest whole multiple, or, when that would
-/// leave most of the window empty, as much as fits. A smaller window shrinks it.
-Rect pictureArea(Size window, Size picture);
+/// `sharp`: the largest whole multiple, or, when that would leave much of the window empty, as much as fits.
+/// `filling`: always as much as fits.
+enum class PictureFit { sharp, filling };
+
+/// The part of a window of that size that the picture takes. A smaller window shrinks it.
+Rect pictureArea(Size window, Size picture, PictureFit fit = PictureFit::sharp);
 
 /// A comfortable size for the first time: the largest whole multiple that leaves some of the screen free, 1
 /// when it fits at all, else as much as fits.

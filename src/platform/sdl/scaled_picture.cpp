@@ -23,35 +23,6 @@ Pixel mixed(Pixel a, Pixel b, unsigned weight) {
            (((a & green) * rest + (b & green) * weight) >> weightBits & green);
 }
 
-/// Where a shown pixel lies between two of the picture.
-struct Between {
-    int first;
-    int second;
-    unsigned weight; // of the second
-};
-
-Between between(int shown, int shownLength, int length) {
-    // The middle of the shown pixel, in 256ths of the picture's pixels, counted from the middle of its first.
-    const std::int64_t at =
-        ((2 * std::int64_t{shown} + 1) * length * fullWeight / shownLength - fullWeight) / 2;
-    const auto clamped = std::clamp<std::int64_t>(at, 0, std::int64_t{length - 1} * fullWeight);
-    const int first = static_cast<int>(clamped >> weightBits);
-    const int weight = static_cast<int>(clamped & (fullWeight - 1));
-    // Enlarged, two pixels mix only where they meet, over the width of one shown pixel: edges stay crisp.
-    const int fromEdge = (weight - fullWeight / 2) * std::max(shownLength, length) / length;
-    const int crisp = std::clamp(fromEdge + fullWeight / 2, 0, fullWeight);
-    return {first, std::min(first + 1, length - 1), static_cast<unsigned>(crisp)};
-}
-
-/// For the shown pixels from `first` to `end` of a side that is shown `shownLength` long.
-std::vector<Between> betweenAll(int first, int end, int shownLength, int length) {
-    std::vector<Between> result;
-    for (int shown = first; shown < end; ++shown) {
-        result.push_back(between(shown, shownLength, length));
-    }
-    return result;
-}
-
 /// Each pixel of `from` so many times, as far as `to` reaches; the first of them `skipped` times less.
 void repeatAcross(std::span<std::uint32_t> to, std::span<const Pixel> from, int multiple, int skipped) {
     auto next = to.begin();
@@ -85,26 +56,95 @@ void repeatPixels(const PixelRows& target, const Rect& area, const Bitmap& pictu
     }
 }
 
-void mixPixels(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown) {
-    const std::vector<Between> columns =
-        betweenAll(shown.left - area.left, shown.right - area.left, area.width(), picture.width());
+void copyRows(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown) {
     for (int y = shown.top; y < shown.bottom; ++y) {
-        const Between down = between(y - area.top, area.height(), picture.height());
-        const auto upper = picture.row(down.first);
-        const auto lower = picture.row(down.second);
-        std::uint32_t* to = rowOf(target, y) + shown.left;
-        for (const Between& across : columns) {
-            const auto left = static_cast<std::size_t>(across.first);
-            const auto right = static_cast<std::size_t>(across.second);
-            *to++ = mixed(mixed(upper[left], upper[right], across.weight),
-                          mixed(lower[left], lower[right], across.weight), down.weight);
-        }
+        const auto source =
+            picture.row(y - area.top).subspan(static_cast<std::size_t>(shown.left - area.left));
+        std::copy_n(source.begin(), shown.width(), rowOf(target, y) + shown.left);
+    }
+}
+
+/// Rows of the same length; `weight` is that of the second, of 256.
+void mixRows(std::span<const Pixel> upper, std::span<const Pixel> lower, unsigned weight, std::uint32_t* to) {
+    for (std::size_t i = 0; i < upper.size(); ++i) {
+        to[i] = mixed(upper[i], lower[i], weight);
     }
 }
 
 } // namespace
 
-Rect scalePicture(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& changed) {
+PictureScaler::Between PictureScaler::between(int shown, int shownLength, int length) {
+    // The middle of the shown pixel, in 256ths of the picture's pixels, counted from the middle of its first.
+    const std::int64_t at =
+        ((2 * std::int64_t{shown} + 1) * length * fullWeight / shownLength - fullWeight) / 2;
+    const auto clamped = std::clamp<std::int64_t>(at, 0, std::int64_t{length - 1} * fullWeight);
+    const int first = static_cast<int>(clamped >> weightBits);
+    const int weight = static_cast<int>(clamped & (fullWeight - 1));
+    // Enlarged, two pixels mix only where they meet, over the width of one shown pixel: edges stay crisp.
+    const int fromEdge = (weight - fullWeight / 2) * std::max(shownLength, length) / length;
+    const int crisp = std::clamp(fromEdge + fullWeight / 2, 0, fullWeight);
+    return {first, std::min(first + 1, length - 1), static_cast<unsigned>(crisp)};
+}
+
+std::vector<PictureScaler::Between> PictureScaler::betweenAll(int shownLength, int length) {
+    std::vector<Between> result;
+    for (int shown = 0; shown < shownLength; ++shown) {
+        result.push_back(between(shown, shownLength, length));
+    }
+    return result;
+}
+
+void PictureScaler::prepare(Size shown, Size picture) {
+    if (shown != shown_ || picture != picture_) {
+        shown_ = shown;
+        picture_ = picture;
+        columns_ = betweenAll(shown.width, picture.width);
+        rows_ = betweenAll(shown.height, picture.height);
+    }
+}
+
+const std::vector<Pixel>& PictureScaler::mixedAcross(MixedRow& row, int number, const Bitmap& picture,
+                                                     std::span<const Between> columns) {
+    if (row.number != number) {
+        row.number = number;
+        row.pixels.resize(columns.size());
+        const auto from = picture.row(number);
+        std::ranges::transform(columns, row.pixels.begin(), [from](const Between& across) {
+            return mixed(from[static_cast<std::size_t>(across.first)],
+                         from[static_cast<std::size_t>(across.second)], across.weight);
+        });
+    }
+    return row.pixels;
+}
+
+/// Each row of the picture is mixed across once; the rows that are shown of it are copies, and between two of
+/// the picture's rows mixtures of both.
+void PictureScaler::mixPixels(const PixelRows& target, const Rect& area, const Bitmap& picture,
+                              const Rect& shown) {
+    prepare(area.size(), picture.size());
+    const auto columns = std::span(columns_).subspan(static_cast<std::size_t>(shown.left - area.left),
+                                                     static_cast<std::size_t>(shown.width()));
+    upper_.number = -1;
+    lower_.number = -1;
+    for (int y = shown.top; y < shown.bottom; ++y) {
+        const Between& down = rows_[static_cast<std::size_t>(y - area.top)];
+        if (down.first == lower_.number) {
+            std::swap(upper_, lower_);
+        }
+        std::uint32_t* to = rowOf(target, y) + shown.left;
+        if (down.weight == 0) {
+            std::ranges::copy(mixedAcross(upper_, down.first, picture, columns), to);
+        } else if (down.weight == fullWeight) {
+            std::ranges::copy(mixedAcross(lower_, down.second, picture, columns), to);
+        } else {
+            mixRows(mixedAcross(upper_, down.first, picture, columns),
+                    mixedAcross(lower_, down.second, picture, columns), down.weight, to);
+        }
+    }
+}
+
+Rect PictureScaler::draw(const PixelRows& target, const Rect& area, const Bitmap& picture,
+                         const Rect& changed) {
     const int multiple = area.width() / picture.width();
     const bool isWhole = multiple >= 1 && area.width() == multiple * picture.width() &&
                          area.height() == multiple * picture.height();
@@ -116,10 +156,15 @@ Rect scalePicture(const PixelRows& target, const Rect& area, const Bitmap& pictu
                             down(source.bottom) + (isWhole ? 0 : 1)}
                            .intersectedWith(area)
                            .intersectedWith(Rect::at({}, target.size));
-    if (isWhole) {
-        repeatPixels(target, area, picture, shown, multiple);
-    } else {
+    if (shown.isEmpty()) {
+        return {};
+    }
+    if (!isWhole) {
         mixPixels(target, area, picture, shown);
+    } else if (multiple == 1) {
+        copyRows(target, area, picture, shown);
+    } else {
+        repeatPixels(target, area, picture, shown, multiple);
     }
     return shown;
 }

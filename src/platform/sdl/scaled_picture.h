@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <span>
+#include <vector>
 
 #include "platform/canvas/bitmap.h"
 
@@ -16,8 +17,40 @@ struct PixelRows {
     Size size;
 };
 
-/// Draws the part `changed` of the picture where it lies in `area` of `target`, and returns the part of the
-/// target that was drawn. At whole multiples pixels are repeated; otherwise neighbours are mixed.
-Rect scalePicture(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& changed);
+/// Draws changed parts of a picture at another size. Keeps what it has found out for that size, so one object
+/// serves one screen.
+class PictureScaler {
+public:
+    /// Draws the part `changed` of the picture where it lies in `area` of `target`, and returns the part of
+    /// the target that was drawn. At whole multiples pixels are repeated; otherwise neighbours are mixed.
+    Rect draw(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& changed);
+
+private:
+    /// Where a shown pixel lies between two of the picture.
+    struct Between {
+        int first = 0;
+        int second = 0;
+        unsigned weight = 0; ///< of the second, of 256
+    };
+    /// A row of the picture, mixed across, as far as the part that is being drawn reaches.
+    struct MixedRow {
+        int number = -1; ///< of the picture's rows; -1: none yet
+        std::vector<Pixel> pixels;
+    };
+
+    static Between between(int shown, int shownLength, int length);
+    static std::vector<Between> betweenAll(int shownLength, int length);
+    void prepare(Size shown, Size picture);
+    void mixPixels(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown);
+    const std::vector<Pixel>& mixedAcross(MixedRow& row, int number, const Bitmap& picture,
+                                          std::span<const Between> columns);
+
+    Size shown_;
+    Size picture_;
+    std::vector<Between> columns_;
+    std::vector<Between> rows_;
+    MixedRow upper_;
+    MixedRow lower_;
+};
 
 } // namespace ventrel

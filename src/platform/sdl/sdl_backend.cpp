@@ -15,7 +15,9 @@
 #include "platform/sdl/scaled_picture.h"
 #include "platform/sdl/sdl_beeper.h"
 #include "platform/sdl/sdl_input.h"
+#include "platform/sdl/sdl_keys.h"
 #include "platform/sdl/sdl_system.h"
+#include "platform/sdl/x11_care.h"
 
 namespace ventrel {
 
@@ -51,14 +53,7 @@ public:
 
     bool isOpen() const { return window_ != nullptr; }
 
-    std::optional<WindowPlacement> placement() const override {
-        if ((SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0) {
-            return std::nullopt;
-        }
-        Point corner;
-        SDL_GetWindowPosition(window_.get(), &corner.x, &corner.y);
-        return WindowPlacement{Rect::at(corner, windowSize())};
-    }
+    WindowPlacement placement() const override { return isFullScreen_ ? windowed_ : placementNow(); }
 
     Millis now() override { return static_cast<Millis>(SDL_GetTicks64()); }
 
@@ -148,13 +143,41 @@ public:
     void setDragStrip(std::optional<Rect> strip) override { dragStrip_ = strip; }
 
     void setFullScreen(bool fullScreen) override {
-        SDL_SetWindowFullscreen(window_.get(), fullScreen ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+        if (fullScreen == isFullScreen_) {
+            return;
+        }
+        if (fullScreen) {
+            windowed_ = placementNow();
+        }
+        if (!lacksWindowManager(window_.get())) {
+            SDL_SetWindowFullscreen(window_.get(), fullScreen ? SDL_WINDOW_FULLSCREEN_DESKTOP : 0);
+        } else {
+            moveTo(fullScreen ? screenBounds() : windowed_.bounds);
+        }
+        isFullScreen_ = fullScreen;
+        showsBars_ = true;
+        adaptToScale();
+    }
+    bool isFullScreen() const override { return isFullScreen_; }
+
+    Millis frameTime() override {
+        constexpr int usualRate = 60; // pictures a second, where the screen does not tell
+        constexpr int second = 1000;
+        SDL_DisplayMode mode{};
+        SDL_GetCurrentDisplayMode(std::max(0, SDL_GetWindowDisplayIndex(window_.get())), &mode);
+        return second / (mode.refresh_rate > 0 ? mode.refresh_rate : usualRate);
     }
 
     void minimise() override { SDL_MinimizeWindow(window_.get()); }
     void restore() override {
         SDL_RestoreWindow(window_.get());
         SDL_RaiseWindow(window_.get());
+    }
+
+    std::string keyName(Key place) override {
+        const SDL_Scancode code = scancodeOf(place);
+        const std::string name = SDL_GetKeyName(SDL_GetKeyFromScancode(code));
+        return fromUtf8(name.empty() ? deadKeyName(window_.get(), code) : name, '\0');
     }
 
     std::string clipboard() override {
@@ -195,13 +218,34 @@ private:
         return false;
     }
 
+    WindowPlacement placementNow() const {
+        Point corner;
+        SDL_GetWindowPosition(window_.get(), &corner.x, &corner.y);
+        return {Rect::at(corner, windowSize())};
+    }
+
+    void moveTo(const Rect& bounds) {
+        SDL_SetWindowPosition(window_.get(), bounds.left, bounds.top);
+        SDL_SetWindowSize(window_.get(), bounds.width(), bounds.height());
+    }
+
+    /// All of the screen on which the window stands.
+    Rect screenBounds() const {
+        SDL_Rect screen{0, 0, picture_.width, picture_.height};
+        SDL_GetDisplayBounds(std::max(0, SDL_GetWindowDisplayIndex(window_.get())), &screen);
+        return Rect::at({screen.x, screen.y}, {screen.w, screen.h});
+    }
+
     Size windowSize() const {
         Size size;
         SDL_GetWindowSize(window_.get(), &size.width, &size.height);
         return size;
     }
 
-    Rect area() const { return pictureArea(windowSize(), picture_); }
+    Rect areaIn(Size window) const {
+        return pictureArea(window, picture_, isFullScreen_ ? PictureFit::filling : PictureFit::sharp);
+    }
+    Rect area() const { return areaIn(windowSize()); }
 
     /// The next event of SDL. False when there was none until `end`, or before that, when something of ours
     /// was to be seen to.
@@ -264,14 +308,14 @@ private:
     }
 
     std::vector<SDL_Rect> drawParts(const SDL_Surface& target, const Bitmap& picture,
-                                    std::span<const Rect> changed) const {
+                                    std::span<const Rect> changed) {
         const PixelRows rows{static_cast<Pixel*>(target.pixels),
                              static_cast<int>(static_cast<std::size_t>(target.pitch) / bytesPerPixel),
                              {target.w, target.h}};
-        const Rect place = pictureArea(rows.size, picture_);
+        const Rect place = areaIn(rows.size);
         std::vector<SDL_Rect> drawn;
         for (const Rect& part : changed) {
-            const Rect shown = scalePicture(rows, place, picture, part);
+            const Rect shown = scaler_.draw(rows, place, picture, part);
             if (!shown.isEmpty()) {
                 drawn.push_back({shown.left, shown.top, shown.width(), shown.height()});
             }
@@ -282,7 +326,7 @@ private:
     /// Black beside the picture.
     void paintBars(SDL_Surface& target) const {
         constexpr Uint32 black = 0;
-        const Rect place = pictureArea({target.w, target.h}, picture_);
+        const Rect place = areaIn({target.w, target.h});
         const SDL_Rect bars[]{{0, 0, target.w, place.top},
                               {0, place.bottom, target.w, target.h - place.bottom},
                               {0, place.top, place.left, place.height()},
@@ -311,7 +355,7 @@ private:
 
     /// A press that a menu waits for must arrive, wherever it is made.
     SDL_HitTestResult partAt(Point p) const {
-        if (captured_ || (SDL_GetWindowFlags(window_.get()) & SDL_WINDOW_FULLSCREEN_DESKTOP) != 0) {
+        if (captured_ || isFullScreen_) {
             return SDL_HITTEST_NORMAL;
         }
         const Point shown = toPicture(p, area(), picture_);
@@ -334,6 +378,9 @@ private:
     std::unique_ptr<VideoSystem> video_;
     Size picture_;
     WindowPointer window_;
+    bool isFullScreen_ = false;
+    WindowPlacement windowed_; // while the screen is filled: where the window comes back to
+    PictureScaler scaler_;
     SurfacePointer scaled_; // only for a screen with other pixels than ours
     bool showsBars_ = true; // the whole window is to be sent, also beside the picture
     int multiple_ = 0;      // by which pointers are drawn; 0: not known yet

@@ -33,8 +33,8 @@ struct SdlOptions {
 
 class SdlBackend : public Backend {
 public:
-    /// Where the window stands now, for the next start; none while it fills the screen.
-    virtual std::optional<WindowPlacement> placement() const = 0;
+    /// Where the window stands, or comes back to when it no longer fills the screen; for the next start.
+    virtual WindowPlacement placement() const = 0;
 };
 
 /// The size of the machine's screen, before any window; none when there is no screen.

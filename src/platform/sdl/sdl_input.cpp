@@ -19,7 +19,7 @@ MouseButton buttonOf(std::uint8_t button) {
 
 std::optional<InputEvent> keyEvent(const SDL_KeyboardEvent& event) {
     return KeyEvent{keyOf(event.keysym), modifiersOf(static_cast<SDL_Keymod>(event.keysym.mod)),
-                    event.type == SDL_KEYDOWN, event.repeat != 0};
+                    event.type == SDL_KEYDOWN, event.repeat != 0, placeOf(event.keysym.scancode)};
 }
 
 std::optional<InputEvent> textEvent(const SDL_TextInputEvent& event) {

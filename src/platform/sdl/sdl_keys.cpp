@@ -43,6 +43,32 @@ constexpr std::array places{std::to_array<Place>({
     {SDL_SCANCODE_KP_ENTER, Key::keypadEnter},
     {SDL_SCANCODE_KP_PERIOD, Key::keypadPeriod},
     {SDL_SCANCODE_KP_0, Key::keypad0},
+    {SDL_SCANCODE_0, Key::digit0},
+    {SDL_SCANCODE_MINUS, Key::minus},
+    {SDL_SCANCODE_EQUALS, Key::equals},
+    {SDL_SCANCODE_LEFTBRACKET, Key::leftBracket},
+    {SDL_SCANCODE_RIGHTBRACKET, Key::rightBracket},
+    {SDL_SCANCODE_SEMICOLON, Key::semicolon},
+    {SDL_SCANCODE_APOSTROPHE, Key::apostrophe},
+    {SDL_SCANCODE_COMMA, Key::comma},
+    {SDL_SCANCODE_PERIOD, Key::period},
+    {SDL_SCANCODE_SLASH, Key::slash},
+    {SDL_SCANCODE_BACKSLASH, Key::backslash},
+    {SDL_SCANCODE_GRAVE, Key::grave},
+})};
+
+/// Keys that lie one behind the other in both lists.
+struct Row {
+    SDL_Scancode first;
+    SDL_Scancode last;
+    Key key;
+};
+
+constexpr std::array rows{std::to_array<Row>({
+    {SDL_SCANCODE_A, SDL_SCANCODE_Z, Key::a},
+    {SDL_SCANCODE_1, SDL_SCANCODE_9, Key::digit1},
+    {SDL_SCANCODE_F1, SDL_SCANCODE_F12, Key::f1},
+    {SDL_SCANCODE_KP_1, SDL_SCANCODE_KP_9, Key::keypad1},
 })};
 
 struct Sign {
@@ -69,30 +95,35 @@ Key keyBehind(Key first, int offset) {
     return static_cast<Key>(static_cast<int>(first) + offset);
 }
 
-/// What a key that writes something else bears on the keyboard of the United States: the letters of another
-/// script and the digits behind accents stand where one's hands look for them.
-Key keyAtPlace(SDL_Scancode code) {
-    if (code >= SDL_SCANCODE_A && code <= SDL_SCANCODE_Z) {
-        return keyBehind(Key::a, code - SDL_SCANCODE_A);
-    }
-    if (code >= SDL_SCANCODE_1 && code <= SDL_SCANCODE_9) {
-        return keyBehind(Key::digit1, code - SDL_SCANCODE_1);
-    }
-    return code == SDL_SCANCODE_0 ? Key::digit0 : Key::unknown;
+/// Whether what is written on it depends on the person's layout.
+bool isWritten(Key key) {
+    return (key >= Key::a && key <= Key::digit9) || (key >= Key::minus && key <= Key::grave);
 }
 
 } // namespace
 
+Key placeOf(SDL_Scancode code) {
+    const auto* const row = std::ranges::find_if(
+        rows, [code](const Row& each) { return code >= each.first && code <= each.last; });
+    if (row != rows.end()) {
+        return keyBehind(row->key, code - row->first);
+    }
+    const auto* const place = std::ranges::find(places, code, &Place::code);
+    return place != places.end() ? place->key : Key::unknown;
+}
+
+SDL_Scancode scancodeOf(Key place) {
+    int code = 0;
+    while (code < SDL_NUM_SCANCODES && placeOf(static_cast<SDL_Scancode>(code)) != place) {
+        ++code;
+    }
+    return code < SDL_NUM_SCANCODES ? static_cast<SDL_Scancode>(code) : SDL_SCANCODE_UNKNOWN;
+}
+
 Key keyOf(const SDL_Keysym& sym) {
-    const auto* const place = std::ranges::find(places, sym.scancode, &Place::code);
-    if (place != places.end()) {
-        return place->key;
-    }
-    if (sym.scancode >= SDL_SCANCODE_KP_1 && sym.scancode <= SDL_SCANCODE_KP_9) {
-        return keyBehind(Key::keypad1, sym.scancode - SDL_SCANCODE_KP_1);
-    }
-    if (sym.scancode >= SDL_SCANCODE_F1 && sym.scancode <= SDL_SCANCODE_F12) {
-        return keyBehind(Key::f1, sym.scancode - SDL_SCANCODE_F1);
+    const Key place = placeOf(sym.scancode);
+    if (place != Key::unknown && !isWritten(place)) {
+        return place;
     }
     if (sym.sym >= SDLK_a && sym.sym <= SDLK_z) {
         return keyBehind(Key::a, sym.sym - SDLK_a);
@@ -101,7 +132,7 @@ Key keyOf(const SDL_Keysym& sym) {
         return keyBehind(Key::digit0, sym.sym - SDLK_0);
     }
     const auto* const sign = std::ranges::find(signs, sym.sym, &Sign::code);
-    return sign != signs.end() ? sign->key : keyAtPlace(sym.scancode);
+    return sign != signs.end() ? sign->key : place;
 }
 
 Modifiers modifiersOf(SDL_Keymod mod) {

@@ -6,6 +6,8 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "platform/sdl/x11_care.h"
+
 namespace ventrel {
 
 VideoSystem::VideoSystem() {
@@ -20,6 +22,7 @@ VideoSystem::VideoSystem() {
 
 VideoSystem::~VideoSystem() {
     if (isOpen_) {
+        const XErrorsAreQuiet quiet;
         SDL_QuitSubSystem(SDL_INIT_VIDEO);
     }
 }

@@ -81,7 +81,7 @@ TEST(Activation, SwitchingProgramsUnderADialogConcernsTheDialogAlone) {
               (Log{"dialog blur", "dialog minimised", "dialog active", "dialog focus", "broken off"}));
 }
 
-TEST(Close, AsksTheOwnersInTurnOrTheDialogAndQuitsInsideBoxesAtOnce) {
+TEST(Close, AsksTheOwnersInTurnOrTheDialogAlone) {
     Stage stage;
     const Window main = stage.open({.close = [&] { stage.log.emplace_back("main asked"); }});
     stage.desktop.setMainWindow(main);
@@ -90,7 +90,7 @@ TEST(Close, AsksTheOwnersInTurnOrTheDialogAndQuitsInsideBoxesAtOnce) {
         EXPECT_EQ(stage.desktop.activeWindow(), owned);
         main.post([&] { stage.runDialog(main, {.close = [&] { stage.dialogIsFinished = true; }}); });
     });
-    // The dialog alone is asked; a box inside another one, which does not take it, ends with the program.
+    // The dialog alone is asked; one that cannot be asked ends with the program.
     stage.script.wait(1).window(WindowEvent::closeRequested).then([&] {
         main.post([&] { stage.runDialog(main, {.close = [&] { stage.dialogIsFinished = true; }}); });
         main.post([&] { stage.runDialog(main); });

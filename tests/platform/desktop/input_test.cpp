@@ -194,5 +194,26 @@ TEST(Keys, AcceleratorsAreForTheirOwnWindowAndExactKeys) {
     EXPECT_EQ(stage.log, (Log{"4042", "500", "4026", "4026", "key", "key", "4006", "ended", "key", "text"}));
 }
 
+TEST(Keys, AnAcceleratorGoesByTheNameOfItsKeyOrByItsPlace) {
+    Stage stage;
+    constexpr Accelerator table[] = {
+        {Key::comma, {}, 180, KeyBy::place}, {Key::l, {}, 90, KeyBy::place}, {Key::n, {}, 4041}};
+    const Window main = stage.open(
+        {.command = [&](const CommandInput& command) { stage.log.push_back(std::to_string(command.id)); }});
+    main.setAccelerators(table);
+    const auto press = [&](Key key, Key place) {
+        KeyEvent event{.key = key, .modifiers = {}};
+        event.place = place;
+        stage.backend.addInput(stage.backend.now(), event);
+    };
+    press(Key::semicolon, Key::comma); // French
+    press(Key::comma, Key::m);
+    press(Key::n, Key::n);
+    press(Key::n, Key::l); // Dvorak
+    press(Key::b, Key::n);
+    stage.play();
+    EXPECT_EQ(stage.log, (Log{"180", "4041", "90"}));
+}
+
 } // namespace
 } // namespace ventrel

@@ -115,6 +115,29 @@ TEST(Loop, ALongSequenceKeepsTheProgramMoving) {
     EXPECT_EQ(accelerated, 1);
 }
 
+TEST(Loop, AScreenGetsItsPicturesNoFasterThanItShowsThemAndMissesNothing) {
+    Stage stage;
+    stage.backend.setFrameTime(16);
+    const Window main = stage.open();
+    int step = 0;
+    stage.desktop.setIdle([&]() -> std::optional<Millis> {
+        main.canvas().fill({step, 0, step + 1, 1}, Colour::rgb(255, 255, 255));
+        return ++step < 100 ? std::optional(stage.desktop.now() + 6) : std::nullopt;
+    });
+    std::size_t sent = 0;
+    stage.script.wait(5).then([&] { sent = stage.backend.sendings(); }).wait(1000).then([&] {
+        EXPECT_EQ(step, 100) << "what moves keeps its pace";
+        EXPECT_LE(stage.backend.sendings() - sent, 37U) << "of 594 ms";
+        EXPECT_GE(stage.backend.sendings() - sent, 33U) << "with the first step after a frame's time";
+        EXPECT_EQ(stage.backend.screen().at(99, 0), stage.desktop.picture().at(99, 0));
+        EXPECT_NE(stage.backend.screen().at(99, 0), 0U);
+        sent = stage.backend.sleeps();
+    });
+    stage.script.wait(1000);
+    stage.play();
+    EXPECT_LE(stage.backend.sleeps() - sent, 2U) << "it wakes up for nothing";
+}
+
 TEST(Loop, QuitEndsEveryNestedLoopAtOnce) {
     Stage stage;
     Window main;

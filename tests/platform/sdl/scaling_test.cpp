@@ -24,6 +24,13 @@ TEST(PictureArea, TakesWholeMultiplesUnlessTheyWasteTheWindow) {
     EXPECT_FALSE(pictureArea({1, 1}, large).isEmpty());
 }
 
+TEST(PictureArea, AFullScreenIsFilledAsFarAsTheShapeAllows) {
+    constexpr auto filling = PictureFit::filling;
+    EXPECT_EQ(pictureArea({1280, 1024}, large, filling), (Rect{0, 32, 1280, 992}));
+    EXPECT_EQ(pictureArea({1366, 768}, small, filling), (Rect{171, 0, 1195, 768}));
+    EXPECT_EQ(pictureArea({3840, 2160}, large, filling), (Rect{480, 0, 3360, 2160}));
+}
+
 TEST(PictureArea, TheFirstWindowIsComfortable) {
     EXPECT_EQ(firstWindowSize({1920, 1080}, small), small);
     EXPECT_EQ(firstWindowSize({1024, 768}, large), large) << "once, wherever it fits at all";
@@ -58,7 +65,7 @@ Bitmap noise(Size size, unsigned seed) {
 
 Bitmap scaled(Bitmap screen, const Rect& area, const Bitmap& picture, const Rect& changed) {
     const PixelRows rows{screen.row(0).data(), screen.width(), screen.size()};
-    scalePicture(rows, area, picture, changed);
+    PictureScaler().draw(rows, area, picture, changed);
     return screen;
 }
 
