@@ -1,10 +1,14 @@
 // ventrel-art: writes the program's drawings as SVG, and makes its pictures from what was rendered of them.
 
+#include <CLI/CLI.hpp>
+
 #include <cstdio>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "base/whole_file.h"
+#include "base/windows1252.h"
 #include "tools/art/commands.h"
 
 namespace {
@@ -16,66 +20,96 @@ constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 constexpr std::size_t largestMaterials = std::size_t{1} << 20;
 
-constexpr const char* usage =
-    "Draws the pictures of Ventrel.\n"
-    "\n"
-    "    ventrel-art list                               the names of all drawings\n"
-    "    ventrel-art draw NAME MATERIALS OUT.svg        one of them as a drawing\n"
-    "    ventrel-art convert IN.png OUT                 a rendered picture as the program reads it\n"
-    "    ventrel-art frame CONSOLE.png OUT              the radar's frame, cut out of a rendered console\n"
-    "    ventrel-art key ONBLACK.png ONWHITE.png OUT    a picture with clear parts, from two renderings\n"
-    "\n"
-    "Exit status: 0 done; 1 a file cannot be read or written; 2 wrong usage.\n";
+int complain(std::string_view text, int status) {
+    std::fprintf(stderr, "ventrel-art: %s\n", toTerminal(text).c_str());
+    return status;
+}
+
+int list() {
+    for (const std::string& name : art::drawingNames()) {
+        std::puts(name.c_str());
+    }
+    return success;
+}
 
 int draw(const std::string& name, const std::string& materials, const std::string& target) {
-    const auto content = readFileStart(materials, largestMaterials);
+    const auto content = readWholeFile(materials, largestMaterials);
     if (!content) {
-        std::fprintf(stderr, "ventrel-art: %s cannot be opened\n", materials.c_str());
-        return failure;
+        return complain(content.error().text, failure);
     }
     const std::string text =
         art::drawing(name, {reinterpret_cast<const char*>(content->data()), content->size()});
     if (text.empty()) {
-        std::fprintf(stderr, "ventrel-art: there is no drawing '%s'\n", name.c_str());
-        return wrongUsage;
+        return complain("there is no drawing '" + fromUtf8(name) + '\'', wrongUsage);
     }
-    if (!replaceFile(target, std::as_bytes(std::span(text)))) {
-        std::fprintf(stderr, "ventrel-art: %s cannot be written\n", target.c_str());
-        return failure;
-    }
-    return success;
+    const auto written = replaceFile(target, std::as_bytes(std::span(text)));
+    return written ? success : complain(written.error().text, failure);
 }
 
 int statusOf(bool succeeded) {
     return succeeded ? success : failure;
 }
 
+using Words = std::vector<std::string>;
+
+/// A command, its operands by name, and what it does with their values.
+struct Command {
+    const char* name;
+    const char* meaning;
+    std::vector<const char*> operands;
+    int (*run)(const Words& values);
+};
+
+std::vector<Command> allCommands() {
+    return {
+        {"list", "Prints the names of all drawings", {}, [](const Words&) { return list(); }},
+        {"draw",
+         "Writes one of them as a drawing",
+         {"NAME", "MATERIALS", "OUT.svg"},
+         [](const Words& words) { return draw(words[0], words[1], words[2]); }},
+        {"convert",
+         "Writes a rendered picture as the program reads it",
+         {"IN.png", "OUT"},
+         [](const Words& words) { return statusOf(art::convertPicture(words[0], words[1])); }},
+        {"frame",
+         "Cuts the radar's frame out of a rendered console",
+         {"CONSOLE.png", "OUT"},
+         [](const Words& words) { return statusOf(art::cutRadarFrame(words[0], words[1])); }},
+        {"key",
+         "Makes a picture with clear parts of two renderings",
+         {"ONBLACK.png", "ONWHITE.png", "OUT"},
+         [](const Words& words) { return statusOf(art::keyPicture(words[0], words[1], words[2])); }},
+    };
+}
+
 } // namespace
 
 int main(int argc, char** argv) {
-    const std::vector<std::string> words(argv + 1, argv + argc);
-    const auto isCommand = [&](const char* name, std::size_t operands) {
-        return words.size() == operands + 1 && words.front() == name;
-    };
-    if (isCommand("list", 0)) {
-        for (const std::string& name : art::drawingNames()) {
-            std::puts(name.c_str());
+    CLI::App app("Draws the pictures of Ventrel.", "ventrel-art");
+    app.footer("\nExit status: 0 done; 1 a file cannot be read or written; 2 wrong usage.");
+    app.require_subcommand(0, 1);
+    int status = wrongUsage;
+    const std::vector<Command> commands = allCommands();
+    std::vector<Words> values;
+    for (const Command& command : commands) {
+        values.emplace_back(command.operands.size());
+    }
+    for (std::size_t i = 0; i < commands.size(); ++i) {
+        CLI::App* command = app.add_subcommand(commands[i].name, commands[i].meaning);
+        for (std::size_t k = 0; k < values[i].size(); ++k) {
+            command->add_option(commands[i].operands[k], values[i][k])->required();
         }
+        command->callback([&, i] { status = commands[i].run(values[i]); });
+    }
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::fputs(app.help().c_str(), stdout);
         return success;
+    } catch (const CLI::ParseError& error) {
+        return complain(std::string(error.what()) + "\nventrel-art --help tells more.", wrongUsage);
     }
-    if (isCommand("draw", 3)) {
-        return draw(words[1], words[2], words[3]);
-    }
-    if (isCommand("convert", 2)) {
-        return statusOf(art::convertPicture(words[1], words[2]));
-    }
-    if (isCommand("frame", 2)) {
-        return statusOf(art::cutRadarFrame(words[1], words[2]));
-    }
-    if (isCommand("key", 3)) {
-        return statusOf(art::keyPicture(words[1], words[2], words[3]));
-    }
-    const bool wantsHelp = isCommand("--help", 0);
-    std::fputs(usage, wantsHelp ? stdout : stderr);
-    return wantsHelp ? success : wrongUsage;
+    return app.get_subcommands().empty()
+               ? complain("A command is required\nventrel-art --help tells more.", wrongUsage)
+               : status;
 }

@@ -1,10 +1,12 @@
 // ventrel-gallery: shows everything that the virtual desktop can draw, in a real window or into a file.
 
+#include <CLI/CLI.hpp>
+
 #include <cstdio>
 #include <filesystem>
 #include <string>
-#include <vector>
 
+#include "base/windows1252.h"
 #include "platform/canvas/png_writer.h"
 #include "platform/headless/script.h"
 #include "platform/sdl/sdl_backend.h"
@@ -19,39 +21,14 @@ constexpr Size largeScreen{1024, 768};
 constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 
-constexpr const char* usage = "Shows the controls, menus, boxes, faces and drawing of the virtual desktop.\n"
-                              "\n"
-                              "    ventrel-gallery [--large] [--full-screen | --picture OUT.png]\n"
-                              "\n"
-                              "    --large            1024 x 768 instead of 800 x 600\n"
-                              "    --full-screen      the whole screen, without a change of its mode\n"
-                              "    --picture OUT.png  into a file, without a window\n"
-                              "\n"
-                              "In its window it says what happens, a line each, on the standard output.\n";
-
 struct Arguments {
     Size size = smallScreen;
     bool fullScreen = false;
     std::string picture;
 };
 
-bool readArguments(const std::vector<std::string>& words, Arguments& arguments) {
-    for (std::size_t i = 0; i < words.size(); ++i) {
-        if (words[i] == "--large") {
-            arguments.size = largeScreen;
-        } else if (words[i] == "--full-screen") {
-            arguments.fullScreen = true;
-        } else if (words[i] == "--picture" && i + 1 < words.size()) {
-            arguments.picture = words[++i];
-        } else {
-            return false;
-        }
-    }
-    return true;
-}
-
-void complain(std::string_view text, MessageIcon) {
-    std::fprintf(stderr, "ventrel-gallery: %.*s\n", static_cast<int>(text.size()), text.data());
+void complain(std::string_view text, MessageIcon = MessageIcon::stop) {
+    std::fprintf(stderr, "ventrel-gallery: %s\n", toTerminal(text).c_str());
 }
 
 /// At once, for somebody who reads along.
@@ -89,12 +66,28 @@ int inWindow(const Arguments& arguments, FontSet& fonts) {
 } // namespace
 
 int main(int argc, char** argv) {
+    CLI::App app("Shows the controls, menus, boxes, faces and drawing of the virtual desktop.",
+                 "ventrel-gallery");
+    app.footer("\nIn its window it says what happens, a line each, on the standard output.");
     Arguments arguments;
-    if (!readArguments(std::vector<std::string>(argv + 1, argv + argc), arguments)) {
-        std::fputs(usage, stderr);
+    bool isLarge = false;
+    app.add_flag("--large", isLarge, "1024 x 768 instead of 800 x 600");
+    CLI::Option* full =
+        app.add_flag("--full-screen", arguments.fullScreen, "The whole screen, without a change of its mode");
+    app.add_option("--picture", arguments.picture, "Into a file, without a window")
+        ->type_name("OUT.png")
+        ->excludes(full);
+    try {
+        app.parse(argc, argv);
+    } catch (const CLI::CallForHelp&) {
+        std::fputs(app.help().c_str(), stdout);
+        return 0;
+    } catch (const CLI::ParseError& error) {
+        complain(std::string(error.what()) + "\nventrel-gallery --help tells more.");
         return wrongUsage;
     }
+    arguments.size = isLarge ? largeScreen : smallScreen;
     const std::filesystem::path program = argv[0];
-    FontSet fonts(program.parent_path() / "fonts", complain);
+    FontSet fonts(program.parent_path() / "fonts", [](auto... words) { complain(words...); });
     return arguments.picture.empty() ? inWindow(arguments, fonts) : intoFile(arguments, fonts);
 }
