@@ -1,4 +1,5 @@
-// The airport reader against any bytes, and a short shift with random orders on whatever it accepts.
+// The airport reader against any bytes; on whatever it accepts, a short shift with random orders, and the
+// airspace tool's checks and its source.
 
 #include <algorithm>
 #include <cstddef>
@@ -6,7 +7,11 @@
 #include <cstdlib>
 #include <span>
 
+#include "base/windows1252.h"
 #include "sim/game.h"
+#include "tools/apt/airspace_checks.h"
+#include "tools/apt/airspace_source.h"
+#include "tools/apt/airspace_text.h"
 
 namespace {
 
@@ -32,6 +37,21 @@ void fly(Game& game) {
     }
 }
 
+/// What the tool shows has to be a source, which it makes sure of by itself.
+void checkAndShow(std::span<const std::byte> bytes) {
+    const auto airport = readAirportFile(bytes, "fuzz.apt", [](std::string_view, MessageIcon) {});
+    for (const apt::Problem& problem :
+         apt::airspaceProblems(*airport, embeddedPicture(bytes, airport->header))) {
+        if (problem.text.empty()) {
+            std::abort();
+        }
+    }
+    const auto text = apt::airspaceText(*airport, bytes, {});
+    if (text.has_value() && !apt::parseAirspace(toUtf8(*text)).faults.empty()) {
+        std::abort();
+    }
+}
+
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -50,5 +70,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
               {.skill = Skill::hard, .layout = layout},
               RandomGenerator{static_cast<std::uint32_t>(size)}};
     fly(game);
+    checkAndShow(bytes);
     return 0;
 }

@@ -6,6 +6,7 @@
 
 #include "airspace_stage.h"
 #include "platform/canvas/image.h"
+#include "radar/radar_layout.h"
 #include "sim/airport_file.h"
 
 namespace ventrel {
@@ -31,12 +32,13 @@ TEST(AirspaceShow, WhatIsShownBuildsTheSameFileAgain) {
     const std::string odd =
         "\n[[point]]\nident = \"\\\\\\\"€\"\nname = \"Über\"\nexit = true\nlabel = \"left\"\n";
     const std::string corner =
-        "pixel = [539, 0]\nlabel_colour = \"#123456\"\n"; // of a cell that is on no grid
+        "pixel = [539, 0]\nmajor = true\nlabel_colour = \"#123456\"\n"; // of a cell that is on no grid
     writeText(folder / "odd.toml", "layout = 800\n" + readText(planted("sound.toml")) + odd + corner);
     built(folder / "odd.toml", folder / "first.apt", apt::success);
     EXPECT_TRUE(buildsAgain(folder));
     const std::string said = readText(folder / "shown.toml");
     expectSays(said, "the [grid], the coordinates and the");
+    expectSays(said, "major = true");
     EXPECT_EQ(said.find("lose"), std::string::npos) << said;
     EXPECT_EQ(said.find("lost"), std::string::npos) << said;
     for (const int width : {800, 1024}) {
@@ -55,6 +57,8 @@ TEST(AirspaceShow, ThePictureTravelsWithTheFile) {
     EXPECT_TRUE(buildsAgain(folder, 800, folder / "out.jpg"));
     EXPECT_EQ(readText(folder / "out.jpg"), readText(folder / "map.jpg"));
     expectSays(shown(folder / "first.apt", apt::success), "# The picture (");
+    expectSays(shown(folder / "first.apt", apt::faulty, folder / "a\nb.jpg"), "that a source cannot hold");
+    expectSays(shown(folder / "first.apt", apt::faulty, folder / "\u4e00.jpg"), "that a source cannot hold");
     // A picture that build refuses is written, and not named.
     std::string bytes = readText(folder / "first.apt");
     bytes[bytes.size() - readText(folder / "map.jpg").size()] = 'x';
@@ -82,6 +86,8 @@ TEST(AirspaceShow, SaysWhatASourceCannotHold) {
                "# Point 'NNN': the runway of a point that is no airport");
     expectLoss(secondPoint + symbolColourOffset + 3, 7, "# Point 'NNN': its colours lose their fourth byte");
     expectLoss(routeColourOffset + 3, 7, "# The colours of aircraft or routes lose their fourth byte");
+    expectLoss(flightColourOffset + 3, 7, "# The colours of aircraft or routes lose their fourth byte");
+    expectLoss(selectedFlightColourOffset + 3, 7, "# The colours of aircraft or routes lose");
     expectLoss(completionOffset, 7, "# Bytes of the file that are not read");
 }
 
@@ -160,6 +166,8 @@ TEST(AirspaceDraw, TheBlankGridHasEveryCell) {
         EXPECT_NE(pixelAt(grid, {22 * cell + 5, 22 * cell}), ground);
         EXPECT_NE(pixelAt(grid, {20 * cell, 22 * cell + 5}), pixelAt(grid, {22 * cell, 22 * cell + 5}));
         EXPECT_NE(pixelAt(grid, {3 * cell + 5, 3 * cell + 5}), ground); // flights are lost there
+        const Rect rim = radarLayoutFor(width).scopeEllipse;
+        EXPECT_EQ(pixelAt(grid, {rim.left, (rim.top + rim.bottom) / 2}), 0xE0A848U);
         // White of the numbers at column 30 of the middle row.
         int white = 0;
         for (int x = 0; x < cell; ++x) {

@@ -54,6 +54,67 @@ TEST(AirspaceTool, NamesEveryPlantedFault) {
     }
 }
 
+/// A change of the sound source, and what is said about it.
+struct Change {
+    const char* from;
+    const char* to;
+    const char* said;
+};
+constexpr Change changes[] = {
+    {"symbol = \"#e0a848\"", "symbol = \"#101010\"", ":9: the symbol colour of 'AAA' cannot be seen"},
+    {"runway = \"#f4f4f4\"", "runway = \"#101010\"", ":10: the runway colour of 'AAA' cannot be seen"},
+    {"route = \"#4aa3c8\"", "route = \"#101010\"", ":7: the route colour cannot be seen"},
+    {"label = \"below\"", "label = \"below\"\nlabel_colour = \"#101010\"", ":27: the label colour of 'NNN'"},
+    {"[24, 8]\nexit = true", "[24, 8]", ":21: point 'NNN': it is neither an exit nor an airport"},
+    {"cell = [24, 8]", "pixel = [264, 88]", ":24: point 2: a 'pixel' position needs the airspace's 'layout'"},
+    {"cell = [24, 8]", "latitude = 1.0\nlongitude = 1.0",
+     ":24: point 2: a place on the earth needs a [grid]"},
+    {"\"Nnn Field\"", "\"\"", ":23: point 2: 'name' must have 1 to 19 characters; it has 0"},
+    {"[24, 24]", "[46, 24]",
+     "the approach cone of the opposite direction leaves the scope by 4 pixels (at 800"},
+    {"lower right", "upper right", ":19: point 'AAA': its label lies in its own approach cone"},
+    {"[24, 40]", "[24, 10]", ":26: point 'NNN': its label covers 'SSS' (11 x 2 pixels) (at 800 pixels)"},
+};
+
+TEST(AirspaceTool, NamesTheLineOfWhatTroublesAPlayer) {
+    const TempFolder folder;
+    for (const auto& [from, to, said] : changes) {
+        std::string text = readText(planted("sound.toml"));
+        text.replace(text.find(from), std::string_view(from).size(), to);
+        writeText(folder / "changed.toml", text);
+        expectSays(checked(folder / "changed.toml", apt::faulty), said);
+    }
+}
+
+TEST(AirspaceTool, NamesWhatOnlyAFileCanHold) {
+    using namespace airport_layout;
+    const TempFolder folder;
+    built(planted("sound.toml"), folder / "sound.apt", apt::success);
+    const std::string whole = readText(folder / "sound.apt");
+    const auto expectProblem = [&](std::size_t offset, char byte, const std::string& said) {
+        std::string bytes = whole;
+        bytes[offset] = byte;
+        writeText(folder / "file.apt", bytes);
+        expectSays(checked(folder / "file.apt", apt::faulty), "file.apt: " + said);
+    };
+    expectProblem(nameOffset, '\0', "the airspace has no name");
+    expectProblem(layoutWidthOffset, 7, "the layout width is 775, neither 800 nor 1024; the game never");
+    expectProblem(headerSize + identOffset, '\0', "point 1 has no ident");
+    expectProblem(headerSize + descriptionOffset, '\0', "point 'AAA': it has no name");
+    expectProblem(headerSize + runwayHeadingOffset, 7, "point 'AAA': its runway heading 7 is none of");
+    expectProblem(headerSize + reverseChanceOffset, 101, "point 'AAA': its reverse chance is 101 percent");
+    writeText(folder / "file.apt", whole);
+    EXPECT_EQ(checked(folder / "file.apt", apt::success), "");
+}
+
+TEST(AirspaceTool, ASourceForOneLayoutIsCheckedForThatAlone) {
+    const TempFolder folder;
+    const std::string point = "\n[[point]]\nident = \"E\"\nname = \"E\"\nexit = true\nlabel = \"left\"\n";
+    writeText(folder / "large.toml",
+              "layout = 1024\n" + readText(planted("sound.toml")) + point + "pixel = [640, 350]\n");
+    EXPECT_EQ(checked(folder / "large.toml", apt::success), "");
+}
+
 TEST(AirspaceTool, TellsAllFaultsOfASourceAtOnce) {
     const std::string file = planted("many_faults.toml").string();
     std::string expected;
@@ -91,6 +152,12 @@ TEST(AirspaceTool, FarOffIsMeasuredFromTheEdge) {
     EXPECT_EQ(outside({535, 267}), 1);
     EXPECT_EQ(outside({545, 267}), 10);
     EXPECT_EQ(outside({17, 267}), 10);
+    // Each corner of a box counts: these reach beyond the rim at the four diagonals.
+    for (const Point corner : {Point{90, 77}, {463, 77}, {90, 449}, {463, 449}}) {
+        const Rect box = Rect::at(corner, {10, 10});
+        EXPECT_GT(apt::pixelsOutside(smallRadarLayout, box), 0) << corner.x << ", " << corner.y;
+    }
+    EXPECT_EQ(apt::pixelsOutside(smallRadarLayout, Rect{104, 91, 459, 446}), 0);
     EXPECT_EQ(apt::cellsOutside({24, 0}), 0);
     EXPECT_EQ(apt::cellsOutside({24, 52}), 4);
     EXPECT_EQ(apt::cellsOutside({0, 0}), 8); // towards the middle of the corner's diagonal
@@ -154,7 +221,14 @@ TEST(AirspaceTool, PicturesAreDecodedAsInTheGame) {
     expectSays(checked(folder / "large.toml", apt::faulty),
                "the picture has 539 x 539 pixels; the radar has 686 x 686 (at 1024 pixels)");
 
+    // As many blocks, but a row of pixels less than they hold.
+    std::string lower = whole;
+    lower[lower.find("\xFF\xC0") + 6] = static_cast<char>(538 % 256);
+    writeText(folder / "map.jpg", lower);
+    expectRefused("the picture has 539 x 538 pixels; the radar has 539 x 539");
+
     // In a file, too.
+    writeText(folder / "map.jpg", whole);
     built(folder / "map.toml", folder / "map.apt", apt::success);
     EXPECT_EQ(checked(folder / "map.apt", apt::success), "");
     std::string bytes = readText(folder / "map.apt");
@@ -200,7 +274,7 @@ TEST(AirspaceTool, DeepSourcesAreRefusedBeforeTheyAreRead) {
         expectSays(checked(file, apt::faulty), "deep.toml:2: a key has more than 16 parts");
         EXPECT_EQ(ran("check " + file.string() + " >/dev/null"), apt::faulty);
     }
-    writeText(file, "a = \"\"\"\n\\\"\"\"\n.\"\"\"\nb = " + repeated("[\n", many));
+    writeText(file, "a = \"\"\"\\\n\\\"\"\"\n.\"\"\"\nb = " + repeated("[\n", many));
     expectSays(checked(file, apt::faulty), "deep.toml:20: values lie more than 16 deep");
     writeText(file, "a = " + repeated("{a=", many));
     expectSays(checked(file, apt::faulty), "deep.toml:1: values lie more than 16 deep");
@@ -234,6 +308,7 @@ TEST(AirspaceTool, TextsOfAFileCannotReachTheTerminalAsTheyAre) {
     const std::string printed = checked(folder / "x.toml", apt::faulty);
     expectSays(printed, "unknown key '?[2J?key'");
     expectSays(printed, "unknown key '?'");
+    expectSays(built(folder / "\x1B[2J.toml", folder / "x.apt", apt::faulty), "?[2J.toml cannot be read");
 }
 
 TEST(AirspaceTool, PointsStandWhereTheirFlightsAreDrawn) {

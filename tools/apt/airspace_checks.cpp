@@ -72,9 +72,10 @@ private:
             add(Subject::points, "there are " + std::to_string(points_.size()) +
                                      " points; the order menu offers " + std::to_string(mostPoints));
         }
-        checkBrightness({}, Subject::flightColour, "aircraft", header_.flightColour);
-        checkBrightness({}, Subject::selectedColour, "selected aircraft", header_.selectedFlightColour);
-        checkBrightness({}, Subject::routeColour, "route", header_.routeColour);
+        checkBrightness({}, Subject::flightColour, "aircraft colour", header_.flightColour);
+        checkBrightness({}, Subject::selectedColour, "selected aircraft colour",
+                        header_.selectedFlightColour);
+        checkBrightness({}, Subject::routeColour, "route colour", header_.routeColour);
         const int apart = difference(header_.flightColour, header_.selectedFlightColour);
         if (apart < leastColourDifference) {
             add(Subject::selectedColour, "a selected aircraft looks like the others: the colours are " +
@@ -165,7 +166,7 @@ private:
                          Colour colour) {
         if (brightness(colour) < leastBrightness) {
             problems_.push_back({point, subject,
-                                 "the " + what + " colour cannot be seen on black: its brightest part is " +
+                                 "the " + what + " cannot be seen on black: its brightest part is " +
                                      std::to_string(brightness(colour)) + " of 255, " +
                                      std::to_string(leastBrightness) + " are needed"});
         }
@@ -173,7 +174,7 @@ private:
 
     void checkColours(std::size_t index) {
         const Vor& vor = points_[index];
-        const std::string of = " of '" + vor.ident + '\'';
+        const std::string of = " colour of '" + vor.ident + '\'';
         checkBrightness(index, Subject::labelColour, "label" + of, vor.labelColour);
         checkBrightness(index, Subject::symbolColour, "symbol" + of, vor.symbolColour);
         if (vor.isAirport) {

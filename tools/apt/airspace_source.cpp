@@ -38,6 +38,8 @@ public:
     SourceReading read() {
         TableReader reader(root_, faults_, "airspace");
         source_.lines = reader.lines();
+        source_.colourLines.table = source_.lines.table; // where the table is missing
+        source_.pictureLines.table = source_.lines.table;
         source_.name = reader.text("name", airport_layout::nameSize - 1);
         if (reader.has("layout")) {
             readLayout(reader);
