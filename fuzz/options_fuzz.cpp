@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "sim/options.h"
+#include "shell/options_file.h"
 
 namespace {
 

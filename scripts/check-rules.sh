@@ -50,7 +50,7 @@ only src/platform/headless 'base|platform/(canvas|devices|headless)'
 only src/platform/sdl 'base|platform/(canvas|devices|sdl)'
 only src/platform/machine 'base|platform/machine'
 only src/resources 'base|platform/(devices|desktop|widgets)|resources'
-only src/radar 'base|console|sim|platform/(canvas|devices|desktop)|radar'
+only src/radar 'resources|base|console|sim|platform/(canvas|devices|desktop)|radar'
 only src/controls 'base|console|sim|platform/(canvas|devices|desktop)|controls'
 only src/shell 'base|console|sim|platform/(canvas|devices|desktop|widgets)|resources|radar|controls|shell'
 standard src/base

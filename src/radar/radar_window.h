@@ -17,8 +17,8 @@
 #include "radar/flight_drawing.h"
 #include "radar/radar_layout.h"
 #include "radar/sweep.h"
+#include "resources/options.h"
 #include "sim/game.h"
-#include "sim/options.h"
 
 namespace ventrel {
 

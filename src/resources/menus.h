@@ -7,6 +7,8 @@
 #include "base/version.h"
 #include "platform/widgets/templates.h"
 #include "resources/command_ids.h"
+#include "resources/joined.h"
+#include "resources/options.h"
 
 namespace ventrel {
 
@@ -19,37 +21,23 @@ inline constexpr std::array fileMenuItems{std::to_array<MenuItemTemplate>({
     {"Exit\tAlt+F4", command::exitProgram},
 })};
 
-inline constexpr std::array displayMenuItems{std::to_array<MenuItemTemplate>({
-    {"Radar S&weep", command::sweep},
-    {"&Grid", command::grid},
-    {"Direct to &VOR Lines", command::routes},
-    {"Background &Image", command::backgroundImage},
-})};
+inline constexpr auto displayMenuItems = optionMenuItems<OptionMenu::display>();
+inline constexpr auto soundMenuItems = optionMenuItems<OptionMenu::sounds>();
+inline constexpr auto resolutionMenuItems =
+    joined(optionMenuItems<OptionMenu::pictureSize>(), std::array{menuSeparator},
+           optionMenuItems<OptionMenu::screen>());
 
-inline constexpr std::array soundMenuItems{std::to_array<MenuItemTemplate>({
-    {"&Music", command::music},
-    {"&Sound Effects", command::soundEffects},
-    {"Pilot &Voices", command::pilotVoices},
-})};
-
-inline constexpr std::array resolutionMenuItems{std::to_array<MenuItemTemplate>({
-    {"800 x 600", command::smallResolution},
-    {"1024 x 768", command::largeResolution},
-    menuSeparator,
-    {"&Full Screen", command::fullScreen},
-})};
-
-inline constexpr std::array optionsMenuItems{std::to_array<MenuItemTemplate>({
-    {"&Schedule...\tCtrl+S", command::schedule},
-    {"&Boss Key\tESC", command::bossKey},
-    {"&Pause\tPAUSE", command::pause},
-    {"Show Hi Scores...", command::highScores},
-    menuSeparator,
-    {"Display Options", 0, displayMenuItems},
-    {"So&unds", 0, soundMenuItems},
-    {"Screen &Resolution", 0, resolutionMenuItems},
-    {"&Auto Select New Planes", command::autoSelect},
-})};
+inline constexpr auto optionsMenuItems = joined(std::to_array<MenuItemTemplate>({
+                                                    {"&Schedule...\tCtrl+S", command::schedule},
+                                                    {"&Boss Key\tESC", command::bossKey},
+                                                    {"&Pause\tPAUSE", command::pause},
+                                                    {"Show Hi Scores...", command::highScores},
+                                                    menuSeparator,
+                                                    {"Display Options", 0, displayMenuItems},
+                                                    {"So&unds", 0, soundMenuItems},
+                                                    {"Screen &Resolution", 0, resolutionMenuItems},
+                                                }),
+                                                optionMenuItems<OptionMenu::top>());
 
 inline constexpr std::array helpMenuItems{std::to_array<MenuItemTemplate>({
     {"&About Ventrel " VENTREL_VERSION "...", command::about},

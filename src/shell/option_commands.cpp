@@ -1,9 +1,5 @@
 #include "shell/option_commands.h"
 
-#include <algorithm>
-#include <array>
-
-#include "resources/command_ids.h"
 #include "shell/game_flow.h"
 
 namespace ventrel {
@@ -31,73 +27,56 @@ void followMusic(Shell& shell) {
     }
 }
 
-/// A menu item that turns an option over, and what follows at once.
-struct Toggle {
-    int command;
-    int Options::*option;
-    void (*follow)(Shell&);
-};
-
-void nothingFollows(Shell&) {}
-
-constexpr std::array toggles{std::to_array<Toggle>({
-    {command::autoSelect, &Options::autoSelect, nothingFollows},
-    {command::grid, &Options::showGrid, rebuildInGame},
-    {command::backgroundImage, &Options::mapDetails, rebuildInGame},
-    {command::routes, &Options::showRoutes, repaintInGame},
-    {command::sweep, &Options::radarSweep, repaintInGame},
-    {command::music, &Options::music, followMusic},
-    {command::soundEffects, &Options::effects, nothingFollows},
-    {command::pilotVoices, &Options::voice, nothingFollows},
-})};
-
-void toggle(int& option) {
-    option = option == 0 ? 1 : 0;
-}
-
 bool agreesToRestart(Shell& shell, TextId question) {
     return shell.ask(question, MessageButtons::yesNo) == MessageAnswer::yes;
 }
 
-void changeResolution(Shell& shell, int resolution) {
-    if (shell.options.resolution != resolution && agreesToRestart(shell, TextId::confirmResolution)) {
-        shell.options.resolution = resolution;
-        saveOptions(shell);
-        shell.mainWindow.destroy();
+void follow(Shell& shell, OptionEffect effect) {
+    switch (effect) {
+    case OptionEffect::none: break;
+    case OptionEffect::repaintRadar: repaintInGame(shell); break;
+    case OptionEffect::rebuildMap: rebuildInGame(shell); break;
+    case OptionEffect::startOrStopMusic: followMusic(shell); break;
+    case OptionEffect::sizeAtNextStart: shell.mainWindow.destroy(); break;
+    case OptionEffect::screenAtNextStart:
+        if (agreesToRestart(shell, TextId::confirmFullScreen)) {
+            shell.mainWindow.destroy();
+        }
+        break;
     }
 }
 
-void changeFullScreen(Shell& shell) {
-    toggle(shell.options.windowed);
-    saveOptions(shell);
-    if (agreesToRestart(shell, TextId::confirmFullScreen)) {
-        shell.mainWindow.destroy();
+void choose(Shell& shell, const OptionRow& row, const OptionItem& item) {
+    const int chosen = chosenValue(row, item, shell.options);
+    const bool isAskedFirst = row.effect == OptionEffect::sizeAtNextStart;
+    if (isAskedFirst &&
+        (shell.options.*row.value == chosen || !agreesToRestart(shell, TextId::confirmResolution))) {
+        return;
     }
+    shell.options.*row.value = chosen;
+    saveOptions(shell);
+    follow(shell, row.effect);
 }
 
 void switchFullScreen(Shell& shell) {
     const bool fullScreen = !shell.desktop.isFullScreen();
     shell.desktop.setFullScreen(fullScreen);
     shell.options.windowed = fullScreen ? 0 : 1;
+    saveOptions(shell);
 }
 
 } // namespace
 
 void changeOption(Shell& shell, int id) {
-    const auto found = std::ranges::find(toggles, id, &Toggle::command);
-    if (found != toggles.end()) {
-        toggle(shell.options.*found->option);
-        found->follow(shell);
-        saveOptions(shell);
-    } else if (id == command::smallResolution) {
-        changeResolution(shell, smallResolution);
-    } else if (id == command::largeResolution) {
-        changeResolution(shell, largeResolution);
-    } else if (id == command::fullScreen) {
-        changeFullScreen(shell);
-    } else if (id == command::switchFullScreen) {
+    if (id == command::switchFullScreen) {
         switchFullScreen(shell);
+        return;
     }
+    forEachOptionItem([&shell, id](const OptionRow& row, const OptionItem& item) {
+        if (item.command == id) {
+            choose(shell, row, item);
+        }
+    });
 }
 
 } // namespace ventrel

@@ -12,22 +12,6 @@ namespace ventrel {
 
 namespace {
 
-/// A menu item that shows whether an option is on.
-struct OptionCheck {
-    int command;
-    int Options::*option;
-};
-constexpr std::array optionChecks{std::to_array<OptionCheck>({
-    {command::autoSelect, &Options::autoSelect},
-    {command::grid, &Options::showGrid},
-    {command::music, &Options::music},
-    {command::soundEffects, &Options::effects},
-    {command::pilotVoices, &Options::voice},
-    {command::backgroundImage, &Options::mapDetails},
-    {command::sweep, &Options::radarSweep},
-    {command::routes, &Options::showRoutes},
-})};
-
 /// The items that ask for a running game.
 constexpr std::array gameCommands{command::bossKey, command::schedule, command::pause};
 
@@ -58,6 +42,43 @@ void tickOrders(Menu& menu, const CurrentSettings& current) {
     }
 }
 
+} // namespace
+
+Menu fileMenu(const Shell& shell) {
+    Menu menu = makeMenu(fileMenuItems);
+    greyMenuItem(menu, command::endGame, !shell.game.isRunning());
+    return menu;
+}
+
+void showFileMenu(Shell& shell) {
+    popUp(shell, fileMenu(shell), shell.console().topBar.fileButton);
+}
+
+Menu optionsMenu(const Shell& shell) {
+    Menu menu = makeMenu(optionsMenuItems);
+    forEachOptionItem([&](const OptionRow& row, const OptionItem& item) {
+        checkMenuItem(menu, item.command, isTicked(row, item, shell.options));
+    });
+    checkMenuItem(menu, command::pause, shell.paused);
+    for (const int gameCommand : gameCommands) {
+        greyMenuItem(menu, gameCommand, !shell.game.isRunning());
+    }
+    greyMenuItem(menu, command::highScores, true); // there is no table yet
+    return menu;
+}
+
+void showOptionsMenu(Shell& shell) {
+    popUp(shell, optionsMenu(shell), shell.console().topBar.optionsButton);
+}
+
+void showHelpMenu(Shell& shell) {
+    popUp(shell, makeMenu(helpMenuItems), shell.console().topBar.helpButton);
+}
+
+void showSystemMenu(Shell& shell) {
+    popUp(shell, makeMenu(systemMenuItems), shell.console().topBar.systemSquare);
+}
+
 Menu orderMenu(const Shell& shell) {
     Menu menu = makeMenu(planeMenuItems);
     const auto targets = std::min(shell.game.vors().size(), std::size_t{command::planeTargets});
@@ -70,38 +91,6 @@ Menu orderMenu(const Shell& shell) {
     }
     tickOrders(menu, currentSettings(shell.panel.state, shell.game));
     return menu;
-}
-
-} // namespace
-
-void showFileMenu(Shell& shell) {
-    Menu menu = makeMenu(fileMenuItems);
-    greyMenuItem(menu, command::endGame, !shell.game.isRunning());
-    popUp(shell, menu, shell.console().topBar.fileButton);
-}
-
-void showOptionsMenu(Shell& shell) {
-    Menu menu = makeMenu(optionsMenuItems);
-    for (const OptionCheck& check : optionChecks) {
-        checkMenuItem(menu, check.command, shell.options.*check.option != 0);
-    }
-    checkMenuItem(menu, command::pause, shell.paused);
-    checkMenuItem(menu, command::smallResolution, shell.options.resolution == smallResolution);
-    checkMenuItem(menu, command::largeResolution, shell.options.resolution == largeResolution);
-    checkMenuItem(menu, command::fullScreen, shell.options.windowed == 0);
-    for (const int gameCommand : gameCommands) {
-        greyMenuItem(menu, gameCommand, !shell.game.isRunning());
-    }
-    greyMenuItem(menu, command::highScores, true); // there is no table yet
-    popUp(shell, menu, shell.console().topBar.optionsButton);
-}
-
-void showHelpMenu(Shell& shell) {
-    popUp(shell, makeMenu(helpMenuItems), shell.console().topBar.helpButton);
-}
-
-void showSystemMenu(Shell& shell) {
-    popUp(shell, makeMenu(systemMenuItems), shell.console().topBar.systemSquare);
 }
 
 void showOrderMenu(Shell& shell, Point screen) {

@@ -2,9 +2,16 @@
 
 #pragma once
 
+#include "platform/widgets/menu.h"
 #include "shell/shell.h"
 
 namespace ventrel {
+
+// The menus as they are shown now: items ticked by the options, and greyed where there is no game. The order
+// menu is for the selected flight, with what it flies now ticked.
+Menu fileMenu(const Shell& shell);
+Menu optionsMenu(const Shell& shell);
+Menu orderMenu(const Shell& shell);
 
 // Each shows its menu, sends the chosen command to the main window, and returns when the menu has closed.
 void showFileMenu(Shell& shell);
@@ -12,7 +19,7 @@ void showOptionsMenu(Shell& shell);
 void showHelpMenu(Shell& shell);
 void showSystemMenu(Shell& shell);
 
-/// The orders for the selected flight, with what it flies now ticked. `screen` is where the player pressed.
+/// `screen` is where the player pressed.
 void showOrderMenu(Shell& shell, Point screen);
 
 } // namespace ventrel

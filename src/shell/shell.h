@@ -20,12 +20,12 @@
 #include "platform/widgets/button.h"
 #include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
+#include "resources/options.h"
 #include "shell/game_sounds.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
 #include "shell/simulation_player.h"
 #include "sim/game.h"
-#include "sim/options.h"
 
 namespace ventrel {
 

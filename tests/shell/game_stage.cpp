@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/options_file.h"
 #include "shell/selection.h"
 
 namespace ventrel {
@@ -38,6 +39,27 @@ Point dialPoint(int heading) {
 
 int HeardSounds::count(std::string_view sound) const {
     return static_cast<int>(std::ranges::count(heard, sound));
+}
+
+Bitmap pictureOf(const Bitmap& screen, const Rect& part) {
+    Bitmap piece(part.size());
+    Canvas(piece).draw(piece.bounds(), screen, part);
+    return piece;
+}
+
+Rect differenceOf(const Bitmap& before, const Bitmap& after) {
+    Rect box;
+    for (int y = 0; y < before.height(); ++y) {
+        for (int x = 0; x < before.width(); ++x) {
+            if (before.at(x, y) != after.at(x, y)) {
+                const bool isFirst = box.isEmpty();
+                box = isFirst ? Rect{x, y, x + 1, y + 1}
+                              : Rect{std::min(box.left, x), std::min(box.top, y), std::max(box.right, x + 1),
+                                     std::max(box.bottom, y + 1)};
+            }
+        }
+    }
+    return box;
 }
 
 GameStage::GameStage(int windowWidth, std::string_view profileText,

@@ -42,6 +42,12 @@ public:
     int count(std::string_view sound) const;
 };
 
+/// A piece of a picture.
+Bitmap pictureOf(const Bitmap& screen, const Rect& part);
+
+/// The box around all pixels that differ between two pictures of one size; an empty one when none does.
+Rect differenceOf(const Bitmap& before, const Bitmap& after);
+
 class GameStage {
 public:
     using Task = std::function<void(Script&)>;

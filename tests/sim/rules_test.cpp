@@ -8,7 +8,6 @@
 
 #include "../base/temp_folder.h"
 #include "sim/message_queue.h"
-#include "sim/options.h"
 #include "sim/phrase.h"
 #include "sim/shift_texts.h"
 #include "small_airspace.h"
@@ -88,29 +87,6 @@ TEST(ShiftTexts, NameTheControllerTheScoreAndTheBlame) {
     EXPECT_NE(release.accident.find("F1 and F0 collided head-on at an altitude of 5000 feet."),
               std::string::npos);
     EXPECT_NE(release.controller.find("pending against Mary."), std::string::npos);
-}
-
-TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
-    const TempFolder folder;
-    const std::filesystem::path path = folder / "options.ini";
-    std::ofstream{path} << "; mine\n[Options]\nSingleSound=4\nCustomPlanes=99\nCustomSched=7200\nMusic=off\n"
-                           "CustomSkill=-17\nFuture=1\n";
-    auto profile = ProfileFile::read(path).value();
-    Options options = ReadOptions(profile);
-    EXPECT_EQ(options.singleSound, 4);
-    EXPECT_EQ(options.customBonus, 825);
-    EXPECT_EQ(options.music, 0);
-    EXPECT_EQ(options.effects, 1);
-    options.singleSound = 9;
-    options.windowed = 1;
-    WriteOptions(options, profile);
-    ASSERT_TRUE(profile.save());
-    Options again = ReadOptions(ProfileFile::read(path).value());
-    EXPECT_EQ(again.singleSound, 4);
-    again.singleSound = 9;
-    EXPECT_EQ(again, options);
-    EXPECT_EQ(ProfileFile::read(path)->integer("Options", "Future", 0), 1);
-    EXPECT_EQ(ReadOptions(ProfileFile::read(folder / "none.ini").value()), Options{});
 }
 
 } // namespace

@@ -1,0 +1,186 @@
+// The player's settings, and everything that the program does with each.
+//
+// An option is a line of the record and a row of the table below it: its key in the options file, its menu
+// items with their ticks, and what a change brings. The file, the menus and the commands read the table.
+// The file is read once at start-up and written when something was changed; in between the menus and dialogs
+// change the record alone. Nothing is checked on reading: of a flag, any number but 0 counts as on.
+
+#pragma once
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "platform/widgets/templates.h"
+#include "resources/command_ids.h"
+
+namespace ventrel {
+
+/// Values of `resolution`.
+inline constexpr int smallResolution = 2; ///< 800 x 600
+inline constexpr int largeResolution = 3; ///< 1024 x 768
+
+/// The values here are those of missing keys.
+struct Options {
+    int autoSelect = 0; ///< select every flight when it becomes active
+    int showGrid = 0;   ///< draw the grid on the radar map
+    int music = 1;
+    int effects = 1;       ///< sound effects
+    int voice = 1;         ///< pilot voices
+    int resolution = 0;    ///< another value than the two: chosen from the screen
+    int singleSound = -1;  ///< the one voice set of all pilots, or -1; never written back
+    int showRoutes = 1;    ///< draw the routes of flights on a direct course
+    int mapDetails = 1;    ///< draw the picture under the radar map
+    int stormTrak = 1;     ///< random cloud cover
+    int radarSweep = 1;    ///< draw the sweep
+    int windowed = 0;      ///< a window rather than the full screen
+    int airportSelect = 0; ///< index into the sorted airport catalogue
+    int directEntry = 1;   ///< flights enter on a direct course
+    int customSkill = 1;   ///< kept for its file alone
+    int customPlanes = 25;
+    int customSched = 2100; ///< length of a Custom shift in clock seconds
+    int customBonus = 475;  ///< bonus points of a Custom shift
+
+    friend bool operator==(const Options&, const Options&) = default;
+};
+
+/// The part of the Options menu in which an item stands.
+enum class OptionMenu { none, top, display, sounds, pictureSize, screen };
+
+/// When an item is ticked, and what choosing it does.
+enum class OptionTick {
+    whenOn,    ///< turns the option over
+    whenOff,   ///< turns the option over
+    whenValue, ///< gives the option the item's value
+};
+
+struct OptionItem {
+    OptionMenu menu = OptionMenu::none;
+    int place = 0; ///< among the items of its part, from 0
+    std::string_view text = {};
+    int command = 0;
+    OptionTick tick = OptionTick::whenOn;
+    int value = 0;
+};
+
+/// What follows when the player has changed an option.
+enum class OptionEffect {
+    none, ///< it is looked at when it matters
+    repaintRadar,
+    rebuildMap,
+    startOrStopMusic,
+    sizeAtNextStart,   ///< the player is asked first, and the program ends
+    screenAtNextStart, ///< it changes; then the player is asked whether the program shall end
+};
+
+struct OptionRow {
+    std::string_view key;
+    int Options::*value;
+    OptionEffect effect = OptionEffect::none;
+    std::array<OptionItem, 2> items = {}; ///< those without a menu are none: dialogs change the option
+    bool isWritten = true;
+};
+
+// In the order in which a new file lists them.
+inline constexpr std::array optionRows{std::to_array<OptionRow>({
+    {"AutoSelect",
+     &Options::autoSelect,
+     OptionEffect::none,
+     {{{OptionMenu::top, 0, "&Auto Select New Planes", command::autoSelect}}}},
+    {"ShowGrid",
+     &Options::showGrid,
+     OptionEffect::rebuildMap,
+     {{{OptionMenu::display, 1, "&Grid", command::grid}}}},
+    {"Music",
+     &Options::music,
+     OptionEffect::startOrStopMusic,
+     {{{OptionMenu::sounds, 0, "&Music", command::music}}}},
+    {"Effects",
+     &Options::effects,
+     OptionEffect::none,
+     {{{OptionMenu::sounds, 1, "&Sound Effects", command::soundEffects}}}},
+    {"Voice",
+     &Options::voice,
+     OptionEffect::none,
+     {{{OptionMenu::sounds, 2, "Pilot &Voices", command::pilotVoices}}}},
+    {"Resolution",
+     &Options::resolution,
+     OptionEffect::sizeAtNextStart,
+     {{{OptionMenu::pictureSize, 0, "800 x 600", command::smallResolution, OptionTick::whenValue,
+        smallResolution},
+       {OptionMenu::pictureSize, 1, "1024 x 768", command::largeResolution, OptionTick::whenValue,
+        largeResolution}}}},
+    {"CustomSkill", &Options::customSkill},
+    {"CustomPlanes", &Options::customPlanes},
+    {"CustomSched", &Options::customSched},
+    {"CustomBonus", &Options::customBonus},
+    {"ShowRoutes",
+     &Options::showRoutes,
+     OptionEffect::repaintRadar,
+     {{{OptionMenu::display, 2, "Direct to &VOR Lines", command::routes}}}},
+    {"MapDetails",
+     &Options::mapDetails,
+     OptionEffect::rebuildMap,
+     {{{OptionMenu::display, 3, "Background &Image", command::backgroundImage}}}},
+    {"StormTrak", &Options::stormTrak},
+    {"RadarSweep",
+     &Options::radarSweep,
+     OptionEffect::repaintRadar,
+     {{{OptionMenu::display, 0, "Radar S&weep", command::sweep}}}},
+    {"Windowed",
+     &Options::windowed,
+     OptionEffect::screenAtNextStart,
+     {{{OptionMenu::screen, 0, "&Full Screen", command::fullScreen, OptionTick::whenOff}}}},
+    {"AirportSelect", &Options::airportSelect},
+    {"DirectEntry", &Options::directEntry},
+    {.key = "SingleSound", .value = &Options::singleSound, .isWritten = false},
+})};
+static_assert(sizeof(Options) == optionRows.size() * sizeof(int), "every option has its row");
+
+/// Calls `use(row, item)` for every menu item of an option.
+constexpr void forEachOptionItem(const auto& use) {
+    for (const OptionRow& row : optionRows) {
+        for (const OptionItem& item : row.items) {
+            if (item.menu != OptionMenu::none) {
+                use(row, item);
+            }
+        }
+    }
+}
+
+constexpr std::size_t optionItemCount(OptionMenu menu) {
+    std::size_t count = 0;
+    forEachOptionItem(
+        [&](const OptionRow&, const OptionItem& item) { count += item.menu == menu ? 1U : 0U; });
+    return count;
+}
+
+/// The items of one part of the Options menu, in their places.
+template <OptionMenu menu>
+constexpr auto optionMenuItems() {
+    std::array<MenuItemTemplate, optionItemCount(menu)> items{};
+    forEachOptionItem([&items](const OptionRow&, const OptionItem& item) {
+        if (item.menu == menu) {
+            items.at(static_cast<std::size_t>(item.place)) = {item.text, item.command};
+        }
+    });
+    return items;
+}
+
+constexpr bool isTicked(const OptionRow& row, const OptionItem& item, const Options& options) {
+    const int value = options.*row.value;
+    switch (item.tick) {
+    case OptionTick::whenOff: return value == 0;
+    case OptionTick::whenValue: return value == item.value;
+    case OptionTick::whenOn: break;
+    }
+    return value != 0;
+}
+
+/// The option's value once the item has been chosen.
+constexpr int chosenValue(const OptionRow& row, const OptionItem& item, const Options& options) {
+    const int turnedOver = options.*row.value == 0 ? 1 : 0;
+    return item.tick == OptionTick::whenValue ? item.value : turnedOver;
+}
+
+} // namespace ventrel
