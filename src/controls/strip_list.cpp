@@ -1,6 +1,8 @@
 #include "controls/strip_list.h"
 
 #include <algorithm>
+#include <functional>
+#include <span>
 
 #include "base/format.h"
 
@@ -42,10 +44,10 @@ void fillSlots(StripList& list, const Game& game) {
     }
 }
 
-void orderLatestFirst(StripList& list, const Game& game) {
-    const auto firstEmpty = std::ranges::find(list.slots, std::optional<FlightIndex>{});
-    std::stable_sort(list.slots.begin(), firstEmpty, [&](const auto& a, const auto& b) {
-        return game.flight(*a).scheduledAt > game.flight(*b).scheduledAt;
+/// `flights` are places in the game's table, none of them empty.
+void orderLatestFirst(auto&& flights, const Game& game) {
+    std::ranges::stable_sort(flights, std::ranges::greater(), [&](const std::optional<FlightIndex>& i) {
+        return game.flight(*i).scheduledAt;
     });
 }
 
@@ -74,7 +76,8 @@ void rebuildStrips(StripList& list, const Game& game) {
     }
     clampScroll(list, game.listedCount);
     fillSlots(list, game);
-    orderLatestFirst(list, game);
+    const auto firstEmpty = std::ranges::find(list.slots, std::optional<FlightIndex>{});
+    orderLatestFirst(std::span(list.slots.begin(), firstEmpty), game);
 }
 
 bool scrollStripsUp(StripList& list, const Game& game) {
@@ -108,6 +111,17 @@ int flightSlot(const StripList& list, FlightIndex flight) {
 bool isSlotSelectable(const StripList& list, const Game& game, int slot) {
     const auto flight = slotFlight(list, slot);
     return game.isRunning() && flight && !game.flight(*flight).announced;
+}
+
+std::vector<FlightIndex> selectableFlights(const Game& game) {
+    std::vector<FlightIndex> flights;
+    for (const FlightIndex i : game.flightPlaces()) {
+        if (game.isRunning() && game.flight(i).inPlay && game.flight(i).isActive()) {
+            flights.push_back(i);
+        }
+    }
+    orderLatestFirst(flights, game);
+    return flights;
 }
 
 std::string stripRouteLine(const Flight& flight, const Game& game) {

@@ -45,6 +45,10 @@ int flightSlot(const StripList& list, FlightIndex flight);
 /// Whether a strip's button chooses a flight: a game runs, and the flight is more than announced.
 bool isSlotSelectable(const StripList& list, const Game& game, int slot);
 
+/// The flights that can be chosen, whether on a strip or scrolled away, the latest first as the strips have
+/// them. None while no game runs.
+std::vector<FlightIndex> selectableFlights(const Game& game);
+
 /// The callsign and the route.
 std::string stripRouteLine(const Flight& flight, const Game& game);
 /// When it comes, what it waits for, or how it flies.

@@ -16,6 +16,7 @@ namespace ventrel {
 inline constexpr Modifiers noModifiers{};
 inline constexpr Modifiers altKey{false, false, true};
 inline constexpr Modifiers controlKey{false, true, false};
+inline constexpr Modifiers shiftKey{true, false, false};
 
 inline constexpr std::array mainAccelerators{std::to_array<Accelerator>({
     {Key::f, altKey, command::fileMenu},
@@ -30,6 +31,8 @@ inline constexpr std::array mainAccelerators{std::to_array<Accelerator>({
     {Key::space, noModifiers, command::skipClock},
     {Key::down, noModifiers, command::nextStrip},
     {Key::up, noModifiers, command::previousStrip},
+    {Key::tab, noModifiers, command::nextFlight},
+    {Key::tab, shiftKey, command::previousFlight},
     {Key::keypad8, noModifiers, command::heading0},
     {Key::keypad9, noModifiers, command::heading45},
     {Key::keypad6, noModifiers, command::heading90},

@@ -68,4 +68,7 @@ inline constexpr int planeSpeeds = 3; ///< slow, normal, fast
 inline constexpr int help = 4201;             ///< the keys and the rules
 inline constexpr int switchFullScreen = 4202; ///< at once, where the menu's item asks for a restart
 
+inline constexpr int nextFlight = 4203; ///< that can be selected, wherever its strip is
+inline constexpr int previousFlight = 4204;
+
 } // namespace ventrel::command

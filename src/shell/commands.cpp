@@ -89,6 +89,8 @@ constexpr std::array actions{std::to_array<Action>({
     {command::toggleDirect, [](Shell& shell) { CtrlToggleDirect(shell.panel); }},
     {command::nextStrip, selectNextStrip},
     {command::previousStrip, selectPreviousStrip},
+    {command::nextFlight, selectNextFlight},
+    {command::previousFlight, selectPreviousFlight},
     {command::directUp, [](Shell& shell) { CtrlStepDirect(shell.panel, true); }},
     {command::directDown, [](Shell& shell) { CtrlStepDirect(shell.panel, false); }},
     {command::altitudeUp, [](Shell& shell) { CtrlStepAltitude(shell.panel, true); }},

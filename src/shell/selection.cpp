@@ -1,6 +1,8 @@
 #include "shell/selection.h"
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 
 namespace ventrel {
 
@@ -18,10 +20,11 @@ void mark(Shell& shell, FlightIndex flight) {
 }
 
 /// Scrolls until the flight's strip is shown. Every listed flight is reached within the length of the list.
-void bringIntoView(Shell& shell, const FlightHit& hit) {
-    const bool isBelow = hit.listPlace > shell.strips.list.scrollOffset;
+/// `listPlace` counts the listed flights in table order from 1.
+void bringIntoView(Shell& shell, FlightIndex flight, int listPlace) {
+    const bool isBelow = listPlace > shell.strips.list.scrollOffset;
     for (int step = 0; step < shell.game.planeCount(); ++step) {
-        if (StripsFlightSlot(shell.strips, hit.flight) != noSlot) {
+        if (StripsFlightSlot(shell.strips, flight) != noSlot) {
             return;
         }
         if (isBelow) {
@@ -30,6 +33,33 @@ void bringIntoView(Shell& shell, const FlightHit& hit) {
             StripsScrollUp(shell.strips);
         }
     }
+}
+
+void selectFlight(Shell& shell, FlightIndex flight, int listPlace) {
+    shell.sounds.clickSelect();
+    bringIntoView(shell, flight, listPlace);
+    ClearSelectedFlight(shell);
+    mark(shell, flight);
+}
+
+/// Where the flight stands among those listed, from 1.
+int listPlaceOf(const Shell& shell, FlightIndex flight) {
+    const std::span before(shell.game.flights.data(), flight.place());
+    return 1 + static_cast<int>(std::ranges::count_if(before, isListed));
+}
+
+/// `step` is 1 or -1. Without a selected flight the first or the last one is chosen.
+void selectNeighbour(Shell& shell, std::ptrdiff_t step) {
+    const std::vector<FlightIndex> choices = selectableFlights(shell.game);
+    if (choices.empty()) {
+        return;
+    }
+    const auto count = std::ssize(choices);
+    const auto present = std::ranges::find_if(
+        choices, [&shell](FlightIndex flight) { return shell.game.flight(flight).selected; });
+    const std::ptrdiff_t from = present != choices.end() ? present - choices.begin() : step > 0 ? -1 : count;
+    const FlightIndex chosen = choices[static_cast<std::size_t>((from + step + count) % count)];
+    selectFlight(shell, chosen, listPlaceOf(shell, chosen));
 }
 
 } // namespace
@@ -78,10 +108,7 @@ void SelectStripFlight(Shell& shell, int slot) {
 }
 
 void selectRadarFlight(Shell& shell, const FlightHit& hit) {
-    shell.sounds.clickSelect();
-    bringIntoView(shell, hit);
-    ClearSelectedFlight(shell);
-    mark(shell, hit.flight);
+    selectFlight(shell, hit.flight, hit.listPlace);
 }
 
 bool isPanelTouched(const Shell& shell) {
@@ -113,6 +140,14 @@ void selectPreviousStrip(Shell& shell) {
     } else if (StripsSlotSelectable(shell.strips, current - 1)) {
         SelectStripFlight(shell, current - 1);
     }
+}
+
+void selectNextFlight(Shell& shell) {
+    selectNeighbour(shell, 1);
+}
+
+void selectPreviousFlight(Shell& shell) {
+    selectNeighbour(shell, -1);
 }
 
 } // namespace ventrel

@@ -32,4 +32,9 @@ bool isPanelTouched(const Shell& shell);
 void selectNextStrip(Shell& shell);
 void selectPreviousStrip(Shell& shell);
 
+/// The Tab key, and with Shift: the next flight that can be chosen, later strips first, or the one before;
+/// from the last on to the first. Strips scroll as needed.
+void selectNextFlight(Shell& shell);
+void selectPreviousFlight(Shell& shell);
+
 } // namespace ventrel

@@ -1,5 +1,7 @@
 // Choosing flights and sending them orders, in every way that the console has.
 
+#include <algorithm>
+
 #include "shell/quiet_shift.h"
 #include "shell/selection.h"
 
@@ -213,6 +215,40 @@ TEST_F(OrdersTest, TheWheelScrollsTheStripsAndTheButtonFollowsItsFlight) {
     stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 3); });
     stage.todo([](Script& script) { script.wheel({850, 300}, 2).wheel({400, 300}, 1).wait(1); });
     stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 1); });
+    stage.play();
+}
+
+TEST_F(OrdersTest, TabGoesThroughAllThatCanBeSelectedWhereverTheyStand) {
+    stage.startNewGame();
+    stage.look([this] {
+        for (Flight& flight : stage.game().flights) {
+            flight.scheduledAt = QuietShift::entryTime;
+        }
+        stage.game().flights[0].scheduledAt = 150_s;
+        stage.game().flights[1].inPlay = false;
+        stage.game().flights[2].scheduledAt = 75_s;
+    });
+    stage.skipTo(90_s);
+    auto order = std::make_shared<std::vector<FlightIndex>>();
+    stage.look([this, order] { *order = selectableFlights(stage.game()); });
+    stage.todo([this, order](Script& script) {
+        ASSERT_GT(order->size(), 14U);
+        EXPECT_EQ(order->front(), FlightIndex{2}) << "the latest";
+        EXPECT_EQ(std::ranges::count(*order, FlightIndex{0}), 0) << "it is only announced";
+        EXPECT_EQ(std::ranges::count(*order, FlightIndex{1}), 0) << "it is gone";
+        for (std::size_t i = 0; i < order->size(); ++i) {
+            script.key(Key::tab).wait(1).then([this, order, i] {
+                EXPECT_TRUE(flight((*order)[i]).selected) << i;
+                EXPECT_NE(stage.shell().pressedStrip, noSlot) << i;
+            });
+        }
+    });
+    press(Key::tab);
+    stage.look([this, order] { EXPECT_TRUE(flight(order->front()).selected) << "round"; });
+    stage.todo([](Script& script) { script.key(Key::tab, withShift).wait(1); });
+    stage.look([this, order] { EXPECT_TRUE(flight(order->back()).selected) << "and back"; });
+    stage.todo([](Script& script) { script.key(Key::tab, withShift).wait(1); });
+    stage.look([this, order] { EXPECT_TRUE(flight((*order)[order->size() - 2]).selected); });
     stage.play();
 }
 
