@@ -1,71 +1,185 @@
-// The Help dialog: keys, mouse and rules in short.
+// The Help dialog: a list of topics, and a page for each. Places are dialog units.
+//
+// The points are not here: the dialog asks the rules for them.
 
 #pragma once
 
 #include <array>
 
 #include "platform/widgets/templates.h"
+#include "resources/joined.h"
 
 namespace ventrel::help {
 
-inline constexpr std::string_view keys = "Enter\n"
-                                         "Keypad 8 9 6 3 2 1 4 7\n"
-                                         "I  O  L  .  ,  M  J  U\n"
-                                         "Keypad 5, or K\n"
-                                         "Keypad / *, or [ ]\n"
-                                         "Keypad - +, or PgUp PgDn\n"
-                                         "F  N  S\n"
-                                         "Up, Down\n"
-                                         "Space\n"
-                                         "Pause, or P\n"
-                                         "Esc\n"
-                                         "Ctrl+S\n"
-                                         "Alt+F, Alt+O, Alt+H\n"
-                                         "Alt+F4";
-inline constexpr std::string_view keyMeanings = "EXEC: send the order on the panel\n"
-                                                "heading 0 45 90 135 180 225 270 315\n"
-                                                "the same without a keypad\n"
-                                                "direct course on or off\n"
-                                                "target before, target after\n"
-                                                "1,000 ft up, 1,000 ft down\n"
-                                                "speed fast, normal, slow\n"
-                                                "select the strip above or below\n"
-                                                "on to the next 15 seconds\n"
-                                                "pause and go on\n"
-                                                "boss key: hide the window\n"
-                                                "schedule of the shift\n"
-                                                "menus File, Options, Help\n"
-                                                "exit";
+// Keys ----------------------------------------------------------------------------
 
-inline constexpr std::string_view mouse =
-    "Left click an aircraft, or the button beside its strip, to select it; set its order on the panel and "
-    "press EXEC. A departure takes off when you select its strip and press EXEC. For a hold step the "
-    "DIRECT arrows to \"hold\". Right click an aircraft to choose one order that is sent at once. Click the "
-    "clock to skip to the next 15 seconds. The wheel scrolls the strips.";
+/// A line of the page of keys.
+struct KeyRow {
+    std::string_view keys;
+    std::string_view withoutKeypad; ///< what does the same
+    std::string_view meaning;
+};
 
-inline constexpr std::string_view events = "Landing at the airport (*), on the runway heading, at 1,000 ft\n"
-                                           "Leaving over the exit at 10,000 ft\n"
-                                           "Over the airport on another heading or too high\n"
-                                           "Over the exit below 10,000 ft\n"
-                                           "Lost: out of the scope anywhere else\n"
-                                           "Near miss: same altitude, neighbouring cells\n"
-                                           "A departure waits 10 minutes, then every 5\n"
-                                           "An order beyond five a flight\n"
-                                           "Same altitude, same cell";
-inline constexpr std::string_view points = "+150\n+75\n-150\n-100\n-200\n-100\n-50\n-5\ngame over";
-
-inline constexpr std::array controls{std::to_array<ControlTemplate>({
-    {ControlKind::groupBox, 0, "Keys", {7, 4, 297, 134}},
-    {ControlKind::staticText, 0, keys, {15, 15, 121, 129}, multiLine},
-    {ControlKind::staticText, 0, keyMeanings, {124, 15, 291, 129}, multiLine},
-    {ControlKind::groupBox, 0, "Mouse", {7, 137, 297, 192}},
-    {ControlKind::staticText, 0, mouse, {15, 148, 291, 189}, multiLine},
-    {ControlKind::groupBox, 0, "Points", {7, 195, 297, 284}},
-    {ControlKind::staticText, 0, events, {15, 206, 246, 279}, multiLine},
-    {ControlKind::staticText, 0, points, {247, 206, 289, 279}, multiLine | rightAligned},
-    {ControlKind::defaultButton, okId, "OK", {127, 290, 177, 304}},
+inline constexpr std::array keyRows{std::to_array<KeyRow>({
+    {"Enter", "", "EXEC: send the order"},
+    {"Keypad 8 9 6 3 2 1 4 7", "I  O  L  .  ,  M  J  U", "heading 0, 45, 90 to 315"},
+    {"Keypad 5", "K", "direct course on or off"},
+    {"Keypad / and *", "[  ]", "target before, target after"},
+    {"Keypad - and +", "PgUp  PgDn", "1,000 ft up, 1,000 ft down"},
+    {"F, N, S", "", "speed fast, normal, slow"},
+    {"Up, Down", "", "select the strip above or below"},
+    {"Tab, Shift+Tab", "", "select the next or previous flight"},
+    {"Space", "", "on to the next 15 seconds"},
+    {"Pause", "P", "pause and go on"},
+    {"Esc", "", "boss key: hide the window"},
+    {"Ctrl+S", "", "schedule of the shift"},
+    {"Alt+F, Alt+O, Alt+H", "", "menus File, Options, Help"},
+    {"Alt+F4", "", "exit"},
 })};
 
-inline constexpr DialogTemplate shape{.title = "Ventrel Help", .size = {304, 310}, .controls = controls};
+// Pages ---------------------------------------------------------------------------
+
+inline constexpr std::string_view deskText =
+    "Click an aircraft on the scope, or the button beside its strip, to select it. The panel at the lower "
+    "right then holds its order: heading on the dial, altitude on the scale, speed, or DIRECT to a fix, an "
+    "airport or, when the arrows have stepped past the last name, a hold. Nothing is sent before you press "
+    "EXEC. Orders are taken while the game is paused, too.\n"
+    "\n"
+    "A right click on an aircraft offers single orders that are sent at once.\n"
+    "\n"
+    "The clock runs two and a half times as fast as yours. A click on it skips to its next 15 seconds. A "
+    "fast aircraft then moves one cell; a normal one moves every 30 seconds, a slow one every 60. A heavy "
+    "one "
+    "keeps its speed: the lamps of the others are dark red.\n"
+    "\n"
+    "The wheel and the arrows scroll the strips. Those in view are always sorted anew, the latest flight on "
+    "top, so a strip may change its place. Grey strips are announced and cannot be selected yet.";
+
+inline constexpr std::string_view arrivalText =
+    "Flights to an airport (*) land when they come over it on the heading of its runway, at 1,000 ft. They "
+    "must come in through the cone on the map. Some runways turn round by chance: look at the cones when a "
+    "shift begins.\n"
+    "\n"
+    "A DIRECT course leads to the airport, but not onto its runway: the flight lands only when the last leg "
+    "happens to have the runway's heading. Bring it into the cone first, or fly the last leg by headings.\n"
+    "\n"
+    "All other flights leave over their exit, at 10,000 ft.\n"
+    "\n"
+    "An aircraft climbs or sinks by 1,000 ft and turns by 45 degrees with every move, no faster. From 6,000 "
+    "ft to the runway takes five cells.\n"
+    "\n"
+    "A flight that comes wrong over its airport or exit costs points but stays with you: bring it round "
+    "again. One that leaves the scope anywhere else is lost.";
+
+inline constexpr std::string_view departureText =
+    "A departure waits on the ground, unseen on the scope, until you select it by its strip and press EXEC. "
+    "Its strip says so: Request Takeoff, then Takeoff in progress.\n"
+    "\n"
+    "Once in the air it turns and climbs by itself, on a course for its exit. The panel does not follow: it "
+    "still holds what it showed on the ground. Press the button beside the strip once more before you give "
+    "this flight another order.\n"
+    "\n"
+    "A departure that is kept waiting for ten minutes costs points, and again every five minutes.";
+
+inline constexpr std::string_view separationText =
+    "Aircraft at the same altitude must not come into neighbouring cells. Those are the eight cells around "
+    "one, sideways and diagonally; Options > Display Options > Grid shows the corners of the cells. In "
+    "neighbouring cells it is a near miss. In the same cell they collide, and the game is over. With 1,000 "
+    "ft between them all is well.\n"
+    "\n"
+    "A ring around an aircraft tells what has just happened to it, and so does the lamp at the top:\n"
+    "\n"
+    "Green: it has left or landed as it should.\n"
+    "Yellow: it was over its airport or exit the wrong way, or a flight was lost.\n"
+    "Red: a near miss. Turn one away, or let it climb, before its next move.\n"
+    "\n"
+    "Clouds hide what flies under them. The strips still tell where it goes.";
+
+// The dialog ----------------------------------------------------------------------
+
+inline constexpr int topicList = 1007;
+inline constexpr std::array<std::string_view, 6> topics{"Keys",       "Your desk",     "Arrivals and exits",
+                                                        "Departures", "Keeping apart", "Points"};
+
+/// The controls of a topic's page; all of a page are shown together.
+constexpr int pageControl(std::size_t topic, std::size_t number) {
+    constexpr std::size_t first = 1100;
+    constexpr std::size_t most = 100;
+    return static_cast<int>(first + most * topic + number);
+}
+
+inline constexpr Rect pageFrame{107, 4, 383, 190};
+inline constexpr Rect pageText{115, 17, 375, 185};
+
+/// A row of a page's table, which leaves room between its lines.
+constexpr Rect rowOf(std::size_t row, int left, int right) {
+    constexpr int pitch = 11;
+    constexpr int height = 8;
+    const int top = pageText.top + pitch * static_cast<int>(row);
+    return {left, top, right, top + height};
+}
+
+inline constexpr std::size_t keysTopic = 0;
+inline constexpr std::size_t pointsTopic = 5;
+inline constexpr std::size_t pointRows = 10;
+
+/// The labels of a row of the table of points.
+constexpr int eventControl(std::size_t row) {
+    return pageControl(pointsTopic, 1 + 2 * row);
+}
+constexpr int pointsControl(std::size_t row) {
+    return eventControl(row) + 1;
+}
+
+constexpr ControlTemplate frameOf(std::size_t topic) {
+    return {ControlKind::groupBox, pageControl(topic, 0), topics[topic], pageFrame};
+}
+constexpr ControlTemplate textOf(std::size_t topic, std::string_view text) {
+    return {ControlKind::staticText, pageControl(topic, 1), text, pageText, multiLine};
+}
+
+inline constexpr std::array pages{std::to_array<ControlTemplate>({
+    frameOf(0),
+    frameOf(1),
+    textOf(1, deskText),
+    frameOf(2),
+    textOf(2, arrivalText),
+    frameOf(3),
+    textOf(3, departureText),
+    frameOf(4),
+    textOf(4, separationText),
+    frameOf(5),
+})};
+
+constexpr auto keyTable() {
+    std::array<ControlTemplate, 3 * keyRows.size()> labels{};
+    for (std::size_t row = 0; row < keyRows.size(); ++row) {
+        ControlTemplate* label = &labels[3 * row];
+        const int id = pageControl(keysTopic, 1 + 3 * row);
+        label[0] = {ControlKind::staticText, id, keyRows[row].keys, rowOf(row, 115, 198)};
+        label[1] = {ControlKind::staticText, id + 1, keyRows[row].withoutKeypad, rowOf(row, 200, 262)};
+        label[2] = {ControlKind::staticText, id + 2, keyRows[row].meaning, rowOf(row, 264, 381)};
+    }
+    return labels;
+}
+
+constexpr auto pointTable() {
+    std::array<ControlTemplate, 2 * pointRows> labels{};
+    for (std::size_t row = 0; row < pointRows; ++row) {
+        labels[2 * row] = {ControlKind::staticText, eventControl(row), "", rowOf(row, 115, 330)};
+        labels[2 * row + 1] = {ControlKind::staticText, pointsControl(row), "", rowOf(row, 330, 375),
+                               rightAligned};
+    }
+    return labels;
+}
+
+inline constexpr std::array alwaysShown{std::to_array<ControlTemplate>({
+    {ControlKind::listBox, topicList, "", {7, 7, 99, 190}},
+    {ControlKind::defaultButton, okId, "OK", {170, 197, 220, 211}},
+})};
+
+inline constexpr auto controls = joined(alwaysShown, pages, keyTable(), pointTable());
+
+inline constexpr DialogTemplate shape{.title = "Ventrel Help", .size = {390, 218}, .controls = controls};
 
 } // namespace ventrel::help
