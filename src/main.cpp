@@ -15,6 +15,7 @@
 #include "platform/machine/places.h"
 #include "platform/machine/sudden_end.h"
 #include "platform/sdl/sdl_backend.h"
+#include "shell/options_file.h"
 #include "shell/program.h"
 #include "shell/program_data.h"
 #include "shell/window_memory.h"

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "shell/options_file.h"
 #include "shell/shell.h"
 
 namespace ventrel {

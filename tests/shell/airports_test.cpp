@@ -94,6 +94,13 @@ TEST(Airports, APictureLargerThanTheScopeIsNotKept) {
         const auto& kept = stage.shell().radar.airportImage;
         ASSERT_TRUE(kept.has_value());
         EXPECT_EQ(kept->size(), (Size{686, 686}));
+        stage.shell().options.airportSelect = 1;
+    });
+    stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").wait(1).key(Key::enter).wait(1); });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(1); });
+    stage.look([&] {
+        EXPECT_EQ(stage.game().airspace->name, "Atlanta");
+        EXPECT_FALSE(stage.shell().radar.airportImage.has_value()) << "the last airport's picture stayed";
     });
     stage.play();
 }

@@ -147,11 +147,11 @@ TEST_F(DialogLooks, NewGameAndWhatItOpens) {
     GameStage stage(800, "[Game]\nName=mary\nSkill=4\n", folder_.path());
     stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").wait(1); });
     expectDialog(stage, "new_game");
-    stage.todo([](Script& script) { script.key(Key::c, withAlt).wait(1).key(Key::down).wait(1); });
-    expectDialog(stage, "choose_airport");
-    press(stage, Key::escape);
     press(stage, Key::enter);
     expectDialog(stage, "custom_skill");
+    press(stage, Key::escape);
+    stage.todo([](Script& script) { script.key(Key::c, withAlt).wait(1).key(Key::down).wait(1); });
+    expectDialog(stage, "choose_airport");
     press(stage, Key::escape);
     stage.todo([&stage](Script& script) {
         const Rect bounds = stage.desktop().activeWindow().bounds();
@@ -165,7 +165,7 @@ TEST_F(DialogLooks, NewGameAndWhatItOpens) {
 TEST_F(DialogLooks, ScheduleAndAbout) {
     GameStage stage(800, "[Game]\nName=mary\nSkill=1\n", folder_.path());
     stage.startNewGame();
-    stage.skipTo(300);
+    stage.skipTo(300_s);
     stage.look([&] { stage.game().score = 225; });
     stage.todo([](Script& script) { script.key(Key::s, withControl).wait(1); });
     expectDialog(stage, "schedule");

@@ -11,12 +11,6 @@
 namespace ventrel {
 namespace {
 
-Bitmap crop(const Bitmap& screen, const Rect& part) {
-    Bitmap piece(part.size());
-    Canvas(piece).draw(piece.bounds(), screen, part);
-    return piece;
-}
-
 /// A flight of every kind of alert, and a heavy one on the panel.
 void makeRemarkable(GameStage& stage) {
     std::array alerts{Alert::nearMiss, Alert::success, Alert::failure};
@@ -49,9 +43,9 @@ void expectLooks(int width, const std::string& name) {
     stage.wait(1);
     stage.look([&] {
         const Bitmap& screen = stage.backend.screen();
-        expectGolden(crop(screen, stage.shell().radar.window.bounds()), name + "_scope");
-        expectGolden(crop(screen, stage.shell().strips.window.bounds()), name + "_strips");
-        expectGolden(crop(screen, Rect::at(stage.onPanel({}), panelLayout.size)), name + "_panel");
+        expectGolden(pictureOf(screen, stage.shell().radar.window.bounds()), name + "_scope");
+        expectGolden(pictureOf(screen, stage.shell().strips.window.bounds()), name + "_strips");
+        expectGolden(pictureOf(screen, Rect::at(stage.onPanel({}), panelLayout.size)), name + "_panel");
     });
     stage.play();
 }
@@ -62,6 +56,23 @@ TEST(Looks, ABusySmallConsole) {
 
 TEST(Looks, ABusyLargeConsole) {
     expectLooks(1024, "busy_1024");
+}
+
+TEST(Looks, TheTopBarAndTheButtonsOfTheStrips) {
+    TempFolder folder;
+    makePlainProgram(folder.path());
+    GameStage stage(800, "[Options]\nAirportSelect=2\n[Game]\nName=mary\nSkill=3\n", folder.path());
+    stage.startNewGame(3);
+    stage.wait(5000);
+    stage.look([&] { expectGolden(pictureOf(stage.backend.screen(), {0, 0, 800, 50}), "top_bar_start"); });
+    stage.skipTo(600_s);
+    stage.todo([&](Script&) { makeRemarkable(stage); });
+    stage.wait(2500);
+    stage.look([&] {
+        expectGolden(pictureOf(stage.backend.screen(), {0, 0, 800, 50}), "top_bar_busy");
+        expectGolden(pictureOf(stage.backend.screen(), {600, 60, 650, 450}), "strip_buttons");
+    });
+    stage.play();
 }
 
 } // namespace

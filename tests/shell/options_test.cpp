@@ -1,5 +1,7 @@
 // Options from the file to the menus and back.
 
+#include <fstream>
+
 #include "resources/menus.h"
 #include "shell/game_stage.h"
 #include "shell/options_file.h"
@@ -95,6 +97,8 @@ TEST(OptionMenus, EachItemTurnsItsOwnOptionOverAndIsTickedWhileItIsOn) {
                 }
                 EXPECT_EQ(stage.shell().options, expected) << path.text;
                 EXPECT_EQ(isTicked(stage, path.text), stage.shell().options.*path.option != 0) << path.text;
+                const Options saved = ReadOptions(ProfileFile::read(stage.profile()).value());
+                EXPECT_EQ(saved.*path.option, expected.*path.option) << path.text << " was not saved";
             });
         }
     }

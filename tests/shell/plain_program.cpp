@@ -56,7 +56,7 @@ void makePlainProgram(const fs::path& folder) {
     write("pointer_hand", plain(pointerSize, cloudTransparent));
     write("pointer_arrow", plain(pointerSize, cloudTransparent));
     write("icon", plain(pointerSize, cloudColour));
-    write("about", plain({200, 120}, consoleColour));
+    write("about", plain({400, 220}, consoleColour));
 }
 
 } // namespace ventrel
