@@ -7,7 +7,6 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND CMAKE_CXX_COMPILER_VERSION VERSION_L
     # g++ 12 sees overlapping copies in its own std::string (its bug 105329).
     target_compile_options(ventrel_flags INTERFACE -Wno-restrict)
 endif()
-target_include_directories(ventrel_flags INTERFACE ${CMAKE_SOURCE_DIR}/src)
 if(VENTREL_SANITIZE)
     target_compile_options(ventrel_flags INTERFACE
         -fsanitize=address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
@@ -18,13 +17,55 @@ if(VENTREL_FUZZ)
     target_compile_options(ventrel_flags INTERFACE -fsanitize=fuzzer-no-link)
 endif()
 
-# ventrel_room(NAME SOURCES... [USES libraries...]): one room of the house, a static library.
-# The libraries named after USES are the only rooms that it may include.
+# Every room has an include folder of its own, rooms/<room>/ in the build, which holds one link: to the room's folder,
+# under the path that others write. It reaches whoever links the room and nobody else, so that a room can include
+# what it links, and a file that includes anything else does not compile.
+
+# ventrel_open_room(ROOM SCOPE [HEADERS...]): makes that folder; of a folder that several rooms share, the room's headers.
+function(ventrel_open_room room scope)
+    set(top ${CMAKE_SOURCE_DIR}/src)
+    cmake_path(IS_PREFIX top ${CMAKE_CURRENT_SOURCE_DIR} in_src)
+    if(NOT in_src)
+        set(top ${CMAKE_SOURCE_DIR})
+    endif()
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY ${top} OUTPUT_VARIABLE path)
+
+    set(entrance ${CMAKE_BINARY_DIR}/rooms/${room})
+    file(REMOVE_RECURSE ${entrance})
+    if(ARGN)
+        file(MAKE_DIRECTORY ${entrance}/${path})
+        foreach(header ${ARGN})
+            file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${entrance}/${path}/${header} SYMBOLIC)
+        endforeach()
+        list(GET ARGN 0 sample)
+    else()
+        cmake_path(GET path PARENT_PATH above)
+        file(MAKE_DIRECTORY ${entrance}/${above})
+        file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${entrance}/${path} SYMBOLIC)
+        file(GLOB headers RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+        list(GET headers 0 sample)
+    endif()
+    target_include_directories(${room} ${scope} ${entrance})
+    # Debuggers, assertions and sanitizers name the file itself, not the way to it.
+    target_compile_options(${room} ${scope} -ffile-prefix-map=${entrance}/=${top}/)
+
+    set_property(GLOBAL APPEND PROPERTY VENTREL_ROOMS ${room})
+    set_property(TARGET ${room} PROPERTY VENTREL_SAMPLE ${path}/${sample})
+endfunction()
+
+# ventrel_room(NAME SOURCES... [HEADERS headers...] [USES libraries...]): one room of the house, a static library, or
+# headers alone. It may include the rooms named after USES, and what these use. HEADERS where rooms share a folder.
 function(ventrel_room name)
-    cmake_parse_arguments(ROOM "" "" "USES" ${ARGN})
-    add_library(${name} STATIC ${ROOM_UNPARSED_ARGUMENTS})
-    target_link_libraries(${name} PUBLIC ${ROOM_USES} PRIVATE ventrel_flags)
-    target_include_directories(${name} PUBLIC ${CMAKE_SOURCE_DIR}/src)
+    cmake_parse_arguments(ROOM "" "" "HEADERS;USES" ${ARGN})
+    if(ROOM_UNPARSED_ARGUMENTS)
+        add_library(${name} STATIC ${ROOM_UNPARSED_ARGUMENTS})
+        target_link_libraries(${name} PUBLIC ${ROOM_USES} PRIVATE ventrel_flags)
+        ventrel_open_room(${name} PUBLIC ${ROOM_HEADERS})
+    else()
+        add_library(${name} INTERFACE)
+        target_link_libraries(${name} INTERFACE ${ROOM_USES})
+        ventrel_open_room(${name} INTERFACE ${ROOM_HEADERS})
+    endif()
 endfunction()
 
 # ventrel_program(NAME SOURCES... [USES libraries...]): an executable in the program folder.

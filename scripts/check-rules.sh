@@ -1,71 +1,43 @@
 #!/usr/bin/env bash
-# Who may include whom: the floors of docs/architecture.md, read from the #include lines.
+# What the build cannot keep: who may include which outside library, and that nobody climbs out of a room by "../".
+# Who may include which room is the build's business (cmake/Room.cmake).
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 broken=0
 
-# only FOLDER PATTERN: every quoted include below FOLDER matches PATTERN.
+# complain TEXT LINES: a rule and the lines that break it, if there are any.
+complain() {
+    [ -z "$2" ] && return
+    printf '%s\n%s\n' "$1" "$2"
+    broken=1
+}
+
+# includes PATTERN FOLDER...: the #include lines whose file matches, with place.
+includes() {
+    local pattern=$1
+    shift
+    grep -rnE "^ *# *include +$pattern" "$@" --include='*.h' --include='*.cpp' || true
+}
+
+# only PLACES HEADERS: outside headers that these places alone may include.
+outside=
 only() {
-    local found
-    [ -d "$1" ] || return 0
-    found=$(grep -rnE '^ *# *include +"' "$1" --include='*.h' --include='*.cpp' | grep -vE "\"($2)/" || true)
-    if [ -n "$found" ]; then
-        echo "$1 may include only $2:" && echo "$found"
-        broken=1
-    fi
+    outside="$outside|$2"
+    complain "Only $1 may include $2:" "$(includes "[<\"]($2)" src tools | grep -vE "^($1)" || true)"
 }
 
-# standard FOLDER: every include in angle brackets below FOLDER is of the standard library, its next
-# edition's expected, or of the system's files.
-standard() {
-    local found
-    [ -d "$1" ] || return 0
-    found=$(grep -rnE '^ *# *include +<' "$1" --include='*.h' --include='*.cpp' | grep -vE '<([a-z_]+|tl/expected\.hpp|fcntl\.h|unistd\.h|sys/stat\.h)>' || true)
-    if [ -n "$found" ]; then
-        echo "$1 may include only the standard library:" && echo "$found"
-        broken=1
-    fi
-}
+only 'src/platform/sdl/' 'SDL|X11/'
+only 'src/platform/canvas/' 'ft2build\.h|freetype/|png\.h|jpeglib\.h'
+only 'src/base/result\.h' 'tl/'
+only 'tools/(apt|sound)/' 'toml\+\+/'
+only 'src/main\.cpp|tools/' 'CLI/'
 
-# machine PATTERN FOLDER...: includes matching PATTERN stand in FOLDER alone.
-machine() {
-    local found
-    found=$(grep -rnE "^ *# *include +[<\"]$1" src tools tests --include='*.h' --include='*.cpp' |
-        grep -vE "^($2)" || true)
-    if [ -n "$found" ]; then
-        echo "Only $2 may include $1:" && echo "$found"
-        broken=1
-    fi
-}
+only 'src/base/|src/platform/(machine|sdl)/|src/main\.cpp|tools/' 'unistd\.h|fcntl\.h|signal\.h|pwd\.h|spawn\.h|sys/'
 
-only src/base 'base'
-only src/console 'base|console'
-only src/sim 'base|sim'
-only src/platform/canvas 'base|platform/canvas'
-only src/platform/devices 'base|platform/(canvas|devices)'
-only src/platform/desktop 'base|platform/(canvas|devices|desktop)'
-only src/platform/widgets 'base|platform/(canvas|devices|desktop|widgets)'
-only src/platform/headless 'base|platform/(canvas|devices|headless)'
-only src/platform/sdl 'base|platform/(canvas|devices|sdl)'
-only src/platform/machine 'base|platform/machine'
-only src/resources 'base|platform/(devices|desktop|widgets)|resources'
-only src/radar 'resources|base|console|sim|platform/(canvas|devices|desktop)|radar'
-only src/controls 'base|console|sim|platform/(canvas|devices|desktop)|controls'
-only src/shell 'base|console|sim|platform/(canvas|devices|desktop|widgets)|resources|radar|controls|shell'
-standard src/base
-standard src/console
-standard src/sim
-standard src/platform/desktop
-standard src/platform/widgets
-standard src/platform/headless
-standard src/resources
-standard src/radar
-standard src/controls
-standard src/shell
-machine 'SDL2?[/.]' 'src/platform/sdl/'
-machine '(ft2build|png|jpeglib|turbojpeg)\.h' 'src/platform/canvas/'
-machine 'toml\+\+' 'tools/(apt|sound)/'
-machine '(fcntl|unistd|sys/stat)\.h' 'src/(base|platform/machine)/|tools/sound/|tests/'
+complain "These outside headers have no place in scripts/check-rules.sh yet:" \
+    "$(includes '<[^>]*[^a-z_0-9>]' src tools | grep -vE "<(${outside#|})" || true)"
+complain "A room is included by its path from src/ or the top folder:" \
+    "$(includes '"([^/"]*"|[^"]*\.\./)' src tools)"
 
 exit "$broken"

@@ -86,8 +86,7 @@ std::string_view withoutQuotes(std::string_view text) {
 /// The value as it reads back the same.
 std::string written(std::string_view value) {
     std::string text(value);
-    std::ranges::replace_if(
-        text, [](char c) { return c == '\n' || c == '\r' || c == '\0'; }, ' ');
+    std::ranges::replace_if(text, [](char c) { return c == '\n' || c == '\r' || c == '\0'; }, ' ');
     const bool needsQuotes = trimmed(text) != text || withoutQuotes(text) != text;
     return needsQuotes ? '"' + text + '"' : text;
 }

@@ -101,8 +101,7 @@ std::string toUtf8(std::string_view windows1252) {
 
 std::string toTerminal(std::string_view windows1252) {
     std::string text(windows1252);
-    std::ranges::replace_if(
-        text, [](char c) { return c != '\n' && isControlCharacter(c); }, '?');
+    std::ranges::replace_if(text, [](char c) { return c != '\n' && isControlCharacter(c); }, '?');
     return toUtf8(text);
 }
 

@@ -75,7 +75,7 @@ enum class OptionEffect {
 
 struct OptionRow {
     std::string_view key;
-    int Options::*value;
+    int Options::* value;
     OptionEffect effect = OptionEffect::none;
     std::array<OptionItem, 2> items = {}; ///< those without a menu are none: dialogs change the option
     bool isWritten = true;

@@ -17,7 +17,7 @@ constexpr FontRequest buttonFont{Face::arial, -11, false};
 struct MenuButton {
     int command;
     std::string_view text;
-    Rect TopBarLayout::*place;
+    Rect TopBarLayout::* place;
 };
 constexpr std::array menuButtons{std::to_array<MenuButton>({
     {command::fileMenu, "&File", &TopBarLayout::fileButton},

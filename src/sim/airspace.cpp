@@ -15,9 +15,8 @@ Result<AirspacePtr> loadAirport(const std::filesystem::path& file) {
 
 Result<AirspacePtr> loadAirport(std::span<const std::byte> bytes, const std::filesystem::path& name) {
     Failure failure;
-    auto file = readAirportFile(bytes, name, [&](std::string_view text, MessageIcon icon) {
-        failure = {std::string{text}, icon};
-    });
+    auto file = readAirportFile(
+        bytes, name, [&](std::string_view text, MessageIcon icon) { failure = {std::string{text}, icon}; });
     if (!file) {
         return tl::unexpected(failure);
     }

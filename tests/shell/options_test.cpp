@@ -37,7 +37,7 @@ TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
 struct MenuPath {
     std::string_view letters;
     std::string_view text;
-    int Options::*option;
+    int Options::* option;
     bool isTickedWhenOn = true;
 };
 constexpr std::array paths{std::to_array<MenuPath>({

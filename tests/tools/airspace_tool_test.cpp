@@ -138,9 +138,8 @@ TEST(AirspaceTool, IsSilentOnSoundAirspaces) {
 TEST(AirspaceTool, ChecksTheFilesThatPlayersGet) {
     const TempFolder folder;
     built(planted("points_too_near.toml"), folder / "near.apt", apt::success);
-    const std::string printed = printedBy(apt::faulty, [&] {
-        return apt::check({folder / "near.apt", folder / "none.apt"});
-    });
+    const std::string printed =
+        printedBy(apt::faulty, [&] { return apt::check({folder / "near.apt", folder / "none.apt"}); });
     expectSays(printed, "near.apt: point 'CLO'");
     expectSays(printed, "none.apt cannot be read: ");
 }

@@ -141,7 +141,7 @@ private:
     }
 
     void refuseUnplayable(TableReader& reader) const {
-        const auto has = [&](bool Vor::*kind) {
+        const auto has = [&](bool Vor::* kind) {
             return std::ranges::any_of(source_.points, [&](const SourcePoint& p) { return p.vor.*kind; });
         };
         if (!has(&Vor::isExit)) {

@@ -131,10 +131,7 @@ void Gallery::openBox(const Window& owner) {
 
 void Gallery::takePhotographs() {
     const auto menu = photograph(
-        ground,
-        [this](Desktop& desktop, const Window&) {
-            trackMenu(desktop, widgetFonts_, menu_, {0, 0});
-        },
+        ground, [this](Desktop& desktop, const Window&) { trackMenu(desktop, widgetFonts_, menu_, {0, 0}); },
         [](Script& script) { script.type("d").key(Key::up).key(Key::up); });
     const auto dialog = photograph(ground, [this](Desktop& desktop, const Window& owner) {
         const auto fill = [](Dialog& shown) {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <cstdlib>
 
-#include "platform/canvas/image.h"
+#include "platform/canvas/picture_limits.h"
 
 namespace ventrel {
 

@@ -16,7 +16,7 @@
 namespace ventrel {
 
 /// Makes a bitmap of the DIB at the start of `dib`; what follows it does not matter. None when it is cut
-/// short, damaged, of another kind, or larger on a side than pictures may be (image.h).
+/// short, damaged, of another kind, or larger on a side than pictures may be (picture_limits.h).
 std::optional<Bitmap> CreateBitmapFromDib(std::span<const std::byte> dib);
 
 /// The same with the pixels elsewhere than behind the colour table, as a .bmp file may have them.

@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "platform/canvas/bitmap.h"
+#include "platform/canvas/picture_limits.h"
 
 namespace ventrel {
 
@@ -34,9 +35,6 @@ struct Image {
     std::uint32_t width = 0;
     std::uint32_t height = 0;
 };
-
-/// No side of a picture may be longer; a file that claims more is refused before memory is taken.
-inline constexpr std::uint32_t imageSideLimit = 4096;
 
 void ImageFree(Image& image);
 

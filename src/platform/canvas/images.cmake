@@ -8,5 +8,6 @@ ventrel_room(ventrel_images
     image_pcx.cpp
     image_png.cpp
     png_writer.cpp
-    USES ventrel_canvas)
+    HEADERS image.h image_readers.h png_writer.h
+    USES ventrel_base ventrel_canvas)
 target_link_libraries(ventrel_images PRIVATE JPEG::JPEG PNG::PNG)

@@ -7,7 +7,8 @@ ventrel_room(ventrel_text
     font_set.cpp
     text.cpp
     text_layout.cpp
-    USES ventrel_canvas)
+    HEADERS font.h font_face.h text.h text_layout.h
+    USES ventrel_base ventrel_canvas)
 target_link_libraries(ventrel_text PRIVATE Freetype::Freetype)
 # Whoever draws text needs the faces beside the program.
 add_dependencies(ventrel_text fonts)

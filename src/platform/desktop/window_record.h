@@ -74,7 +74,7 @@ bool mayHandle(const WindowRecord& window);
 
 /// Calls a handler when the window has it, keeping both whole meanwhile. A missing one answers false or none.
 template <typename Result, typename... Parameters, typename... Arguments>
-Result callHandler(const WindowPtr& window, std::function<Result(Parameters...)> WindowHandlers::*handler,
+Result callHandler(const WindowPtr& window, std::function<Result(Parameters...)> WindowHandlers::* handler,
                    Arguments&&... arguments) {
     if (!mayHandle(*window)) {
         return Result();

@@ -56,8 +56,7 @@ std::vector<Bytes> forms() {
         add(8, 2, colours);
         add(16, 2, [](At x, At y) { return wide(red(x, y)) + wide(green(x, y)) + wide(blue(x, y)); });
         add(8, 6, [](At x, At y) { return colours(x, y) + bytes({255}); });
-        add(
-            8, 3, [](At x, At y) { return bytes({x + 5 * y}); }, pngChunk("PLTE", table));
+        add(8, 3, [](At x, At y) { return bytes({x + 5 * y}); }, pngChunk("PLTE", table));
     }
     files.push_back(encodePng(picture()));
     return files;

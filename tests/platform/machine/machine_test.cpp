@@ -98,7 +98,9 @@ TEST(SuddenEndDeathTest, ActsOnlyWhenTheProcessExitsMeanwhile) {
         ::testing::ExitedWithCode(3), "^kept$");
     EXPECT_EXIT(
         {
-            { const SuddenEnd end(act); }
+            {
+                const SuddenEnd end(act);
+            }
             std::exit(3);
         },
         ::testing::ExitedWithCode(3), "^$");
