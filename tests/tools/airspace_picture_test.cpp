@@ -31,8 +31,8 @@ TEST(AirspaceShow, WhatIsShownBuildsTheSameFileAgain) {
     // Places beside the grid and odd letters too.
     const std::string odd =
         "\n[[point]]\nident = \"\\\\\\\"€\"\nname = \"Über\"\nexit = true\nlabel = \"left\"\n";
-    const std::string corner =
-        "pixel = [539, 0]\nmajor = true\nlabel_colour = \"#123456\"\n"; // of a cell that is on no grid
+    const std::string corner = "pixel = [539, 0]\nmajor = true\nlabel_colour = \"#123456\"\nsymbol_colour = "
+                               "\"#654321\"\nrunway_colour = \"#abcdef\"\n"; // of a cell that is on no grid
     writeText(folder / "odd.toml", "layout = 800\n" + readText(planted("sound.toml")) + odd + corner);
     built(folder / "odd.toml", folder / "first.apt", apt::success);
     EXPECT_TRUE(buildsAgain(folder));
@@ -151,9 +151,11 @@ TEST(AirspaceDraw, TheMapIsThatOfTheGame) {
     fs::copy_file(planted("map800.jpg"), folder / "map.jpg");
     writeSource(folder / "map.toml", "\n[picture]\n800 = \"map.jpg\"\n");
     built(folder / "map.toml", folder / "map.apt", apt::success);
-    const Image pictured = drawn(folder, {.file = folder / "map.apt", .target = {}, .width = {}});
-    EXPECT_NE(pixelAt(pictured, {20 * 11, 10 * 11}), 0U);
-    EXPECT_EQ(pixelAt(pictured, {2, 2}), 0U); // beside the scope
+    for (const char* const file : {"map.apt", "map.toml"}) {
+        const Image pictured = drawn(folder, {.file = folder / file, .target = {}, .width = {}});
+        EXPECT_NE(pixelAt(pictured, {20 * 11, 10 * 11}), 0U) << file;
+        EXPECT_EQ(pixelAt(pictured, {2, 2}), 0U) << file; // beside the scope
+    }
 }
 
 TEST(AirspaceDraw, TheBlankGridHasEveryCell) {
