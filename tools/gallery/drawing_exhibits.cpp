@@ -96,14 +96,12 @@ void drawCopied(Canvas& canvas) {
 }
 
 void drawRasterOps(Canvas& canvas) {
-    constexpr std::array ops{RasterOp::copy,      RasterOp::notCopy,   RasterOp::sourceAnd,
-                             RasterOp::sourceOr,  RasterOp::sourceXor, RasterOp::blackness,
-                             RasterOp::whiteness, RasterOp::invert};
+    constexpr std::array ops{RasterOp::copy, RasterOp::notCopy, RasterOp::sourceAnd, RasterOp::sourceOr};
     const Bitmap picture = samplePicture();
     for (std::size_t i = 0; i < ops.size(); ++i) {
-        const Rect place = Rect::at({static_cast<int>(i % 4) * 16, static_cast<int>(i / 4) * 24}, {15, 23});
+        const Rect place = Rect::at({static_cast<int>(i % 2) * 32, static_cast<int>(i / 2) * 24}, {31, 23});
         canvas.fill(place, blue);
-        canvas.draw(place.grownBy(-2), picture, {10, 2, 21, 21}, ops[i]);
+        canvas.draw(place.grownBy(-2), picture, {2, 2, 29, 21}, ops[i]);
     }
 }
 

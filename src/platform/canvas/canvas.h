@@ -22,10 +22,6 @@ enum class RasterOp {
     notCopy,   ///< not S
     sourceAnd, ///< S and D
     sourceOr,  ///< S or D
-    sourceXor, ///< S xor D
-    blackness, ///< 0, whatever the source
-    whiteness, ///< white, whatever the source
-    invert,    ///< not D, whatever the source
 };
 
 /// The coverage of a glyph or another one-colour shape: 0 clear to 255 solid, rows of `size.width` bytes.
@@ -42,8 +38,6 @@ public:
 
     /// Draws with `origin` as (0, 0) and inside `visible` only, both in the target's coordinates.
     Canvas(Bitmap& target, Point origin, const Region& visible, Damage* damage = nullptr);
-
-    Point origin() const { return origin_; }
 
     /// Narrows drawing to `region` (this canvas's coordinates) within what is visible, replacing an earlier
     /// clip.
@@ -81,7 +75,7 @@ public:
 
     /// Combines `source` of `picture` into `destination`; where the sizes differ the picture is stretched by
     /// leaving out or repeating pixels: each takes the source pixel under its middle. The parts of `source`
-    /// outside the picture draw nothing; operations that ask for no source fill all of `destination`.
+    /// outside the picture draw nothing.
     /// `picture` may be the target itself: overlapping areas are copied as if from a snapshot.
     void draw(const Rect& destination, const Bitmap& picture, const Rect& source,
               RasterOp op = RasterOp::copy);

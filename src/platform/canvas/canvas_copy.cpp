@@ -8,11 +8,7 @@ namespace ventrel {
 
 namespace {
 
-bool usesSource(RasterOp op) {
-    return op != RasterOp::blackness && op != RasterOp::whiteness && op != RasterOp::invert;
-}
-
-/// Combines as many pixels as `to` has; `from` may be empty when the operation asks for no source.
+/// Combines as many pixels as `to` has.
 void combine(RasterOp op, std::span<Pixel> to, std::span<const Pixel> from) {
     const auto each = [&](auto operation) {
         std::transform(to.begin(), to.end(), from.begin(), to.begin(), operation);
@@ -22,12 +18,6 @@ void combine(RasterOp op, std::span<Pixel> to, std::span<const Pixel> from) {
     case RasterOp::notCopy: each([](Pixel, Pixel s) { return s ^ whitePixel; }); break;
     case RasterOp::sourceAnd: each([](Pixel d, Pixel s) { return d & s; }); break;
     case RasterOp::sourceOr: each([](Pixel d, Pixel s) { return d | s; }); break;
-    case RasterOp::sourceXor: each([](Pixel d, Pixel s) { return d ^ s; }); break;
-    case RasterOp::blackness: std::fill(to.begin(), to.end(), Pixel{0}); break;
-    case RasterOp::whiteness: std::fill(to.begin(), to.end(), whitePixel); break;
-    case RasterOp::invert:
-        std::transform(to.begin(), to.end(), to.begin(), [](Pixel d) { return d ^ whitePixel; });
-        break;
     }
 }
 
@@ -74,11 +64,10 @@ Extent withinSource(const Stretch& stretch, Extent extent, int limit) {
 void Canvas::draw(const Rect& destination, const Bitmap& picture, const Rect& source, RasterOp op) {
     const Rect to = limitedMove(destination, origin_);
     const Rect from = limited(source);
-    if (!usesSource(op)) {
-        changeInside(to, [op](const Run&, std::span<Pixel> pixels) { combine(op, pixels, {}); });
-    } else if (to.isEmpty() || from.isEmpty()) {
+    if (to.isEmpty() || from.isEmpty()) {
         return;
-    } else if (&picture == target_) {
+    }
+    if (&picture == target_) {
         const Rect used = from.intersectedWith(picture.bounds());
         draw(destination, cutOut(picture, used), from.movedBy(Point{} - used.topLeft()), op);
     } else if (to.size() == from.size()) {
