@@ -52,6 +52,16 @@ is_open() {
     [ -n "$window" ] && [ "$(xdotool getactivewindow 2>/dev/null)" = "$window" ]
 }
 has_ended() { ! kill -0 "$program" 2>/dev/null; }
+# A window manager that has only just come up may not listen to the key yet.
+is_closed() {
+    local look
+    xdotool key alt+F4
+    for look in {1..100}; do
+        ! has_ended || return 0
+        sleep 0.02
+    done
+    return 1
+}
 
 bad=0
 for ((try = 1; try <= count; ++try)); do
@@ -62,8 +72,7 @@ for ((try = 1; try <= count; ++try)); do
     program=$!
     jobs_to_end[2]=$program
     until_true "the window, active" is_open
-    xdotool key alt+F4
-    until_true "the end" has_ended
+    until_true "the end" is_closed
     code=0
     wait "$program" || code=$?
     if [ "$code" -ne 0 ]; then

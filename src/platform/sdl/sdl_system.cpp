@@ -6,8 +6,6 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "platform/sdl/x11_care.h"
-
 namespace ventrel {
 
 VideoSystem::VideoSystem() {
@@ -22,7 +20,6 @@ VideoSystem::VideoSystem() {
 
 VideoSystem::~VideoSystem() {
     if (isOpen_) {
-        const XErrorsAreQuiet quiet;
         SDL_QuitSubSystem(SDL_INIT_VIDEO);
     }
 }

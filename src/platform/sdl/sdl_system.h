@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "platform/devices/backend.h"
+#include "platform/sdl/x11_care.h"
 
 namespace ventrel {
 
@@ -36,6 +37,7 @@ public:
     bool hasScreen() const;
 
 private:
+    XErrorsAreHarmless errors_;
     bool isOpen_ = false;
 };
 

@@ -8,6 +8,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 #include <string_view>
 
 namespace ventrel {
@@ -16,7 +17,14 @@ namespace {
 
 using Handler = int (*)(Display*, XErrorEvent*);
 
-int passOver(Display*, XErrorEvent*) {
+/// A message to a window that is gone is passed over, anything else named.
+int passOver(Display* display, XErrorEvent* error) {
+    constexpr int sendEvent = 25; // the request's number in the protocol
+    if (error->error_code != BadWindow || error->request_code != sendEvent) {
+        std::array<char, 128> text{};
+        XGetErrorText(display, error->error_code, text.data(), static_cast<int>(text.size()));
+        std::fprintf(stderr, "The X server refuses request %d: %s\n", error->request_code, text.data());
+    }
     return 0;
 }
 
@@ -59,9 +67,10 @@ constexpr std::array accents{std::to_array<Accent>({
 
 } // namespace
 
-XErrorsAreQuiet::XErrorsAreQuiet() : before_(reinterpret_cast<void (*)()>(XSetErrorHandler(passOver))) {}
+XErrorsAreHarmless::XErrorsAreHarmless()
+    : before_(reinterpret_cast<void (*)()>(XSetErrorHandler(passOver))) {}
 
-XErrorsAreQuiet::~XErrorsAreQuiet() {
+XErrorsAreHarmless::~XErrorsAreHarmless() {
     XSetErrorHandler(reinterpret_cast<Handler>(before_));
 }
 

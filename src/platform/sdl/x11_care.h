@@ -8,17 +8,18 @@
 
 namespace ventrel {
 
-/// While it lives, errors that the X server reports are passed over.
+/// While it lives, errors that the X server reports end nothing. Opened before SDL's video part and closed
+/// after it: SDL calls the handler that it finds, and puts it back before it closes its connections.
 ///
 /// SDL wakes itself through a second connection with messages to its window, and the server may get the last
 /// of them when the window is gone already. Nothing is wrong then, but Xlib would end the program with a
 /// complaint and 1.
-class XErrorsAreQuiet {
+class XErrorsAreHarmless {
 public:
-    XErrorsAreQuiet();
-    XErrorsAreQuiet(const XErrorsAreQuiet&) = delete;
-    XErrorsAreQuiet& operator=(const XErrorsAreQuiet&) = delete;
-    ~XErrorsAreQuiet();
+    XErrorsAreHarmless();
+    XErrorsAreHarmless(const XErrorsAreHarmless&) = delete;
+    XErrorsAreHarmless& operator=(const XErrorsAreHarmless&) = delete;
+    ~XErrorsAreHarmless();
 
 private:
     void (*before_)(); // the handler that comes back, whatever its type
