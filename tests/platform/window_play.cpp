@@ -45,6 +45,11 @@ public:
             script_.click(at, button == "right" ? MouseButton::right : MouseButton::left);
         } else if (verb == "doubleclick") {
             script_.doubleClick(point());
+        } else if (verb == "wheel") {
+            const Point at = point();
+            int notches = 0;
+            words >> notches;
+            script_.wheel(at, notches);
         } else if (verb == "close") {
             script_.window(WindowEvent::closeRequested);
         } else {
