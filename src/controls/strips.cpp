@@ -52,6 +52,13 @@ void showList(Strips& strips) {
     strips.callbacks.press(selectedSlot(strips));
 }
 
+/// What a shift's end has left in the column stays there until the game is over.
+void showListInGame(Strips& strips) {
+    if (strips.sources.game.isRunning()) {
+        showList(strips);
+    }
+}
+
 } // namespace
 
 void StripsCreate(Strips& strips, const Window& parent, Size mainWindow) {
@@ -76,13 +83,13 @@ void StripsRebuild(Strips& strips) {
 
 bool StripsScrollUp(Strips& strips) {
     const bool hasScrolled = scrollStripsUp(strips.list, strips.sources.game);
-    showList(strips);
+    showListInGame(strips);
     return hasScrolled;
 }
 
 bool StripsScrollDown(Strips& strips) {
     const bool hasScrolled = scrollStripsDown(strips.list, strips.sources.game);
-    showList(strips);
+    showListInGame(strips);
     return hasScrolled;
 }
 

@@ -145,8 +145,7 @@ void createMainWindow(Shell& shell) {
     shell.desktop.setTitle(programTitle);
     // The system square lies in the strip's corner and takes its own clicks.
     const TopBarLayout& places = shell.console().topBar;
-    shell.desktop.setDragStrip(
-        Rect{places.systemSquare.right, 0, places.dragStrip.right, places.dragStrip.bottom});
+    shell.desktop.setDragStrip(DragStrip{places.dragStrip, places.systemSquare});
     shell.mainWindow.setAccelerators(mainAccelerators);
     createButtons(shell);
     createInstruments(shell);

@@ -172,6 +172,22 @@ TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
     stage.play();
 }
 
+TEST_F(GameEndTest, TheWheelChangesNothingWhileRingsSpread) {
+    meet({10, 10});
+    stage.wait(100);
+    auto before = std::make_shared<Bitmap>();
+    const auto column = [this] {
+        const Rect place = stage.shell().strips.window.screenBounds();
+        Bitmap picture(place.size());
+        Canvas(picture).draw(picture.bounds(), stage.backend.screen(), place);
+        return picture;
+    };
+    stage.look([before, column] { *before = column(); });
+    stage.todo([](Script& script) { script.wheel({900, 300}, -3).wheel({900, 300}, 1).wait(100); });
+    stage.look([before, column] { EXPECT_EQ(column(), *before); });
+    stage.play();
+}
+
 TEST_F(GameEndTest, AGameThatIsBegunWhileRingsSpreadStartsCleanAndGoesOn) {
     selectsFirst = true;
     meet({10, 10});

@@ -58,7 +58,7 @@ int inWindow(const Arguments& arguments, FontSet& fonts) {
     }
     Desktop desktop(*backend, arguments.size);
     const Gallery gallery(desktop, fonts, sayAloud);
-    desktop.setDragStrip(Rect{0, 0, arguments.size.width, 8});
+    desktop.setDragStrip(DragStrip{Rect{0, 0, arguments.size.width, 8}, {}});
     desktop.run();
     return 0;
 }

@@ -62,20 +62,12 @@ void Desktop::setMainWindow(const Window& window) {
     state_->mainWindow = window.record_;
 }
 
-Window Desktop::mainWindow() const {
-    return handleOf(alive(state_->mainWindow));
-}
-
 Window Desktop::activeWindow() const {
     return handleOf(activeTopLevel(*state_));
 }
 
 Window Desktop::focusWindow() const {
     return handleOf(focusTarget(*state_));
-}
-
-Window Desktop::captureWindow() const {
-    return handleOf(alive(state_->pointer.captured));
 }
 
 std::vector<Window> Desktop::topLevels() const {
@@ -104,7 +96,7 @@ void Desktop::setTitle(std::string_view title) {
     state_->backend.setTitle(title);
 }
 
-void Desktop::setDragStrip(std::optional<Rect> strip) {
+void Desktop::setDragStrip(std::optional<DragStrip> strip) {
     state_->backend.setDragStrip(strip);
 }
 

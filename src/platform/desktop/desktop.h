@@ -40,12 +40,10 @@ public:
 
     /// The window that close requests, minimising and restoring concern in the end. None at first.
     void setMainWindow(const Window& window);
-    Window mainWindow() const;
 
     /// The top-level that gets the keyboard; none while none is visible.
     Window activeWindow() const;
     Window focusWindow() const;
-    Window captureWindow() const;
     /// All of them, hidden ones too, the uppermost last.
     std::vector<Window> topLevels() const;
     /// The innermost visible window at that point of the screen.
@@ -60,7 +58,7 @@ public:
 
     void setTitle(std::string_view title);
     /// The area by which a person drags the machine's window about.
-    void setDragStrip(std::optional<Rect> strip);
+    void setDragStrip(std::optional<DragStrip> strip);
     void setFullScreen(bool fullScreen);
     bool isFullScreen() const;
     void minimise();

@@ -33,6 +33,14 @@ struct DisplayInfo {
     int bitsPerPixel = 32;
 };
 
+/// The area by which a person drags the window about.
+struct DragStrip {
+    Rect area;
+    Rect hole; ///< in it, where presses belong to the program
+
+    bool contains(Point point) const { return area.contains(point) && !hole.contains(point); }
+};
+
 class Backend {
 public:
     virtual ~Backend() = default;
@@ -61,8 +69,8 @@ public:
     virtual void captureMouse(bool captured) = 0;
     virtual Point mousePosition() = 0;
 
-    /// The area by which a person drags the window about (none: nowhere).
-    virtual void setDragStrip(std::optional<Rect> strip) = 0;
+    /// None: the window cannot be dragged.
+    virtual void setDragStrip(std::optional<DragStrip> strip) = 0;
     virtual void setFullScreen(bool fullScreen) = 0;
     virtual bool isFullScreen() const = 0;
     virtual void minimise() = 0;

@@ -64,7 +64,7 @@ public:
     bool isShown() const { return shown_; }
     bool isCaptured() const { return captured_; }
     bool isMinimised() const { return minimised_; }
-    std::optional<Rect> dragStrip() const { return dragStrip_; }
+    std::optional<DragStrip> dragStrip() const { return dragStrip_; }
     const std::vector<MessageIcon>& beeps() const { return beeps_; }
 
     // Backend ---------------------------------------------------------------------------------------------
@@ -78,7 +78,7 @@ public:
     void setCursor(const CursorImage* cursor) override { cursor_ = cursor; }
     void captureMouse(bool captured) override { captured_ = captured; }
     Point mousePosition() override { return mouse_; }
-    void setDragStrip(std::optional<Rect> strip) override { dragStrip_ = strip; }
+    void setDragStrip(std::optional<DragStrip> strip) override { dragStrip_ = strip; }
     void setFullScreen(bool fullScreen) override { fullScreen_ = fullScreen; }
     bool isFullScreen() const override { return fullScreen_; }
     Millis frameTime() override { return frameTime_; }
@@ -119,7 +119,7 @@ private:
     std::string clipboard_;
     std::map<Key, std::string> keyNames_;
     Point mouse_;
-    std::optional<Rect> dragStrip_;
+    std::optional<DragStrip> dragStrip_;
     std::vector<MessageIcon> beeps_;
     bool shown_ = false;
     bool captured_ = false;

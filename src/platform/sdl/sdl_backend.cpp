@@ -140,7 +140,7 @@ public:
         return toPicture(p, area(), picture_);
     }
 
-    void setDragStrip(std::optional<Rect> strip) override { dragStrip_ = strip; }
+    void setDragStrip(std::optional<DragStrip> strip) override { dragStrip_ = strip; }
 
     void setFullScreen(bool fullScreen) override {
         if (fullScreen == isFullScreen_) {
@@ -351,7 +351,7 @@ private:
     }
 
     /// The first row of the window below the drag strip.
-    int stripBottom() const { return fromPicture({0, dragStrip_->bottom}, area(), picture_).y; }
+    int stripBottom() const { return fromPicture({0, dragStrip_->area.bottom}, area(), picture_).y; }
 
     /// A press that a menu waits for must arrive, wherever it is made.
     SDL_HitTestResult partAt(Point p) const {
@@ -388,7 +388,7 @@ private:
     const CursorImage* cursor_ = nullptr;
     std::optional<TextEvent> typed_; // comes after the key that typed it
     Beeper beeper_;
-    std::optional<Rect> dragStrip_;
+    std::optional<DragStrip> dragStrip_;
     bool captured_ = false;
 };
 
