@@ -144,8 +144,11 @@ private:
     }
 
     void checkCone(std::size_t index, int heading, const std::string& what) {
-        const auto cone = *approachCone(layout_, points_[index].pixel, heading);
-        const std::array<Point, 4> ends{cone[0].from, cone[0].to, cone[1].from, cone[1].to};
+        const auto cone = approachCone(layout_, points_[index].pixel, heading);
+        if (!cone) {
+            return;
+        }
+        const std::array<Point, 4> ends{(*cone)[0].from, (*cone)[0].to, (*cone)[1].from, (*cone)[1].to};
         if (const int pixels = pixelsOutside(layout_, ends); pixels > 0) {
             add(index, Subject::runway, what + " leaves the scope by " + counted(pixels, "pixel"));
         }

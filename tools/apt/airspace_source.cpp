@@ -22,7 +22,7 @@ namespace {
 constexpr double minutesPerDegree = 60; // of latitude; one is a nautical mile
 constexpr int mostNudge = 3; // cells between a point's place on the earth and the cell given for it
 constexpr int largestPixel = std::numeric_limits<std::uint16_t>::max();
-constexpr int mostPoints = std::numeric_limits<std::uint16_t>::max();
+constexpr int mostPointsOfFile = std::numeric_limits<std::uint16_t>::max();
 
 /// Colours of the points that have none of their own.
 struct PointColours {
@@ -125,9 +125,9 @@ private:
         if (points == nullptr) {
             return;
         }
-        if (points->size() > mostPoints) {
+        if (points->size() > mostPointsOfFile) {
             reader.fail("there are " + std::to_string(points->size()) + " points; a file holds " +
-                            std::to_string(mostPoints),
+                            std::to_string(mostPointsOfFile),
                         "point");
             return;
         }

@@ -26,7 +26,7 @@ struct KeyLines {
 
     /// Of the first of these keys that is there, else of the table.
     template <typename... Keys>
-    int of(Keys... wanted) const {
+    int of(const Keys&... wanted) const {
         int line = table;
         const auto look = [&](std::string_view key) {
             const auto found = keys.find(key);

@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 
+#include <cstdio>
+#include <exception>
 #include <functional>
 #include <string>
 #include <system_error>
@@ -91,9 +93,7 @@ fs::path programFolder(const char* startedAs) {
     return (error ? fs::path(startedAs) : program).parent_path();
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int runTool(int argc, char** argv) {
     CLI::App app("Makes airspaces for Ventrel.", "ventrel-apt");
     app.require_subcommand(0, 1);
     app.footer(footer);
@@ -115,4 +115,15 @@ int main(int argc, char** argv) {
         return wrongUsage;
     }
     return run();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return runTool(argc, argv);
+    } catch (const std::exception& error) { // such as memory that ran out
+        std::fprintf(stderr, "ventrel-apt: %s\n", error.what());
+        return apt::faulty;
+    }
 }

@@ -69,9 +69,9 @@ Result<OpenedAirport> compile(const OpenedSource& source, int width) {
         return failed(faults);
     }
     if (!airspace.serves(width)) {
-        return failed(
-            located(source.file, airspace.lines.of("layout"),
-                    "is for the layout of " + std::to_string(*airspace.layoutWidth) + " pixels only"));
+        return failed(located(source.file, airspace.lines.of("layout"),
+                              "is for the layout of " + std::to_string(airspace.layoutWidth.value_or(width)) +
+                                  " pixels only"));
     }
     const int line = airspace.pictureLines.of(std::to_string(width));
     const auto picture = source.picture(width);
@@ -83,7 +83,7 @@ Result<OpenedAirport> compile(const OpenedSource& source, int width) {
     }
     AirportFile airport = airportOf(airspace, radarLayoutFor(width));
     auto bytes = airportFileBytes(airport, *picture);
-    airport.header = *readAirportHeader(bytes);
+    airport.header = readAirportHeader(bytes).value_or(AirportHeader{});
     return OpenedAirport{std::move(bytes), std::move(airport)};
 }
 

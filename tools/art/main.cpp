@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <exception>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -82,15 +83,14 @@ std::vector<Command> allCommands() {
     };
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int runTool(int argc, char** argv) {
     CLI::App app("Draws the pictures of Ventrel.", "ventrel-art");
     app.footer("\nExit status: 0 done; 1 a file cannot be read or written; 2 wrong usage.");
     app.require_subcommand(0, 1);
     int status = wrongUsage;
     const std::vector<Command> commands = allCommands();
     std::vector<Words> values;
+    values.reserve(commands.size());
     for (const Command& command : commands) {
         values.emplace_back(command.operands.size());
     }
@@ -112,4 +112,15 @@ int main(int argc, char** argv) {
     return app.get_subcommands().empty()
                ? complain("A command is required\nventrel-art --help tells more.", wrongUsage)
                : status;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return runTool(argc, argv);
+    } catch (const std::exception& error) { // such as memory that ran out
+        std::fprintf(stderr, "ventrel-art: %s\n", error.what());
+        return failure;
+    }
 }

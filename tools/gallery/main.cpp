@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include <cstdio>
+#include <exception>
 #include <filesystem>
 #include <string>
 
@@ -63,9 +64,7 @@ int inWindow(const Arguments& arguments, FontSet& fonts) {
     return 0;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int runGallery(int argc, char** argv) {
     CLI::App app("Shows the controls, menus, boxes, faces and drawing of the virtual desktop.",
                  "ventrel-gallery");
     app.footer("\nIn its window it says what happens, a line each, on the standard output.");
@@ -90,4 +89,15 @@ int main(int argc, char** argv) {
     const std::filesystem::path program = argv[0];
     FontSet fonts(program.parent_path() / "fonts", [](auto... words) { complain(words...); });
     return arguments.picture.empty() ? inWindow(arguments, fonts) : intoFile(arguments, fonts);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return runGallery(argc, argv);
+    } catch (const std::exception& error) { // such as memory that ran out
+        std::fprintf(stderr, "ventrel-gallery: %s\n", error.what());
+        return failure;
+    }
 }
