@@ -58,9 +58,9 @@ struct Settings {
     std::optional<Rect> windowPlace = {};
 };
 
-Settings readSettings(const ProfileFile& profile) {
+Settings readSettings(const ProfileFile& profile, const Screen& screen) {
     Settings settings{.options = ReadOptions(profile)};
-    settings.window = chooseWindowSize(settings.options, screenSize().value_or(Size{}));
+    settings.window = chooseWindowSize(settings.options, screen.size().value_or(Size{}));
     settings.windowPlace = readWindowPlace(profile, settings.window.width);
     return settings;
 }
@@ -128,7 +128,8 @@ int play(const std::filesystem::path& executable) {
     const std::filesystem::path programFolder = executable.parent_path();
     const std::filesystem::path playerFolder = playerDataFolder(programFolder, programName);
     OptionsStore store(optionsFile(executable, playerFolder));
-    const Settings settings = readSettings(store.atStart());
+    const Screen screen;
+    const Settings settings = readSettings(store.atStart(), screen);
 
     ProgramData data = openProgramData(programFolder);
     if (!data.fonts.hasFaces()) {

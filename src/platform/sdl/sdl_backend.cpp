@@ -397,10 +397,13 @@ constexpr std::string_view noScreenText = "There is no screen to show Ventrel on
 
 } // namespace
 
-std::optional<Size> screenSize() {
-    const VideoSystem video;
+Screen::Screen() : video_(std::make_unique<VideoSystem>()) {}
+
+Screen::~Screen() = default;
+
+std::optional<Size> Screen::size() const {
     SDL_DisplayMode mode;
-    if (!video.hasScreen() || SDL_GetDesktopDisplayMode(0, &mode) != 0) {
+    if (!video_->hasScreen() || SDL_GetDesktopDisplayMode(0, &mode) != 0) {
         return std::nullopt;
     }
     return Size{mode.w, mode.h};

@@ -37,8 +37,23 @@ public:
     virtual WindowPlacement placement() const = 0;
 };
 
-/// The size of the machine's screen, before any window; none when there is no screen.
-std::optional<Size> screenSize();
+class VideoSystem;
+
+/// The connection to the machine's screen, before there is a window. Kept until after the window has gone: a
+/// server that nobody else uses starts anew between two connections, and refuses whoever comes meanwhile.
+class Screen {
+public:
+    Screen();
+    Screen(const Screen&) = delete;
+    Screen& operator=(const Screen&) = delete;
+    ~Screen();
+
+    /// None when there is no screen.
+    std::optional<Size> size() const;
+
+private:
+    std::unique_ptr<VideoSystem> video_;
+};
 
 /// Opens the window, hidden. Null, after a report, when there is no screen to show it on.
 std::unique_ptr<SdlBackend> openSdlBackend(const SdlOptions& options, const FailureReporter& report);
