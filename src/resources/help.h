@@ -34,6 +34,7 @@ inline constexpr std::array keyRows{std::to_array<KeyRow>({
     {"Esc", "", "boss key: hide the window"},
     {"Ctrl+S", "", "schedule of the shift"},
     {"Alt+F, Alt+O, Alt+H", "", "menus File, Options, Help"},
+    {"F11, Alt+Enter", "", "full screen or a window"},
     {"Alt+F4", "", "exit"},
 })};
 
