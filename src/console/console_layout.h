@@ -35,6 +35,7 @@ struct StripsLayout {
     int count;
     int pitch;     ///< pixels from one strip to the next
     Rect column;   ///< the window
+    int margin;    ///< pixels of the column's own colour left of it, for its text begins at its very edge
     int routeLine; ///< top of a strip's first line below the strip's own top, which the column's first is
     int stateLine; ///< and of its second
     Rect firstButton;
@@ -42,6 +43,8 @@ struct StripsLayout {
     Rect scrollDown;
 
     constexpr Rect button(int strip) const { return firstButton.movedBy({0, pitch * strip}); }
+    /// The recess that holds the column.
+    constexpr Rect well() const { return {column.left - margin, column.top, column.right, column.bottom}; }
     /// Strips, buttons and arrows together: where the wheel scrolls. It reaches to the window's edge.
     constexpr Rect wheelArea(Size window) const {
         return {firstButton.left, scrollUp.top, window.width, scrollDown.bottom};
@@ -95,6 +98,7 @@ constexpr StripsLayout stripsOf(const ConsoleSizes& sizes) {
         .count = sizes.strips,
         .pitch = 37,
         .column = Rect::at({right - 155, 71}, {139, sizes.stripColumnHeight}),
+        .margin = 3,
         .routeLine = 2,
         .stateLine = 16,
         .firstButton = Rect::at({right - 190, 81}, {20, 12}),
@@ -151,7 +155,7 @@ constexpr bool partsStandApart(const ConsoleLayout& console) {
            window.contains(strips.column) && window.contains(console.controlPanel) &&
            window.contains(console.execButton) && !radar.intersects(console.topBar.ticker) &&
            !radar.intersects(strips.button(0)) && !strips.button(0).intersects(strips.column) &&
-           !strips.button(0).intersects(strips.scrollUp) && !strips.scrollUp.intersects(strips.column) &&
+           !strips.button(0).intersects(strips.scrollUp) && !strips.scrollUp.intersects(strips.well()) &&
            !strips.column.intersects(console.controlPanel) &&
            !console.controlPanel.intersects(console.execButton);
 }

@@ -65,7 +65,7 @@ constexpr PanelLayout panelLayoutAt(const PanelAnchors& at) {
     return {
         .size = {168, 109},
         .dialMiddle = at.dialMiddle,
-        .dialRadius = 30,
+        .dialRadius = 29,
         .dialPress = Rect{-30, -30, 30, 30}.movedBy(at.dialMiddle),
         .altitudeWell = Rect{0, 1, 41, 88}.movedBy(at.altitudeScale),
         .altitudePress = Rect{0, 0, 50, 89}.movedBy(at.altitudeScale),

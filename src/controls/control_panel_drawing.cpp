@@ -4,6 +4,7 @@
 #include <string>
 
 #include "console/panel_layout.h"
+#include "controls/tight_line.h"
 #include "platform/canvas/text.h"
 
 namespace ventrel {
@@ -98,8 +99,7 @@ void paintControlPanel(Canvas& canvas, const Bitmap& background, const ControlPa
     if (flight == nullptr) {
         return;
     }
-    drawTextInside(canvas, font, places.preview.topLeft(), previewLine(panel, game), {amber, black},
-                   places.preview);
+    drawTightLine(canvas, font, places.preview, previewLine(panel, game), {amber, black});
     if (panel.pending.directTarget.isOn()) {
         drawTarget(canvas, panel.pending, game, font);
     } else if (flight->isAirborne()) {

@@ -49,7 +49,9 @@ Bitmap composeMap(const RadarLayout& layout, const MapParts& parts, const Font& 
     Canvas canvas(map);
     canvas.draw(square, parts.frame, square);
     canvas.setClip(Region::ellipse(layout.scopeEllipse));
-    canvas.fill(square, black);
+    if (!parts.showPicture || parts.airport != nullptr) {
+        canvas.fill(square, black);
+    }
     if (parts.showPicture && parts.airport != nullptr) {
         canvas.draw({0, 0}, *parts.airport);
     }

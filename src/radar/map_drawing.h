@@ -16,8 +16,8 @@ namespace ventrel {
 
 /// The pictures and choices that a map is made of.
 struct MapParts {
-    const Bitmap& frame;             ///< the console around the scope, at least the scope's square
-    const Bitmap* airport = nullptr; ///< the airport's own picture; none: black
+    const Bitmap& frame; ///< the scope's glass and the console around it, at least the scope's square
+    const Bitmap* airport = nullptr; ///< the airport's own picture; none: the frame's glass
     std::span<const Vor> vors;       ///< later points are drawn over earlier ones
     bool showPicture = true;         ///< off: black inside the scope, whatever there is
     bool showGrid = false;

@@ -7,6 +7,7 @@
 
 #include "console_stage.h"
 #include "controls/control_panel_drawing.h"
+#include "controls/tight_line.h"
 #include "golden.h"
 
 namespace ventrel {
@@ -223,6 +224,51 @@ TEST(PreviewTest, TellsWhatTheFlightIsDoing) {
         flight.groundState = state;
         EXPECT_EQ(previewLine(stage.panel.state, stage.game), "UA123: Takeoff in progress");
     }
+}
+
+TEST(PreviewTest, EveryWordOfEveryOrderFitsIntoTheLine) {
+    PanelStage stage;
+    Flight& flight = stage.fly();
+    flight.planLength = 2;
+    CtrlSetFlight(stage.panel, 0);
+    const Font& font = stage.fonts.font({Face::arial, -11, false});
+    const int room = panelLayout.preview.width();
+    int tooWide = 0;
+    for (const char* callsign : {"UA123", "TWA89", "AMW8492H"}) {
+        flight.callsign = std::string_view{callsign};
+        for (int heading = 0; heading < fullCircle; heading += headingStep) {
+            for (int altitude = 1; altitude <= 10; ++altitude) {
+                flight.plan = {flying(5, 45), flying(altitude, heading)};
+                const std::string line = previewLine(stage.panel.state, stage.game);
+                tooWide += font.width(line) > room ? 1 : 0;
+                EXPECT_LE(tightLineWidth(font, line, room), room) << line;
+            }
+        }
+    }
+    EXPECT_GT(tooWide, 50) << "else nothing has to give way";
+}
+
+TEST(PreviewTest, OnlyWhatIsTooWideMovesCloser) {
+    PanelStage stage;
+    const Font& font = stage.fonts.font({Face::arial, -11, false});
+    const auto drawn = [&](std::string_view text, const Rect& box) {
+        Bitmap picture({200, 20});
+        Canvas canvas(picture);
+        drawTightLine(canvas, font, box, text, {selectedWhite, black});
+        return picture;
+    };
+    const int natural = font.width("to fly");
+    const int blank = font.width(" ");
+    EXPECT_EQ(tightLineWidth(font, "to fly", natural), natural);
+    EXPECT_EQ(tightLineWidth(font, "to fly", natural - 1), natural - 1);
+    EXPECT_EQ(tightLineWidth(font, "to fly", 1), natural - (blank - 1) - 4) << "four letters can move";
+    const Rect box{2, 2, 2 + natural - blank + 1, 15};
+    const Bitmap picture = drawn("to fly", box);
+    EXPECT_EQ(crop(picture, {2, 2, 2 + font.width("to"), 15}),
+              crop(drawn("to", box), {2, 2, 2 + font.width("to"), 15}))
+        << "the blank gives way before the letters";
+    EXPECT_EQ(count(picture, black, {box.right, 0, 200, 20}), (200 - box.right) * 20)
+        << "nothing leaves the box";
 }
 
 TEST(PreviewTest, IsPaintedAnewOnceAfterEveryMoveOfTheFlights) {

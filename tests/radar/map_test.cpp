@@ -74,7 +74,7 @@ TEST_F(MapTest, TheOptionsDecideOnPictureAndGrid) {
     const auto isInside = [&](Point p) { return stage.radar.scope.contains(p); };
     const auto map = [&](Point p) { return toColour(stage.radar.map->at(p.x, p.y)); };
     const Point inside{270, 271};
-    EXPECT_EQ(map(inside), black) << "an airport without a picture";
+    EXPECT_EQ(map(inside), frameColour) << "the glass, for an airport without a picture";
     Bitmap picture({539, 539});
     Canvas(picture).fill(picture.bounds(), pictureGreen);
     stage.radar.airportImage = std::move(picture);

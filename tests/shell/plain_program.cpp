@@ -25,6 +25,15 @@ Bitmap plain(Size size, Colour colour) {
     return bitmap;
 }
 
+/// With a black glass.
+Bitmap plainFrame(const RadarLayout& layout) {
+    Bitmap frame = plain(scopeSquare(layout).size(), consoleColour);
+    Canvas canvas(frame);
+    canvas.setClip(Region::ellipse(layout.scopeEllipse));
+    canvas.fill(frame.bounds(), Colour::rgb(0, 0, 0));
+    return frame;
+}
+
 Bitmap plainCloud() {
     Bitmap cloud = plain(cloudSize, cloudTransparent);
     Canvas(cloud).filledEllipse(cloud.bounds(), cloudColour, cloudColour);
@@ -42,8 +51,8 @@ void makePlainProgram(const fs::path& folder) {
     };
     write("bkgnd8", plain({800, 600}, consoleColour));
     write("bkgnd10", plain({1024, 768}, consoleColour));
-    write("r8frame", plain({539, 539}, consoleColour));
-    write("r10frame", plain({686, 686}, consoleColour));
+    write("r8frame", plainFrame(smallRadarLayout));
+    write("r10frame", plainFrame(largeRadarLayout));
     for (const std::string colour : {"green", "yellow", "red"}) {
         write("lamp_" + colour + "_dark", plain(lampSize, Colour::rgb(40, 40, 40)));
         write("lamp_" + colour + "_bright", plain(lampSize, Colour::rgb(250, 250, 250)));

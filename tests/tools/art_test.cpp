@@ -114,6 +114,39 @@ TEST(Art, ClearPartsAreExactlyTheKeyAndNothingElseComesNearIt) {
     }
 }
 
+TEST(Art, CloudsAreDarkAndHaveNoHolesInside) {
+    constexpr int ditherStep = 4; // the clear pixels of a soft edge lie no further apart
+    for (int i = 0; i < cloudPictures; ++i) {
+        const Bitmap cloud = picture(cloudName(i));
+        std::set<std::pair<int, int>> outside{{0, 0}};
+        std::vector<Point> toVisit{{0, 0}};
+        while (!toVisit.empty()) {
+            const Point at = toVisit.back();
+            toVisit.pop_back();
+            const Rect near = Rect{at.x, at.y, at.x + 1, at.y + 1}.grownBy(ditherStep);
+            const Rect area = near.intersectedWith(cloud.bounds());
+            for (int y = area.top; y < area.bottom; ++y) {
+                for (int x = area.left; x < area.right; ++x) {
+                    if (isKey(cloud, x, y) && outside.insert({x, y}).second) {
+                        toVisit.push_back({x, y});
+                    }
+                }
+            }
+        }
+        int holes = 0;
+        int brightest = 0;
+        for (int y = 0; y < cloud.height(); ++y) {
+            for (int x = 0; x < cloud.width(); ++x) {
+                const bool isClear = isKey(cloud, x, y);
+                holes += isClear && !outside.contains({x, y}) ? 1 : 0;
+                brightest = isClear ? brightest : std::max(brightest, brightness(toColour(cloud.at(x, y))));
+            }
+        }
+        EXPECT_EQ(holes, 0) << i;
+        EXPECT_LT(brightest, 190) << i;
+    }
+}
+
 TEST(Art, EveryCloudHasASizeOfItsOwn) {
     std::set<std::pair<int, int>> sizes;
     for (int i = 0; i < cloudPictures; ++i) {

@@ -44,43 +44,55 @@ double drawn(RandomGenerator& random, double from, double to) {
     return from + (to - from) * Random(random, steps) / (steps - 1);
 }
 
-/// Shape, billows, light: the blurred shape times cloudy noise is the cloud's thickness. Thin parts are dark
-/// and let the hard edge sink into the map below; what is thinner still is clear.
+/// Shape, billows, light. The edge is the blurred shape, torn by fine noise, and thins out slowly: it is
+/// dithered away when the picture is made. Inside it a core keeps the cloud whole, and its billows only shade
+/// it.
 std::string softness(const Cloud& cloud) {
+    constexpr double rim = 6; // over which the cloud fades where it would reach the picture's edge
     const double height = cloud.size.height;
     const std::string area = "x=\"0\" y=\"0\" width=\"" + std::to_string(cloud.size.width) + "\" height=\"" +
                              std::to_string(cloud.size.height) + '"';
+    const std::string noise = "\" numOctaves=\"4\" seed=\"" + std::to_string(cloud.seed);
     return "<filter id=\"cloud\" filterUnits=\"userSpaceOnUse\" " + area +
            " color-interpolation-filters=\"sRGB\">\n"
            "<feGaussianBlur in=\"SourceAlpha\" stdDeviation=\"" +
-           number(height * 0.055 + 1.5) +
+           number(height * 0.045 + 1.6) +
            "\" result=\"mass\"/>\n"
            "<feTurbulence type=\"fractalNoise\" baseFrequency=\"" +
-           number(1 / (height * 0.16 + 7)) + "\" numOctaves=\"4\" seed=\"" + std::to_string(cloud.seed) +
+           number(1 / (height * 0.12 + 5)) + noise +
            "\" result=\"noise\"/>\n"
            "<feDisplacementMap in=\"mass\" in2=\"noise\" scale=\"" +
-           number(6 + height * 0.12) +
+           number(14 + height * 0.2) +
            "\" xChannelSelector=\"R\" yChannelSelector=\"G\" result=\"torn\"/>\n"
            "<feColorMatrix in=\"noise\" values=\"0 0 0 0 0  0 0 0 0 0  0 0 0 0 0  1.5 1 0 0 -.74\" "
            "result=\"billows\"/>\n"
-           "<feComposite in=\"torn\" in2=\"billows\" operator=\"arithmetic\" k1=\".95\" k2=\".40\" k3=\"0\" "
+           "<feComposite in=\"torn\" in2=\"billows\" operator=\"arithmetic\" k1=\".85\" k2=\".30\" k3=\"0\" "
            "k4=\"0\" result=\"thickness\"/>\n"
-           "<feGaussianBlur in=\"thickness\" stdDeviation=\"2.3\" result=\"smooth\"/>\n"
+           "<feGaussianBlur in=\"thickness\" stdDeviation=\"2.8\" result=\"smooth\"/>\n"
            "<feDiffuseLighting in=\"smooth\" surfaceScale=\"" +
-           number(4 + height * 0.03) +
-           "\" diffuseConstant=\"1.24\" lighting-color=\"#fffdf6\" result=\"lit\">"
-           "<feDistantLight azimuth=\"225\" elevation=\"52\"/></feDiffuseLighting>\n"
+           number(3 + height * 0.02) +
+           "\" diffuseConstant=\"1.1\" lighting-color=\"#eef1f4\" result=\"lit\">"
+           "<feDistantLight azimuth=\"225\" elevation=\"58\"/></feDiffuseLighting>\n"
            "<feColorMatrix in=\"thickness\" values=\"0 0 0 1 0  0 0 0 1 0  0 0 0 1 0  0 0 0 0 1\"/>\n"
            "<feComponentTransfer result=\"shade\">"
-           "<feFuncR type=\"table\" tableValues=\".12 .24 .40 .60 .78 .93\"/>"
-           "<feFuncG type=\"table\" tableValues=\".15 .28 .44 .64 .81 .94\"/>"
-           "<feFuncB type=\"table\" tableValues=\".19 .33 .50 .70 .85 .96\"/></feComponentTransfer>\n"
-           "<feComposite in=\"lit\" in2=\"shade\" operator=\"arithmetic\" k1=\".62\" k2=\"0\" k3=\".42\" "
+           "<feFuncR type=\"table\" tableValues=\".14 .20 .28 .36 .44 .52\"/>"
+           "<feFuncG type=\"table\" tableValues=\".17 .23 .31 .39 .47 .55\"/>"
+           "<feFuncB type=\"table\" tableValues=\".20 .27 .35 .44 .52 .60\"/></feComponentTransfer>\n"
+           "<feComposite in=\"lit\" in2=\"shade\" operator=\"arithmetic\" k1=\".80\" k2=\"0\" k3=\".24\" "
            "k4=\"0\" "
            "result=\"shaded\"/>\n"
-           "<feComponentTransfer in=\"thickness\" result=\"cut\">"
-           "<feFuncA type=\"linear\" slope=\"14\" intercept=\"-2.6\"/></feComponentTransfer>\n"
-           "<feComposite in=\"shaded\" in2=\"cut\" operator=\"in\"/></filter>\n";
+           "<feComponentTransfer in=\"torn\" result=\"edge\">"
+           "<feFuncA type=\"linear\" slope=\"1.7\" intercept=\"-.17\"/></feComponentTransfer>\n"
+           "<feComponentTransfer in=\"mass\" result=\"core\">"
+           "<feFuncA type=\"linear\" slope=\"4\" intercept=\"-2\"/></feComponentTransfer>\n"
+           "<feMerge result=\"cut\"><feMergeNode in=\"edge\"/><feMergeNode in=\"core\"/></feMerge>\n"
+           "<feFlood x=\"" +
+           number(rim) + "\" y=\"" + number(rim) + "\" width=\"" + number(cloud.size.width - 2 * rim) +
+           "\" height=\"" + number(height - 2 * rim) +
+           "\" result=\"sheet\"/>\n"
+           "<feGaussianBlur in=\"sheet\" stdDeviation=\"2\" result=\"frame\"/>\n"
+           "<feComposite in=\"cut\" in2=\"frame\" operator=\"in\" result=\"faded\"/>\n"
+           "<feComposite in=\"shaded\" in2=\"faded\" operator=\"in\"/></filter>\n";
 }
 
 } // namespace

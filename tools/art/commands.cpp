@@ -77,10 +77,31 @@ bool save(const fs::path& file, const Bitmap& bitmap) {
     return isWritten;
 }
 
-/// The colour of a pixel that covers its ground as the two renderings show; the key where it is clear.
-Colour uncovered(Colour onBlack, Colour onWhite) {
+/// How much a dithered pixel must be covered, by its place in a square of four.
+// clang-format off
+constexpr std::array<std::array<int, 4>, 4> ditherSteps{{
+    { 0,  8,  2, 10},
+    {12,  4, 14,  6},
+    { 3, 11,  1,  9},
+    {15,  7, 13,  5},
+}};
+// clang-format on
+
+int leastCoverage(Edge edge, Point pixel) {
+    if (edge == Edge::crisp) {
+        return halfCovered;
+    }
+    constexpr int steps = 16;
+    const auto row = static_cast<std::size_t>(pixel.y % 4);
+    const auto column = static_cast<std::size_t>(pixel.x % 4);
+    return (2 * ditherSteps[row][column] + 1) * fullyCovered / (2 * steps);
+}
+
+/// The colour of a pixel that covers its ground as the two renderings show; the key where it does so less
+/// than `least`.
+Colour uncovered(Colour onBlack, Colour onWhite, int least) {
     const int coverage = fullyCovered - (onWhite.green() - onBlack.green());
-    if (coverage < halfCovered) {
+    if (coverage < least) {
         return keyColour;
     }
     const auto channel = [&](int value) {
@@ -150,7 +171,7 @@ bool cutRadarFrame(const fs::path& console, const fs::path& target) {
     return save(target, frame);
 }
 
-bool keyPicture(const fs::path& onBlack, const fs::path& onWhite, const fs::path& target) {
+bool keyPicture(const fs::path& onBlack, const fs::path& onWhite, const fs::path& target, Edge edge) {
     const auto black = load(onBlack);
     const auto white = load(onWhite);
     if (!black || !white) {
@@ -163,7 +184,8 @@ bool keyPicture(const fs::path& onBlack, const fs::path& onWhite, const fs::path
     Bitmap keyed(black->size());
     for (int y = 0; y < keyed.height(); ++y) {
         for (int x = 0; x < keyed.width(); ++x) {
-            keyed.at(x, y) = toPixel(uncovered(toColour(black->at(x, y)), toColour(white->at(x, y))));
+            const int least = leastCoverage(edge, {x, y});
+            keyed.at(x, y) = toPixel(uncovered(toColour(black->at(x, y)), toColour(white->at(x, y)), least));
         }
     }
     return save(target, keyed);

@@ -24,9 +24,15 @@ bool convertPicture(const std::filesystem::path& picture, const std::filesystem:
 /// Cuts the radar's frame out of a rendered console.
 bool cutRadarFrame(const std::filesystem::path& console, const std::filesystem::path& target);
 
+/// What becomes of the half covered pixels of a picture with clear parts.
+enum class Edge {
+    crisp,    ///< those less than half covered are clear
+    dithered, ///< of a patch of them as many are drawn as the patch is covered
+};
+
 /// Makes a picture whose clear parts have the one colour that the program leaves out, from two renderings of
-/// the same drawing: on black and on white ground. Parts less than half covered count as clear.
+/// the same drawing: on black and on white ground.
 bool keyPicture(const std::filesystem::path& onBlack, const std::filesystem::path& onWhite,
-                const std::filesystem::path& target);
+                const std::filesystem::path& target, Edge edge);
 
 } // namespace ventrel::art

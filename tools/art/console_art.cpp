@@ -10,11 +10,24 @@ namespace ventrel::art {
 
 namespace {
 
+/// That of the strips' window, which leaves a margin of its well free.
+constexpr std::string_view columnFloor = "#400800";
+
 constexpr double topBarBottom = 49;
 constexpr double topBarLabels = 14; // what the labels over its wells stand on
 /// A number of a bearing that would come nearer to the top bar or an edge is left out.
-constexpr double underTopBar = 14;
+constexpr double underTopBar = 5;
 constexpr double numberMargin = 9;
+
+/// The key of the system menu, with the bar that such keys bear.
+void drawSystemKey(Svg& svg, const Box& key) {
+    svg.rect({0, 0, key.right() + 2, key.bottom() + 2}, 0, "fill=\"#22292d\"");
+    svg.rect(key.grownBy(1), 0, "fill=\"#0c0f11\"");
+    svg.rect(key, 0, "fill=\"#59646a\"");
+    svg.rect({key.x, key.y, key.width - 1, key.height - 1}, 0, "fill=\"#eef3f4\"");
+    svg.rect({key.x + 1, key.y + 1, key.width - 2, key.height - 2}, 0, "fill=\"#a9b4b8\"");
+    svg.rect({key.x + 1, key.y + 2, key.width - 2, 2}, 0, "fill=\"#14181a\"");
+}
 
 void drawDragStrip(Svg& svg, const TopBarLayout& bar) {
     const Box strip(bar.dragStrip);
@@ -22,11 +35,7 @@ void drawDragStrip(Svg& svg, const TopBarLayout& bar) {
     for (double y = 1.5; y < strip.bottom(); y += 2) {
         svg.line({12, y}, {strip.right() - 6, y}, "stroke=\"#8d999e\" stroke-width=\".8\" opacity=\".6\"");
     }
-    const Box square(bar.systemSquare);
-    svg.rect(square, 0, "fill=\"#c8d0d2\"");
-    svg.rect(square.grownBy(-0.5), 0, "fill=\"none\" stroke=\"#0c0f11\" stroke-width=\"1\"");
-    svg.line({square.x + 1.5, square.middle().y}, {square.right() - 1.5, square.middle().y},
-             "stroke=\"#14181a\" stroke-width=\"1\"");
+    drawSystemKey(svg, Box(bar.systemSquare));
 }
 
 /// The pill-shaped tray around the three lamps.
@@ -50,6 +59,7 @@ void drawTopBar(Svg& svg, const TopBarLayout& bar) {
         drawWell(svg, Box(button), "#14191b");
     }
     drawEngraved(svg, {Box(bar.optionsButton).middle().x, topBarLabels}, "COMMAND", 2.2);
+    drawEngraved(svg, {Box(bar.helpButton).middle().x, topBarLabels}, "F1 HELP", 1);
     drawRoundWell(svg, Box(bar.smallScopeFace.movedBy(bar.smallScope.topLeft())));
     drawWell(svg, Box(bar.clock), "#000");
     drawEngraved(svg, {Box(bar.clock).middle().x, topBarLabels}, "SHIFT TIME", 0.6);
@@ -74,20 +84,21 @@ void drawScope(Svg& svg, const ConsoleFittings& fittings) {
     drawScopeBezel(svg, scope);
     drawScopeTube(svg, scope);
     drawScopeReflections(svg, scope);
+    drawScopeLip(svg, scope);
     drawBearingNumbers(svg, scope, sheetAroundScope(fittings));
 }
 
 void drawStrips(Svg& svg, const StripsLayout& strips) {
     constexpr double labels = 65; // what the labels over strips and buttons stand on
-    const Box column(strips.column);
-    drawWell(svg, column);
-    drawEngraved(svg, {column.middle().x, labels}, "FLIGHT PROGRESS", 1.6);
+    const Box well(strips.well());
+    drawWell(svg, well, columnFloor);
+    drawEngraved(svg, {well.middle().x, labels}, "FLIGHT PROGRESS", 1.6);
     drawEngraved(svg, {Box(strips.firstButton).middle().x, labels}, "SEL", 1);
     for (int i = 0; i < strips.count; ++i) {
         const Box button(strips.button(i));
-        drawWell(svg, button, "#14191b");
+        drawWell(svg, button, "#14191b", 1);
         const double y = button.middle().y;
-        svg.line({button.right() + 4, y + 0.5}, {column.x - 4, y + 0.5}, "stroke=\"#ffb066\" opacity=\".8\"");
+        svg.line({button.right() + 4, y + 0.5}, {well.x - 4, y + 0.5}, "stroke=\"#ffb066\" opacity=\".8\"");
         drawNumber(svg, {button.x - 10, y}, std::to_string(i + 1), ivory);
     }
     drawArrowKey(svg, Box(strips.scrollUp), true);

@@ -21,6 +21,23 @@ std::string moved(Spot from, Spot to) {
     return 'M' + number(from.x) + ',' + number(from.y) + " L" + number(to.x) + ',' + number(to.y);
 }
 
+struct Figures {
+    double size;
+    double height; ///< pixels
+};
+
+/// Every figure takes four pixels; its own width is a part of its size.
+void drawFigures(Svg& svg, Spot middle, std::string_view text, const Figures& figures,
+                 std::string_view colour) {
+    constexpr double widthPart = 0.4556;
+    constexpr double pitch = 4;
+    constexpr double sharpest = 0.6; // where the upright strokes of the figures fall on whole pixels
+    const double toPitch = pitch - widthPart * figures.size;
+    const Spot base{std::round(middle.x - sharpest) + sharpest, std::round(middle.y + figures.height / 2)};
+    svg.text({base.x, base.y - 1}, text, figures.size, toPitch, "fill=\"#0c0f10\" opacity=\".45\"");
+    svg.text(base, text, figures.size, toPitch, "fill=\"" + std::string(colour) + '"');
+}
+
 } // namespace
 
 void drawSheet(Svg& svg, Size size) {
@@ -134,7 +151,7 @@ void drawKey(Svg& svg, const Box& area) {
 
 void drawArrowKey(Svg& svg, const Box& area, bool up) {
     constexpr double half = 2;
-    drawKey(svg, area);
+    drawKey(svg, area.grownBy(-1));
     const Spot middle = area.middle();
     const double tip = up ? -half : half;
     svg.path('M' + number(middle.x - 3) + ',' + number(middle.y - tip) + " h6 L" + number(middle.x) + ',' +
@@ -154,13 +171,11 @@ void drawPrinted(Svg& svg, Spot middle, std::string_view words, double size, dou
 }
 
 void drawNumber(Svg& svg, Spot middle, std::string_view figures, std::string_view colour) {
-    constexpr double size = sixPixelCapitals;
-    constexpr double toFourPixels = 0.027; // a figure's own width is 0.4556 of its size
-    constexpr double halfHeight = 3;
-    constexpr double sharpest = 0.6; // where the upright strokes of the figures fall on whole pixels
-    const Spot base{std::round(middle.x - sharpest) + sharpest, std::round(middle.y + halfHeight)};
-    svg.text({base.x, base.y - 1}, figures, size, toFourPixels, "fill=\"#0c0f10\" opacity=\".45\"");
-    svg.text(base, figures, size, toFourPixels, "fill=\"" + std::string(colour) + '"');
+    drawFigures(svg, middle, figures, {.size = sixPixelCapitals, .height = 6}, colour);
+}
+
+void drawSmallNumber(Svg& svg, Spot middle, std::string_view figures, std::string_view colour) {
+    drawFigures(svg, middle, figures, {.size = fivePixelCapitals, .height = 5}, colour);
 }
 
 } // namespace ventrel::art

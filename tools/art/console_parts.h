@@ -29,7 +29,7 @@ void drawHandle(Svg& svg, const Box& area);
 
 /// A raised key that takes exactly `area`.
 void drawKey(Svg& svg, const Box& area);
-/// The same with a triangle that points up or down.
+/// The same a pixel smaller on every side, in a dark gap, with a triangle that points up or down.
 void drawArrowKey(Svg& svg, const Box& area, bool up);
 
 /// Sizes of letters whose capitals are exactly five and six pixels tall.
@@ -45,6 +45,8 @@ void drawPrinted(Svg& svg, Spot middle, std::string_view words, double size, dou
 
 /// A printed number whose figures all stand on whole pixels. `middle` is that of its figures.
 void drawNumber(Svg& svg, Spot middle, std::string_view figures, std::string_view colour);
+/// The same a pixel lower, for places where there is no more room.
+void drawSmallNumber(Svg& svg, Spot middle, std::string_view figures, std::string_view colour);
 
 inline constexpr std::string_view ivory = "#f0ebda";
 inline constexpr std::string_view amber = "#ffb570";

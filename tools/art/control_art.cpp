@@ -15,10 +15,21 @@ namespace {
 constexpr const PanelLayout& places = panelLayout;
 /// Horizontal needles are three rows, of which the pivot is the middle one.
 constexpr Spot dialMiddle{places.dialMiddle.x + 0.0, places.dialMiddle.y + 0.5};
-constexpr double sideNumberRadius = 38.4;
-constexpr double topNumberRadius = 37;
-constexpr double bottomNumberRadius = 35; // close above the selector
-constexpr std::array<std::string_view, 8> dialNumbers{"360", "045", "090", "135", "180", "225", "270", "315"};
+/// A number of the dial and how far from its middle it stands. Lamps and selector leave little room.
+struct DialNumber {
+    std::string_view figures;
+    double radius;
+};
+constexpr std::array<DialNumber, 8> dialNumbers{{
+    {"360", 36},
+    {"045", 39},
+    {"090", 37.6},
+    {"135", 39},
+    {"180", 34.8},
+    {"225", 39},
+    {"270", 38.5},
+    {"315", 39},
+}};
 
 struct SpeedLamp {
     Rect lens;
@@ -46,15 +57,11 @@ Spot around(Spot centre, double radius, double degrees) {
     return {centre.x + radius * std::sin(angle), centre.y - radius * std::cos(angle)};
 }
 
-double numberRadius(int degrees) {
-    return degrees == 0 ? topNumberRadius : degrees == 180 ? bottomNumberRadius : sideNumberRadius;
-}
-
 void drawDial(Svg& svg, Point corner) {
     const Spot middle = at(corner, dialMiddle);
     constexpr double dialRadius = places.dialRadius;
-    svg.circle(middle, dialRadius + 2, "fill=\"url(#rim)\"");
-    svg.circle(middle, dialRadius + 1, "fill=\"#14181a\"");
+    svg.circle(middle, dialRadius + 1.6, "fill=\"url(#rim)\"");
+    svg.circle(middle, dialRadius + 0.8, "fill=\"#14181a\"");
     svg.circle(middle, dialRadius, "fill=\"url(#glass)\"");
     for (int degrees = 0; degrees < 360; degrees += 15) {
         const bool isHeading = degrees % 45 == 0;
@@ -66,7 +73,8 @@ void drawDial(Svg& svg, Point corner) {
     svg.circle(middle, 2.6, "fill=\"url(#screw)\"");
     for (std::size_t i = 0; i < dialNumbers.size(); ++i) {
         const int degrees = 45 * static_cast<int>(i);
-        drawNumber(svg, around(middle, numberRadius(degrees), degrees), dialNumbers[i], ivory);
+        const DialNumber& printed = dialNumbers[i];
+        drawSmallNumber(svg, around(middle, printed.radius, degrees), printed.figures, ivory);
     }
 }
 

@@ -79,7 +79,15 @@ std::vector<Command> allCommands() {
         {"key",
          "Makes a picture with clear parts of two renderings",
          {"ONBLACK.png", "ONWHITE.png", "OUT"},
-         [](const Words& words) { return statusOf(art::keyPicture(words[0], words[1], words[2])); }},
+         [](const Words& words) {
+             return statusOf(art::keyPicture(words[0], words[1], words[2], art::Edge::crisp));
+         }},
+        {"dither",
+         "The same with a soft edge",
+         {"ONBLACK.png", "ONWHITE.png", "OUT"},
+         [](const Words& words) {
+             return statusOf(art::keyPicture(words[0], words[1], words[2], art::Edge::dithered));
+         }},
     };
 }
 

@@ -1,5 +1,7 @@
 #include "tools/art/scope_art.h"
 
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
 
@@ -12,7 +14,7 @@ namespace {
 
 constexpr double bezelOuter = 9.5; // pixels outside the scope
 constexpr double bezelFace = 8;
-constexpr double bezelInner = 2;
+constexpr double bezelInner = 3.2;
 
 Box ringAt(const Box& scope, double part) {
     const Spot middle = scope.middle();
@@ -34,6 +36,10 @@ void drawGraticule(Svg& svg, const Box& scope) {
         svg.line(onScopeRim(scope, -2, degrees), onScopeRim(scope, -2 - length, degrees), "");
     }
     svg.close();
+}
+
+bool contains(const Box& area, Spot spot) {
+    return spot.x > area.x && spot.x < area.right() && spot.y > area.y && spot.y < area.bottom();
 }
 
 } // namespace
@@ -107,20 +113,44 @@ void drawScopeBezel(Svg& svg, const Box& scope) {
                  : isTen  ? "stroke=\"#e6e1ce\" stroke-width=\"1.2\""
                           : "stroke=\"#d9d5c4\" stroke-width=\".8\" opacity=\".7\"");
     }
-    const Spot north = onScopeRim(scope, bezelOuter, 0);
-    svg.path('M' + number(north.x - 5) + ',' + number(north.y - 6) + " h10 l-5,6.5 z",
-             "fill=\"#ffb066\" stroke=\"#1a1206\" stroke-width=\".8\"");
 }
 
+void drawScopeLip(Svg& svg, const Box& scope) {
+    constexpr double inside = 1; // hides where the picture's round edge has steps
+    constexpr double width = inside + bezelInner - 0.4;
+    svg.ellipse(scope.grownBy(width / 2 - inside),
+                "fill=\"none\" stroke=\"#07090a\" stroke-width=\"" + number(width) + '"');
+}
+
+namespace {
+
+std::string_view bearingColour(int degrees) {
+    return degrees % 30 == 0 ? amber : "#d5d1c0";
+}
+
+/// On the bezel's face, in place of its marks.
+void drawBearingOnFace(Svg& svg, const Box& scope, int degrees, std::string_view figures) {
+    constexpr double faceMiddle = (bezelFace + bezelInner) / 2;
+    constexpr double halfWidth = 7.5;
+    constexpr double halfHeight = 2.6;
+    const Spot place = onScopeRim(scope, faceMiddle, degrees);
+    svg.rect({place.x - halfWidth, place.y - halfHeight, 2 * halfWidth, 2 * halfHeight}, 2,
+             "fill=\"#1d2225\"");
+    drawSmallNumber(svg, place, figures, bearingColour(degrees));
+}
+
+} // namespace
+
 void drawBearingNumbers(Svg& svg, const Box& scope, const Box& area) {
-    constexpr double distance = 20;
-    for (int degrees = 10; degrees < 360; degrees += 10) {
-        const Spot place = onScopeRim(scope, distance, degrees);
-        const bool isInside =
-            place.x > area.x && place.x < area.right() && place.y > area.y && place.y < area.bottom();
-        if (isInside) {
-            drawNumber(svg, place, FormatText("%03d", {long{degrees}}),
-                       degrees % 30 == 0 ? amber : "#d5d1c0");
+    constexpr std::array distances{20.0, 15.0}; // the nearer one where the sheet ends
+    for (int degrees = 10; degrees <= 360; degrees += 10) {
+        const std::string figures = FormatText("%03d", {long{degrees}});
+        const auto* const distance = std::ranges::find_if(
+            distances, [&](double outward) { return contains(area, onScopeRim(scope, outward, degrees)); });
+        if (distance == distances.end()) {
+            drawBearingOnFace(svg, scope, degrees, figures);
+        } else {
+            drawNumber(svg, onScopeRim(scope, *distance, degrees), figures, bearingColour(degrees));
         }
     }
 }

@@ -23,7 +23,11 @@ void drawSweep(Svg& svg, Spot middle, double radius, const Sweep& sweep);
 /// The bezel around it, with a mark every two degrees.
 void drawScopeBezel(Svg& svg, const Box& scope);
 
-/// The numbers of the bearings every ten degrees, outside the bezel, as far as they fall inside `area`.
+/// The dark lip that closes the glass, so that whatever picture it shows ends at a clean edge.
+void drawScopeLip(Svg& svg, const Box& scope);
+
+/// The numbers of the bearings every ten degrees: outside the bezel where they fall inside `area`, else on
+/// it.
 void drawBearingNumbers(Svg& svg, const Box& scope, const Box& area);
 
 /// The point `outward` pixels outside the scope's edge; 0 degrees is up.
