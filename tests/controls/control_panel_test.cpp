@@ -229,8 +229,7 @@ TEST(PreviewTest, TellsWhatTheFlightIsDoing) {
 TEST(PreviewTest, EveryWordOfEveryOrderFitsIntoTheLine) {
     PanelStage stage;
     Flight& flight = stage.fly();
-    flight.planLength = 2;
-    CtrlSetFlight(stage.panel, 0);
+    CtrlSetFlight(stage.panel, FlightIndex{0});
     const Font& font = stage.fonts.font({Face::arial, -11, false});
     const int room = panelLayout.preview.width();
     int tooWide = 0;

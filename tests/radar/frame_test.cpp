@@ -28,6 +28,8 @@ TEST(FrameTest, EveryHeadingAndStateOfAFlightLooksAsItDid) {
         bool selected;
     };
     RadarStage stage(largeRadarLayout);
+    stage.options.mapDetails = 0; // on black
+    stage.buildMap();
     int row = 0;
     for (const Look& look : {Look{Alert::none, false}, Look{Alert::none, true}, Look{Alert::nearMiss, true},
                              Look{Alert::success, false}, Look{Alert::failure, false}}) {
@@ -45,6 +47,8 @@ TEST(FrameTest, EveryHeadingAndStateOfAFlightLooksAsItDid) {
 
 TEST(FrameTest, ACrowdedPausedScopeLooksAsItDid) {
     RadarStage stage;
+    stage.options.mapDetails = 0; // on black
+    stage.buildMap();
     stage.paused = true;
     Flight& steered = stage.flyAt({18, 22}, 90);
     const auto along = [](int k) {

@@ -113,6 +113,44 @@ Colour uncovered(Colour onBlack, Colour onWhite, int least) {
     return colour == keyColour ? Colour::rgb(255, 255, 1) : colour;
 }
 
+/// The clear pixels that lead out to the picture's edge, each within one dither square of the next.
+std::vector<bool> openGround(const Bitmap& keyed) {
+    constexpr int reach = static_cast<int>(ditherSteps.size());
+    const auto index = [&](Point p) { return static_cast<std::size_t>(p.y * keyed.width() + p.x); };
+    std::vector<bool> isOpen(static_cast<std::size_t>(keyed.width()) *
+                             static_cast<std::size_t>(keyed.height()));
+    std::vector<Point> toVisit{{0, 0}};
+    isOpen[0] = true;
+    while (!toVisit.empty()) {
+        const Rect near = Rect::at(toVisit.back(), {1, 1}).grownBy(reach).intersectedWith(keyed.bounds());
+        toVisit.pop_back();
+        for (int y = near.top; y < near.bottom; ++y) {
+            for (int x = near.left; x < near.right; ++x) {
+                if (toColour(keyed.at(x, y)) == keyColour && !isOpen[index({x, y})]) {
+                    isOpen[index({x, y})] = true;
+                    toVisit.push_back({x, y});
+                }
+            }
+        }
+    }
+    return isOpen;
+}
+
+/// Clear pixels that lead nowhere are holes in the picture, not a part of its soft edge.
+void closePinholes(Bitmap& keyed, const Bitmap& onBlack, const Bitmap& onWhite) {
+    constexpr int anyCoverage = 1;
+    const std::vector<bool> isOpen = openGround(keyed);
+    std::size_t index = 0;
+    for (int y = 0; y < keyed.height(); ++y) {
+        for (int x = 0; x < keyed.width(); ++x, ++index) {
+            if (toColour(keyed.at(x, y)) == keyColour && !isOpen[index]) {
+                keyed.at(x, y) =
+                    toPixel(uncovered(toColour(onBlack.at(x, y)), toColour(onWhite.at(x, y)), anyCoverage));
+            }
+        }
+    }
+}
+
 } // namespace
 
 std::vector<std::string> drawingNames() {
@@ -187,6 +225,9 @@ bool keyPicture(const fs::path& onBlack, const fs::path& onWhite, const fs::path
             const int least = leastCoverage(edge, {x, y});
             keyed.at(x, y) = toPixel(uncovered(toColour(black->at(x, y)), toColour(white->at(x, y)), least));
         }
+    }
+    if (edge == Edge::dithered) {
+        closePinholes(keyed, *black, *white);
     }
     return save(target, keyed);
 }
