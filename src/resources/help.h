@@ -6,6 +6,7 @@
 
 #include <array>
 
+#include "platform/devices/input.h"
 #include "platform/widgets/templates.h"
 #include "resources/joined.h"
 
@@ -13,24 +14,46 @@ namespace ventrel::help {
 
 // Keys ----------------------------------------------------------------------------
 
+/// A key that goes by its place, and its name in the United States, for where no letter of ours is on it.
+struct PlacedKey {
+    Key place = Key::unknown;
+    std::string_view american;
+};
+inline constexpr std::size_t mostPlaces = 8;
+
 /// A line of the page of keys.
 struct KeyRow {
     std::string_view keys;
-    std::string_view withoutKeypad; ///< what does the same
+    std::string_view withoutKeypad; ///< what does the same, where every keyboard names it alike
     std::string_view meaning;
+    /// What does the same by its place, whatever is written there; ends at the first unknown key.
+    std::array<PlacedKey, mostPlaces> places = {};
 };
 
 inline constexpr std::array keyRows{std::to_array<KeyRow>({
     {"Enter", "", "EXEC: send the order"},
-    {"Keypad 8 9 6 3 2 1 4 7", "I  O  L  .  ,  M  J  U", "heading 0, 45, 90 to 315"},
-    {"Keypad 5", "K", "direct course on or off"},
-    {"Keypad / and *", "[  ]", "target before, target after"},
+    {"Keypad 8 9 6 3 2 1 4 7",
+     "",
+     "heading 0, 45, 90 to 315",
+     {{{Key::i, "I"},
+       {Key::o, "O"},
+       {Key::l, "L"},
+       {Key::period, "."},
+       {Key::comma, ","},
+       {Key::m, "M"},
+       {Key::j, "J"},
+       {Key::u, "U"}}}},
+    {"Keypad 5", "", "direct course on or off", {{{Key::k, "K"}}}},
+    {"Keypad / and *",
+     "",
+     "target before, target after",
+     {{{Key::leftBracket, "["}, {Key::rightBracket, "]"}}}},
     {"Keypad - and +", "PgUp  PgDn", "1,000 ft up, 1,000 ft down"},
     {"F, N, S", "", "speed fast, normal, slow"},
     {"Up, Down", "", "select the strip above or below"},
     {"Tab, Shift+Tab", "", "select the next or previous flight"},
     {"Space", "", "on to the next 15 seconds"},
-    {"Pause", "P", "pause and go on"},
+    {"Pause", "", "pause and go on", {{{Key::p, "P"}}}},
     {"Esc", "", "boss key: hide the window"},
     {"Ctrl+S", "", "schedule of the shift"},
     {"Alt+F, Alt+O, Alt+H", "", "menus File, Options, Help"},
@@ -50,8 +73,7 @@ inline constexpr std::string_view deskText =
     "\n"
     "The clock runs two and a half times as fast as yours. A click on it skips to its next 15 seconds. A "
     "fast aircraft then moves one cell; a normal one moves every 30 seconds, a slow one every 60. A heavy "
-    "one "
-    "keeps its speed: the lamps of the others are dark red.\n"
+    "one keeps its speed: the lamps of the others are dark red.\n"
     "\n"
     "The wheel and the arrows scroll the strips. Those in view are always sorted anew, the latest flight on "
     "top, so a strip may change its place. Grey strips are announced and cannot be selected yet.";
@@ -124,6 +146,11 @@ inline constexpr std::size_t keysTopic = 0;
 inline constexpr std::size_t pointsTopic = 5;
 inline constexpr std::size_t pointRows = 10;
 
+/// The label of a row's keys without a keypad; one stands before it, and one behind.
+constexpr int placesControl(std::size_t row) {
+    return pageControl(keysTopic, 2 + 3 * row);
+}
+
 /// The labels of a row of the table of points.
 constexpr int eventControl(std::size_t row) {
     return pageControl(pointsTopic, 1 + 2 * row);
@@ -156,9 +183,10 @@ constexpr auto keyTable() {
     std::array<ControlTemplate, 3 * keyRows.size()> labels{};
     for (std::size_t row = 0; row < keyRows.size(); ++row) {
         ControlTemplate* label = &labels[3 * row];
-        const int id = pageControl(keysTopic, 1 + 3 * row);
+        const int id = placesControl(row) - 1;
         label[0] = {ControlKind::staticText, id, keyRows[row].keys, rowOf(row, 115, 198)};
-        label[1] = {ControlKind::staticText, id + 1, keyRows[row].withoutKeypad, rowOf(row, 200, 262)};
+        label[1] = {ControlKind::staticText, placesControl(row), keyRows[row].withoutKeypad,
+                    rowOf(row, 200, 262)};
         label[2] = {ControlKind::staticText, id + 2, keyRows[row].meaning, rowOf(row, 264, 381)};
     }
     return labels;

@@ -4,7 +4,6 @@
 
 #include "base/format.h"
 #include "platform/widgets/dialog.h"
-#include "resources/help.h"
 #include "sim/scoring.h"
 
 namespace ventrel {
@@ -29,6 +28,15 @@ constexpr std::array events{std::to_array<Event>({
     {"collision: the same cell, the same altitude", 0, "game over"},
 })};
 static_assert(events.size() == help::pointRows);
+
+/// The names of a row's places on the player's keyboard.
+void fillKeys(Dialog& dialog, Backend& keyboard) {
+    for (std::size_t row = 0; row < help::keyRows.size(); ++row) {
+        if (help::keyRows[row].places.front().place != Key::unknown) {
+            dialog.setText(help::placesControl(row), keysWithoutKeypad(help::keyRows[row], keyboard));
+        }
+    }
+}
 
 void fillPoints(Dialog& dialog) {
     for (std::size_t row = 0; row < events.size(); ++row) {
@@ -62,6 +70,7 @@ void open(Dialog& dialog) {
     for (const std::string_view topic : help::topics) {
         topics.add(std::string(topic));
     }
+    fillKeys(dialog, dialog.desktop().backend());
     fillPoints(dialog);
     topics.select(0);
     showPage(dialog, 0);
@@ -69,6 +78,19 @@ void open(Dialog& dialog) {
 }
 
 } // namespace
+
+std::string keysWithoutKeypad(const help::KeyRow& row, Backend& keyboard) {
+    std::string keys;
+    for (const auto& [place, american] : row.places) {
+        if (place == Key::unknown) {
+            break;
+        }
+        const std::string name = keyboard.keyName(place);
+        keys += keys.empty() ? "" : "  ";
+        keys += name.empty() ? american : name;
+    }
+    return keys;
+}
 
 void runHelpDialog(Shell& shell) {
     const auto onCommand = [](Dialog& dialog, const CommandInput& input) {

@@ -1,14 +1,17 @@
 // Every dialog's plan, and how the game's own dialogs look.
 
+#include <map>
 #include <set>
 
 #include "golden.h"
 #include "platform/canvas/text.h"
 #include "platform/widgets/menu.h"
 #include "platform/widgets/widget_place.h"
+#include "resources/accelerators.h"
 #include "resources/dialogs.h"
 #include "resources/help.h"
 #include "shell/game_stage.h"
+#include "shell/help_dialog.h"
 #include "shell/plain_program.h"
 
 namespace ventrel {
@@ -186,6 +189,37 @@ TEST_F(DialogLooks, EveryPageOfHelp) {
     press(stage, Key::enter);
     stage.look([&] { EXPECT_FALSE(stage.isDialogOpen()); });
     stage.play();
+}
+
+TEST_F(DialogLooks, HelpNamesTheKeysAsThePlayersKeyboardDoes) {
+    GameStage stage(800, "", folder_.path());
+    const auto helpPage = [&stage](const std::shared_ptr<Bitmap>& page) {
+        press(stage, Key::f1);
+        stage.look([&stage, page] { *page = stage.backend.screen(); });
+        press(stage, Key::enter);
+    };
+    const auto american = std::make_shared<Bitmap>();
+    helpPage(american);
+    stage.look([&stage] {
+        for (const auto& [place, name] : std::map<Key, std::string>{
+                 {Key::period, ":"}, {Key::comma, ";"}, {Key::leftBracket, "^"}, {Key::k, ""}}) {
+            stage.backend.writeOnKey(place, name);
+        }
+        EXPECT_EQ(keysWithoutKeypad(help::keyRows[1], stage.backend), "I  O  L  :  ;  M  J  U");
+        EXPECT_EQ(keysWithoutKeypad(help::keyRows[2], stage.backend), "K") << "of no alphabet of ours";
+    });
+    const auto french = std::make_shared<Bitmap>();
+    helpPage(french);
+    stage.look([american, french] { EXPECT_NE(*american, *french); });
+    stage.play();
+    for (const help::KeyRow& row : help::keyRows) {
+        for (const auto& [place, name] : row.places) {
+            const auto goesByPlace = [place](const Accelerator& key) {
+                return key.key == place && key.by == KeyBy::place;
+            };
+            EXPECT_TRUE(place == Key::unknown || std::ranges::any_of(mainAccelerators, goesByPlace)) << name;
+        }
+    }
 }
 
 } // namespace
