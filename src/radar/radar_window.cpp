@@ -144,6 +144,7 @@ void RadarBuildMap(RadarWindow& radar, const Bitmap& frame) {
 void RadarHide(RadarWindow& radar) {
     radar.window.hide();
     coverSweep(radar.sweep);
+    radar.lastClockSeen = {}; // the next game begins at 0, which brings nothing yet
 }
 
 void RadarRepaint(RadarWindow& radar) {

@@ -145,6 +145,19 @@ TEST_F(GameEndTest, ANewGameDuringTheLastLineIsNotEndedByIt) {
     stage.play();
 }
 
+TEST_F(GameEndTest, ALaterGameDoesNotBeginWithAReportOfItsScore) {
+    stage.startNewGame();
+    stage.skipTo(60_s);
+    stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").wait(1).key(Key::enter).wait(1); });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(500); });
+    stage.look([this] {
+        EXPECT_TRUE(stage.game().isRunning());
+        EXPECT_TRUE(isOnTicker("Welcome"));
+        EXPECT_FALSE(isOnTicker("score so far"));
+    });
+    stage.play();
+}
+
 TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
     meet({10, 10});
     stage.look([this] {
