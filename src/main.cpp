@@ -43,8 +43,9 @@ constexpr std::string_view usage =
     "Keys and rules: F1 in the game. The options are kept in ventrel.ini beside the program, or in the data\n"
     "folder of the player where the program's folder cannot be written.\n"
     "\n"
-    "Exit status: 0 played, also when another copy runs already; 1 there is no screen or a file is missing;\n"
-    "2 wrong usage.\n";
+    "Exit status: 0 played, also when another copy runs already or a picture is missing; 1 there is no "
+    "screen,\n"
+    "or no face to write with; 2 wrong usage.\n";
 
 /// `text` is Windows-1252, and may hold what a file or the command line has brought along.
 void complain(std::string_view text, MessageIcon /*icon*/ = MessageIcon::none) {
