@@ -11,6 +11,7 @@
 #include "tools/art/about_art.h"
 #include "tools/art/cloud_art.h"
 #include "tools/art/console_art.h"
+#include "tools/art/curtain_art.h"
 #include "tools/art/small_art.h"
 
 namespace ventrel::art {
@@ -25,7 +26,6 @@ constexpr int halfCovered = 128;
 constexpr int fullyCovered = 255;
 
 constexpr std::string_view cloudName = "cloud";
-constexpr std::string_view aboutName = "about";
 
 struct SmallDrawing {
     std::string_view name;
@@ -50,6 +50,18 @@ struct ConsoleDrawing {
     std::string_view name;
     const ConsoleFittings& fittings;
 };
+
+/// A drawing that is made of the console's materials.
+struct MaterialDrawing {
+    std::string_view name;
+    std::string (*draw)(std::string_view materials);
+};
+
+constexpr std::array materialDrawings{std::to_array<MaterialDrawing>({
+    {"about", drawAbout},
+    {"curtain800", [](std::string_view materials) { return drawCurtain(smallConsole.size, materials); }},
+    {"curtain1024", [](std::string_view materials) { return drawCurtain(largeConsole.size, materials); }},
+})};
 
 constexpr std::array<ConsoleDrawing, 2> consoles{
     {{"console800", smallFittings}, {"console1024", largeFittings}}};
@@ -161,7 +173,9 @@ std::vector<std::string> drawingNames() {
     for (int i = 0; i < cloudCount; ++i) {
         names.push_back(std::string(cloudName) + std::to_string(i));
     }
-    names.emplace_back(aboutName);
+    for (const MaterialDrawing& drawing : materialDrawings) {
+        names.emplace_back(drawing.name);
+    }
     for (const SmallDrawing& small : smallDrawings) {
         names.emplace_back(small.name);
     }
@@ -174,8 +188,10 @@ std::string drawing(std::string_view name, std::string_view materials) {
             return drawConsole(console.fittings, materials);
         }
     }
-    if (name == aboutName) {
-        return drawAbout(materials);
+    for (const MaterialDrawing& drawing : materialDrawings) {
+        if (name == drawing.name) {
+            return drawing.draw(materials);
+        }
     }
     for (int i = 0; i < cloudCount; ++i) {
         if (name == std::string(cloudName) + std::to_string(i)) {

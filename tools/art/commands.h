@@ -12,8 +12,8 @@ namespace ventrel::art {
 /// The names of all drawings, such as "console1024" and "cloud7".
 std::vector<std::string> drawingNames();
 
-/// The SVG text of a drawing; empty for a name that is none. `materials` is used by the consoles and
-/// by the picture of the About dialog.
+/// The SVG text of a drawing; empty for a name that is none. `materials` is used by all
+/// large pictures.
 std::string drawing(std::string_view name, std::string_view materials);
 
 // Each of these returns whether it succeeded, and says on standard error what went wrong, naming the file.
