@@ -3,6 +3,7 @@
 #include <array>
 
 #include "tools/art/console_parts.h"
+#include "tools/art/lettering.h"
 #include "tools/art/scope_art.h"
 #include "tools/art/small_art.h"
 #include "tools/art/svg.h"
@@ -64,24 +65,6 @@ void drawPictureOnTube(Svg& svg) {
     svg.close();
 }
 
-void drawTitle(Svg& svg) {
-    constexpr Spot base{wordsMiddle, 118};
-    constexpr double size = 68;
-    constexpr double spacing = 1;
-    constexpr std::string_view name = "Ventrel";
-    svg.define("<linearGradient id=\"letters\" gradientUnits=\"userSpaceOnUse\" x1=\"0\" y1=\"68\" x2=\"0\" "
-               "y2=\"120\"><stop offset=\"0\" stop-color=\"#ffffff\"/><stop offset=\".5\" "
-               "stop-color=\"#d6dee0\"/><stop offset=\".52\" stop-color=\"#9aa6aa\"/><stop offset=\"1\" "
-               "stop-color=\"#eef2f2\"/></linearGradient>\n");
-    svg.text({base.x + 3, base.y + 4}, name, size, spacing,
-             "fill=\"#000\" opacity=\".55\" filter=\"url(#soften)\"");
-    svg.text({base.x + 1, base.y + 1}, name, size, spacing, "fill=\"#14191b\"");
-    svg.text(base, name, size, spacing, "fill=\"url(#letters)\"");
-    svg.line({wordsMiddle - 98, 134.5}, {wordsMiddle + 98, 134.5}, "stroke=\"#0c0f10\" opacity=\".7\"");
-    svg.line({wordsMiddle - 98, 135.5}, {wordsMiddle + 98, 135.5}, "stroke=\"#ffb066\"");
-    drawPrinted(svg, {wordsMiddle, 152}, "APPROACH CONTROL SIMULATOR", 11.6, 1.25, ivory);
-}
-
 void drawLamps(Svg& svg) {
     constexpr double y = 196;
     constexpr double pitch = 28;
@@ -114,7 +97,7 @@ std::string drawAbout(std::string_view materials) {
     drawScopeTube(svg, scope);
     drawPictureOnTube(svg);
     drawScopeReflections(svg, scope);
-    drawTitle(svg);
+    drawName(svg, {.base = {wordsMiddle, 118}, .size = 68, .spacing = 1});
     drawLamps(svg);
     drawShelf(svg);
     return svg.text();

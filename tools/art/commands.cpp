@@ -13,6 +13,7 @@
 #include "tools/art/console_art.h"
 #include "tools/art/curtain_art.h"
 #include "tools/art/small_art.h"
+#include "tools/art/title_art.h"
 
 namespace ventrel::art {
 
@@ -59,6 +60,7 @@ struct MaterialDrawing {
 
 constexpr std::array materialDrawings{std::to_array<MaterialDrawing>({
     {"about", drawAbout},
+    {"title", drawTitle},
     {"curtain800", [](std::string_view materials) { return drawCurtain(smallConsole.size, materials); }},
     {"curtain1024", [](std::string_view materials) { return drawCurtain(largeConsole.size, materials); }},
 })};
