@@ -114,7 +114,7 @@ TEST(Leftovers, AGameLeavesTheConsoleAsItFoundIt) {
 }
 
 TEST(Leftovers, ANewGameShowsNothingOfTheLastOne) {
-    GameStage stage(800, "[Options]\nAirportSelect=2\n[Game]\nName=mary\nSkill=3\n");
+    GameStage stage(800, "[Options]\nAirportSelect=8\n[Game]\nName=mary\nSkill=3\n");
     // The buttons of the strips, and what lies below them; the strips list the next flights at once.
     const auto picture = [&stage] {
         const Rect strips = stage.shell().strips.window.bounds();

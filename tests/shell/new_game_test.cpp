@@ -142,7 +142,7 @@ TEST(NewGame, AirportsAreChosenFromTheListByDoubleClick) {
     click(stage, okId);
     stage.look([&] {
         EXPECT_EQ(stage.shell().options.airportSelect, 2);
-        EXPECT_EQ(stage.game().airspace->name, "New York");
+        EXPECT_EQ(stage.game().airspace->name, "Chicago");
     });
     stage.play();
 }

@@ -114,7 +114,7 @@ TEST(WholeGame, PlayedByMouseAndKeysIsWhatTheSimulationAlonePlays) {
     Game alone = shiftAlone();
     StepRecorder recorded{alone};
     runShift(alone, recorded, {.orders = {}, .until = 36000_s, .autopilot = true});
-    GameStage stage(1024, "[Game]\nName=mary\nSkill=0\n");
+    GameStage stage(1024, "[Options]\nAirportSelect=1\n[Game]\nName=mary\nSkill=0\n");
     Replay replay(stage, recorded);
     stage.startNewGame(seed);
     stage.look([&] { ScrollerClear(stage.shell().scroller); }); // the welcome

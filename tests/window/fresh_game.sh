@@ -1,6 +1,7 @@
 #!/usr/bin/env bash
 # Starts a copy of the game that has a program folder of its own, in the home folder of the moment, so that nobody's
-# options and no other running copy matter: in a window of 1024 x 768, for Mary, Easy, and with the same shift always.
+# options and no other running copy matter: in a window of 1024 x 768, for Mary, Easy, over a black map of Atlanta, and
+# with the same shift always.
 # Started again, it plays on in that folder.
 set -euo pipefail
 
@@ -12,7 +13,7 @@ if [ ! -d "$folder" ]; then
     for data in apt fonts grf; do
         ln -s "$(dirname "$program")/$data" "$folder/$data"
     done
-    printf '[Options]\nResolution=3\nWindowed=1\n[Game]\nName=mary\nSkill=0\n' >"$folder/ventrel.ini"
+    printf '[Options]\nResolution=3\nWindowed=1\nAirportSelect=1\nMapDetails=0\n[Game]\nName=mary\nSkill=0\n' >"$folder/ventrel.ini"
 fi
 export XDG_RUNTIME_DIR=$folder VENTREL_SEED=7
 exec "$folder/ventrel" /NOSPLASH
