@@ -89,7 +89,7 @@ void followClock(RadarWindow& radar, ClockSeconds now) {
     }
     RadarRepaint(radar);
     radar.callbacks.updateBlips();
-    if (now % scoreReportInterval == 0_s) {
+    if (now != 0_s && now % scoreReportInterval == 0_s) {
         radar.callbacks.reportScore();
     }
 }

@@ -174,4 +174,19 @@ lost_screen() {
     has_line Picture=1024
 }
 
+# What comes from a file or a pipe is named, cut short, and never reaches the terminal as it is.
+orders() {
+    local said="$work/said" orders code
+    printf '0 0 \e[2J%0100d 0 0 0 0\n' 0 >"$work/orders"
+    for orders in "$work/orders" <(yes "0 0 5 90 0 -1 0"); do
+        code=0
+        "$(dirname "$program")/ventrel-sim" "$(dirname "$program")"/apt/new_york8.apt --orders "$orders" \
+            >"$said" 2>>"$work/complaints" || code=$?
+        [ "$code" -eq 2 ] && [ ! -s "$said" ] || fail "wrong orders were not refused"
+    done
+    grep -Fq "orders:1: altitude must be a whole number from 1 to 10, not '?[2J000" "$work/complaints" &&
+        grep -Fq "too large: at most 16777216 bytes" "$work/complaints" &&
+        [ "$(wc -c <"$work/complaints")" -lt 400 ] || fail "not the right words"
+}
+
 "$case"

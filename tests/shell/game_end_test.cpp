@@ -128,6 +128,11 @@ TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
         EXPECT_EQ(stage.shell().panel.state.flight, std::nullopt);
     });
     stage.startNewGame(); // and the next game begins as the first one did
+    stage.wait(100);
+    stage.look([this] {
+        EXPECT_TRUE(isOnTicker("Welcome"));
+        EXPECT_FALSE(isOnTicker("score so far")) << "nothing has been won or lost yet";
+    });
     stage.play();
 }
 

@@ -34,7 +34,10 @@ TEST(CommandLine, SaysWhatIsWrongWithIt) {
     }
     EXPECT_NE(faultOf({"a.apt", "--cloud-size", "64"}), "");
     EXPECT_NE(faultOf({"a.apt", "--width", "640"}), "");
-    EXPECT_NE(faultOf({"a.apt", "--planes", "97", "--minutes", "24"}), "");
+    EXPECT_NE(faultOf({"a.apt", "--skill", "4", "--planes", "97", "--minutes", "24"}), "");
+    EXPECT_EQ(faultOf({"a.apt", "--planes", "97", "--minutes", "24"}), "") << "they do not count";
+    EXPECT_NE(faultOf({"a.apt", "--planes", "100"}), "");
+    EXPECT_NE(faultOf({"a.apt", "--minutes", "0"}), "");
 }
 
 class OrderFile : public ::testing::Test {

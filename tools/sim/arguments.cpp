@@ -138,6 +138,13 @@ const OptionRule* ruleOf(std::string_view word) {
     return nullptr;
 }
 
+/// What is wrong with the size of a Custom shift; of the other skills its numbers are only checked by range.
+std::optional<TextId> shiftFault(const Arguments& arguments) {
+    const auto fault = customShiftFault(arguments.planes, arguments.minutes);
+    const bool counts = arguments.skill == Skill::custom || fault != TextId::tooManyPlanes;
+    return counts ? fault : std::nullopt;
+}
+
 std::string quoted(std::string_view word) {
     return FormatText("'%s'", {word});
 }
@@ -187,7 +194,7 @@ std::variant<Arguments, std::string> parseArguments(std::span<const char* const>
     if (arguments.airport.empty() && !arguments.help) {
         return "an airport file is needed";
     }
-    if (const auto fault = customShiftFault(arguments.planes, arguments.minutes)) {
+    if (const auto fault = shiftFault(arguments)) {
         return std::string{StringTableText(*fault)};
     }
     return arguments;

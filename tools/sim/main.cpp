@@ -16,19 +16,20 @@ namespace {
 
 enum ExitStatus { played = 0, scenarioRefused = 1, wrongUsage = 2 };
 
+/// `text` is Windows-1252, and may hold what a file holds.
 void complain(std::string_view text) {
-    std::fprintf(stderr, "ventrel-sim: %.*s\n", static_cast<int>(text.size()), text.data());
+    std::fprintf(stderr, "ventrel-sim: %s\n", toTerminal(text).c_str());
 }
 
 ExitStatus play(const Arguments& arguments) {
     const auto airspace = loadAirport(arguments.airport);
     if (!airspace) {
-        complain(toTerminal(airspace.error().text));
+        complain(airspace.error().text);
         return scenarioRefused;
     }
     const auto layout = scopeLayoutFor(arguments.width.value_or((*airspace)->layoutWidth));
     if (!layout) {
-        complain(arguments.airport.string() + " fits neither layout: --width 800 or --width 1024 is needed");
+        complain(pathText(arguments.airport) + " fits neither layout: --width 800 or --width 1024 is needed");
         return wrongUsage;
     }
     std::array<Size, largeLayout.cloudImages> cloudSizes;
@@ -70,7 +71,7 @@ int main(int count, char** words) {
     using namespace ventrel;
     const auto parsed = parseArguments({words + 1, words + count});
     if (const auto* const fault = std::get_if<std::string>(&parsed)) {
-        complain(*fault + " (see --help)");
+        complain(fromUtf8(*fault) + " (see --help)");
         return wrongUsage;
     }
     const auto& arguments = std::get<Arguments>(parsed);

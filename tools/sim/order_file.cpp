@@ -6,11 +6,18 @@
 #include <fstream>
 #include <limits>
 #include <optional>
+#include <sstream>
 #include <string_view>
+
+#include "base/whole_file.h"
+#include "base/windows1252.h"
 
 namespace ventrel {
 
 namespace {
+
+constexpr std::size_t largestOrders = std::size_t{16} << 20; // bytes: orders without end are no orders
+constexpr std::size_t mostShown = 40;                        // bytes of a wrong word
 
 enum Field {
     clockField,
@@ -90,7 +97,7 @@ std::variant<OrderFields, std::string> readFields(const std::vector<std::string_
     for (std::size_t i = 0; i < fields.size(); ++i) {
         const auto value = readField(words[i], rules[i]);
         if (!value) {
-            return describe(rules[i]) + ", not '" + std::string{words[i]} + "'";
+            return describe(rules[i]) + ", not '" + fromUtf8(words[i].substr(0, mostShown)) + "'";
         }
         fields[i] = *value;
     }
@@ -111,26 +118,45 @@ ScriptedOrder toOrder(const OrderFields& fields, int pointCount) {
              .hold = fields[holdField] != 0}};
 }
 
+/// The whole text, also out of a pipe.
+Result<std::string> readText(const std::filesystem::path& file) {
+    std::ifstream stream{file, std::ios::binary};
+    std::string text;
+    std::array<char, std::size_t{64} << 10> piece; // NOLINT(cppcoreguidelines-pro-type-member-init)
+    while (stream && text.size() <= largestOrders) {
+        stream.read(piece.data(), piece.size());
+        text.append(piece.data(), static_cast<std::size_t>(stream.gcount()));
+    }
+    if (text.size() > largestOrders) {
+        return tl::unexpected(tooLarge(file, largestOrders));
+    }
+    if (!stream.eof()) {
+        return failed(pathText(file) + ": the orders cannot be read");
+    }
+    return text;
+}
+
 } // namespace
 
 std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
                                                                     const Game& game) {
-    std::ifstream stream{file, std::ios::binary};
+    const auto text = readText(file);
+    if (!text) {
+        return text.error().text;
+    }
+    std::istringstream lines{*text};
     std::vector<ScriptedOrder> orders;
     std::string line;
-    for (int number = 1; std::getline(stream, line); ++number) {
+    for (int number = 1; std::getline(lines, line); ++number) {
         const auto words = splitWords(line);
         if (words.empty()) {
             continue;
         }
         const auto fields = readFields(words, game);
         if (const auto* const fault = std::get_if<std::string>(&fields)) {
-            return file.string() + ":" + std::to_string(number) + ": " + *fault;
+            return pathText(file) + ":" + std::to_string(number) + ": " + *fault;
         }
         orders.push_back(toOrder(std::get<OrderFields>(fields), game.vorCount()));
-    }
-    if (!stream.eof()) {
-        return file.string() + ": the orders cannot be read";
     }
     std::stable_sort(orders.begin(), orders.end(),
                      [](const ScriptedOrder& a, const ScriptedOrder& b) { return a.clock < b.clock; });

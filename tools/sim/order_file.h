@@ -18,7 +18,8 @@ struct ScriptedOrder {
     PanelOrder order;
 };
 
-/// The orders sorted by time, in file order among equal times; or what is wrong, naming file and line.
+/// The orders sorted by time, in file order among equal times; or what is wrong, naming file and line, in
+/// Windows-1252 and with whatever bytes the file has. At most 16 MiB are read.
 /// Flights and map points must exist in `game`, whose shift is set up.
 std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
                                                                     const Game& game);
