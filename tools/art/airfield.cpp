@@ -91,6 +91,46 @@ void drawTarmac(Svg& svg, const Camera& camera) {
     drawMarkings(svg, camera);
 }
 
+struct Lamp {
+    Vec at;
+    std::string_view glow;
+    double size; ///< metres, as bright as it looks
+};
+
+void addRow(std::vector<Lamp>& lamps, const Lamp& first, const Vec& step, int count) {
+    for (int i = 0; i < count; ++i) {
+        Lamp lamp = first;
+        lamp.at = first.at + step * i;
+        lamps.push_back(lamp);
+    }
+}
+
+void drawLamps(Svg& svg, const Camera& camera, std::vector<Lamp> lamps) {
+    constexpr double smallest = 1.5; // pixels
+    constexpr double largest = 26;
+    constexpr double glare = 1.3;
+    std::ranges::stable_sort(lamps, std::ranges::greater{},
+                             [&](const Lamp& lamp) { return camera.depth(lamp.at); });
+    for (const Lamp& lamp : lamps) {
+        if (const auto spot = camera.seen(lamp.at)) {
+            const double radius = std::clamp(camera.scaleAt(lamp.at) * lamp.size * glare, smallest, largest);
+            svg.circle(*spot, radius, "fill=\"url(#" + std::string(lamp.glow) + ")\"");
+        }
+    }
+}
+
+/// The lights of a town beyond the field, to the west and the north.
+void addTown(std::vector<Lamp>& lamps) {
+    constexpr int count = 420;
+    RandomGenerator random{77};
+    for (int i = 0; i < count; ++i) {
+        const double bearing = Random(random, 2200, 4200) / 10.0 * std::numbers::pi / 180;
+        const double distance = 3400 + Random(random, 3800);
+        const Vec at{distance * std::sin(bearing), distance * std::cos(bearing), -1.0 + Random(random, 16)};
+        lamps.push_back({at, RandomPercent(random) < 70 ? "glowAmber" : "glowWhite", 2.4});
+    }
+}
+
 /// A building with rows of lit windows towards the south.
 struct House {
     double west;
@@ -126,6 +166,46 @@ void drawWall(Svg& svg, const Camera& camera, const std::array<Vec, 4>& corners,
     }
 }
 
+/// The upright piece of a house's south wall between two places and two heights.
+std::string onSouthWall(const Camera& camera, const House& house, double west, double east, double low,
+                        double high) {
+    const std::array<Vec, 4> corners{{{west, house.south, low},
+                                      {east, house.south, low},
+                                      {east, house.south, high},
+                                      {west, house.south, high}}};
+    return seenPath(camera, corners);
+}
+
+void drawWindowRows(Svg& svg, const Camera& camera, const House& house) {
+    const double storey = house.height / (house.floors + 0.5);
+    for (int floor = 0; floor < house.floors; ++floor) {
+        const double low = storey * (floor + 0.45);
+        std::string panes;
+        for (double x = house.west + 3; x < house.east - 5; x += 6) {
+            panes += onSouthWall(camera, house, x, x + 4.4, low, low + storey * 0.55);
+        }
+        if (!panes.empty()) {
+            svg.path(panes,
+                     floor % 2 == 0 ? "fill=\"#ffcf86\" opacity=\".9\"" : "fill=\"#ffdca8\" opacity=\".7\"");
+        }
+    }
+}
+
+/// Half open, with light inside.
+void drawHangarDoor(Svg& svg, const Camera& camera, const House& house) {
+    constexpr int leaves = 6;
+    const double west = house.west + 8;
+    const double leaf = (house.east - house.west - 16) / leaves;
+    for (int i = 0; i < leaves; ++i) {
+        const bool isOpen = i == 2 || i == 3;
+        const std::string data = onSouthWall(camera, house, west + leaf * i + 0.6,
+                                             west + leaf * (i + 1) - 0.6, 0, house.height * 0.72);
+        if (!data.empty()) {
+            svg.path(data, isOpen ? "fill=\"#d9984c\"" : "fill=\"#3a4046\"");
+        }
+    }
+}
+
 void drawHouse(Svg& svg, const Camera& camera, const House& house) {
     const auto [west, east, south, north, height, floors] = house;
     const auto wall = [&](double x1, double y1, double x2, double y2, const Vec& normal) {
@@ -137,22 +217,10 @@ void drawHouse(Svg& svg, const Camera& camera, const House& house) {
     drawWall(svg, camera,
              {{{west, south, height}, {east, south, height}, {east, north, height}, {west, north, height}}},
              {0, 0, 1}, 0.3);
-    const double storey = height / (floors + 0.5);
-    for (int floor = 0; floor < floors; ++floor) {
-        const double low = storey * (floor + 0.45);
-        std::string panes;
-        for (double x = west + 3; x < east - 5; x += 6) {
-            const std::array<Vec, 4> pane{{{x, south, low},
-                                           {x + 4.4, south, low},
-                                           {x + 4.4, south, low + storey * 0.55},
-                                           {x, south, low + storey * 0.55}}};
-            panes += seenPath(camera, pane);
-        }
-        if (!panes.empty()) {
-            svg.path(panes,
-                     floor % 2 == 0 ? "fill=\"#ffcf86\" opacity=\".9\"" : "fill=\"#ffdca8\" opacity=\".7\"");
-        }
+    if (floors == 0) {
+        drawHangarDoor(svg, camera, house);
     }
+    drawWindowRows(svg, camera, house);
 }
 
 } // namespace
@@ -162,6 +230,9 @@ void drawAirfield(Svg& svg, const Camera& camera, Size size) {
     const Box ground(0, camera.middle.y, size.width, size.height - camera.middle.y);
     svg.rect(ground, 0, "fill=\"url(#grass)\"");
     svg.rect(ground, 0, "filter=\"url(#meadow)\"");
+    std::vector<Lamp> town;
+    addTown(town);
+    drawLamps(svg, camera, town);
     drawTarmac(svg, camera);
     std::vector<House> byDistance(houses.begin(), houses.end());
     std::ranges::sort(byDistance, std::ranges::greater{}, [&](const House& house) {
@@ -173,20 +244,6 @@ void drawAirfield(Svg& svg, const Camera& camera, Size size) {
 }
 
 namespace {
-
-struct Lamp {
-    Vec at;
-    std::string_view glow;
-    double size; ///< metres, as bright as it looks
-};
-
-void addRow(std::vector<Lamp>& lamps, const Lamp& first, const Vec& step, int count) {
-    for (int i = 0; i < count; ++i) {
-        Lamp lamp = first;
-        lamp.at = first.at + step * i;
-        lamps.push_back(lamp);
-    }
-}
 
 void addApproach(std::vector<Lamp>& lamps, double moment) {
     constexpr double pitch = 30;
@@ -207,21 +264,8 @@ void addApproach(std::vector<Lamp>& lamps, double moment) {
     }
 }
 
-/// The lights of a town beyond the field, to the west and the north.
-void addTown(std::vector<Lamp>& lamps) {
-    constexpr int count = 420;
-    RandomGenerator random{77};
-    for (int i = 0; i < count; ++i) {
-        const double bearing = Random(random, 2200, 4200) / 10.0 * std::numbers::pi / 180;
-        const double distance = 3400 + Random(random, 3800);
-        const Vec at{distance * std::sin(bearing), distance * std::cos(bearing), -1.0 + Random(random, 16)};
-        lamps.push_back({at, RandomPercent(random) < 70 ? "glowAmber" : "glowWhite", 2.4});
-    }
-}
-
 std::vector<Lamp> allLamps(double moment) {
     std::vector<Lamp> lamps;
-    addTown(lamps);
     addApproach(lamps, moment);
     addRow(lamps, {{-2, -half, 0.5}, "glowGreen", 1.6}, {0, 3, 0}, 16);
     addRow(lamps, {{runwayLength + 2, -half, 0.5}, "glowRed", 1.4}, {0, 3, 0}, 16);
@@ -243,18 +287,7 @@ std::vector<Lamp> allLamps(double moment) {
 } // namespace
 
 void drawAirfieldLamps(Svg& svg, const Camera& camera, double moment) {
-    constexpr double smallest = 1.5; // pixels
-    constexpr double glare = 2.6;
-    std::vector<Lamp> lamps = allLamps(moment);
-    std::ranges::stable_sort(lamps, std::ranges::greater{},
-                             [&](const Lamp& lamp) { return camera.depth(lamp.at); });
-    for (const Lamp& lamp : lamps) {
-        const auto spot = camera.seen(lamp.at);
-        if (spot) {
-            const double radius = std::max(smallest, camera.scaleAt(lamp.at) * lamp.size * 0.5 * glare);
-            svg.circle(*spot, std::min(radius, 26.0), "fill=\"url(#" + std::string(lamp.glow) + ")\"");
-        }
-    }
+    drawLamps(svg, camera, allLamps(moment));
 }
 
 } // namespace ventrel::art

@@ -11,11 +11,12 @@ namespace ventrel::art {
 inline constexpr double runwayLength = 2400; // metres
 inline constexpr double runwayWidth = 46;
 
-/// Ground, runway and buildings, from the camera's horizon down to the picture's foot.
+/// Ground, runway, buildings and the lights of the town behind, from the camera's horizon down to the
+/// picture's foot.
 void drawAirfield(Svg& svg, const Camera& camera, Size size);
 
-/// All lamps, with the row of flashes that runs towards the threshold; `moment` is in seconds. The glows of
-/// airliner.h are to be defined before.
+/// All lamps of the field, with the row of flashes that runs towards the threshold; `moment` is in seconds.
+/// The glows of airliner.h are to be defined before.
 void drawAirfieldLamps(Svg& svg, const Camera& camera, double moment);
 
 } // namespace ventrel::art

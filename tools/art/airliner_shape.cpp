@@ -18,7 +18,7 @@ constexpr Tint petrol = tint(0x1f5a63);
 constexpr Tint amberPaint = tint(0xf09a3e);
 constexpr Tint black = tint(0x16191b);
 constexpr Tint rubber = tint(0x202224);
-constexpr Tint windowLight = tint(0xffe2a4);
+constexpr Tint windowLight = tint(0xffd98c);
 constexpr Tint cockpitGlass = tint(0x2a3a48);
 
 /// A ring of the body: where, how wide, and where its middle lies.
@@ -301,7 +301,7 @@ AirlinerShape makeAirliner() {
     addMainGear(shape.left);
     shape.right = mirrored(shape.left);
     addNoseGear(shape.body);
-    addRound(shape.body, bodyRings, 20, bodyPaint, 0.55);
+    addRound(shape.body, bodyRings, 24, bodyPaint, 0.55);
     addWindows(shape.windows);
     const std::vector<Face> otherSide = mirrored(shape.windows);
     shape.windows.insert(shape.windows.end(), otherSide.begin(), otherSide.end());

@@ -7,11 +7,14 @@
 
 #include "platform/canvas/canvas.h"
 #include "platform/canvas/image.h"
+#include "platform/canvas/jpeg_writer.h"
 #include "platform/canvas/png_writer.h"
 #include "tools/art/about_art.h"
 #include "tools/art/cloud_art.h"
 #include "tools/art/console_art.h"
 #include "tools/art/curtain_art.h"
+#include "tools/art/letterhead_art.h"
+#include "tools/art/score_art.h"
 #include "tools/art/small_art.h"
 #include "tools/art/title_art.h"
 
@@ -45,6 +48,7 @@ constexpr std::array smallDrawings{std::to_array<SmallDrawing>({
     {"pointer_hand", drawHandPointer},
     {"pointer_arrow", drawArrowPointer},
     {"icon", drawIcon},
+    {"letterhead", drawLetterhead},
 })};
 
 struct ConsoleDrawing {
@@ -61,6 +65,7 @@ struct MaterialDrawing {
 constexpr std::array materialDrawings{std::to_array<MaterialDrawing>({
     {"about", drawAbout},
     {"title", drawTitle},
+    {"scores", drawScores},
     {"curtain800", [](std::string_view materials) { return drawCurtain(smallConsole.size, materials); }},
     {"curtain1024", [](std::string_view materials) { return drawCurtain(largeConsole.size, materials); }},
 })};
@@ -207,6 +212,19 @@ std::string drawing(std::string_view name, std::string_view materials) {
 bool convertPicture(const fs::path& picture, const fs::path& target) {
     const auto bitmap = load(picture);
     return bitmap && save(target, *bitmap);
+}
+
+bool convertToJpeg(const fs::path& picture, const fs::path& target) {
+    constexpr int quality = 92;
+    const auto bitmap = load(picture);
+    if (!bitmap) {
+        return false;
+    }
+    const bool isWritten = writeJpeg(target, *bitmap, quality);
+    if (!isWritten) {
+        complain(target, "cannot be written");
+    }
+    return isWritten;
 }
 
 bool cutRadarFrame(const fs::path& console, const fs::path& target) {

@@ -21,6 +21,9 @@ std::string drawing(std::string_view name, std::string_view materials);
 /// Writes a rendered picture as the program reads it: 24 bits, the same bytes every time.
 bool convertPicture(const std::filesystem::path& picture, const std::filesystem::path& target);
 
+/// The same as a JPEG picture.
+bool convertToJpeg(const std::filesystem::path& picture, const std::filesystem::path& target);
+
 /// Cuts the radar's frame out of a rendered console.
 bool cutRadarFrame(const std::filesystem::path& console, const std::filesystem::path& target);
 

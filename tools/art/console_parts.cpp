@@ -53,12 +53,16 @@ void drawSheet(Svg& svg, Size size) {
              "fill=\"none\" stroke=\"#0a0d0e\" stroke-width=\"2\" opacity=\".7\"");
 }
 
-void drawLight(Svg& svg, Size size) {
+void defineLight(Svg& svg, Size size) {
     svg.define("<radialGradient id=\"light\" gradientUnits=\"userSpaceOnUse\" cx=\"" +
                number(size.width * 0.235) + "\" cy=\"-60\" r=\"" + number(size.width * 1.12) +
                "\"><stop offset=\"0\" stop-color=\"#fff6e2\" stop-opacity=\".20\"/><stop offset=\".45\" "
                "stop-color=\"#fff6e2\" stop-opacity=\".03\"/><stop offset=\"1\" stop-color=\"#000\" "
                "stop-opacity=\".30\"/></radialGradient>\n");
+}
+
+void drawLight(Svg& svg, Size size) {
+    defineLight(svg, size);
     svg.rect({0, 0, double(size.width), double(size.height)}, 0, "fill=\"url(#light)\"");
 }
 

@@ -12,6 +12,8 @@ void drawSheet(Svg& svg, Size size);
 
 /// Light that falls from the top left over the metal. Wells and glass are drawn after it.
 void drawLight(Svg& svg, Size size);
+/// Only makes it known as "light", for parts that are drawn one by one.
+void defineLight(Svg& svg, Size size);
 
 /// A sheet of painted metal that stands proud of the console.
 void drawModule(Svg& svg, const Box& area, std::string_view paint);

@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "tools/art/console_parts.h"
-#include "tools/art/scope_art.h"
+#include "tools/art/emblem.h"
 #include "tools/art/small_art.h"
 #include "tools/art/svg.h"
 
@@ -43,14 +43,6 @@ Emblem emblemOf(Size screen) {
     return {{screen.width / 2.0, railHeight + (screen.height - railHeight) * 0.42}, radius};
 }
 
-/// An airliner from above that flies up, 100 long, around its middle.
-constexpr std::string_view airliner =
-    "M0,-50 C2.6,-49 4.6,-43.5 4.6,-36 V-16.5 L12.4,-11.2 V-16 Q12.4,-18 15,-18 Q17.6,-18 17.6,-16 V-7.6 "
-    "L46,11.6 Q47.4,12.8 47.4,17.4 L17,7.4 L4.6,5.6 C4.6,14 4,23 3.2,30 L16,38.2 Q17,39 17,42.4 L2,39.2 "
-    "Q1.2,46 0,48.6 Q-1.2,46 -2,39.2 L-17,42.4 Q-17,39 -16,38.2 L-3.2,30 C-4,23 -4.6,14 -4.6,5.6 L-17,7.4 "
-    "L-47.4,17.4 Q-47.4,12.8 -46,11.6 L-17.6,-7.6 V-16 Q-17.6,-18 -15,-18 Q-12.4,-18 -12.4,-16 V-11.2 "
-    "L-4.6,-16.5 V-36 C-4.6,-43.5 -2.6,-49 0,-50 z";
-
 /// How a slat's belly takes the light, and the dark gap under it; and the paint, which is worn where its
 /// noise is high.
 constexpr std::string_view shutterMaterials =
@@ -81,35 +73,6 @@ constexpr std::string_view shutterMaterials =
     "<feComposite in=\"SourceGraphic\" in2=\"kept\" operator=\"in\"/></filter>\n"
     "<filter id=\"halo\" x=\"-60%\" y=\"-300%\" width=\"220%\" height=\"700%\">"
     "<feGaussianBlur stdDeviation=\"3.2\"/></filter>\n";
-
-std::string moved(Spot from, Spot to) {
-    return 'M' + number(from.x) + ',' + number(from.y) + " L" + number(to.x) + ',' + number(to.y) + ' ';
-}
-
-Spot around(Spot centre, double radius, double degrees) {
-    return onScopeRim({centre.x, centre.y, 0, 0}, radius, degrees);
-}
-
-/// A compass rose around an airliner, in the shutter's ivory.
-void paintEmblem(Svg& svg, const Emblem& emblem) {
-    const auto [middle, radius] = emblem;
-    const std::string ink = "stroke=\"" + std::string(ivory) + "\" fill=\"none\"";
-    svg.circle(middle, radius, ink + " stroke-width=\"" + number(radius * 0.045) + '"');
-    svg.circle(middle, radius * 0.80, ink + " stroke-width=\"" + number(radius * 0.016) + '"');
-    std::string tens;
-    std::string thirties;
-    for (int degrees = 0; degrees < 360; degrees += 10) {
-        const bool isThirty = degrees % 30 == 0;
-        (isThirty ? thirties : tens) += moved(around(middle, radius * (isThirty ? 0.84 : 0.90), degrees),
-                                              around(middle, radius * 0.96, degrees));
-    }
-    svg.path(tens, ink + " stroke-width=\"" + number(radius * 0.017) + '"');
-    svg.path(thirties, "fill=\"none\" stroke=\"#e59a4a\" stroke-width=\"" + number(radius * 0.034) + '"');
-    svg.open("transform=\"translate(" + number(middle.x) + ' ' + number(middle.y + radius * 0.02) +
-             ") scale(" + number(radius * 0.0136) + ")\"");
-    svg.path(airliner, "fill=\"" + std::string(ivory) + '"');
-    svg.close();
-}
 
 constexpr std::string_view warmPaint = "fill=\"#ffab58\"";
 constexpr std::string_view palePaint = "fill=\"#f0ebda\"";
@@ -220,7 +183,7 @@ std::string drawCurtain(Size screen, std::string_view materials) {
     svg.define(shutterMaterials);
     drawSheet(svg, screen);
     svg.open("opacity=\".88\" filter=\"url(#worn)\"");
-    paintEmblem(svg, emblem);
+    drawEmblem(svg, {emblem.middle, emblem.radius, ivory, "#e59a4a"});
     paintWords(svg, emblem);
     paintMarks(svg, screen);
     svg.close();

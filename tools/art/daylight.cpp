@@ -9,9 +9,9 @@ namespace ventrel::art {
 
 const Daylight evening{
     .towardsSun = unit({-1, -0.32, 0.16}),
-    .sun = {1.30, 0.82, 0.48},
-    .sky = {0.46, 0.54, 0.70},
-    .ground = {0.27, 0.24, 0.25},
+    .sun = {1.18, 0.72, 0.42},
+    .sky = {0.38, 0.45, 0.60},
+    .ground = {0.40, 0.34, 0.33},
 };
 
 std::string hex(const Tint& colour) {

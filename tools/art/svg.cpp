@@ -68,6 +68,11 @@ void Svg::text(Spot middle, std::string_view words, double size, double spacing,
              "</text>\n";
 }
 
+void Svg::words(Spot at, std::string_view words, std::string_view look) {
+    body_ += "<text" + attribute("x", at.x) + attribute("y", at.y) + ' ' + std::string(look) + '>' +
+             std::string(words) + "</text>\n";
+}
+
 void Svg::open(std::string_view look) {
     body_ += "<g " + std::string(look) + ">\n";
 }

@@ -57,6 +57,9 @@ public:
     /// whole pixel, so that the feet and heads of its letters stay sharp.
     void text(Spot middle, std::string_view words, double size, double spacing, std::string_view look);
 
+    /// Text in another face, which `look` names with its size and where `at` is in it.
+    void words(Spot at, std::string_view words, std::string_view look);
+
     void open(std::string_view look); ///< a group
     void close();
 

@@ -1,4 +1,5 @@
 #include "platform/canvas/image.h"
+#include "platform/canvas/jpeg_writer.h"
 
 #include <gtest/gtest.h>
 
@@ -69,8 +70,7 @@ std::vector<Sample> samples() {
             {ImageFormat::bmp, bmpFile(2, 2)}};
 }
 
-bool isNear(Pixel pixel, Colour expected) {
-    constexpr int tolerance = 3;
+bool isNear(Pixel pixel, Colour expected, int tolerance = 3) {
     const Colour colour = toColour(pixel);
     return std::abs(colour.red() - expected.red()) <= tolerance &&
            std::abs(colour.green() - expected.green()) <= tolerance &&
@@ -88,6 +88,25 @@ TEST(Jpegs, KeepTheirColoursInEveryForm) {
     EXPECT_TRUE(isNear(gray.at(0, 0), Colour::rgb(90, 90, 90)));
     Image image;
     EXPECT_EQ(ImageLoadMemory(image, fileBytes("cmyk.jpg"), ImageFormat::jpeg), ImageError::damaged);
+}
+
+TEST(Jpegs, AreWrittenTheSameEveryTimeAndNotForNothing) {
+    // Larger than the writer's own buffer, in colours next to each other that a coarser grid would mix.
+    Bitmap stripes({301, 203});
+    for (int y = 0; y < stripes.height(); ++y) {
+        for (int x = 0; x < stripes.width(); ++x) {
+            stripes.at(x, y) = toPixel(x % 8 < 4 ? Colour::rgb(220, 30, 40) : Colour::rgb(30, 60, 220));
+        }
+    }
+    const auto file = encodeJpeg(stripes, 98);
+    EXPECT_EQ(file, encodeJpeg(stripes, 98));
+    EXPECT_LT(encodeJpeg(stripes, 20).size(), file.size());
+    const Bitmap read = decoded(file, ImageFormat::jpeg);
+    ASSERT_EQ(read.size(), stripes.size());
+    for (const Point at : {Point{2, 0}, Point{6, 0}, Point{298, 202}, Point{294, 202}}) {
+        EXPECT_TRUE(isNear(read.at(at.x, at.y), toColour(stripes.at(at.x, at.y)), 12)) << at.x;
+    }
+    EXPECT_TRUE(encodeJpeg(Bitmap(), 90).empty());
 }
 
 TEST(PcxsAndBmps, ShowTheSamePicture) {

@@ -1,0 +1,90 @@
+// The pictures that the program writes on: whether every letter and button finds its ground there.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <array>
+#include <string>
+#include <vector>
+
+#include "platform/canvas/image.h"
+
+using namespace ventrel;
+
+namespace {
+
+Bitmap picture(const std::string& name, ImageFormat format) {
+    Image image;
+    Bitmap bitmap;
+    EXPECT_EQ(ImageLoadFile(image, std::string(PROGRAM_FOLDER) + "/grf/" + name + ".grf", format),
+              ImageError::none)
+        << name;
+    EXPECT_EQ(ImageToBitmap(image, bitmap), ImageError::none) << name;
+    return bitmap;
+}
+
+int brightness(Colour colour) {
+    return (colour.red() * 3 + colour.green() * 6 + colour.blue()) / 10;
+}
+
+/// Of all pixels of an area, sorted.
+std::vector<int> brightnesses(const Bitmap& bitmap, const Rect& area) {
+    std::vector<int> values;
+    for (int y = area.top; y < area.bottom; ++y) {
+        for (int x = area.left; x < area.right; ++x) {
+            values.push_back(brightness(toColour(bitmap.at(x, y))));
+        }
+    }
+    std::ranges::sort(values);
+    return values;
+}
+
+int median(const std::vector<int>& values) {
+    return values[values.size() / 2];
+}
+
+/// Where a row of the table of scores is written: its letters take 21 pixels.
+constexpr Rect scoreRow(int row) {
+    return {5, 50 + 24 * row, 645, 71 + 24 * row};
+}
+constexpr int rows = 10;
+
+} // namespace
+
+TEST(ArtWriting, EveryRowOfScoresLiesOnPaleEvenPaper) {
+    const Bitmap scores = picture("hiscore", ImageFormat::jpeg);
+    ASSERT_EQ(scores.size(), (Size{689, 600}));
+    for (int row = 0; row < rows; ++row) {
+        const std::vector<int> paper = brightnesses(scores, scoreRow(row));
+        EXPECT_GT(median(paper), 190) << row;
+        EXPECT_GT(paper.front(), 125) << row << ": a gap, or a rule as dark as letters";
+        EXPECT_GT(paper[paper.size() / 50], 165) << row << ": too much is dark";
+        const Rect gap{5, scoreRow(row).bottom, 645, scoreRow(row).bottom + 3};
+        EXPECT_LT(brightnesses(scores, gap).front(), 70) << row << ": no gap to the next strip";
+    }
+}
+
+TEST(ArtWriting, TheButtonsOfTheScoresHaveWellsOfTheirSize) {
+    const Bitmap scores = picture("hiscore", ImageFormat::jpeg);
+    for (const Rect button : {Rect{280, 575, 355, 594}, Rect{365, 575, 440, 594}}) {
+        EXPECT_LT(brightnesses(scores, button).back(), 60) << button.left;
+        const Rect above{button.left, button.top - 8, button.right, button.top - 4};
+        EXPECT_GT(median(brightnesses(scores, above)), 60) << button.left;
+    }
+}
+
+TEST(ArtWriting, TheLetterheadGoesOverIntoThePage) {
+    const Bitmap head = picture("letterhead", ImageFormat::png);
+    ASSERT_EQ(head.size(), (Size{250, 100}));
+    for (const Rect edge :
+         {Rect{0, 0, 250, 2}, Rect{0, 98, 250, 100}, Rect{0, 0, 2, 100}, Rect{248, 0, 250, 100}}) {
+        EXPECT_EQ(brightnesses(head, edge).front(), 255);
+    }
+    EXPECT_LT(brightnesses(head, head.bounds()).front(), 60);
+}
+
+TEST(ArtWriting, TheButtonAndVersionOfTheAboutPictureHaveAPlainShelf) {
+    const Bitmap about = picture("about", ImageFormat::png);
+    const std::vector<int> shelf = brightnesses(about, {0, 258, 480, 320});
+    EXPECT_EQ(shelf.front(), shelf.back());
+}
