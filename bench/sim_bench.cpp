@@ -79,7 +79,7 @@ public:
 std::vector<ScriptedOrder> rehearse() {
     Game game = hardGame();
     OrderListener rehearsal{game};
-    runShift(game, rehearsal, {.orders = {}, .until = longestShift, .autopilot = true});
+    runShift(game, rehearsal, {.orders = {}, .until = longestShift, .steering = automaticSteering(game)});
     if (rehearsal.result() != ShiftResult::everyFlightHandled) {
         std::abort(); // a shorter shift would flatter
     }

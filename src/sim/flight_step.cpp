@@ -95,14 +95,6 @@ void reportArrival(Game& game, SimulationEvents& events, FlightIndex index) {
     }
 }
 
-/// Off the runway and onto a course for the destination.
-void liftOff(const Game& game, Flight& flight) {
-    flight.groundState = GroundState::airborne;
-    flight.current().cell = stepCell(flight.current().cell, flight.current().heading);
-    const bool lands = flight.destinationKind == DestinationKind::airport;
-    buildCourse(flight, game.vors(), flight.destination, lands ? approachAltitude : exitAltitude);
-}
-
 /// One move of a flight that goes on. False on a collision.
 bool moveFlight(Game& game, SimulationEvents& events, FlightIndex index) {
     Flight& flight = game.flight(index);
@@ -222,6 +214,13 @@ bool isDue(const Flight& flight, ClockSeconds now) {
     case Speed::slow: return now % slowMoveInterval == flight.activatedAt % slowMoveInterval;
     }
     return false;
+}
+
+void liftOff(const Game& game, Flight& flight) {
+    flight.groundState = GroundState::airborne;
+    flight.current().cell = stepCell(flight.current().cell, flight.current().heading);
+    const bool lands = flight.destinationKind == DestinationKind::airport;
+    buildCourse(flight, game.vors(), flight.destination, lands ? approachAltitude : exitAltitude);
 }
 
 void moveAlongPlan(Flight& flight) {

@@ -45,6 +45,9 @@ void makeFrame(Game& game, SimulationEvents& events);
 /// second and a Slow one in every fourth, counted from its activation.
 bool isDue(const Flight& flight, ClockSeconds now);
 
+/// Takes a rolling flight off the runway and onto a course for its destination.
+void liftOff(const Game& game, Flight& flight);
+
 /// Moves an airborne flight one cell along its plan; past the last step it flies straight on.
 void moveAlongPlan(Flight& flight);
 

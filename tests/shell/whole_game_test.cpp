@@ -15,7 +15,7 @@ constexpr ClockSeconds scoreReportInterval = 900_s;
 constexpr const char* airportFile = "atlanta10.apt";
 
 /// What a step of the simulation alone brings: the lines of the ticker, as many as its queue takes, and the
-/// orders that the autopilot then sends.
+/// orders that the automatic controller then sends.
 struct Step {
     std::vector<std::string> lines;
     std::vector<std::pair<FlightIndex, PanelOrder>> orders;
@@ -113,7 +113,7 @@ private:
 TEST(WholeGame, PlayedByMouseAndKeysIsWhatTheSimulationAlonePlays) {
     Game alone = shiftAlone();
     StepRecorder recorded{alone};
-    runShift(alone, recorded, {.orders = {}, .until = 36000_s, .autopilot = true});
+    runShift(alone, recorded, {.orders = {}, .until = 36000_s, .steering = automaticSteering(alone)});
     GameStage stage(1024, "[Options]\nAirportSelect=1\n[Game]\nName=mary\nSkill=0\n");
     Replay replay(stage, recorded);
     stage.startNewGame(seed);

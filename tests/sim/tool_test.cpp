@@ -1,13 +1,15 @@
-// ventrel-sim: its command line, its orders file, its trace and log, and its autopilot.
+// ventrel-sim: its command line, its orders file, its trace and log, and the game that another program plays.
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
 #include <fstream>
+#include <sstream>
 
 #include "../base/temp_folder.h"
 #include "small_airspace.h"
 #include "tools/sim/arguments.h"
+#include "tools/sim/interactive.h"
 #include "tools/sim/log_writer.h"
 #include "tools/sim/shift_run.h"
 #include "tools/sim/trace_writer.h"
@@ -118,7 +120,7 @@ TEST(Trace, IsTheSameToTheByte) {
     const std::vector<ScriptedOrder> orders{
         {0_s, FlightIndex{0}, {.altitude = 5, .heading = 90}},
         {15_s, FlightIndex{0}, {.altitude = 5, .heading = 90, .speed = Speed::fast}}};
-    const std::string trace = record<TraceWriter>(shortGame(), {orders, 30_s, false});
+    const std::string trace = record<TraceWriter>(shortGame(), {orders, 30_s, {}});
     const std::string expected =
         R"({"type":"step","clock":0,"score":0,"listed":1,"flights":[[0,1,0,1,0,0,46,24,5,90,1,-1,0,0,1]]}
 {"type":"message","clock":15,"class":13,"text":")"
@@ -147,7 +149,7 @@ TEST(Trace, IsTheSameToTheByte) {
 }
 
 TEST(Log, TellsTheShiftInWords) {
-    const std::string log = record<LogWriter>(shortGame(), {{}, 36000_s, false});
+    const std::string log = record<LogWriter>(shortGame(), {{}, 36000_s, {}});
     for (const std::string_view part :
          {"00:15         \xC3\x84\"\\1 entering airspace, proceeding to NW\n",
           "00:15  radio  United one level at 5 thousand\n", "has been lost \n", "lamp   yellow on\n",
@@ -156,20 +158,32 @@ TEST(Log, TellsTheShiftInWords) {
     }
 }
 
-TEST(Autopilot, BringsMostFlightsOfAnEasyShiftHome) {
-    int score = 0;
-    int possible = 0;
-    for (std::uint32_t seed = 1; seed <= 8; ++seed) {
-        Game game =
-            SmallAirspace::usual().airport("TWO", {32, 28}, 180).game({.skill = Skill::easy}, seed * 977);
-        Output output;
-        TraceWriter writer{output, game};
-        runShift(game, writer, {{}, 36000_s, true});
-        EXPECT_EQ(writer.result(), ShiftResult::everyFlightHandled);
-        score += game.score;
-        possible += game.possibleScore;
+/// Plays the two lines of orders that follow a step, and then none.
+std::string playInteractively(Game game, const std::string& answers) {
+    Output output;
+    InteractiveWriter writer{output, game};
+    std::istringstream input{answers};
+    runShift(game, writer, {{}, 45_s, [&](Game& now, Recorder&) { takeOrders(input, now, writer); }});
+    return output.text();
+}
+
+TEST(Interactive, TellsEveryStepAndTakesOrdersAfterIt) {
+    const std::string played = playInteractively(shortGame(), "\n0 7 90 1 -1 0\n# a comment\n0 7 90 1\n\n" +
+                                                                  std::string(300, '1') + "\n0 7 90 0 9 0");
+    const std::string expected =
+        R"({"type":"step","clock":0,"score":0,"free":0,"flights":[{"flight":0,"callsign":"\u00c4\"\\1","state":"announced","from":-1,"to":1,"heavy":0}],"events":[]}
+{"type":"step","clock":15,"score":0,"free":0,"flights":[{"flight":0,"callsign":"\u00c4\"\\1","state":"airborne","from":-1,"to":1,"heavy":0,"x":46,"y":24,"altitude":5,"heading":90,"speed":1,"direct":-1,"hold":0}],"events":[{"type":"message","flight":0,"text":"\u00c4\"\\1 entering airspace, proceeding to NW"}]}
+{"type":"step","clock":30,"score":0,"free":0,"flights":[{"flight":0,"callsign":"\u00c4\"\\1","state":"airborne","from":-1,"to":1,"heavy":0,"x":47,"y":24,"altitude":6,"heading":90,"speed":1,"direct":-1,"hold":0}],"events":[{"type":"score","cause":"order","flight":0,"points":-5},{"type":"refused","order":"0 7 90 1","reason":"an order has 6 fields, not 4"}]}
+)";
+    std::string wanted = expected;
+    for (auto at = wanted.find("\\u00c4"); at != std::string::npos; at = wanted.find("\\u00c4")) {
+        wanted.replace(at, 6, "\xC3\x84");
     }
-    EXPECT_GT(score, possible * 3 / 4);
+    const auto steps = played.substr(played.find('\n') + 1);
+    EXPECT_EQ(steps.substr(0, wanted.size()), wanted);
+    EXPECT_NE(steps.find(R"("reason":"the line is too long")"), std::string::npos);
+    EXPECT_NE(steps.find(R"(directTarget must be a whole number)"), std::string::npos);
+    EXPECT_NE(steps.find(R"({"type":"end","clock":45,"result":1)"), std::string::npos);
 }
 
 } // namespace

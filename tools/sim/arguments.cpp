@@ -28,7 +28,8 @@ constexpr std::string_view help = R"(Plays one shift without a window and writes
   --seed N           state of the random generator (default 1)
   --orders FILE      orders to send: clock flight altitude heading speed directTarget hold
   --until T          last clock second (default 36000)
-  --autopilot        a simple controller clears, turns and lands the flights
+  --controller       the automatic controller plays the shift
+  --interactive      another program plays: a JSON object for each step, orders read after it
   --log              a log for people instead of one JSON object a line
   --help             this text
 
@@ -124,7 +125,8 @@ constexpr std::array optionRules{
                    return true;
                }},
     OptionRule{"--until", "a clock second from 0 to 2000000000", setUntil},
-    OptionRule{"--autopilot", "", [](Arguments& a, std::string_view) { return a.autopilot = true; }},
+    OptionRule{"--controller", "", [](Arguments& a, std::string_view) { return a.controller = true; }},
+    OptionRule{"--interactive", "", [](Arguments& a, std::string_view) { return a.interactive = true; }},
     OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }},
     OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }},
 };

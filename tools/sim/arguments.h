@@ -29,8 +29,9 @@ struct Arguments {
     std::uint32_t seed = 1;
     std::optional<std::filesystem::path> orders;
     ClockSeconds until{36000};
-    bool autopilot = false;
-    bool log = false; ///< a log for people instead of the trace
+    bool controller = false;
+    bool interactive = false; ///< another program plays
+    bool log = false;         ///< a log for people instead of the trace
     bool help = false;
 };
 

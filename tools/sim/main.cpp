@@ -2,10 +2,11 @@
 
 #include <array>
 #include <cstdio>
-#include <memory>
+#include <iostream>
 
 #include "base/windows1252.h"
 #include "tools/sim/arguments.h"
+#include "tools/sim/interactive.h"
 #include "tools/sim/log_writer.h"
 #include "tools/sim/shift_run.h"
 #include "tools/sim/trace_writer.h"
@@ -19,6 +20,27 @@ enum ExitStatus { played = 0, scenarioRefused = 1, wrongUsage = 2 };
 /// `text` is Windows-1252, and may hold what a file holds.
 void complain(std::string_view text) {
     std::fprintf(stderr, "ventrel-sim: %s\n", toTerminal(text).c_str());
+}
+
+void playShift(Game& game, Output& output, const Arguments& arguments,
+               std::span<const ScriptedOrder> orders) {
+    RunPlan plan{orders, arguments.until, {}};
+    if (arguments.controller) {
+        plan.steering = automaticSteering(game);
+    }
+    if (arguments.interactive) {
+        InteractiveWriter writer{output, game};
+        if (!plan.steering) {
+            plan.steering = [&writer](Game& now, Recorder&) { takeOrders(std::cin, now, writer); };
+        }
+        runShift(game, writer, plan);
+    } else if (arguments.log) {
+        LogWriter writer{output, game};
+        runShift(game, writer, plan);
+    } else {
+        TraceWriter writer{output, game};
+        runShift(game, writer, plan);
+    }
 }
 
 ExitStatus play(const Arguments& arguments) {
@@ -49,13 +71,7 @@ ExitStatus play(const Arguments& arguments) {
         orders = std::get<std::vector<ScriptedOrder>>(std::move(read));
     }
     Output output{stdout};
-    std::unique_ptr<Recorder> recorder;
-    if (arguments.log) {
-        recorder = std::make_unique<LogWriter>(output, game);
-    } else {
-        recorder = std::make_unique<TraceWriter>(output, game);
-    }
-    runShift(game, *recorder, {orders, arguments.until, arguments.autopilot});
+    playShift(game, output, arguments, orders);
     if (!output.finish()) {
         complain("the output could not be written");
         return scenarioRefused;
@@ -69,6 +85,7 @@ ExitStatus play(const Arguments& arguments) {
 
 int main(int count, char** words) {
     using namespace ventrel;
+    std::ios::sync_with_stdio(false);
     const auto parsed = parseArguments({words + 1, words + count});
     if (const auto* const fault = std::get_if<std::string>(&parsed)) {
         complain(fromUtf8(*fault) + " (see --help)");

@@ -1,8 +1,6 @@
 #include "tools/sim/shift_run.h"
 
-#include <optional>
-
-#include "tools/sim/autopilot.h"
+#include "controller/controller.h"
 
 namespace ventrel {
 
@@ -26,19 +24,23 @@ void sendOrders(Game& game, Recorder& recorder, std::span<const ScriptedOrder>& 
 
 } // namespace
 
+Steering automaticSteering(const Game& game) {
+    return [controller = Controller{game}](Game& now, Recorder& recorder) {
+        for (const ControllerOrder& next : controller.decide(now)) {
+            recorder.send(now, next.flight, next.order);
+        }
+    };
+}
+
 void runShift(Game& game, Recorder& recorder, const RunPlan& plan) {
-    std::optional<Autopilot> autopilot;
-    if (plan.autopilot) {
-        autopilot.emplace(game);
-    }
     std::span<const ScriptedOrder> orders = plan.orders;
 
     recorder.shiftSetUp();
     while (timeOfNextStep(game) <= plan.until && step(game, recorder)) {
         recorder.stepTaken();
         sendOrders(game, recorder, orders);
-        if (autopilot) {
-            autopilot->steer(game, recorder);
+        if (plan.steering) {
+            plan.steering(game, recorder);
         }
     }
     recorder.runEnded(recorder.result());

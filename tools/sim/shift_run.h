@@ -1,19 +1,25 @@
-// Runs one shift from its set-up to its end, with nobody at the controls but a list of orders or the
-// autopilot.
+// Runs one shift from its set-up to its end, with a list of orders or somebody else at the controls.
 
 #pragma once
 
+#include <functional>
 #include <span>
 
-#include "tools/sim/order_file.h"
+#include "tools/sim/order_text.h"
 #include "tools/sim/recorder.h"
 
 namespace ventrel {
 
+/// Looks at the game after a step and sends its orders through the recorder.
+using Steering = std::function<void(Game&, Recorder&)>;
+
+/// The automatic controller, at the controls of this game.
+Steering automaticSteering(const Game& game);
+
 struct RunPlan {
     std::span<const ScriptedOrder> orders; ///< sorted by time
     ClockSeconds until;                    ///< no step later than this
-    bool autopilot = false;
+    Steering steering;                     ///< may be empty
 };
 
 /// The shift has just been set up; it is told to the recorder, run in steps of 15 clock seconds, and told to

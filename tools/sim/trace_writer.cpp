@@ -1,44 +1,21 @@
 #include "tools/sim/trace_writer.h"
 
 #include "sim/reports.h"
+#include "tools/sim/trace_text.h"
 
 namespace ventrel {
 
 namespace {
-
-constexpr int timeWasUp = 1;
-constexpr int noOrigin = -1;
 
 template <typename Enum>
 int number(Enum value) {
     return static_cast<int>(value);
 }
 
-/// Writes the elements with commas between them.
-template <typename Range, typename Write>
-void writeList(Output& output, const Range& range, Write write) {
-    bool isFirst = true;
-    for (const auto& element : range) {
-        if (!isFirst) {
-            output << ',';
-        }
-        isFirst = false;
-        write(element);
-    }
-}
-
 void writeStep(Output& output, const Game& game, const PlanStep& step) {
     output << step.cell.x << ',' << step.cell.y << ',' << step.altitude << ',' << step.heading << ','
            << number(step.speed) << ',' << directTargetNumber(step.directTarget, game.vorCount()) << ','
            << number(step.hold);
-}
-
-void writePoint(Output& output, const Vor& vor) {
-    output << R"({"ident":)";
-    output.quoted(vor.ident) << R"(,"x":)" << vor.cell.x << R"(,"y":)" << vor.cell.y << R"(,"heading":)"
-                             << vor.runwayHeading << R"(,"airport":)" << number(vor.isAirport)
-                             << R"(,"exit":)" << number(vor.isExit) << R"(,"major":)" << number(vor.isMajor)
-                             << '}';
 }
 
 void writePlan(Output& output, const Game& game, const Flight& flight) {
@@ -54,11 +31,11 @@ void writeFlight(Output& output, const Game& game, const Flight& flight) {
     output.quoted(flight.callsign) << R"(,"phrase":)";
     output.quoted(flight.callsignPhrase)
         << R"(,"voice":)" << flight.pilotVoice << R"(,"radio":)" << flight.radioId << R"(,"at":)"
-        << flight.scheduledAt.count() << R"(,"origin":)"
-        << (flight.origin ? flight.origin->number() : noOrigin) << R"(,"destination":)"
-        << flight.destination.number() << R"(,"originKind":)" << number(flight.originKind)
-        << R"(,"destinationKind":)" << number(flight.destinationKind) << R"(,"ground":)"
-        << number(flight.groundState) << R"(,"heavy":)" << number(flight.heavy) << R"(,"plan":[)";
+        << flight.scheduledAt.count() << R"(,"origin":)" << numberOrNone(flight.origin)
+        << R"(,"destination":)" << flight.destination.number() << R"(,"originKind":)"
+        << number(flight.originKind) << R"(,"destinationKind":)" << number(flight.destinationKind)
+        << R"(,"ground":)" << number(flight.groundState) << R"(,"heavy":)" << number(flight.heavy)
+        << R"(,"plan":[)";
     writePlan(output, game, flight);
     output << "]}";
 }
@@ -146,8 +123,8 @@ void TraceWriter::stepTaken() {
 }
 
 void TraceWriter::runEnded(const RunResult& result) {
-    begin("end") << R"(,"result":)" << (result ? number(*result) : timeWasUp) << R"(,"score":)"
-                 << game().score << R"(,"possible":)" << game().possibleScore;
+    begin("end") << R"(,"result":)" << resultNumber(result) << R"(,"score":)" << game().score
+                 << R"(,"possible":)" << game().possibleScore;
     if (result == ShiftResult::collision) {
         output_ << R"(,"collision":[)" << game().collisionFlights[0].number() << ','
                 << game().collisionFlights[1].number() << ']';

@@ -1,10 +1,12 @@
-// The orders of a scripted shift, one a line: clock flight altitude heading speed directTarget hold.
-// A "#" starts a comment; the lines need not be sorted.
+// Orders as text: flight altitude heading speed directTarget hold, six whole numbers; in a file each line
+// begins with the clock time at which its order is sent. A "#" starts a comment.
 
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 #include <vector>
 
@@ -18,8 +20,13 @@ struct ScriptedOrder {
     PanelOrder order;
 };
 
+/// An order to be sent now, nothing where the line is empty, or what is wrong with it.
+std::variant<std::optional<ScriptedOrder>, std::string> readOrderLine(std::string_view line,
+                                                                      const Game& game);
+
 /// The orders sorted by time, in file order among equal times; or what is wrong, naming file and line, in
 /// Windows-1252 and with whatever bytes the file has. At most 16 MiB are read.
+/// The lines need not be sorted.
 /// Flights and map points must exist in `game`, whose shift is set up.
 std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
                                                                     const Game& game);

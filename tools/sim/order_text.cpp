@@ -1,4 +1,4 @@
-#include "tools/sim/order_file.h"
+#include "tools/sim/order_text.h"
 
 #include <algorithm>
 #include <array>
@@ -87,17 +87,20 @@ std::optional<int> readField(std::string_view word, const FieldRule& rule) {
     return value;
 }
 
+/// The fields from `first` on; those before it are 0.
 std::variant<OrderFields, std::string> readFields(const std::vector<std::string_view>& words,
-                                                  const Game& game) {
-    if (words.size() != fieldCount) {
-        return "an order has seven fields, not " + std::to_string(words.size());
+                                                  const Game& game, std::size_t first) {
+    if (words.size() != fieldCount - first) {
+        return "an order has " + std::to_string(fieldCount - first) + " fields, not " +
+               std::to_string(words.size());
     }
     const auto rules = fieldRules(game);
     OrderFields fields{};
-    for (std::size_t i = 0; i < fields.size(); ++i) {
-        const auto value = readField(words[i], rules[i]);
+    for (std::size_t i = first; i < fields.size(); ++i) {
+        const std::string_view word = words[i - first];
+        const auto value = readField(word, rules[i]);
         if (!value) {
-            return describe(rules[i]) + ", not '" + fromUtf8(words[i].substr(0, mostShown)) + "'";
+            return describe(rules[i]) + ", not '" + fromUtf8(word.substr(0, mostShown)) + "'";
         }
         fields[i] = *value;
     }
@@ -138,6 +141,21 @@ Result<std::string> readText(const std::filesystem::path& file) {
 
 } // namespace
 
+std::variant<std::optional<ScriptedOrder>, std::string> readOrderLine(std::string_view line,
+                                                                      const Game& game) {
+    const auto words = splitWords(line);
+    if (words.empty()) {
+        return std::nullopt;
+    }
+    const auto fields = readFields(words, game, flightField);
+    if (const auto* const fault = std::get_if<std::string>(&fields)) {
+        return *fault;
+    }
+    ScriptedOrder order = toOrder(std::get<OrderFields>(fields), game.vorCount());
+    order.clock = game.clock;
+    return order;
+}
+
 std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
                                                                     const Game& game) {
     const auto text = readText(file);
@@ -152,7 +170,7 @@ std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::f
         if (words.empty()) {
             continue;
         }
-        const auto fields = readFields(words, game);
+        const auto fields = readFields(words, game, clockField);
         if (const auto* const fault = std::get_if<std::string>(&fields)) {
             return pathText(file) + ":" + std::to_string(number) + ": " + *fault;
         }

@@ -1,4 +1,4 @@
-#include "tools/sim/approach.h"
+#include "controller/approach.h"
 
 #include <algorithm>
 #include <deque>

@@ -1,0 +1,140 @@
+#include "controller/choices.h"
+
+#include <algorithm>
+#include <array>
+
+namespace ventrel {
+
+namespace {
+
+// What a choice costs beside its losses, in points.
+constexpr int otherAltitude = 6;
+constexpr int perThousand = 1;
+constexpr int circle = 16;
+constexpr int otherSpeed = 3;
+
+struct Turn {
+    int degrees;
+    int detour;
+};
+constexpr std::array turns{
+    std::to_array<Turn>({{0, 4}, {-45, 10}, {45, 10}, {-90, 14}, {90, 14}, {-135, 18}, {135, 18}})};
+
+PanelOrder straightOn(const PlanStep& now, int altitude) {
+    PanelOrder order = now;
+    order.altitude = altitude;
+    order.directTarget = DirectTarget::none();
+    order.hold = false;
+    return order;
+}
+
+PanelOrder circling(const PlanStep& now, int altitude) {
+    PanelOrder order = now;
+    order.altitude = altitude;
+    order.directTarget = PointIndex{0};
+    order.hold = true;
+    return order;
+}
+
+int altitudeDetour(const PlanStep& now, int altitude, int wanted) {
+    return altitude == wanted ? 0 : otherAltitude + perThousand * std::abs(altitude - now.altitude);
+}
+
+/// Turns, circles and other altitudes: what is left when the straight way is blocked.
+void addEvasions(std::vector<Choice>& choices, const PlanStep& now, int wanted) {
+    constexpr int band = 3;
+    for (int altitude = now.altitude - band; altitude <= now.altitude + band; ++altitude) {
+        if (altitude < approachAltitude || altitude > exitAltitude) {
+            continue;
+        }
+        const int detour = altitudeDetour(now, altitude, wanted);
+        for (const Turn& turn : turns) {
+            PanelOrder order = straightOn(now, altitude);
+            order.heading = turned(now.heading, turn.degrees);
+            choices.push_back({order, detour + turn.detour});
+        }
+        choices.push_back({circling(now, altitude), detour + circle});
+    }
+}
+
+/// The choices at the speeds that the flight may fly, still the best first.
+std::vector<Choice> withSpeeds(const std::vector<Choice>& choices, const Flight& flight) {
+    if (flight.heavy) {
+        return choices;
+    }
+    std::vector<Choice> result;
+    result.reserve(choices.size() * 3);
+    for (const Choice& choice : choices) {
+        for (const Speed speed : {Speed::normal, Speed::slow, Speed::fast}) {
+            result.push_back(choice);
+            result.back().order.speed = speed;
+            result.back().detour += speed == Speed::normal ? 0 : otherSpeed;
+        }
+    }
+    return result;
+}
+
+/// Whether a direct course would get there. From close beside it may circle the point for ever.
+bool canGoDirect(const Game& game, Flight flight, PanelOrder direct) {
+    const Cell exit = game.vor(flight.destination).cell;
+    if (areNeighbours(flight.current().cell, exit)) {
+        return false;
+    }
+    direct.directTarget = flight.destination;
+    planOrder(game, flight, direct);
+    return flight.lastStep().cell == exit;
+}
+
+/// The next turn to make toward the runway, as one order: until the way turns the other way.
+PanelOrder turnToRunway(const Approach& approach, const PlanStep& now, int altitude) {
+    PlanStep way = now;
+    int turn = 0;
+    // A reversal in one order would always go left, so a longer turn is ordered in pieces.
+    constexpr int mostTurns = fullCircle / headingStep / 2 - 1;
+    for (int i = 0; i < mostTurns; ++i) {
+        const int heading = approach.nextHeading(way.cell, way.heading, way.altitude);
+        const int nextTurn = heading - way.heading;
+        if (i > 0 && nextTurn != turn) {
+            break;
+        }
+        turn = nextTurn;
+        way.heading = heading;
+        way.cell = stepCell(way.cell, heading);
+        way.altitude = std::max(way.altitude - 1, approachAltitude);
+    }
+    PanelOrder order = straightOn(now, altitude);
+    order.heading = way.heading;
+    return order;
+}
+
+} // namespace
+
+std::vector<Choice> choicesToExit(const Game& game, const Flight& flight) {
+    const PlanStep& now = flight.current();
+    std::vector<Choice> choices;
+    // Straight ahead until there is room to turn.
+    for (int altitude = exitAltitude; altitude >= approachAltitude; --altitude) {
+        PanelOrder order = straightOn(now, altitude);
+        order.directTarget = canGoDirect(game, flight, order) ? flight.destination : DirectTarget{};
+        choices.push_back({order, altitudeDetour(now, altitude, exitAltitude)});
+    }
+    addEvasions(choices, now, exitAltitude);
+    return withSpeeds(choices, flight);
+}
+
+std::vector<Choice> choicesToRunway(const Approach& approach, const Flight& flight) {
+    constexpr int roomToDescend = 10; // moves before the descent has to begin at the latest
+    const PlanStep& now = flight.current();
+    const bool descends = approach.moves(now.cell, now.heading) < now.altitude + roomToDescend;
+    const int wanted = descends ? approachAltitude : now.altitude;
+    std::vector<Choice> choices{{turnToRunway(approach, now, wanted), 0}};
+    for (int altitude = approachAltitude; altitude <= exitAltitude; ++altitude) {
+        if (altitude != wanted) {
+            choices.push_back({turnToRunway(approach, now, altitude), altitudeDetour(now, altitude, wanted)});
+        }
+    }
+    addEvasions(choices, now, approachAltitude);
+    return withSpeeds(choices, flight);
+}
+
+} // namespace ventrel

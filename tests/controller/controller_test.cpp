@@ -1,0 +1,105 @@
+// The automatic controller: what it foresees, and how well it plays.
+
+#include "controller/controller.h"
+
+#include <gtest/gtest.h>
+
+#include "../sim/small_airspace.h"
+#include "controller/traffic.h"
+
+namespace ventrel {
+namespace {
+
+/// What a game without further orders loses in the time that the look ahead covers.
+int pointsLost(Game game) {
+    struct Losses final : SimulationEvents {
+        int points = 0;
+        void scoreChanged(const ScoreChange& change) override {
+            points -= change.delta < 0 ? change.delta : 0;
+        }
+    } losses;
+    for (int i = 0; i < stepsAhead && step(game, losses); ++i) {
+    }
+    return losses.points;
+}
+
+/// The pairs' conflicts as the look ahead counts them.
+int pointsForeseen(const Game& game) {
+    const Traffic traffic{game};
+    int points = 0;
+    for (const FlightIndex i : game.flightPlaces()) {
+        points += traffic.conflictsOf(i, game.flight(i));
+    }
+    return points / 2;
+}
+
+TEST(Traffic, ForeseesWhatTheGameWillJudge) {
+    TestGame test;
+    test.game.score = 10000;
+    test.fly({20, 24}, 5, 90, PointIndex{1});
+    test.fly({28, 25}, 5, 270, PointIndex{1});
+    test.fly({22, 33}, 5, 0, PointIndex{1}).current().speed = Speed::fast;
+    test.fly({10, 41}, 5, 90, PointIndex{1});
+    test.fly({12, 41}, 6, 90, PointIndex{1});
+    test.step(30_s);
+    const int lost = pointsLost(test.game);
+    const int foreseen = pointsForeseen(test.game);
+    EXPECT_GE(lost, 300);
+    // What is far ahead weighs less, down to a half.
+    EXPECT_LE(foreseen, lost);
+    EXPECT_GE(foreseen, lost / 2);
+}
+
+TEST(Traffic, CountsACollisionMoreThanAnythingElse) {
+    TestGame test;
+    test.fly({20, 24}, 5, 90, PointIndex{1});
+    test.fly({28, 24}, 5, 270, PointIndex{1});
+    test.step(30_s);
+    EXPECT_GT(pointsForeseen(test.game), 20000);
+}
+
+TEST(Controller, OrdersNothingTwiceAndAlwaysTheSame) {
+    Game game = SmallAirspace::usual().game({.skill = Skill::hard}, 5);
+    const Controller controller{game};
+    int orders = 0;
+    while (step(game)) {
+        const auto decided = controller.decide(game);
+        EXPECT_EQ(decided, controller.decide(game));
+        for (const ControllerOrder& next : decided) {
+            EXPECT_EQ(judgeOrder(game, next.flight, next.order), OrderVerdict::accepted);
+            executeOrder(game, next.flight, next.order);
+            ++orders;
+        }
+        for (const ControllerOrder& next : controller.decide(game)) {
+            const Flight& flight = game.flight(next.flight);
+            EXPECT_FALSE(flight.isAirborne() && changesNothing(game, flight, next.order));
+        }
+    }
+    EXPECT_EQ(game.phase, Phase::lastLine) << "every flight was handled";
+    EXPECT_GT(orders, game.planeCount());
+}
+
+TEST(Controller, BringsEveryFlightHomeWithinTheFreeOrders) {
+    for (const Skill skill : {Skill::easy, Skill::normal, Skill::hard}) {
+        int score = 0;
+        int possible = 0;
+        for (std::uint32_t seed = 1; seed <= 8; ++seed) {
+            Game game =
+                SmallAirspace::usual().airport("TWO", {32, 28}, 180).game({.skill = skill}, seed * 977);
+            const Controller controller{game};
+            while (step(game)) {
+                for (const ControllerOrder& next : controller.decide(game)) {
+                    executeOrder(game, next.flight, next.order);
+                }
+            }
+            EXPECT_EQ(game.phase, Phase::lastLine);
+            EXPECT_GT(game.freeOrders, 0);
+            score += game.score;
+            possible += game.possibleScore;
+        }
+        EXPECT_GE(score * 100, possible * 97) << "skill " << static_cast<int>(skill);
+    }
+}
+
+} // namespace
+} // namespace ventrel
