@@ -84,7 +84,7 @@ TEST_F(OrderFile, WithAFaultIsRefusedByFileAndLine) {
     expectFault("15 0 5 90 0 6 1", ":1: directTarget");
     expectFault("15 0 5 90 0 5 0", ":1: there is no map point 5");
     expectFault("15 0 5 90 0 -1 2", ":1: hold");
-    expectFault("15 0 5 90 0 -1", ":1: an order has seven fields, not 6");
+    expectFault("15 0 5 90 0 -1", ":1: an order has 7 fields, not 6");
     expectFault("15 0 5 90 0 -1 0.5", ":1: hold");
     std::filesystem::remove(path);
     EXPECT_TRUE(std::holds_alternative<std::string>(readOrderFile(path, test.game)));
