@@ -110,7 +110,7 @@ std::vector<FlightIndex> worstFirst(const Game& game, const Traffic& traffic) {
 
 } // namespace
 
-Controller::Controller(const Game& game) {
+Controller::Controller(const Game& game, int lookAhead) : lookAhead_{lookAhead} {
     for (const Vor& vor : game.vors()) {
         approaches_.emplace_back(vor);
     }
@@ -118,7 +118,7 @@ Controller::Controller(const Game& game) {
 
 std::vector<ControllerOrder> Controller::decide(Game game) const {
     std::vector<ControllerOrder> orders;
-    Traffic traffic{game};
+    Traffic traffic{game, lookAhead_};
     for (const FlightIndex index : worstFirst(game, traffic)) {
         const Flight& flight = game.flight(index);
         std::optional<PanelOrder> order;

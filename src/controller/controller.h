@@ -16,6 +16,7 @@
 #include <vector>
 
 #include "controller/approach.h"
+#include "controller/track.h"
 #include "sim/game.h"
 
 namespace ventrel {
@@ -30,13 +31,16 @@ struct ControllerOrder {
 class Controller {
 public:
     /// Learns the ways to the runways in use in the game, whose shift is set up. Keeps no reference to it.
-    explicit Controller(const Game& game);
+    /// It looks so many steps of 15 clock seconds ahead, from 1 to `stepsAhead`: the fewer, the more hurried
+    /// a player it stands for.
+    explicit Controller(const Game& game, int lookAhead = stepsAhead);
 
     /// The orders to send now, after a step, in this order; all of them are accepted. Draws nothing,
     /// remembers nothing: the same game gets the same orders.
     std::vector<ControllerOrder> decide(Game game) const;
 
 private:
+    int lookAhead_;
     std::vector<Approach> approaches_; // by map point
 };
 

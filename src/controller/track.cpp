@@ -63,14 +63,14 @@ int closeness(const Spot& mover, const Spot& other, int step) {
 
 } // namespace
 
-Track trackOf(const Game& game, Flight flight) {
+Track trackOf(const Game& game, Flight flight, int steps) {
     Track track;
     if (!flight.inPlay || !flight.isActive()) {
         return track;
     }
     track.spots[0] = spotOf(flight);
     ClockSeconds time = game.clock;
-    for (int step = 1; step <= stepsAhead; ++step) {
+    for (int step = 1; step <= steps; ++step) {
         time += stepInterval;
         const bool due = isDue(flight, time);
         const bool checks = due && flight.isAirborne();

@@ -9,7 +9,7 @@
 
 namespace ventrel {
 
-/// The steps of 15 clock seconds that the controller looks ahead: ten minutes.
+/// The most steps of 15 clock seconds that a look ahead covers: ten minutes.
 inline constexpr int stepsAhead = 40;
 
 /// Where a flight stands after a step.
@@ -29,8 +29,8 @@ struct Track {
         0; ///< what it will throw away by arriving wrong, or by leaving the scope; sooner weighs more
 };
 
-/// The track of a flight, whatever plan it has and whether or not it has taken off.
-Track trackOf(const Game& game, Flight flight);
+/// The track of a flight for so many steps, whatever plan it has and whether or not it has taken off.
+Track trackOf(const Game& game, Flight flight, int steps);
 
 /// What two flights will lose to each other, in points; a collision counts for more than any shift is worth.
 /// The flights stand in the table in this order, and move in it.

@@ -2,23 +2,23 @@
 
 namespace ventrel {
 
-Traffic::Traffic(const Game& game) : game_{game} {
+Traffic::Traffic(const Game& game, int lookAhead) : game_{game}, lookAhead_{lookAhead} {
     tracks_.reserve(game.flights.size());
     for (const Flight& flight : game.flights) {
-        tracks_.push_back(trackOf(game, flight));
+        tracks_.push_back(trackOf(game, flight, lookAhead));
     }
 }
 
 void Traffic::update(FlightIndex index) {
-    tracks_[index.place()] = trackOf(game_, game_.flight(index));
+    tracks_[index.place()] = trackOf(game_, game_.flight(index), lookAhead_);
 }
 
 int Traffic::lossOf(FlightIndex index, const Flight& plan) const {
-    return lossOf(index, trackOf(game_, plan));
+    return lossOf(index, trackOf(game_, plan, lookAhead_));
 }
 
 int Traffic::conflictsOf(FlightIndex index, const Flight& plan) const {
-    return conflictsOf(index, trackOf(game_, plan));
+    return conflictsOf(index, trackOf(game_, plan, lookAhead_));
 }
 
 int Traffic::lossOf(FlightIndex index, const Track& track) const {

@@ -11,8 +11,8 @@ namespace ventrel {
 
 class Traffic {
 public:
-    /// As of the game's last step. The game outlives it.
-    explicit Traffic(const Game& game);
+    /// As of the game's last step, so many steps ahead, at most `stepsAhead`. The game outlives it.
+    explicit Traffic(const Game& game, int lookAhead = stepsAhead);
 
     /// Looks again at a flight that has been given another plan.
     void update(FlightIndex index);
@@ -30,6 +30,7 @@ private:
     int conflictsOf(FlightIndex index, const Track& track) const;
 
     const Game& game_;
+    int lookAhead_;
     std::vector<Track> tracks_; // by flight
 };
 

@@ -6,6 +6,7 @@
 
 #include "base/string_table.h"
 #include "base/windows1252.h"
+#include "controller/track.h"
 #include "sim/custom_skill.h"
 
 namespace ventrel {
@@ -29,6 +30,7 @@ constexpr std::string_view help = R"(Plays one shift without a window and writes
   --orders FILE      orders to send: clock flight altitude heading speed directTarget hold
   --until T          last clock second (default 36000)
   --controller       the automatic controller plays the shift
+  --look-ahead N     steps of 15 clock seconds that it looks ahead, 1 to 40 (default 40)
   --interactive      another program plays: a JSON object for each step, orders read after it
   --log              a log for people instead of one JSON object a line
   --help             this text
@@ -126,6 +128,8 @@ constexpr std::array optionRules{
                }},
     OptionRule{"--until", "a clock second from 0 to 2000000000", setUntil},
     OptionRule{"--controller", "", [](Arguments& a, std::string_view) { return a.controller = true; }},
+    OptionRule{"--look-ahead", "a number from 1 to 40",
+               [](Arguments& a, std::string_view v) { return readNumber(v, 1, stepsAhead, a.lookAhead); }},
     OptionRule{"--interactive", "", [](Arguments& a, std::string_view) { return a.interactive = true; }},
     OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }},
     OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }},

@@ -30,6 +30,7 @@ struct Arguments {
     std::optional<std::filesystem::path> orders;
     ClockSeconds until{36000};
     bool controller = false;
+    int lookAhead = 40;       ///< of the automatic controller, in steps
     bool interactive = false; ///< another program plays
     bool log = false;         ///< a log for people instead of the trace
     bool help = false;

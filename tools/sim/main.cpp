@@ -26,7 +26,7 @@ void playShift(Game& game, Output& output, const Arguments& arguments,
                std::span<const ScriptedOrder> orders) {
     RunPlan plan{orders, arguments.until, {}};
     if (arguments.controller) {
-        plan.steering = automaticSteering(game);
+        plan.steering = automaticSteering(game, arguments.lookAhead);
     }
     if (arguments.interactive) {
         InteractiveWriter writer{output, game};

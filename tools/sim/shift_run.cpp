@@ -24,8 +24,8 @@ void sendOrders(Game& game, Recorder& recorder, std::span<const ScriptedOrder>& 
 
 } // namespace
 
-Steering automaticSteering(const Game& game) {
-    return [controller = Controller{game}](Game& now, Recorder& recorder) {
+Steering automaticSteering(const Game& game, int lookAhead) {
+    return [controller = Controller{game, lookAhead}](Game& now, Recorder& recorder) {
         for (const ControllerOrder& next : controller.decide(now)) {
             recorder.send(now, next.flight, next.order);
         }

@@ -5,6 +5,7 @@
 #include <functional>
 #include <span>
 
+#include "controller/track.h"
 #include "tools/sim/order_text.h"
 #include "tools/sim/recorder.h"
 
@@ -13,8 +14,8 @@ namespace ventrel {
 /// Looks at the game after a step and sends its orders through the recorder.
 using Steering = std::function<void(Game&, Recorder&)>;
 
-/// The automatic controller, at the controls of this game.
-Steering automaticSteering(const Game& game);
+/// The automatic controller, at the controls of this game; see Controller for the look ahead.
+Steering automaticSteering(const Game& game, int lookAhead = stepsAhead);
 
 struct RunPlan {
     std::span<const ScriptedOrder> orders; ///< sorted by time
