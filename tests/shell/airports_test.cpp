@@ -89,17 +89,20 @@ TEST(Airports, EachDamagedFileIsToldOnceAndAllInOneBox) {
 
 TEST(Airports, APictureLargerThanTheScopeIsNotKept) {
     const std::string picture = readText(fs::path(TEST_DATA_FOLDER) / "larger_than_scope.jpg");
-    std::string file = airportNamed("Aaa");
-    const auto put = [&file](std::size_t offset, std::size_t number) {
+    const auto put = [](std::string& file, std::size_t offset, std::size_t number) {
         for (int byte = 0; byte < 4; ++byte, number >>= 8U) {
             file[offset++] = static_cast<char>(number & 0xFFU);
         }
     };
-    put(airport_layout::pictureStartOffset, file.size());
-    put(airport_layout::pictureSizeOffset, picture.size());
+    std::string file = airportNamed("Aaa");
+    put(file, airport_layout::pictureStartOffset, file.size());
+    put(file, airport_layout::pictureSizeOffset, picture.size());
+    std::string plain = airportNamed("Aab");
+    put(plain, airport_layout::pictureSizeOffset, 0);
     GameStage stage;
     fs::create_directory(stage.playersAirports());
     writeText(stage.playersAirports() / "a.apt", file + picture);
+    writeText(stage.playersAirports() / "plain.apt", plain);
     stage.startNewGame();
     stage.look([&] {
         const auto& kept = stage.shell().radar.airportImage;
@@ -110,7 +113,7 @@ TEST(Airports, APictureLargerThanTheScopeIsNotKept) {
     stage.todo([](Script& script) { script.key(Key::f, withAlt).type("n").wait(1).key(Key::enter).wait(1); });
     stage.todo([](Script& script) { script.key(Key::enter).wait(1); });
     stage.look([&] {
-        EXPECT_EQ(stage.game().airspace->name, "Amsterdam");
+        EXPECT_EQ(stage.game().airspace->name, "Aab");
         EXPECT_FALSE(stage.shell().radar.airportImage.has_value()) << "the last airport's picture stayed";
     });
     stage.play();

@@ -30,7 +30,8 @@ void makeRemarkable(GameStage& stage) {
 void expectLooks(int width, const std::string& name) {
     TempFolder folder;
     makePlainProgram(folder.path());
-    GameStage stage(width, "[Options]\nShowGrid=1\nAirportSelect=8\n[Game]\nName=mary\nSkill=3\n",
+    GameStage stage(width,
+                    "[Options]\nShowGrid=1\nMapDetails=0\nAirportSelect=8\n[Game]\nName=mary\nSkill=3\n",
                     folder.path());
     stage.startNewGame(3);
     stage.skipTo(600_s);
@@ -61,7 +62,8 @@ TEST(Looks, ABusyLargeConsole) {
 TEST(Looks, TheTopBarAndTheButtonsOfTheStrips) {
     TempFolder folder;
     makePlainProgram(folder.path());
-    GameStage stage(800, "[Options]\nAirportSelect=8\n[Game]\nName=mary\nSkill=3\n", folder.path());
+    GameStage stage(800, "[Options]\nMapDetails=0\nAirportSelect=8\n[Game]\nName=mary\nSkill=3\n",
+                    folder.path());
     stage.startNewGame(3);
     stage.wait(5000);
     stage.look([&] { expectGolden(pictureOf(stage.backend.screen(), {0, 0, 800, 50}), "top_bar_start"); });

@@ -35,7 +35,7 @@ constexpr PlantedFault plantedFaults[] = {
     {"too_many_points", ":12: there are 34 points; the order menu offers 32\n"},
     {"exit_and_airport", ":32: point 'BTH': it is both an exit and an airport"},
     {"dark_colours", ":5: the aircraft colour cannot be seen on black: its brightest part is 20 of 255, 72"},
-    {"same_colours", ":6: a selected aircraft looks like the others: the colours are 20 apart, 96 are"},
+    {"same_colours", ":6: a selected aircraft looks like the others: the colours are 10 apart, 30 are"},
     {"unknown_key", ":15: point 1: unknown key 'cells'"},
     {"long_name", ":2: airspace: 'name' must have 1 to 31 characters; it has 38\n"},
     {"bad_heading", ":17: point 1: 'runway' must be a multiple of 45"},
@@ -72,6 +72,7 @@ constexpr Change changes[] = {
     {"\"Nnn Field\"", "\"\"", ":23: point 2: 'name' must have 1 to 19 characters; it has 0"},
     {"[24, 24]", "[46, 24]",
      "the approach cone of the opposite direction leaves the scope by 4 pixels (at 800"},
+    {"#ffe23c", "#e8f4a0", ":6: a selected aircraft looks like the others to eyes without"},
     {"lower right", "upper right", ":19: point 'AAA': its label lies in its own approach cone"},
     {"[24, 40]", "[24, 10]", ":26: point 'NNN': its label covers 'SSS' (11 x 2 pixels) (at 800 pixels)"},
 };

@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <set>
 #include <string>
 #include <vector>
 
+#include "platform/canvas/image.h"
 #include "sim/game.h"
 
 namespace ventrel {
@@ -67,6 +69,40 @@ TEST(ShippedAirspaces, BothLayoutsOfEachAreTheSameTrafficProblem) {
             EXPECT_EQ(small.airspace->name, large.airspace->name);
             expectSameProblem(small, large);
         }
+    }
+}
+
+TEST(ShippedAirspaces, EachHasAPictureOfItsOwnForEachLayout) {
+    constexpr std::size_t smallest = 15'000; // bytes; less would be an empty scope
+    constexpr std::size_t largest = 150'000;
+    std::set<std::string> pictures;
+    for (const std::string& name : shippedAirspaces()) {
+        for (const auto& [file, side] : {std::pair(name + "8.apt", 539U), {name + "10.apt", 686U}}) {
+            const auto airspace = loadAirport(airportFolder / file);
+            ASSERT_TRUE(airspace.has_value()) << file;
+            const auto& picture = (*airspace)->picture;
+            Image image;
+            EXPECT_EQ(ImageLoadMemory(image, picture, ImageFormat::jpeg), ImageError::none) << file;
+            EXPECT_EQ(image.width, side) << file;
+            EXPECT_EQ(image.height, side) << file;
+            EXPECT_GT(picture.size(), smallest) << file;
+            EXPECT_LT(picture.size(), largest) << file;
+            pictures.emplace(reinterpret_cast<const char*>(picture.data()), picture.size());
+        }
+    }
+    EXPECT_EQ(pictures.size(), 2 * shippedCount);
+}
+
+TEST(ShippedAirspaces, TheOutlinesAreSmallTextsWithTheirNotice) {
+    const fs::path folder = fs::path(SHIPPED_AIRSPACES) / "outlines";
+    for (const std::string& name : shippedAirspaces()) {
+        const fs::path file = folder / (name + ".outline");
+        ASSERT_TRUE(fs::exists(file)) << file;
+        EXPECT_GT(fs::file_size(file), 5'000U) << file;
+        EXPECT_LT(fs::file_size(file), 41'000U) << file;
+    }
+    for (const char* const notice : {"NOTICE", "COPYING", "COPYING.LESSER"}) {
+        EXPECT_TRUE(fs::exists(folder / notice)) << notice;
     }
 }
 

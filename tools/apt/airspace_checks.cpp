@@ -2,10 +2,14 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstdlib>
+#include <utility>
 
 #include "platform/canvas/image.h"
 #include "radar/map_geometry.h"
+#include "tools/apt/colour_sight.h"
+#include "tools/apt/ground_checks.h"
 #include "tools/apt/label_checks.h"
 #include "tools/apt/scope_measure.h"
 
@@ -18,15 +22,17 @@ constexpr std::size_t mostPoints = 32;    // that the order menu can offer
 constexpr std::size_t mostLookedAt = 256; // one by one and in pairs; a file with more is no use anyway
 constexpr int leastBrightness = 72;       // of 255, for a colour to be seen on black
 constexpr int mostChance = 100;           // percent
-constexpr int leastColourDifference =
-    96; // between the selected aircraft and the others, all channels together
+constexpr int leastColourDistance = 30;   // between the selected aircraft and the others, for every eye
 
 int brightness(Colour colour) {
     return std::max({colour.red(), colour.green(), colour.blue()});
 }
 
-int difference(Colour a, Colour b) {
-    return std::abs(a.red() - b.red()) + std::abs(a.green() - b.green()) + std::abs(a.blue() - b.blue());
+/// Whether the picture is one that the game can show.
+bool decode(std::span<const std::byte> jpeg, Bitmap& bitmap) {
+    Image image;
+    return ImageLoadMemory(image, jpeg, ImageFormat::jpeg) == ImageError::none &&
+           ImageToBitmap(image, bitmap) == ImageError::none;
 }
 
 class Checker {
@@ -40,6 +46,8 @@ public:
         checkHeader();
         if (const std::string problem = pictureProblem(picture, header_.layoutWidth); !problem.empty()) {
             add(Subject::picture, problem);
+        } else if (Bitmap ground; !picture.empty() && decode(picture, ground)) {
+            checkGround(header_, lookedAt_, ground, problems_);
         }
         for (std::size_t i = 0; i < lookedAt_.size(); ++i) {
             checkNames(i);
@@ -76,11 +84,23 @@ private:
         checkBrightness({}, Subject::selectedColour, "selected aircraft colour",
                         header_.selectedFlightColour);
         checkBrightness({}, Subject::routeColour, "route colour", header_.routeColour);
-        const int apart = difference(header_.flightColour, header_.selectedFlightColour);
-        if (apart < leastColourDifference) {
-            add(Subject::selectedColour, "a selected aircraft looks like the others: the colours are " +
-                                             std::to_string(apart) + " apart, " +
-                                             std::to_string(leastColourDifference) + " are needed");
+        checkSelected();
+    }
+
+    void checkSelected() {
+        constexpr std::array<std::pair<Sight, const char*>, 3> eyes{
+            {{Sight::full, ""},
+             {Sight::withoutRed, " to eyes without red"},
+             {Sight::withoutGreen, " to eyes without green"}}};
+        for (const auto& [sight, whose] : eyes) {
+            const double apart = distanceSeen(header_.flightColour, header_.selectedFlightColour, sight);
+            if (apart < leastColourDistance) {
+                add(Subject::selectedColour, std::string("a selected aircraft looks like the others") +
+                                                 whose + ": the colours are " +
+                                                 std::to_string(std::lround(apart)) + " apart, " +
+                                                 std::to_string(leastColourDistance) + " are needed");
+                return;
+            }
         }
     }
 

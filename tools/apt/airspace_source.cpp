@@ -1,17 +1,15 @@
 #include "tools/apt/airspace_source.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <cstdlib>
-#include <filesystem>
 #include <limits>
-#include <numbers>
 #include <set>
 
 #include "base/windows1252.h"
 #include "sim/airport_file.h"
 #include "sim/grid.h"
+#include "tools/apt/picture_source.h"
 #include "tools/apt/source_limits.h"
 #include "tools/apt/toml_reader.h"
 
@@ -19,7 +17,6 @@ namespace ventrel::apt {
 
 namespace {
 
-constexpr double minutesPerDegree = 60; // of latitude; one is a nautical mile
 constexpr int mostNudge = 3; // cells between a point's place on the earth and the cell given for it
 constexpr int largestPixel = std::numeric_limits<std::uint16_t>::max();
 constexpr int mostPointsOfFile = std::numeric_limits<std::uint16_t>::max();
@@ -49,7 +46,9 @@ public:
         }
         readColours(reader.table("colours"));
         if (reader.has("picture")) {
-            readPictures(reader.table("picture"));
+            if (const toml::table* picture = reader.table("picture")) {
+                readPicture(*picture, source_, faults_);
+            }
         }
         readPoints(reader);
         reader.finish();
@@ -92,32 +91,6 @@ private:
         source_.routeColour = reader.colour("route");
         colours_ = {reader.colour("label"), reader.colour("symbol"), reader.colour("runway")};
         reader.finish();
-    }
-
-    void readPictures(const toml::table* table) {
-        if (table == nullptr) {
-            return;
-        }
-        TableReader reader(*table, faults_, "picture");
-        source_.pictureLines = reader.lines();
-        for (const ScopeLayout& layout : {smallLayout, largeLayout}) {
-            const std::string width = std::to_string(layout.windowWidth);
-            if (reader.has(width)) {
-                readPicture(reader, width, layout.windowWidth);
-            }
-        }
-        reader.finish();
-    }
-
-    void readPicture(TableReader& reader, const std::string& key, int width) {
-        constexpr std::size_t longestName = 255;
-        const std::filesystem::path name = toUtf8(reader.text(key, longestName));
-        if (name.is_absolute() || std::ranges::find(name, "..") != name.end()) {
-            reader.fail(
-                '\'' + key + "' must lie in the source's folder or below: no '/' at its start, no '..'", key);
-        } else if (!name.empty()) {
-            source_.pictures[width] = name.string();
-        }
     }
 
     void readPoints(TableReader& reader) {
@@ -279,15 +252,6 @@ private:
 
 } // namespace
 
-Cell cellOf(const GridPlace& grid, double latitude, double longitude) {
-    constexpr double middle = gridSize / 2.0;
-    const double shrink = std::cos(grid.latitude * std::numbers::pi / 180);
-    const double eastward = std::remainder(longitude - grid.longitude, 360.0);
-    const double east = eastward * minutesPerDegree * shrink / grid.nauticalMilesPerCell;
-    const double south = (grid.latitude - latitude) * minutesPerDegree / grid.nauticalMilesPerCell;
-    return {static_cast<int>(std::floor(middle + east)), static_cast<int>(std::floor(middle + south))};
-}
-
 SourceReading parseAirspace(std::string_view toml) {
     if (auto fault = nestingFault(toml)) {
         return {{}, {std::move(*fault)}};
@@ -309,7 +273,7 @@ int lineOf(const AirspaceSource& source, const Problem& problem, int width) {
     case Subject::name: return own.of("name");
     case Subject::layout: return own.of("layout");
     case Subject::points: return own.of("point");
-    case Subject::picture: return source.pictureLines.of(std::to_string(width));
+    case Subject::picture: return source.pictureLines.of(std::to_string(width), "outline");
     case Subject::flightColour: return source.colourLines.of("aircraft");
     case Subject::selectedColour: return source.colourLines.of("selected");
     case Subject::routeColour: return source.colourLines.of("route");

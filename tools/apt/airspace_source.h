@@ -16,21 +16,22 @@
 #include "base/geometry.h"
 #include "sim/vor.h"
 #include "tools/apt/faults.h"
+#include "tools/apt/grid_place.h"
+#include "tools/chart/chart.h"
 
 namespace ventrel::apt {
-
-/// The middle of the grid on the earth, in degrees, and its scale.
-struct GridPlace {
-    double latitude = 0;
-    double longitude = 0;
-    double nauticalMilesPerCell = 0;
-};
 
 struct SourcePoint {
     Vor vor;                    ///< all but its place
     std::optional<Cell> cell;   ///< as given, or from its place on the earth
     std::optional<Point> pixel; ///< only where no cell fits
     KeyLines lines;
+};
+
+/// A picture that is drawn when the source is compiled, for the layout's size.
+struct ChartSource {
+    std::string outline; ///< name of the file beside the source, in UTF-8
+    chart::Chart chart;  ///< but for its outline
 };
 
 struct AirspaceSource {
@@ -41,6 +42,7 @@ struct AirspaceSource {
     Colour selectedFlightColour;
     Colour flightColour;
     std::map<int, std::string> pictures; ///< names of files beside the source, in UTF-8, by layout width
+    std::optional<ChartSource> chart;    ///< with it there are no pictures
     std::vector<SourcePoint> points;
 
     KeyLines lines;
@@ -67,8 +69,5 @@ int lineOf(const AirspaceSource& source, const Problem& problem, int width);
 inline constexpr std::array<std::string_view, 4> vorLabelPlaces{"above", "left", "right", "below"};
 inline constexpr std::array<std::string_view, 4> airportLabelPlaces{"upper left", "upper right", "lower left",
                                                                     "lower right"};
-
-/// The cell of a place on the earth, the shorter way around it.
-Cell cellOf(const GridPlace& grid, double latitude, double longitude);
 
 } // namespace ventrel::apt

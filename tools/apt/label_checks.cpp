@@ -19,13 +19,6 @@ struct LabelMeasure {
 constexpr LabelMeasure smallLabels{6, 10};
 constexpr LabelMeasure largeLabels{7, 11};
 
-Rect labelBox(const RadarLayout& layout, const Vor& vor) {
-    const bool isLarge = layout.windowWidth == largeRadarLayout.windowWidth;
-    const LabelMeasure& measure = isLarge ? largeLabels : smallLabels;
-    const Size size{static_cast<int>(vor.ident.size()) * measure.letterWidth, measure.height};
-    return Rect::at(labelCorner(layout, vor, size), size);
-}
-
 Rect boxAround(const std::array<MapLine, 2>& lines) {
     Rect box;
     for (const MapLine& line : lines) {
@@ -78,6 +71,13 @@ std::string overlap(const Rect& label, const std::vector<Rect>& boxes) {
 }
 
 } // namespace
+
+Rect labelBox(const RadarLayout& layout, const Vor& vor) {
+    const bool isLarge = layout.windowWidth == largeRadarLayout.windowWidth;
+    const LabelMeasure& measure = isLarge ? largeLabels : smallLabels;
+    const Size size{static_cast<int>(vor.ident.size()) * measure.letterWidth, measure.height};
+    return Rect::at(labelCorner(layout, vor, size), size);
+}
 
 void checkLabel(std::span<const Vor> points, std::size_t index, const RadarLayout& layout,
                 Problems& problems) {

@@ -11,6 +11,9 @@
 
 namespace ventrel::apt {
 
+/// The box that a point's label may fill, a little on the large side.
+Rect labelBox(const RadarLayout& layout, const Vor& vor);
+
 /// Adds the problems of one point's label; each pair of labels is told once, with the later point.
 void checkLabel(std::span<const Vor> points, std::size_t index, const RadarLayout& layout,
                 Problems& problems);

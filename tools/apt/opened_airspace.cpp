@@ -2,9 +2,11 @@
 
 #include "base/whole_file.h"
 #include "base/windows1252.h"
+#include "platform/canvas/jpeg_writer.h"
 #include "tools/apt/airspace_checks.h"
 #include "tools/apt/airspace_writer.h"
 #include "tools/apt/files.h"
+#include "tools/chart/chart_painter.h"
 
 namespace ventrel::apt {
 
@@ -36,7 +38,31 @@ std::string OpenedSource::faultLines() const {
     return lines;
 }
 
+namespace {
+
+Result<std::vector<std::byte>> drawn(const fs::path& file, const ChartSource& source, int width) {
+    constexpr int quality = 85; // of JPEG: no artefacts beside fine lines, about 50 KB
+    const auto path = fileBeside(file, source.outline);
+    const auto text = path ? readWholeFile(*path, largestSource) : tl::unexpected(path.error());
+    if (!text) {
+        return tl::unexpected(text.error());
+    }
+    auto outline =
+        chart::parseOutline({reinterpret_cast<const char*>(text->data()), text->size()}, pathText(*path));
+    if (!outline) {
+        return tl::unexpected(outline.error());
+    }
+    chart::Chart chart = source.chart;
+    chart.outline = std::move(*outline);
+    return encodeJpeg(chart::paintedChart(chart, radarLayoutFor(width)), quality);
+}
+
+} // namespace
+
 Result<std::vector<std::byte>> OpenedSource::picture(int width) const {
+    if (reading.airspace.chart) {
+        return drawn(file, *reading.airspace.chart, width);
+    }
     const auto& pictures = reading.airspace.pictures;
     const auto found = pictures.find(width);
     if (found == pictures.end()) {
@@ -50,6 +76,9 @@ std::vector<fs::path> OpenedSource::inputs() const {
     std::vector<fs::path> files{file};
     for (const auto& [width, name] : reading.airspace.pictures) {
         files.push_back(file.parent_path() / name);
+    }
+    if (reading.airspace.chart) {
+        files.push_back(file.parent_path() / reading.airspace.chart->outline);
     }
     return files;
 }
@@ -73,7 +102,7 @@ Result<OpenedAirport> compile(const OpenedSource& source, int width) {
                               "is for the layout of " + std::to_string(airspace.layoutWidth.value_or(width)) +
                                   " pixels only"));
     }
-    const int line = airspace.pictureLines.of(std::to_string(width));
+    const int line = airspace.pictureLines.of(std::to_string(width), "outline");
     const auto picture = source.picture(width);
     if (!picture) {
         return failed(located(source.file, line, picture.error().text));

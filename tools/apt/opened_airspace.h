@@ -33,9 +33,10 @@ struct OpenedSource {
 
     /// Its faults, one a line; empty when it can be built.
     std::string faultLines() const;
-    /// The picture for that layout, whatever is in it; empty when the source names none.
+    /// The picture for that layout: drawn from the source's chart, or the file that it names, whatever is in
+    /// it; empty when there is neither.
     Result<std::vector<std::byte>> picture(int width) const;
-    /// The source and all pictures that it names.
+    /// The source and all files that it names.
     std::vector<std::filesystem::path> inputs() const;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <charconv>
 #include <cmath>
+#include <optional>
 
 #include "base/windows1252.h"
 
@@ -21,6 +22,22 @@ std::string range(double lowest, double highest) {
         return value == std::floor(value) ? std::to_string(static_cast<long>(value)) : std::to_string(value);
     };
     return text(lowest) + " to " + text(highest);
+}
+
+/// The number at that place of a list.
+std::optional<double> numberAt(const toml::array& list, std::size_t index, double lowest, double highest) {
+    const auto value = list[index].value<double>();
+    return value && *value >= lowest && *value <= highest ? value : std::nullopt;
+}
+
+std::optional<std::pair<double, double>> placeOnEarth(const toml::node& node) {
+    const auto* pair = node.as_array();
+    if (pair == nullptr || pair->size() != 2) {
+        return {};
+    }
+    const auto latitude = numberAt(*pair, 0, -90, 90);
+    const auto longitude = numberAt(*pair, 1, -180, 180);
+    return latitude && longitude ? std::optional(std::pair(*latitude, *longitude)) : std::nullopt;
 }
 
 } // namespace
@@ -164,6 +181,25 @@ Point TableReader::pair(std::string_view key, int lowest, int highest) {
         return {lowest, lowest};
     }
     return {*x, *y};
+}
+
+std::vector<std::pair<double, double>> TableReader::places(std::string_view key, std::size_t most) {
+    const toml::node* found = node(key);
+    if (found == nullptr) {
+        return {};
+    }
+    const auto* value = found->as_array();
+    std::vector<std::pair<double, double>> places;
+    for (std::size_t i = 0; value != nullptr && i < std::min(value->size(), most); ++i) {
+        if (const auto place = placeOnEarth((*value)[i])) {
+            places.push_back(*place);
+        }
+    }
+    if (places.empty() || places.size() != value->size()) {
+        fail(quoted(key) + " must be 1 to " + std::to_string(most) + " pairs [latitude, longitude]", key);
+        places.clear();
+    }
+    return places;
 }
 
 const toml::table* TableReader::table(std::string_view key) {

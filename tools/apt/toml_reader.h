@@ -8,6 +8,8 @@
 #include <set>
 #include <string>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "base/colour.h"
 #include "base/geometry.h"
@@ -33,6 +35,8 @@ public:
     /// "#rrggbb".
     Colour colour(std::string_view key);
     Point pair(std::string_view key, int lowest, int highest);
+    /// A list of [latitude, longitude], one at least.
+    std::vector<std::pair<double, double>> places(std::string_view key, std::size_t most);
     /// A table, or nothing.
     const toml::table* table(std::string_view key);
     /// An array of tables, or nothing.
