@@ -21,21 +21,49 @@ constexpr Ink snowInk = inkOf(Colour::rgb(0x74, 0x7E, 0x84));
 constexpr Ink lineInk = inkOf(Colour::rgb(0x8F, 0xF0, 0xB8));
 constexpr Ink glassInk = inkOf(Colour::rgb(0xDF, 0xF3, 0xEA));
 
+// How much of an ink a place takes where it is laid on fully.
 constexpr double shoreStrength = 0.7;
 constexpr double riverStrength = 0.7;
 constexpr double borderStrength = 0.5;
 constexpr double townStrength = 0.7;
 constexpr double snowStrength = 0.85;
-constexpr double fullSnow = 0.3; // above the snow line
 constexpr double graticuleStrength = 0.13;
-constexpr double longestShadow = 8; // pixels
-constexpr double reliefStrength = 0.75;
-constexpr std::uint32_t waveSeed = 401;
-constexpr std::uint32_t grainSeed = 503;
-constexpr std::uint32_t coverSeed = 557;
 
-constexpr std::array<double, 4> riverWidths{1.5, 1.2, 1.0, 0.8};
-constexpr std::array<float, 4> riverPresence{1.0F, 0.9F, 0.8F, 0.7F};
+// Heights.
+constexpr double lowland = 0.05; // up to here the country has its own colour
+constexpr double highland = 0.7; // and from here that of hills
+constexpr double fullSnow = 0.3; // above the snow line
+
+// How much lighter or darker a place becomes.
+constexpr double reliefStrength = 0.75;
+constexpr double shadowStrength = 0.5;
+constexpr double longestShadow = 8; // pixels
+
+/// An unevenness of the ground: how many bumps there are in a cell, how many layers of ever smaller ones, and
+/// how much they change.
+struct Texture {
+    double across = 1;
+    double down = 1;
+    double slant = 0; ///< how far the bumps lean
+    int layers = 1;
+    double strength = 0;
+    std::uint32_t seed = 0;
+
+    double at(Spot cell) const {
+        return strength * fractalNoise(cell.x * across + cell.y * slant, cell.y * down, layers, seed);
+    }
+};
+constexpr Texture waves{.across = 0.5, .down = 1.3, .slant = 0.2, .layers = 4, .strength = 0.1, .seed = 401};
+constexpr Texture grain{.across = 1.7, .down = 1.7, .layers = 3, .strength = 0.08, .seed = 503};
+constexpr Texture woods{.across = 0.33, .down = 0.33, .layers = 4, .strength = 0.75, .seed = 557};
+
+constexpr Pen shorePen{.width = 1};
+constexpr std::array<Pen, 4> riverPens{{{.width = 1.5},
+                                        {.width = 1.2, .strength = 0.9F},
+                                        {.width = 1, .strength = 0.8F},
+                                        {.width = 0.8, .strength = 0.7F}}};
+constexpr Pen countryPen{.width = 1.2, .dash = 7, .gap = 4};
+constexpr Pen provincePen{.width = 1, .dash = 3, .gap = 4, .strength = 0.7F};
 
 /// The lines of a chart, each kind in a plane of its own.
 struct Lines {
@@ -49,20 +77,14 @@ Lines linesOf(const Chart& chart, const RadarLayout& layout) {
     const int side = layout.scopeSize;
     Lines lines{Plane(side), Plane(side), Plane(side), graticule(layout, chart.rings * layout.cellSize)};
     for (const Line& ring : chart.outline.land) {
-        strokeRing(lines.shores, inPixels(ring, layout.cellSize), {.width = 1});
+        strokeRing(lines.shores, inPixels(ring, layout.cellSize), shorePen);
     }
     for (const auto& [grade, line] : chart.outline.rivers) {
-        const auto k = static_cast<std::size_t>(grade - 1);
-        stroke(lines.rivers, inPixels(line, layout.cellSize),
-               {.width = riverWidths[k], .strength = riverPresence[k]});
+        const Pen& pen = riverPens[static_cast<std::size_t>(grade - 1)];
+        stroke(lines.rivers, inPixels(line, layout.cellSize), pen);
     }
     for (const auto& [grade, line] : chart.outline.borders) {
-        const bool isOfCountries = grade == 1;
-        stroke(lines.borders, inPixels(line, layout.cellSize),
-               {.width = isOfCountries ? 1.2 : 1.0,
-                .dash = isOfCountries ? 7.0 : 3.0,
-                .gap = 4,
-                .strength = isOfCountries ? 1.0F : 0.7F});
+        stroke(lines.borders, inPixels(line, layout.cellSize), grade == 1 ? countryPen : provincePen);
     }
     return lines;
 }
@@ -87,24 +109,23 @@ public:
     }
 
 private:
+    Spot cellAt(int x, int y) const {
+        return {static_cast<double>(x) / layout_.cellSize, static_cast<double>(y) / layout_.cellSize};
+    }
+
     Ink water(int x, int y) const {
-        const double cells = scape_.offshore.at(x, y);
-        const double near = chart_.shelf > 0 ? std::exp(-cells / chart_.shelf) : 0;
-        Ink ink = mixed(inkOf(chart_.water), inkOf(chart_.shallows), near);
-        const double cx = static_cast<double>(x) / layout_.cellSize;
-        const double cy = static_cast<double>(y) / layout_.cellSize;
-        const double wave = fractalNoise(cx * 0.5 + cy * 0.2, cy * 1.3, 4, waveSeed);
-        ink = times(ink, 1 + 0.10 * wave);
-        return times(ink, 1 - 0.5 * castShadow(x, y));
+        const double near = chart_.shelf > 0 ? std::exp(-scape_.offshore.at(x, y) / chart_.shelf) : 0;
+        const Ink ink = mixed(inkOf(chart_.water), inkOf(chart_.shallows), near);
+        return times(times(ink, 1 + waves.at(cellAt(x, y))), 1 - shadowStrength * castShadow(x, y));
     }
 
     /// The land stands a little above the water, and its shadow falls to the lower right.
     double castShadow(int x, int y) const {
-        double sum = 0;
         if (scape_.offshore.at(x, y) * static_cast<float>(layout_.cellSize) > longestShadow) {
             return 0;
         }
-        constexpr std::array<Spot, 4> samples{{{1, 1.3}, {1.8, 2.2}, {2.6, 3.2}, {3.4, 4.2}}};
+        constexpr std::array<Spot, 4> samples{{{1, 1.3}, {1.8, 2.2}, {2.6, 3.2}, {3.4, 4.2}}}; // pixels
+        double sum = 0;
         for (const Spot offset : samples) {
             sum += scape_.land.between(x - offset.x, y - offset.y);
         }
@@ -113,19 +134,14 @@ private:
 
     Ink country(int x, int y) const {
         const double height = scape_.height.at(x, y);
-        const double cx = static_cast<double>(x) / layout_.cellSize;
-        const double cy = static_cast<double>(y) / layout_.cellSize;
-        const double cover = 0.5 + fractalNoise(cx * 0.33, cy * 0.33, 4, coverSeed); // woods and fields
-        const double upland = smoothStep(0.05, 0.7, height);
-        Ink ink = mixed(inkOf(chart_.land), inkOf(chart_.highland),
-                        std::clamp(upland + 0.75 * (cover - 0.5), 0.0, 1.0));
+        const double upland = smoothStep(lowland, highland, height) + woods.at(cellAt(x, y));
+        Ink ink = mixed(inkOf(chart_.land), inkOf(chart_.highland), std::clamp(upland, 0.0, 1.0));
         ink = mixed(ink, townInk, townStrength * scape_.towns.at(x, y));
         if (chart_.snowLine) {
             const double snow = smoothStep(*chart_.snowLine, *chart_.snowLine + fullSnow, height);
             ink = mixed(ink, snowInk, snowStrength * snow);
         }
-        const double grain = fractalNoise(cx * 1.7, cy * 1.7, 3, grainSeed);
-        return times(ink, 1 + reliefStrength * scape_.light.at(x, y) + 0.08 * grain);
+        return times(ink, 1 + reliefStrength * scape_.light.at(x, y) + grain.at(cellAt(x, y)));
     }
 
     const Chart& chart_;

@@ -31,6 +31,25 @@ constexpr double steepShore = 0.3;  // the same where a ridge meets the sea
 constexpr double valleyWidth = 1.3; // cells on either side of a river
 constexpr double valleyFloor = 0.3; // of the height that there would be without the river
 
+/// What a height is made of, as parts of that of its range: a body, and what crests or bumps add.
+struct Form {
+    double body = 0;
+    double uneven = 0;
+
+    double at(double unevenness) const { return body + uneven * unevenness; }
+};
+constexpr Form roundForm{0.5, 0.7};
+constexpr Form ruggedForm{0.3, 1.1};
+constexpr Form peakForm{0.85, 0.35};
+constexpr double roundHeight = 0.1;   // ranges up to here are round
+constexpr double ruggedHeight = 0.55; // and from here on rugged
+
+constexpr Form townForm{0.75, 1.1};
+constexpr double townReach = 2;     // times its radius, where it ends
+constexpr double townFalloff = 1.6; // the higher, the sharper its edge
+constexpr double townScale = 1.3;   // quarters for each cell
+constexpr int townLayers = 4;
+
 double squaredDistanceToPiece(Spot p, Spot a, Spot b) {
     const double dx = b.x - a.x;
     const double dy = b.y - a.y;
@@ -112,11 +131,10 @@ double heightAt(const Chart& chart, const std::vector<Reach>& ridges, Spot p, Lo
     const auto [range, peak] = massifAt(ridges, p);
     double mountains = 0;
     if (range > 0 || peak > 0) {
-        // Low ranges are round, high ones rugged.
         const double crest = crestedNoise(p.x * crestScale, p.y * crestScale, crestLayers, crestSeed);
-        const double rugged = smoothStep(0.1, 0.55, range);
-        mountains = std::max(range * mixed(0.5 + 0.7 * bumps, 0.3 + 1.1 * crest, rugged),
-                             peak * (0.85 + 0.35 * crest));
+        const double rugged = smoothStep(roundHeight, ruggedHeight, range);
+        mountains = std::max(range * mixed(roundForm.at(bumps), ruggedForm.at(crest), rugged),
+                             peak * peakForm.at(crest));
     }
     const double valley = mixed(valleyFloor, 1, smoothStep(0, valleyWidth, away.river));
     return hills * smoothStep(0, beach, away.water) +
@@ -127,17 +145,15 @@ double townAt(const Chart& chart, Spot p) {
     double most = 0;
     for (const Town& town : chart.towns) {
         const double away = std::hypot(p.x - town.middle.x, p.y - town.middle.y) / town.radius;
-        if (away < 2) {
-            most = std::max(most, std::exp(-away * away * 1.6));
+        if (away < townReach) {
+            most = std::max(most, std::exp(-away * away * townFalloff));
         }
     }
-    constexpr double blockScale = 1.3; // bumps for each cell
-    constexpr double unseen = 0.02;
-    if (most < unseen) {
+    if (most <= 0) {
         return 0;
     }
-    return most *
-           std::clamp(0.75 + 1.1 * fractalNoise(p.x * blockScale, p.y * blockScale, 4, townSeed), 0.0, 1.0);
+    const double quarters = fractalNoise(p.x * townScale, p.y * townScale, townLayers, townSeed);
+    return most * std::clamp(townForm.at(quarters), 0.0, 1.0);
 }
 
 /// The light on a slope that rises by that much in a cell to the right and down.

@@ -12,7 +12,29 @@ namespace {
 
 constexpr int markStep = 10; // degrees
 constexpr int longMarkStep = 30;
-constexpr double shadowDepth = 1.0 / 26; // of the scope's width
+constexpr double markLength = 6; // pixels
+constexpr double longMarkLength = 12;
+constexpr double rimGap = 2; // between the marks and the rim
+constexpr Pen ringPen{.width = 0.9};
+constexpr Pen markPen{.width = 1};
+
+// Of the light that is left where it is darkest.
+constexpr double underBezel = 0.3;
+constexpr double atRim = 0.6;
+constexpr double farFromLight = 0.84;
+
+// Parts of the tube's radius.
+constexpr double bezelShadow = 1.0 / 13;
+constexpr Spot lightPlace{-0.2, -0.28}; // where the tube is brightest, from its middle
+constexpr double brightRadius = 0.455;
+constexpr double darkRadius = 1.365;
+constexpr double glareEdge = 0.93;
+constexpr double glareBend = 0.16; // how far the circle that cuts the crescent is moved to the lower right
+constexpr double glareInner = 1.02;
+
+constexpr double glareStrength = 0.06;
+constexpr double glareSoftEdge = 4; // pixels, towards the rim
+constexpr double glareFade = 40;    // and towards the middle
 
 struct Tube {
     Spot middle;
@@ -33,16 +55,15 @@ double reach(const Tube& tube, double x, double y) {
 }
 
 void strokeMarks(Plane& plane, const Tube& tube) {
-    constexpr double toRim = 2;
     for (int degrees = 0; degrees < 360; degrees += markStep) {
-        const double length = degrees % longMarkStep == 0 ? 12 : 6;
+        const double length = degrees % longMarkStep == 0 ? longMarkLength : markLength;
         const double x = std::sin(degrees * std::numbers::pi / 180);
         const double y = -std::cos(degrees * std::numbers::pi / 180);
         const auto at = [&](double inward) {
             return Spot{tube.middle.x + (tube.radii.x - inward) * x,
                         tube.middle.y + (tube.radii.y - inward) * y};
         };
-        stroke(plane, {at(toRim), at(toRim + length)}, {.width = 1});
+        stroke(plane, {at(rimGap), at(rimGap + length)}, markPen);
     }
 }
 
@@ -57,8 +78,8 @@ bool isSeen(const RadarLayout& layout, int x, int y) {
 Plane graticule(const RadarLayout& layout, double step) {
     const Tube tube = tubeOf(layout);
     Plane plane(layout.scopeSize);
-    for (double radius = step; radius < tube.radii.x - 2; radius += step) {
-        strokeEllipse(plane, tube.middle, {radius, radius * tube.radii.y / tube.radii.x}, {.width = 0.9});
+    for (double radius = step; radius < tube.radii.x - rimGap; radius += step) {
+        strokeEllipse(plane, tube.middle, {radius, radius * tube.radii.y / tube.radii.x}, ringPen);
     }
     strokeMarks(plane, tube);
     return plane;
@@ -66,23 +87,23 @@ Plane graticule(const RadarLayout& layout, double step) {
 
 double shadeAt(const RadarLayout& layout, int x, int y) {
     const Tube tube = tubeOf(layout);
-    const double depth = tube.radii.x * 2 * shadowDepth;
+    const double depth = tube.radii.x * bezelShadow;
     // The bezel's shadow falls from the top left; a narrower one lies all around.
     const double shadowed = (1 - reach(tube, x - depth / 3, y - depth / 2)) * tube.radii.x;
     const double rim = (1 - reach(tube, x, y)) * tube.radii.x;
-    const double falloff =
-        1 - 0.16 * smoothStep(0.35, 1.05, reach(tube, x + tube.radii.x * 0.2, y + tube.radii.y * 0.28) / 1.3);
-    return falloff * mixed(0.30, 1, smoothStep(-depth * 0.6, depth, shadowed)) *
-           mixed(0.6, 1, smoothStep(0, depth / 2, rim));
+    const double away = reach(tube, x - tube.radii.x * lightPlace.x, y - tube.radii.y * lightPlace.y);
+    return mixed(1, farFromLight, smoothStep(brightRadius, darkRadius, away)) *
+           mixed(underBezel, 1, smoothStep(-depth / 2, depth, shadowed)) *
+           mixed(atRim, 1, smoothStep(0, depth / 2, rim));
 }
 
 double glareAt(const RadarLayout& layout, int x, int y) {
     const Tube tube = tubeOf(layout);
-    // The reflection is a crescent along the upper left rim: inside one circle and outside a larger one.
-    const double outer = (0.93 - reach(tube, x, y)) * tube.radii.x;
-    const double inner = reach(tube, x - tube.radii.x * 0.16, y - tube.radii.y * 0.16) - 1.02;
-    const double within = smoothStep(0, 4, outer) * smoothStep(0, 40, inner * tube.radii.x);
-    return within * 0.06;
+    // The reflection is a crescent along the upper left rim: inside one circle and outside another.
+    const double inside = (glareEdge - reach(tube, x, y)) * tube.radii.x;
+    const double bend = reach(tube, x - tube.radii.x * glareBend, y - tube.radii.y * glareBend);
+    const double outside = (bend - glareInner) * tube.radii.x;
+    return glareStrength * smoothStep(0, glareSoftEdge, inside) * smoothStep(0, glareFade, outside);
 }
 
 } // namespace ventrel::chart
