@@ -93,8 +93,9 @@ words() {
     refused extra /NOSPLASH extra
     refused more --version more
     refused "?[2J" $'\e[2J'
-    start /noSplash
+    VENTREL_SEED=7x start /noSplash
     stop TERM
+    grep -q "not '7x'" "$work/complaints" || fail "a seed that is no number was taken"
 }
 
 first_run() {
@@ -132,6 +133,10 @@ restart() {
     for line in "; mine" Windowed=1 Resolution=2 Voice=0 SingleSound=4 Left=40 Top=30 Width=900 Height=700; do
         has_line "$line"
     done
+    printf '[Options]\nWindowed=1\nResolution=2\n[Window]\nPicture=800\nLeft=9000\nTop=30\nWidth=900\nHeight=700\n' >"$options"
+    start
+    stop TERM
+    ! grep -q Left=9000 "$options" || fail "the window stood where no screen is"
 }
 
 unreadable() {

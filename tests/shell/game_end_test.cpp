@@ -169,6 +169,7 @@ TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
         EXPECT_FALSE(stage.game().isRunning());
         EXPECT_EQ(stage.game().collisionFlights, (std::array{FlightIndex{1}, FlightIndex{0}}));
         EXPECT_EQ(stage.sounds.count("snd\\collide.snd"), 1);
+        EXPECT_FALSE(isOnTicker("")) << "what waited to be read";
     });
     stage.wait(7000);
     stage.look([this] {

@@ -6,6 +6,7 @@
 #include "shell/game_stage.h"
 #include "shell/options_file.h"
 #include "shell/popup_menus.h"
+#include "shell/window_memory.h"
 
 namespace ventrel {
 namespace {
@@ -31,6 +32,13 @@ TEST(OptionsFile, KeepsWhatThePlayerChangedAndWhatTheGameDoesNotKnow) {
     EXPECT_EQ(again, options);
     EXPECT_EQ(ProfileFile::read(path)->integer("Options", "Future", 0), 1);
     EXPECT_EQ(ReadOptions(ProfileFile::read(folder / "none.ini").value()), Options{});
+}
+
+TEST(OptionsFile, ThePlaceOfAWindowIsThatOfItsPicture) {
+    auto profile = ProfileFile::fromText("", "");
+    writeWindowPlace({-20, 30, 780, 630}, 800, profile);
+    EXPECT_EQ(readWindowPlace(profile, 800), (Rect{-20, 30, 780, 630}));
+    EXPECT_EQ(readWindowPlace(profile, 1024), std::nullopt);
 }
 
 /// An item of the menus: how the keyboard reaches it, what it is called, and its option.
@@ -121,7 +129,10 @@ TEST(OptionMenus, TickTheSizeTheScreenAndThePause) {
         EXPECT_FALSE(isTicked(stage, "&Full Screen"));
         EXPECT_FALSE(isTicked(stage, "800 x 600"));
         EXPECT_TRUE(isTicked(stage, "1024 x 768"));
+        stage.shell().options.resolution = smallResolution;
     });
+    stage.todo([](Script& script) { script.key(Key::o, withAlt).type("r").key(Key::enter).wait(1); });
+    stage.look([&] { EXPECT_FALSE(stage.isDialogOpen()) << "it has that size already"; });
     stage.startNewGame();
     stage.look([&] {
         EXPECT_FALSE(isTicked(stage, "&Pause\tPAUSE"));

@@ -171,20 +171,22 @@ TEST(StartUp, TheWindowFollowsTheScreenUntilThePlayerChooses) {
     EXPECT_EQ(others.resolution, 3);
 }
 
-TEST(StartUp, AScreenOfFewColoursIsComplainedOfAndThenUsed) {
-    HeadlessBackend backend({800, 600}, {{800, 600}, 8});
-    FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
-    SilentSounds sounds;
-    OptionsStore store("none.ini");
-    Program program({backend, fonts, sounds, store}, {PROGRAM_FOLDER},
-                    Options{.resolution = 2, .windowed = 1}, 1);
-    ASSERT_TRUE(program.startUp().has_value());
-    Script(backend).wait(10).key(Key::enter).wait(10).then([&] {
-        EXPECT_EQ(backend.beeps(), std::vector{MessageIcon::exclamation});
-        EXPECT_TRUE(program.shell().mainWindow.isActive());
-        program.desktop().quit();
-    });
-    program.run();
+TEST(StartUp, AScreenOfFewColoursIsComplainedOfInAWindowAndThenUsed) {
+    for (const int windowed : {1, 0}) {
+        HeadlessBackend backend({800, 600}, {{800, 600}, 8});
+        FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
+        SilentSounds sounds;
+        OptionsStore store("none.ini");
+        Program program({backend, fonts, sounds, store}, {PROGRAM_FOLDER},
+                        Options{.resolution = 2, .windowed = windowed}, 1);
+        ASSERT_TRUE(program.startUp().has_value());
+        Script(backend).wait(10).key(Key::enter).wait(10).then([&] {
+            EXPECT_EQ(backend.beeps().size(), windowed != 0 ? 1U : 0U);
+            EXPECT_TRUE(program.shell().mainWindow.isActive());
+            program.desktop().quit();
+        });
+        program.run();
+    }
 }
 
 TEST(StartUp, AMissingPictureIsNamedAndNothingStarts) {

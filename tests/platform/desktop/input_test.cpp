@@ -78,11 +78,12 @@ TEST(Mouse, ASecondPressIsADoubleClickOnlyOnTheSameWindow) {
     second.button = MouseButton::left;
     second.down = true;
     second.doubleClick = true;
-    stage.script.then([&] { stage.backend.addInput(0, second); });
+    stage.backend.addInput(0, second);
     stage.play();
-    EXPECT_EQ(stage.log, (Log{"button press 5,5", "button release 5,5", "button press double 5,5",
-                              "button release 5,5", "panel press 15,15", "panel release 15,15",
-                              "panel press double 15,15", "panel release 15,15", "panel press 15,15"}));
+    EXPECT_EQ(stage.log,
+              (Log{"button press 5,5", "button release 5,5", "button press double 5,5", "button release 5,5",
+                   "panel press 15,15", "panel release 15,15", "panel press double 15,15",
+                   "panel release 15,15", "panel press 15,15", "main press 35,45"}));
 }
 
 TEST(Mouse, TheWheelIsPassedOnToTheParent) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/sdl/sdl_input.h"
 #include "platform/sdl/sdl_keys.h"
 
 namespace ventrel {
@@ -35,6 +36,17 @@ TEST(SdlKeys, HaveAPlaceThatIsFoundAgain) {
     EXPECT_EQ(placeOf(SDL_SCANCODE_0), Key::digit0);
     EXPECT_EQ(placeOf(SDL_SCANCODE_KP_9), Key::keypad9);
     EXPECT_EQ(placeOf(SDL_SCANCODE_KP_0), Key::keypad0);
+}
+
+TEST(SdlKeys, TheKeypadTypesDigitsAlsoWithoutNumLock) {
+    SDL_Event event{};
+    event.type = SDL_KEYDOWN;
+    for (const auto& [code, digit] : {std::pair{SDL_SCANCODE_KP_0, "0"}, {SDL_SCANCODE_KP_7, "7"}}) {
+        event.key.keysym = {code, SDLK_UNKNOWN, KMOD_NONE, 0};
+        EXPECT_EQ(keypadText(event).value_or(TextEvent{}).text, digit);
+    }
+    event.key.keysym.mod = KMOD_NUM;
+    EXPECT_FALSE(keypadText(event)) << "it types by itself then";
 }
 
 } // namespace

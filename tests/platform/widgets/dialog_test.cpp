@@ -171,9 +171,7 @@ TEST(DialogPlace, UnitsAndCentringAreExact) {
 TEST(MessageBox, AnswersToLettersArrowsAndEscWhereThatHasAMeaning) {
     WidgetStage stage;
     std::vector<MessageAnswer> answers;
-    stage.script.key(Key::escape).then([&] {
-        EXPECT_EQ(stage.openWindows(), 2U) << "Esc is neither yes nor no";
-    });
+    stage.script.key(Key::escape).then([&] { EXPECT_TRUE(answers.empty()) << "Esc is neither yes nor no"; });
     stage.script.type("n").key(Key::right).key(Key::enter).key(Key::escape).key(Key::escape);
     stage.play([&] {
         for (const auto buttons :
