@@ -87,6 +87,7 @@ TEST(Art, PicturesHaveTheSizesThatTheWindowsExpect) {
     EXPECT_EQ(picture("strip_button_down").size(), (Size{20, 12}));
     EXPECT_EQ(picture("about").size(), (Size{480, 320}));
     EXPECT_EQ(picture("splash").size(), (Size{799, 577}));
+    EXPECT_EQ(picture("movie_frame").size(), (Size{600, 240}));
     EXPECT_EQ(picture("curtain8").size(), (Size{800, 600}));
     EXPECT_EQ(picture("curtain10").size(), (Size{1024, 768}));
 }

@@ -35,26 +35,6 @@ void drawPatch(Svg& svg, const Camera& camera, const Patch& patch, std::string_v
     }
 }
 
-std::string groundMaterials(const Camera& camera, Size size) {
-    const auto down = [&](std::string_view id) {
-        return "<linearGradient id=\"" + std::string(id) +
-               "\" gradientUnits=\"userSpaceOnUse\" x1=\"0\" y1=\"" + number(camera.middle.y) +
-               "\" x2=\"0\" y2=\"" + number(size.height) + "\">";
-    };
-    return down("grass") +
-           "<stop offset=\"0\" stop-color=\"#57484a\"/><stop offset=\".06\" stop-color=\"#38383c\"/><stop "
-           "offset=\".3\" stop-color=\"#20292a\"/><stop offset=\"1\" "
-           "stop-color=\"#0f1718\"/></linearGradient>\n" +
-           down("asphalt") +
-           "<stop offset=\"0\" stop-color=\"#8d7466\"/><stop offset=\".1\" stop-color=\"#62595a\"/><stop "
-           "offset=\".4\" stop-color=\"#3f4349\"/><stop offset=\"1\" "
-           "stop-color=\"#2a2f34\"/></linearGradient>\n"
-           "<filter id=\"meadow\" x=\"0\" y=\"0\" width=\"100%\" height=\"100%\" "
-           "color-interpolation-filters=\"sRGB\"><feTurbulence type=\"fractalNoise\" baseFrequency=\"0.012 "
-           "0.22\" numOctaves=\"4\" seed=\"21\"/><feColorMatrix values=\"0 0 0 0 .02  0 0 0 0 .03  0 0 0 0 "
-           ".03  1.1 .5 0 0 -.58\"/></filter>\n";
-}
-
 constexpr std::string_view paint = "fill=\"#d8d2c0\" opacity=\".62\"";
 
 void drawMarkings(Svg& svg, const Camera& camera) {
@@ -105,8 +85,9 @@ void addRow(std::vector<Lamp>& lamps, const Lamp& first, const Vec& step, int co
     }
 }
 
+/// The longer the lens, the larger the glare of the far ones.
 void drawLamps(Svg& svg, const Camera& camera, std::vector<Lamp> lamps) {
-    constexpr double smallest = 1.5; // pixels
+    const double smallest = std::clamp(camera.focal / 1500, 0.75, 1.5); // pixels
     constexpr double largest = 26;
     constexpr double glare = 1.3;
     std::ranges::stable_sort(lamps, std::ranges::greater{},
@@ -223,24 +204,80 @@ void drawHouse(Svg& svg, const Camera& camera, const House& house) {
     drawWindowRows(svg, camera, house);
 }
 
+/// The lit boards that name the turn-offs, along the runway's south side.
+void drawBoards(Svg& svg, const Camera& camera) {
+    constexpr std::array<std::string_view, 5> names{"B1", "B2", "B3", "B4", "B5"};
+    constexpr double first = 250; // metres along the runway
+    constexpr double pitch = 130;
+    constexpr double widthOfBoard = 4.4;
+    constexpr double heightOfBoard = 1.9;
+    constexpr double foot = 0.5;
+    constexpr double tooNear = 40;
+    for (std::size_t i = 0; i < names.size(); ++i) {
+        const Vec at{first + pitch * static_cast<double>(i), -44, foot};
+        const auto spot = camera.seen(at);
+        if (!spot || camera.depth(at) < tooNear) {
+            continue;
+        }
+        const double scale = camera.scaleAt(at);
+        const Box board(spot->x - widthOfBoard / 2 * scale, spot->y - heightOfBoard * scale,
+                        widthOfBoard * scale, heightOfBoard * scale);
+        svg.rect({board.x, board.bottom(), board.width, foot * scale}, 0, "fill=\"#0b0e10\"");
+        svg.rect(board.grownBy(0.16 * scale), 0.1 * scale, "fill=\"#14181a\"");
+        svg.rect(board, 0, "fill=\"#e8a93c\"");
+        svg.words({board.middle().x, board.bottom() - 0.36 * scale}, names[i],
+                  "font-family=\"Liberation Sans Narrow\" font-weight=\"bold\" text-anchor=\"middle\" "
+                  "fill=\"#15110a\" font-size=\"" +
+                      number(1.75 * scale) + '"');
+    }
+}
+
 } // namespace
 
+std::string airfieldMaterials(double depth) {
+    const auto down = [&](std::string_view id) {
+        return "<linearGradient id=\"" + std::string(id) +
+               "\" gradientUnits=\"userSpaceOnUse\" x1=\"0\" y1=\"0\" x2=\"0\" y2=\"" + number(depth) + "\">";
+    };
+    return down("grass") +
+           "<stop offset=\"0\" stop-color=\"#57484a\"/><stop offset=\".06\" stop-color=\"#38383c\"/><stop "
+           "offset=\".3\" stop-color=\"#20292a\"/><stop offset=\"1\" "
+           "stop-color=\"#0f1718\"/></linearGradient>\n" +
+           down("asphalt") +
+           "<stop offset=\"0\" stop-color=\"#8d7466\"/><stop offset=\".1\" stop-color=\"#62595a\"/><stop "
+           "offset=\".4\" stop-color=\"#3f4349\"/><stop offset=\"1\" "
+           "stop-color=\"#2a2f34\"/></linearGradient>\n"
+           "<filter id=\"meadow\" x=\"0\" y=\"0\" width=\"100%\" height=\"100%\" "
+           "color-interpolation-filters=\"sRGB\"><feTurbulence type=\"fractalNoise\" baseFrequency=\"0.012 "
+           "0.22\" numOctaves=\"4\" seed=\"21\"/><feColorMatrix values=\"0 0 0 0 .02  0 0 0 0 .03  0 0 0 0 "
+           ".03  1.1 .5 0 0 -.58\"/></filter>\n";
+}
+
 void drawAirfield(Svg& svg, const Camera& camera, Size size) {
-    svg.define(groundMaterials(camera, size));
-    const Box ground(0, camera.middle.y, size.width, size.height - camera.middle.y);
-    svg.rect(ground, 0, "fill=\"url(#grass)\"");
-    svg.rect(ground, 0, "filter=\"url(#meadow)\"");
+    // Measured from the horizon, as its materials are.
+    Camera level = camera;
+    level.middle.y = 0;
+    const double depth = size.height - camera.middle.y;
+    // The grass turns with the camera.
+    const double turned = camera.bearing * std::numbers::pi / 180 * camera.focal;
+    svg.open("transform=\"translate(0 " + number(camera.middle.y) + ")\"");
+    svg.rect({0, 0, double(size.width), depth}, 0, "fill=\"url(#grass)\"");
+    svg.open("transform=\"translate(" + number(-turned) + " 0)\"");
+    svg.rect({turned, 0, double(size.width), depth}, 0, "filter=\"url(#meadow)\"");
+    svg.close();
     std::vector<Lamp> town;
     addTown(town);
-    drawLamps(svg, camera, town);
-    drawTarmac(svg, camera);
+    drawLamps(svg, level, town);
+    drawTarmac(svg, level);
     std::vector<House> byDistance(houses.begin(), houses.end());
     std::ranges::sort(byDistance, std::ranges::greater{}, [&](const House& house) {
-        return camera.depth({(house.west + house.east) / 2, house.south, 0});
+        return level.depth({(house.west + house.east) / 2, house.south, 0});
     });
     for (const House& house : byDistance) {
-        drawHouse(svg, camera, house);
+        drawHouse(svg, level, house);
     }
+    drawBoards(svg, level);
+    svg.close();
 }
 
 namespace {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <string>
+
 #include "tools/art/space.h"
 #include "tools/art/svg.h"
 
@@ -10,6 +12,9 @@ namespace ventrel::art {
 
 inline constexpr double runwayLength = 2400; // metres
 inline constexpr double runwayWidth = 46;
+
+/// What the ground is made of, in a drawing that shows `depth` pixels of it; to be defined before it.
+std::string airfieldMaterials(double depth);
 
 /// Ground, runway, buildings and the lights of the town behind, from the camera's horizon down to the
 /// picture's foot.

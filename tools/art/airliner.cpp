@@ -139,6 +139,12 @@ std::string_view glowMaterials() {
            "<radialGradient id=\"glowBlue\"><stop offset=\"0\" stop-color=\"#d8e8ff\"/><stop offset=\".2\" "
            "stop-color=\"#4d8dff\" stop-opacity=\".8\"/><stop offset=\"1\" stop-color=\"#2a5ce0\" "
            "stop-opacity=\"0\"/></radialGradient>\n"
+           "<radialGradient id=\"shade\"><stop offset=\"0\" stop-color=\"#05070a\"/><stop offset=\".6\" "
+           "stop-color=\"#05070a\" stop-opacity=\".7\"/><stop offset=\"1\" stop-color=\"#05070a\" "
+           "stop-opacity=\"0\"/></radialGradient>\n"
+           "<radialGradient id=\"lampPool\"><stop offset=\"0\" stop-color=\"#fff0c4\" "
+           "stop-opacity=\".8\"/><stop offset=\"1\" stop-color=\"#ffe0a0\" "
+           "stop-opacity=\"0\"/></radialGradient>\n"
            "<radialGradient id=\"glowAmber\"><stop offset=\"0\" stop-color=\"#fff4dc\"/><stop offset=\".2\" "
            "stop-color=\"#ffc070\" stop-opacity=\".85\"/><stop offset=\".5\" stop-color=\"#ffa040\" "
            "stop-opacity=\".22\"/><stop offset=\"1\" stop-color=\"#ff9030\" "
@@ -173,8 +179,8 @@ void drawBeacons(Svg& svg, const Camera& camera, const Attitude& attitude, const
     glow(wingTip, "glowRed", 9);
     glow(onRight(wingTip), "glowGreen", 9);
     if (beacons.beacon) {
-        glow({0, 0, 6.6}, "glowRed", 22);
-        glow({-3, 0, 2.2}, "glowRed", 15);
+        glow({0, 0, 6.6}, "glowRed", 13);
+        glow({-3, 0, 2.2}, "glowRed", 10);
     }
     if (beacons.strobe) {
         glow(wingTip, "glowWhite", 24);
@@ -188,6 +194,36 @@ void drawBeacons(Svg& svg, const Camera& camera, const Attitude& attitude, const
             }
         }
     }
+}
+
+namespace {
+
+/// An ellipse on the ground, along the flight, around a place ahead of the airliner.
+std::vector<Vec> groundEllipse(const Attitude& attitude, double ahead, double along, double across) {
+    const Placing placing({{attitude.at.x, attitude.at.y, 0}, attitude.bearing, 0, 0});
+    std::vector<Vec> corners;
+    for (int degrees = 0; degrees < 360; degrees += 12) {
+        const Turn angle = turn(degrees);
+        corners.push_back(placing.point({ahead + along * angle.cosine, across * angle.sine, 0}));
+    }
+    return corners;
+}
+
+} // namespace
+
+void drawGroundShade(Svg& svg, const Camera& camera, const Attitude& attitude) {
+    constexpr double highest = 40; // metres
+    const double strength = std::clamp(1 - attitude.at.z / highest, 0.0, 1.0);
+    const auto fill = [&](const std::vector<Vec>& shape, std::string_view look, double opacity) {
+        const std::string data = seenPath(camera, shape);
+        if (!data.empty()) {
+            svg.path(data, "fill=\"url(#" + std::string(look) + ")\" opacity=\"" +
+                               number(opacity * strength) + '"');
+        }
+    };
+    fill(groundEllipse(attitude, 62, 52, 15), "lampPool", 0.55);
+    fill(groundEllipse(attitude, 0, 24, 5), "shade", 0.85);
+    fill(groundEllipse(attitude, -1, 7, 19), "shade", 0.55);
 }
 
 Vec mainWheel(const Attitude& attitude, int side) {

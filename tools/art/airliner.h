@@ -33,6 +33,9 @@ void drawAirliner(Svg& svg, const Camera& camera, const Attitude& attitude, cons
 void drawBeacons(Svg& svg, const Camera& camera, const Attitude& attitude, const Beacons& beacons,
                  double scale);
 
+/// Its shadow on the ground, and the light that its lamps throw ahead of it, both weaker the higher it is.
+void drawGroundShade(Svg& svg, const Camera& camera, const Attitude& attitude);
+
 /// Where one of its main wheels touches: left (-1) or right (1).
 Vec mainWheel(const Attitude& attitude, int side);
 

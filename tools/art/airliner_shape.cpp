@@ -13,7 +13,7 @@ namespace {
 
 constexpr Tint white = tint(0xf1eee4);
 constexpr Tint silver = tint(0x9aa5aa);
-constexpr Tint wingGrey = tint(0xb4bcbf);
+constexpr Tint wingGrey = tint(0xd0d6d9);
 constexpr Tint petrol = tint(0x1f5a63);
 constexpr Tint amberPaint = tint(0xf09a3e);
 constexpr Tint black = tint(0x16191b);

@@ -5,14 +5,18 @@
 #include <cstdio>
 #include <optional>
 
+#include "base/whole_file.h"
 #include "platform/canvas/canvas.h"
 #include "platform/canvas/image.h"
 #include "platform/canvas/jpeg_writer.h"
 #include "platform/canvas/png_writer.h"
 #include "tools/art/about_art.h"
+#include "tools/art/award_art.h"
 #include "tools/art/cloud_art.h"
 #include "tools/art/console_art.h"
 #include "tools/art/curtain_art.h"
+#include "tools/art/film.h"
+#include "tools/art/film_file.h"
 #include "tools/art/letterhead_art.h"
 #include "tools/art/score_art.h"
 #include "tools/art/small_art.h"
@@ -23,6 +27,8 @@ namespace ventrel::art {
 namespace fs = std::filesystem;
 
 namespace {
+
+constexpr std::string_view filmName = "film";
 
 /// The colour that the program leaves out of a keyed picture.
 constexpr Colour keyColour = Colour::rgb(255, 255, 0);
@@ -49,6 +55,7 @@ constexpr std::array smallDrawings{std::to_array<SmallDrawing>({
     {"pointer_arrow", drawArrowPointer},
     {"icon", drawIcon},
     {"letterhead", drawLetterhead},
+    {"film_sky", drawFilmSky},
 })};
 
 struct ConsoleDrawing {
@@ -66,6 +73,7 @@ constexpr std::array materialDrawings{std::to_array<MaterialDrawing>({
     {"about", drawAbout},
     {"title", drawTitle},
     {"scores", drawScores},
+    {"award", drawAward},
     {"curtain800", [](std::string_view materials) { return drawCurtain(smallConsole.size, materials); }},
     {"curtain1024", [](std::string_view materials) { return drawCurtain(largeConsole.size, materials); }},
 })};
@@ -180,6 +188,9 @@ std::vector<std::string> drawingNames() {
     for (int i = 0; i < cloudCount; ++i) {
         names.push_back(std::string(cloudName) + std::to_string(i));
     }
+    for (int i = 0; i < filmSheets; ++i) {
+        names.push_back(std::string(filmName) + std::to_string(i));
+    }
     for (const MaterialDrawing& drawing : materialDrawings) {
         names.emplace_back(drawing.name);
     }
@@ -203,6 +214,11 @@ std::string drawing(std::string_view name, std::string_view materials) {
     for (int i = 0; i < cloudCount; ++i) {
         if (name == std::string(cloudName) + std::to_string(i)) {
             return drawCloud(i);
+        }
+    }
+    for (int i = 0; i < filmSheets; ++i) {
+        if (name == std::string(filmName) + std::to_string(i)) {
+            return drawFilmSheet(i);
         }
     }
     const auto* const small = std::ranges::find(smallDrawings, name, &SmallDrawing::name);
@@ -266,6 +282,44 @@ bool keyPicture(const fs::path& onBlack, const fs::path& onWhite, const fs::path
         closePinholes(keyed, *black, *white);
     }
     return save(target, keyed);
+}
+
+namespace {
+
+/// The pictures of a rendered sheet, as JPEGs behind those that are there already.
+bool addSheet(std::vector<std::vector<std::byte>>& pictures, const fs::path& file) {
+    constexpr int quality = 87;
+    const auto sheet = load(file);
+    if (!sheet) {
+        return false;
+    }
+    if (sheet->size() != filmSheetSize) {
+        complain(file, "has another size than a sheet of the film");
+        return false;
+    }
+    for (int i = 0; i < filmSheetPictures; ++i) {
+        Bitmap picture(filmSize);
+        Canvas(picture).draw(picture.bounds(), *sheet, onFilmSheet(i));
+        addGrain(picture, static_cast<int>(pictures.size()));
+        pictures.push_back(encodeJpeg(picture, quality));
+    }
+    return true;
+}
+
+} // namespace
+
+bool assembleFilm(const fs::path& folder, const fs::path& target) {
+    std::vector<std::vector<std::byte>> pictures;
+    for (int i = 0; i < filmSheets; ++i) {
+        if (!addSheet(pictures, folder / (std::string(filmName) + std::to_string(i) + ".png"))) {
+            return false;
+        }
+    }
+    const auto written = replaceFile(target, filmFile({filmSize, filmRate}, pictures));
+    if (!written) {
+        complain(target, "cannot be written");
+    }
+    return written.has_value();
 }
 
 } // namespace ventrel::art

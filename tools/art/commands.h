@@ -27,6 +27,9 @@ bool convertToJpeg(const std::filesystem::path& picture, const std::filesystem::
 /// Cuts the radar's frame out of a rendered console.
 bool cutRadarFrame(const std::filesystem::path& console, const std::filesystem::path& target);
 
+/// Makes the film of its rendered sheets, which lie in a folder as "film0.png" and so on.
+bool assembleFilm(const std::filesystem::path& folder, const std::filesystem::path& target);
+
 /// What becomes of the half covered pixels of a picture with clear parts.
 enum class Edge {
     crisp,    ///< those less than half covered are clear

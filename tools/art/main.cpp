@@ -2,8 +2,11 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cstdio>
 #include <exception>
+#include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +36,12 @@ int list() {
     return success;
 }
 
+/// A drawing that has not changed keeps its date, so that nothing is rendered anew.
+bool stands(const std::filesystem::path& file, std::span<const std::byte> content) {
+    const auto there = readWholeFile(file, content.size());
+    return there && std::ranges::equal(*there, content);
+}
+
 int draw(const std::string& name, const std::string& materials, const std::string& target) {
     const auto content = readWholeFile(materials, largestMaterials);
     if (!content) {
@@ -43,7 +52,11 @@ int draw(const std::string& name, const std::string& materials, const std::strin
     if (text.empty()) {
         return complain("there is no drawing '" + fromUtf8(name) + '\'', wrongUsage);
     }
-    const auto written = replaceFile(target, std::as_bytes(std::span(text)));
+    const auto bytes = std::as_bytes(std::span(text));
+    if (stands(target, bytes)) {
+        return success;
+    }
+    const auto written = replaceFile(target, bytes);
     return written ? success : complain(written.error().text, failure);
 }
 
@@ -80,6 +93,10 @@ std::vector<Command> allCommands() {
          "Cuts the radar's frame out of a rendered console",
          {"CONSOLE.png", "OUT"},
          [](const Words& words) { return statusOf(art::cutRadarFrame(words[0], words[1])); }},
+        {"film",
+         "Makes the film of its rendered sheets, film0.png and so on",
+         {"FOLDER", "OUT.avi"},
+         [](const Words& words) { return statusOf(art::assembleFilm(words[0], words[1])); }},
         {"key",
          "Makes a picture with clear parts of two renderings",
          {"ONBLACK.png", "ONWHITE.png", "OUT"},

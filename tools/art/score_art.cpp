@@ -36,6 +36,7 @@ constexpr std::array<Box, 2> buttons{{{280, 575, 75, 19}, {365, 575, 75, 19}}};
 void drawWindow(Svg& svg) {
     drawSky(svg, {.size = picture, .horizon = horizon, .sun = 60, .reach = 300, .clouds = 34});
     drawHills(svg, camera, picture.width);
+    svg.define(airfieldMaterials(picture.height - horizon));
     drawAirfield(svg, camera, picture);
     drawAirfieldLamps(svg, camera, 0.2);
     drawAirliner(svg, camera, departing, evening);
@@ -97,7 +98,7 @@ void drawHead(Svg& svg) {
     drawPolished(svg, {.base = {picture.width / 2.0, 29}, .size = 30, .spacing = 5}, "BEST SHIFTS");
     drawEngraved(svg, {nameColumn + 26, labels}, "CONTROLLER", 1);
     drawEngraved(svg, {scoreColumn + 14, labels}, "SCORE", 1);
-    drawEngraved(svg, {airspaceColumn + 22, labels}, "AIRSPACE", 1);
+    drawEngraved(svg, {airspaceColumn + 19, labels}, "AIRSPACE", 1);
     drawEngraved(svg, {rankColumn, labels}, "PLACE", 1);
 }
 

@@ -81,6 +81,21 @@ void Svg::close() {
     body_ += "</g>\n";
 }
 
+void Svg::openPicture(Point corner, Size size) {
+    body_ += "<svg" + attribute("x", corner.x) + attribute("y", corner.y) + attribute("width", size.width) +
+             attribute("height", size.height) + " overflow=\"hidden\">\n";
+}
+
+void Svg::closePicture() {
+    body_ += "</svg>\n";
+}
+
+void Svg::picture(std::string_view file, const Box& area) {
+    body_ += "<image xlink:href=\"" + std::string(file) + '"' + attribute("x", area.x) +
+             attribute("y", area.y) + attribute("width", area.width) + attribute("height", area.height) +
+             " preserveAspectRatio=\"none\"/>\n";
+}
+
 std::string Svg::text() const {
     const std::string width = std::to_string(size_.width);
     const std::string height = std::to_string(size_.height);

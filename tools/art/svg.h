@@ -63,6 +63,13 @@ public:
     void open(std::string_view look); ///< a group
     void close();
 
+    /// A picture within the picture, cut at its edges; what is drawn until it is closed is measured from its
+    /// corner.
+    void openPicture(Point corner, Size size);
+    void closePicture();
+    /// Another picture file, which lies beside this drawing, stretched over an area.
+    void picture(std::string_view file, const Box& area);
+
     /// The finished drawing.
     std::string text() const;
 

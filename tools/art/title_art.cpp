@@ -27,6 +27,7 @@ constexpr Attitude landing{.at = {-14, 0, 21}, .bearing = 90, .pitch = 3.6, .ban
 void drawOutside(Svg& svg) {
     drawSky(svg, {.size = picture, .horizon = horizon, .sun = sunset, .reach = horizon * 1.04, .clouds = 7});
     drawHills(svg, camera, picture.width);
+    svg.define(airfieldMaterials(picture.height - horizon));
     drawAirfield(svg, camera, picture);
     drawAirfieldLamps(svg, camera, 0.2);
     drawAirliner(svg, camera, landing, evening);
