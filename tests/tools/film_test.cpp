@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "base/whole_file.h"
+#include "platform/canvas/canvas.h"
+#include "platform/canvas/image.h"
 #include "platform/canvas/movie_file.h"
 
 using namespace ventrel;
@@ -92,6 +94,27 @@ TEST(Film, MovesSmoothlyButForItsTwoCutsAndGoesDark) {
     EXPECT_LT(steps[2], 13) << "a jump beside the cuts";
     EXPECT_LT(brightness(all.back()), 4);
     EXPECT_GT(brightness(all[all.size() / 2]), 20);
+}
+
+TEST(Film, TheAwardShowsAStillOfItWhereItIsPlayed) {
+    constexpr std::size_t still = 77;
+    constexpr Rect place{280, 0, 600, 240};
+    Image image;
+    Bitmap award;
+    ASSERT_EQ(ImageLoadFile(image, fileOf("movie_frame.grf"), ImageFormat::png), ImageError::none);
+    ASSERT_EQ(ImageToBitmap(image, award), ImageError::none);
+    const Bitmap picture = decodeFrame(film(), still).value();
+    const auto apart = [&](Point offset) {
+        Bitmap part(place.size());
+        Canvas(part).draw(part.bounds(), award, place.movedBy(offset));
+        return difference(part, picture);
+    };
+    EXPECT_LT(apart({}), 3);
+    EXPECT_GT(apart({-2, 0}), 1.4 * apart({}));
+    // The plate ends in a dark edge.
+    for (int y = 0; y < award.height(); ++y) {
+        EXPECT_LT(channelDifference(toColour(award.at(place.left - 2, y)), Colour()), 60) << y;
+    }
 }
 
 TEST(Film, ItsIndexLeadsToEveryPicture) {

@@ -247,6 +247,11 @@ std::string airfieldMaterials(double depth) {
            "<stop offset=\"0\" stop-color=\"#8d7466\"/><stop offset=\".1\" stop-color=\"#62595a\"/><stop "
            "offset=\".4\" stop-color=\"#3f4349\"/><stop offset=\"1\" "
            "stop-color=\"#2a2f34\"/></linearGradient>\n"
+           "<linearGradient id=\"mist\" gradientUnits=\"userSpaceOnUse\" x1=\"0\" y1=\"0\" x2=\"0\" y2=\"" +
+           number(depth * 0.22) +
+           "\"><stop offset=\"0\" stop-color=\"#d99a74\" stop-opacity=\".28\"/><stop offset=\".35\" "
+           "stop-color=\"#a8867c\" stop-opacity=\".16\"/><stop offset=\"1\" stop-color=\"#80787c\" "
+           "stop-opacity=\"0\"/></linearGradient>\n"
            "<filter id=\"meadow\" x=\"0\" y=\"0\" width=\"100%\" height=\"100%\" "
            "color-interpolation-filters=\"sRGB\"><feTurbulence type=\"fractalNoise\" baseFrequency=\"0.012 "
            "0.22\" numOctaves=\"4\" seed=\"21\"/><feColorMatrix values=\"0 0 0 0 .02  0 0 0 0 .03  0 0 0 0 "
@@ -265,6 +270,7 @@ void drawAirfield(Svg& svg, const Camera& camera, Size size) {
     svg.open("transform=\"translate(" + number(-turned) + " 0)\"");
     svg.rect({turned, 0, double(size.width), depth}, 0, "filter=\"url(#meadow)\"");
     svg.close();
+    svg.rect({0, 0, double(size.width), depth * 0.22}, 0, "fill=\"url(#mist)\"");
     std::vector<Lamp> town;
     addTown(town);
     drawLamps(svg, level, town);

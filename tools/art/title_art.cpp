@@ -31,7 +31,7 @@ void drawOutside(Svg& svg) {
     drawAirfield(svg, camera, picture);
     drawAirfieldLamps(svg, camera, 0.2);
     drawAirliner(svg, camera, landing, evening);
-    drawBeacons(svg, camera, landing, {.landing = true, .strobe = false, .beacon = false}, 1.2);
+    drawBeacons(svg, camera, landing, {.landing = true, .strobe = false, .beacon = false}, 1.0);
     drawGrain(svg, picture);
 }
 
