@@ -4,6 +4,8 @@
 
 #include <filesystem>
 
+#include "audio/sound_system.h"
+#include "platform/headless/headless_sound.h"
 #include "platform/headless/script.h"
 #include "shell/program.h"
 
@@ -24,7 +26,9 @@ void complain(std::string_view, MessageIcon) {}
 struct Game {
     HeadlessBackend backend;
     FontSet fonts{fs::path(PROGRAM_FOLDER) / "fonts", complain};
-    SilentSounds sounds;
+    HeadlessSound device{[this] { return backend.now(); }};
+    HeadlessSequencer sequencer{[this] { return backend.now(); }};
+    SoundSystem sounds{device, sequencer, PROGRAM_FOLDER};
     fs::path profile = fs::temp_directory_path() / "ventrel-bench.ini";
     OptionsStore store{profile};
     Program program;

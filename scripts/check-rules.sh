@@ -27,7 +27,7 @@ only() {
     complain "Only $1 may include $2:" "$(includes "[<\"]($2)" src tools | grep -vE "^($1)" || true)"
 }
 
-only 'src/platform/sdl/' 'SDL|X11/'
+only 'src/platform/sdl/' 'SDL|X11/|fluidsynth\.h'
 only 'src/platform/canvas/' 'ft2build\.h|freetype/|png\.h|jpeglib\.h'
 only 'src/base/result\.h' 'tl/'
 only 'tools/(apt|sound)/' 'toml\+\+/'

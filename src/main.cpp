@@ -9,12 +9,14 @@
 #include <string>
 #include <string_view>
 
+#include "audio/sound_system.h"
 #include "base/version.h"
 #include "base/windows1252.h"
 #include "platform/machine/instance_lock.h"
 #include "platform/machine/places.h"
 #include "platform/machine/sudden_end.h"
 #include "platform/sdl/sdl_backend.h"
+#include "platform/sdl/soundfont.h"
 #include "shell/options_file.h"
 #include "shell/program.h"
 #include "shell/program_data.h"
@@ -66,13 +68,15 @@ Settings readSettings(const ProfileFile& profile, const Screen& screen) {
     return settings;
 }
 
-std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::optional<CursorImage>& icon) {
+std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::optional<CursorImage>& icon,
+                                       SdlSound& sound) {
     SdlOptions options{.title = std::string(programTitle), .picture = settings.window};
     options.fullScreen = settings.options.windowed == 0;
     if (settings.windowPlace) {
         options.placement = WindowPlacement{*settings.windowPlace};
     }
     options.icon = icon ? &*icon : nullptr;
+    options.sound = &sound;
     return openSdlBackend(options, complain);
 }
 
@@ -137,11 +141,12 @@ int play(const std::filesystem::path& executable) {
         complain(data.troubles.front());
         return cannotStart;
     }
-    const auto backend = openScreen(settings, data.icon);
+    const auto device = openSdlSound(soundfontCandidates(programFolder));
+    const auto backend = openScreen(settings, data.icon, *device);
     if (!backend) {
         return cannotStart;
     }
-    SilentSounds sounds;
+    SoundSystem sounds(*device, device->sequencer(), programFolder);
     Program program({*backend, data.fonts, sounds, store, std::move(data.troubles)},
                     {programFolder, playerFolder, playersAirports()}, settings.options,
                     wantedSeed().value_or(seedOfTheMoment()));

@@ -53,7 +53,7 @@ void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setu
 void endWithCollision(Shell& shell) {
     shell.sounds.stopEffects();
     ScrollerClear(shell.scroller);
-    shell.sounds.playEffect(collisionSound);
+    shell.tellLater(shell.sounds.playEffect(collisionSound));
     if (!RadarCollisionRings(shell.radar, shell.game.collisionFlights.front())) {
         return; // the program is quitting
     }

@@ -55,6 +55,7 @@ void choose(Shell& shell, const OptionRow& row, const OptionItem& item) {
     }
     shell.options.*row.value = chosen;
     saveOptions(shell);
+    shell.sounds.choose(soundChoices(shell.options));
     follow(shell, row.effect);
 }
 
@@ -66,6 +67,13 @@ void switchFullScreen(Shell& shell) {
 }
 
 } // namespace
+
+SoundChoices soundChoices(const Options& options) {
+    return {.effects = options.effects != 0,
+            .voices = options.voice != 0,
+            .music = options.music != 0,
+            .singleVoice = options.singleSound};
+}
 
 void changeOption(Shell& shell, int id) {
     if (id == command::switchFullScreen) {

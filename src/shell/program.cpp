@@ -7,6 +7,7 @@
 #include "platform/widgets/message_box.h"
 #include "shell/game_flow.h"
 #include "shell/main_window.h"
+#include "shell/option_commands.h"
 #include "shell/tick.h"
 #include "shell/trouble_text.h"
 
@@ -16,6 +17,18 @@ namespace {
 
 /// Fewer bits for a pixel cannot show the console's colours.
 constexpr int leastColourDepth = 16;
+
+void tellOfSilence(Shell& shell, SoundFault fault) {
+    switch (fault) {
+    case SoundFault::none: break;
+    case SoundFault::missing:
+        shell.report(StringTableText(TextId::soundFailed), MessageIcon::exclamation);
+        break;
+    case SoundFault::inUse:
+        shell.report(StringTableText(TextId::soundInUse), MessageIcon::exclamation);
+        break;
+    }
+}
 
 } // namespace
 
@@ -30,12 +43,21 @@ Program::Program(ProgramParts parts, ProgramPlaces places, const Options& option
     : parts_(std::move(parts)), places_(std::move(places)), options_(options), seed_(seed),
       desktop_(parts_.backend, options.resolution == smallResolution ? smallWindow : largeWindow) {}
 
+tl::unexpected<Failure> Program::giveUp(Failure reason) {
+    showMessageBox(desktop_, widgetFontsOf(parts_.fonts), {},
+                   {.text = reason.text, .title = programTitle, .icon = reason.icon});
+    return tl::unexpected(std::move(reason));
+}
+
 Result<> Program::startUp() {
     auto loaded = loadPictures(places_.programFolder, desktop_.size().width);
     if (!loaded) {
-        showMessageBox(desktop_, widgetFontsOf(parts_.fonts), {},
-                       {.text = loaded.error().text, .title = programTitle, .icon = loaded.error().icon});
-        return tl::unexpected(std::move(loaded.error()));
+        return giveUp(std::move(loaded.error()));
+    }
+    parts_.sounds.choose(soundChoices(options_));
+    auto soundFault = parts_.sounds.start();
+    if (!soundFault) {
+        return giveUp(std::move(soundFault.error()));
     }
     std::ranges::move(loaded->troubles, std::back_inserter(parts_.troubles));
     shell_ = std::make_unique<Shell>(ShellParts{.desktop = desktop_,
@@ -49,6 +71,7 @@ Result<> Program::startUp() {
                                                 .options = options_,
                                                 .random = {seed_}});
     createMainWindow(*shell_);
+    tellOfSilence(*shell_, *soundFault);
     desktop_.setIdle([this] { return Tick(*shell_); });
     shell_->mainWindow.post([this] { finishStartUp(); });
     return {};

@@ -8,8 +8,8 @@
 #include <filesystem>
 #include <memory>
 
+#include "audio/game_sounds.h"
 #include "platform/desktop/desktop.h"
-#include "shell/game_sounds.h"
 #include "shell/shell.h"
 
 namespace ventrel {
@@ -57,6 +57,8 @@ public:
     const Options& options() const { return shell_ ? shell_->options : options_; }
 
 private:
+    /// Shows why nothing can start.
+    tl::unexpected<Failure> giveUp(Failure reason);
     void finishStartUp();
 
     ProgramParts parts_;

@@ -36,7 +36,7 @@ void bringIntoView(Shell& shell, FlightIndex flight, int listPlace) {
 }
 
 void selectFlight(Shell& shell, FlightIndex flight, int listPlace) {
-    shell.sounds.clickSelect();
+    shell.tellLater(shell.sounds.clickSelect());
     bringIntoView(shell, flight, listPlace);
     ClearSelectedFlight(shell);
     mark(shell, flight);
@@ -94,7 +94,7 @@ std::optional<FlightIndex> ClearSelectedFlight(Shell& shell) {
 }
 
 void SelectStripFlight(Shell& shell, int slot) {
-    shell.sounds.clickSelect();
+    shell.tellLater(shell.sounds.clickSelect());
     if (shell.pressedStrip != noSlot) {
         StripsPress(shell, noSlot);
         RadarRepaint(shell.radar);

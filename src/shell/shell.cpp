@@ -73,6 +73,12 @@ void Shell::report(const Failure& failure) {
     }
 }
 
+void Shell::tellLater(const Result<bool>& sound) {
+    if (!sound) {
+        mainWindow.post([this, failure = sound.error()] { report(failure); });
+    }
+}
+
 FailureReporter Shell::reporter() {
     return [this](std::string_view text, MessageIcon icon) { report(text, icon); };
 }

@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <set>
 
+#include "audio/game_sounds.h"
 #include "base/random.h"
 #include "base/string_table.h"
 #include "console/console_layout.h"
@@ -21,7 +22,6 @@
 #include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
 #include "resources/options.h"
-#include "shell/game_sounds.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
 #include "shell/simulation_player.h"
@@ -92,6 +92,9 @@ struct Shell {
     /// The same with what an operation failed of; nothing for a failure without words.
     void report(const Failure& failure);
     FailureReporter reporter();
+    /// The same for what was to be heard, once the sequence that it belongs to has ended: nobody waits for a
+    /// box in the middle of a step.
+    void tellLater(const Result<bool>& sound);
 };
 
 } // namespace ventrel

@@ -11,18 +11,17 @@ void SimulationPlayer::reported(const Report& report) {
 }
 
 void SimulationPlayer::pilotSpoke(const RadioCall& call) {
-    if (shell_.options.voice != 0) {
-        const Flight& flight = shell_.game.flight(call.flight);
-        const std::string phrase = radioPhrase(shell_.game, call);
-        shell_.sounds.speak(
-            {.phrase = phrase, .voice = flight.pilotVoice, .tag = flight.radioId, .noise = call.hasNoise()});
-    }
+    const Flight& flight = shell_.game.flight(call.flight);
+    const std::string phrase = radioPhrase(shell_.game, call);
+    shell_.tellLater(shell_.sounds.speak(
+        {.phrase = phrase, .voice = flight.pilotVoice, .tag = flight.radioId, .noise = call.hasNoise()},
+        shell_.game.random));
 }
 
 void SimulationPlayer::lampChanged(LampLevel lit) {
     LampsRepaint(shell_.topBar);
     if (const auto alarm = alarmSound(lit)) {
-        shell_.sounds.playEffect(*alarm);
+        shell_.tellLater(shell_.sounds.playEffect(*alarm));
     }
 }
 

@@ -30,7 +30,7 @@ mkdir "$HOME" "$work/game"
 options=$work/game/ventrel.ini
 copy=$work/game/ventrel # in a program folder of its own, which can be written
 cp "$program" "$copy"
-for data in apt fonts grf; do
+for data in apt fonts grf mci snd; do
     ln -s "$(dirname "$program")/$data" "$work/game/$data"
 done
 

@@ -71,7 +71,7 @@ struct Start {
 Start startFrom(const fs::path& folder) {
     Start start;
     HeadlessBackend backend({800, 600});
-    SilentSounds sounds;
+    HeardSounds sounds;
     ProgramData data = openProgramData(folder);
     for (const std::string& trouble : data.troubles) {
         start.told += trouble + "\n";

@@ -27,19 +27,45 @@ class HeardSounds final : public GameSounds {
 public:
     std::vector<std::string> heard; ///< "click", "set", "select", "stop", and names of effects and music
 
-    void playEffect(std::string_view name) override { heard.emplace_back(name); }
+    SoundFault fault = SoundFault::none; ///< what keeps the machine silent
+    std::string unreadable;              ///< an effect whose file is damaged
+
+    Result<SoundFault> start() override {
+        return unreadable.empty() ? Result<SoundFault>(fault) : failed(unreadable);
+    }
+    void choose(const SoundChoices& choices) override { choices_ = choices; }
+    const SoundChoices& choices() const { return choices_; }
+    Result<bool> playEffect(std::string_view name) override { return hear(std::string(name)); }
     void clickControl() override { heard.emplace_back("click"); }
     void clickSet() override { heard.emplace_back("set"); }
-    void clickSelect() override { heard.emplace_back("select"); }
-    void speak(const SpokenCall& call) override { heard.push_back("radio " + std::string(call.phrase)); }
+    Result<bool> clickSelect() override { return hear("select"); }
+    Result<bool> speak(const SpokenCall& call, RandomGenerator&) override {
+        return choices_.voices ? hear("radio " + std::string(call.phrase)) : false;
+    }
     void stopEffects() override { heard.emplace_back("stop effects"); }
-    void playMusic(std::string_view name, bool repeat) override {
-        heard.push_back(std::string(name) + (repeat ? " again and again" : ""));
+    bool isAnyPlaying() const override { return false; }
+    bool playMusic(std::string_view name, bool repeat) override {
+        if (choices_.music) {
+            heard.push_back(std::string(name) + (repeat ? " again and again" : ""));
+        }
+        return choices_.music;
     }
     void stopMusic() override { heard.emplace_back("stop music"); }
+    bool isMusicPlaying() const override { return false; }
     int voiceSetCount() const override { return 0; }
 
     int count(std::string_view sound) const;
+
+private:
+    Result<bool> hear(std::string sound) {
+        if (sound == unreadable) {
+            return failed(sound);
+        }
+        heard.push_back(std::move(sound));
+        return true;
+    }
+
+    SoundChoices choices_;
 };
 
 /// A piece of a picture.

@@ -175,7 +175,7 @@ TEST(StartUp, AScreenOfFewColoursIsComplainedOfInAWindowAndThenUsed) {
     for (const int windowed : {1, 0}) {
         HeadlessBackend backend({800, 600}, {{800, 600}, 8});
         FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
-        SilentSounds sounds;
+        HeardSounds sounds;
         OptionsStore store("none.ini");
         Program program({backend, fonts, sounds, store}, {PROGRAM_FOLDER},
                         Options{.resolution = 2, .windowed = windowed}, 1);
@@ -193,12 +193,36 @@ TEST(StartUp, AMissingPictureIsNamedAndNothingStarts) {
     TempFolder folder;
     HeadlessBackend backend({800, 600});
     FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
-    SilentSounds sounds;
+    HeardSounds sounds;
     OptionsStore store(folder / "ventrel.ini");
     Program program({backend, fonts, sounds, store}, {folder.path()}, Options{.resolution = 2}, 1);
     Script(backend).wait(10).key(Key::enter);
     EXPECT_FALSE(program.startUp().has_value());
     EXPECT_EQ(backend.beeps(), std::vector{MessageIcon::stop});
+}
+
+TEST(StartUp, ASilentMachineIsTalkedAboutBeforeTheConsoleStandsAndThenPlayedOn) {
+    for (const SoundFault fault : {SoundFault::missing, SoundFault::inUse}) {
+        GameStage stage;
+        stage.sounds.fault = fault;
+        Script(stage.backend).wait(10).then([&] {
+            EXPECT_EQ(stage.backend.beeps(), std::vector{MessageIcon::exclamation});
+            EXPECT_FALSE(stage.shell().mainWindow.isVisible());
+        });
+        Script(stage.backend).wait(20).key(Key::enter);
+        stage.startNewGame();
+        stage.play();
+    }
+}
+
+TEST(StartUp, WithoutItsClicksNothingStarts) {
+    GameStage stage;
+    stage.sounds.unreadable = "snd\\control.snd";
+    Script(stage.backend).wait(10).key(Key::enter);
+    const auto started = stage.program().startUp();
+    ASSERT_FALSE(started.has_value());
+    EXPECT_EQ(started.error().text, stage.sounds.unreadable);
+    EXPECT_EQ(stage.backend.beeps(), std::vector{MessageIcon::stop});
 }
 
 } // namespace

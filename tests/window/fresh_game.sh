@@ -11,10 +11,12 @@ folder=$HOME/game
 if [ ! -d "$folder" ]; then
     mkdir "$folder"
     cp "$program" "$folder/ventrel"
-    for data in apt fonts grf; do
+    for data in apt fonts grf mci; do
         ln -s "$(dirname "$program")/$data" "$folder/$data"
     done
-    printf '[Options]\nResolution=3\nWindowed=1\nAirportSelect=1\nMapDetails=0\n[Game]\nName=mary\nSkill=0\n' >"$folder/ventrel.ini"
+    mkdir "$folder/snd" # no voices: the shift is that of a silent machine
+    ln -s "$(dirname "$program")"/snd/*.snd "$folder/snd"
+    printf '[Options]\nResolution=3\nWindowed=1\nVoice=0\nAirportSelect=1\nMapDetails=0\n[Game]\nName=mary\nSkill=0\n' >"$folder/ventrel.ini"
 fi
 own=$XDG_DATA_HOME/ventrel/apt
 mkdir -p "$own"

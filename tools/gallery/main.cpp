@@ -52,8 +52,12 @@ int intoFile(const Arguments& arguments, FontSet& fonts) {
 }
 
 int inWindow(const Arguments& arguments, FontSet& fonts) {
-    const auto backend = openSdlBackend(
-        {.title = "Gallery", .picture = arguments.size, .fullScreen = arguments.fullScreen}, complain);
+    const auto sound = openSdlSound({}); // for the beeps alone
+    const auto backend = openSdlBackend({.title = "Gallery",
+                                         .picture = arguments.size,
+                                         .fullScreen = arguments.fullScreen,
+                                         .sound = sound.get()},
+                                        complain);
     if (!backend) {
         return failure;
     }

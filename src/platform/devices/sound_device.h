@@ -23,6 +23,13 @@ using Recording = std::shared_ptr<const std::vector<std::uint8_t>>;
 /// One recording on the device, from `add` to `release`.
 enum class SoundId : int {};
 
+/// What keeps a machine silent.
+enum class SoundFault {
+    none,
+    missing, ///< there is no device that could be opened
+    inUse,   ///< another program has it to itself
+};
+
 class SoundDevice {
 public:
     SoundDevice() = default;
@@ -30,9 +37,11 @@ public:
     SoundDevice& operator=(const SoundDevice&) = delete;
     virtual ~SoundDevice() = default;
 
-    /// Whether anything can be heard at all. One that is unplugged later still counts: sounds go on in
-    /// silence, and are heard again when it is back.
-    virtual bool isPresent() const = 0;
+    /// Found at the start. A device that is unplugged later is no fault: sounds go on in silence, and are
+    /// heard again when it is back.
+    virtual SoundFault fault() const = 0;
+    /// Whether anything can be heard at all.
+    bool isPresent() const { return fault() == SoundFault::none; }
 
     /// Takes a recording, played at `gain` (1: as it is). None when there is no device or no room.
     virtual std::optional<SoundId> add(Recording recording, float gain) = 0;
@@ -51,7 +60,7 @@ public:
 /// For machines without sound.
 class NoSoundDevice final : public SoundDevice {
 public:
-    bool isPresent() const override { return false; }
+    SoundFault fault() const override { return SoundFault::missing; }
     std::optional<SoundId> add(Recording, float) override { return std::nullopt; }
     void play(SoundId) override {}
     void stop(SoundId) override {}

@@ -16,7 +16,7 @@ std::size_t HeadlessSound::held() const {
 }
 
 std::optional<SoundId> HeadlessSound::add(Recording recording, float gain) {
-    if (!present || held() >= mostSounds) {
+    if (!isPresent() || held() >= mostSounds) {
         return std::nullopt;
     }
     auto place = std::ranges::find_if(sounds_, [](const Sound& s) { return s.recording == nullptr; });

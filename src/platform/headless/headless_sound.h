@@ -26,7 +26,7 @@ public:
         std::size_t from = 0; ///< the sample it went on from
     };
 
-    bool present = true;
+    SoundFault broken = SoundFault::none;
     std::size_t mostSounds = 24; ///< that are held at once
     std::vector<Start> starts;
 
@@ -34,7 +34,7 @@ public:
     std::size_t held() const;
     float volume() const { return volume_; }
 
-    bool isPresent() const override { return present; }
+    SoundFault fault() const override { return broken; }
     std::optional<SoundId> add(Recording recording, float gain) override;
     void play(SoundId id) override;
     void stop(SoundId id) override;

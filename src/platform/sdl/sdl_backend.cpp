@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "base/windows1252.h"
+#include "platform/devices/deadline.h"
 #include "platform/sdl/picture_scaling.h"
 #include "platform/sdl/scaled_picture.h"
 #include "platform/sdl/sdl_beeper.h"
@@ -30,7 +31,10 @@ constexpr std::size_t bytesPerPixel = sizeof(Pixel);
 class SdlWindow final : public SdlBackend {
 public:
     SdlWindow(std::unique_ptr<VideoSystem> video, const SdlOptions& options)
-        : video_(std::move(video)), picture_(options.picture) {
+        : video_(std::move(video)), picture_(options.picture), sound_(options.sound) {
+        if (sound_ != nullptr) {
+            beeper_.emplace(*sound_);
+        }
         constexpr auto flags = SDL_WINDOW_HIDDEN | SDL_WINDOW_BORDERLESS | SDL_WINDOW_RESIZABLE;
         const Rect bounds = firstBounds(options);
         window_.reset(SDL_CreateWindow(toUtf8(options.title).c_str(), bounds.left, bounds.top, bounds.width(),
@@ -189,7 +193,11 @@ public:
 
     void setClipboard(std::string_view text) override { SDL_SetClipboardText(toUtf8(text).c_str()); }
 
-    void beep(MessageIcon kind) override { beeper_.beep(kind, now()); }
+    void beep(MessageIcon kind) override {
+        if (beeper_) {
+            beeper_->beep(kind);
+        }
+    }
 
 private:
     Rect firstBounds(const SdlOptions& options) const {
@@ -250,9 +258,7 @@ private:
     /// The next event of SDL. False when there was none until `end`, or before that, when something of ours
     /// was to be seen to.
     bool waitFor(SDL_Event& event, std::optional<Millis> end) {
-        beeper_.rest(now());
-        const std::optional<Millis> tone = beeper_.end();
-        const std::optional<Millis> until = tone && (!end || *tone < *end) ? tone : end;
+        const std::optional<Millis> until = earlier(attendToSound(), end);
         if (!until) {
             return SDL_WaitEvent(&event) == 1;
         }
@@ -260,6 +266,15 @@ private:
         const Millis left = std::clamp<Millis>(*until - now(), 0, std::numeric_limits<int>::max());
         return left == 0 ? SDL_PollEvent(&event) == 1
                          : SDL_WaitEventTimeout(&event, static_cast<int>(left)) == 1;
+    }
+
+    /// When it wants to be attended to next.
+    std::optional<Millis> attendToSound() {
+        if (sound_ == nullptr) {
+            return std::nullopt;
+        }
+        sound_->attend(now());
+        return sound_->nextAttention();
     }
 
     std::optional<InputEvent> translate(const SDL_Event& event) {
@@ -387,7 +402,8 @@ private:
     std::map<const CursorImage*, CursorPointer> cursors_;
     const CursorImage* cursor_ = nullptr;
     std::optional<TextEvent> typed_; // comes after the key that typed it
-    Beeper beeper_;
+    SdlSound* sound_;
+    std::optional<Beeper> beeper_; // where there is sound
     std::optional<DragStrip> dragStrip_;
     bool captured_ = false;
 };

@@ -12,6 +12,7 @@
 
 #include "base/failure.h"
 #include "platform/devices/backend.h"
+#include "platform/sdl/sdl_sound.h"
 
 namespace ventrel {
 
@@ -29,6 +30,8 @@ struct SdlOptions {
     /// Of the last time; none: a comfortable size in the middle.
     std::optional<WindowPlacement> placement = {};
     const CursorImage* icon = nullptr; ///< kept by the caller until the backend is open
+    /// Sounds the beeps, and is attended to while the backend waits; outlives it. None: silence.
+    SdlSound* sound = nullptr;
 };
 
 class SdlBackend : public Backend {

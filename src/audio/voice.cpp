@@ -1,0 +1,66 @@
+#include "audio/voice.h"
+
+#include "audio/recording_file.h"
+#include "base/data_path.h"
+#include "base/format.h"
+#include "sim/phrase.h"
+
+namespace ventrel {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+constexpr std::string_view noiseName = "snd\\pnoise.snd";
+constexpr int fewestNoises = 1;
+constexpr int mostNoises = 8;
+
+std::string folderName(int voiceSet) {
+    return FormatText("snd\\pcm%d", {long{voiceSet}});
+}
+
+using Samples = std::vector<std::uint8_t>;
+
+void append(Samples& samples, const Samples& more) {
+    samples.insert(samples.end(), more.begin(), more.end());
+}
+
+} // namespace
+
+int countVoiceSets(const fs::path& programFolder) {
+    int count = 0;
+    std::error_code fault;
+    while (count < mostVoiceSets && fs::exists(DataPath(programFolder, folderName(count)), fault)) {
+        ++count;
+    }
+    return count;
+}
+
+Result<Samples> assembleCall(const fs::path& programFolder, const SpokenCall& call, RandomGenerator& random) {
+    Samples samples;
+    if (call.noise) {
+        const auto noise = readRecording(DataPath(programFolder, noiseName));
+        if (!noise) {
+            return tl::unexpected(noise.error());
+        }
+        for (int left = Random(random, fewestNoises, mostNoises); left > 0; --left) {
+            append(samples, *noise);
+        }
+    }
+    const std::string folder = folderName(call.voice) + '\\';
+    for (const char word : call.phrase) {
+        const int number = snippetNumber(word);
+        if (number < 0) {
+            continue; // stands for nothing that could be said
+        }
+        const auto snippet =
+            readRecording(DataPath(programFolder, folder + std::string(snippetFile(number))));
+        if (!snippet) {
+            return tl::unexpected(snippet.error());
+        }
+        append(samples, *snippet);
+    }
+    return samples;
+}
+
+} // namespace ventrel
