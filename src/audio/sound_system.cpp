@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "audio/balance.h"
 #include "audio/recording_file.h"
 #include "audio/voice.h"
 #include "base/data_path.h"
@@ -17,6 +16,9 @@ constexpr std::string_view controlName = "snd\\control.snd";
 constexpr std::string_view setName = "snd\\set.snd";
 constexpr std::string_view selectName = "snd\\select.snd";
 constexpr std::size_t largestPiece = std::size_t{1} << 20; // bytes; a long piece has a hundredth of it
+
+/// How loud each sound is against the others was settled when it was made (assets/sound/levels.txt).
+constexpr float asRecorded = 1;
 
 /// Each step of a volume control sounds about as large as the next.
 float volumeGain(int volume) {
@@ -66,13 +68,13 @@ Result<SoundSystem::Click> SoundSystem::load(std::string_view name) {
     if (samples->empty()) {
         return failed(pathText(file) + " is empty.");
     }
-    return device_.add(asRecording(std::move(*samples)), balance::click);
+    return device_.add(asRecording(std::move(*samples)), asRecorded);
 }
 
 void SoundSystem::choose(const SoundChoices& choices) {
     choices_ = choices;
     device_.setVolume(volumeGain(choices.soundVolume));
-    sequencer_.setVolume(balance::music * volumeGain(choices.musicVolume));
+    sequencer_.setVolume(volumeGain(choices.musicVolume));
 }
 
 std::vector<SoundId> SoundSystem::held() const {
@@ -110,7 +112,7 @@ bool SoundSystem::isSpeaking(int tag) const {
            });
 }
 
-bool SoundSystem::playData(std::vector<std::uint8_t> samples, float gain, int tag) {
+bool SoundSystem::playData(std::vector<std::uint8_t> samples, int tag) {
     if (samples.empty()) {
         return false;
     }
@@ -122,7 +124,7 @@ bool SoundSystem::playData(std::vector<std::uint8_t> samples, float gain, int ta
     if (isSpeaking(tag)) {
         return true;
     }
-    slot->sound = device_.add(asRecording(std::move(samples)), gain);
+    slot->sound = device_.add(asRecording(std::move(samples)), asRecorded);
     if (!slot->sound) {
         return false;
     }
@@ -139,7 +141,7 @@ Result<bool> SoundSystem::playEffect(std::string_view name) {
     if (!samples) {
         return tl::unexpected(samples.error());
     }
-    return playData(std::move(*samples), balance::effect(name), untagged);
+    return playData(std::move(*samples), untagged);
 }
 
 void SoundSystem::play(Click click) {
@@ -170,7 +172,7 @@ Result<bool> SoundSystem::speak(const SpokenCall& call, RandomGenerator& random)
     if (!samples) {
         return tl::unexpected(samples.error());
     }
-    return playData(std::move(*samples), balance::voice, call.tag);
+    return playData(std::move(*samples), call.tag);
 }
 
 void SoundSystem::stopEffects() {

@@ -49,7 +49,7 @@ private:
     };
     using Click = std::optional<SoundId>; ///< none without a device
 
-    bool playData(std::vector<std::uint8_t> samples, float gain, int tag);
+    bool playData(std::vector<std::uint8_t> samples, int tag);
     std::vector<SoundId> held() const;
     void reap();
     Slot* emptySlot();

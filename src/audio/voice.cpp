@@ -12,8 +12,6 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr std::string_view noiseName = "snd\\pnoise.snd";
-constexpr int fewestNoises = 1;
-constexpr int mostNoises = 8;
 
 std::string folderName(int voiceSet) {
     return FormatText("snd\\pcm%d", {long{voiceSet}});
@@ -43,7 +41,7 @@ Result<Samples> assembleCall(const fs::path& programFolder, const SpokenCall& ca
         if (!noise) {
             return tl::unexpected(noise.error());
         }
-        for (int left = Random(random, fewestNoises, mostNoises); left > 0; --left) {
+        for (int left = drawNoises(random); left > 0; --left) {
             append(samples, *noise);
         }
     }

@@ -68,6 +68,14 @@ inline constexpr int planeSpeeds = 3; ///< slow, normal, fast
 inline constexpr int help = 4201;             ///< the keys and the rules
 inline constexpr int switchFullScreen = 4202; ///< at once, where the menu's item asks for a restart
 
+// Each volume: its steps from the softest, and one step down or up.
+inline constexpr int musicVolume = 4210;
+inline constexpr int soundVolume = 4220;
+inline constexpr int musicSofter = 4230;
+inline constexpr int musicLouder = 4231;
+inline constexpr int soundSofter = 4232;
+inline constexpr int soundLouder = 4233;
+
 inline constexpr int nextFlight = 4203; ///< that can be selected, wherever its strip is
 inline constexpr int previousFlight = 4204;
 

@@ -57,6 +57,7 @@ inline constexpr std::array keyRows{std::to_array<KeyRow>({
     {"Esc", "", "boss key: hide the window"},
     {"Ctrl+S", "", "schedule of the shift"},
     {"Alt+F, Alt+O, Alt+H", "", "menus File, Options, Help"},
+    {"F5 F6, F7 F8", "", "music down, up; the rest down, up"},
     {"F11, Alt+Enter", "", "full screen or a window"},
     {"Alt+F4", "", "exit"},
 })};
@@ -136,7 +137,7 @@ inline constexpr Rect pageText{115, 17, 375, 185};
 
 /// A row of a page's table, which leaves room between its lines.
 constexpr Rect rowOf(std::size_t row, int left, int right) {
-    constexpr int pitch = 11;
+    constexpr int pitch = 10;
     constexpr int height = 8;
     const int top = pageText.top + pitch * static_cast<int>(row);
     return {left, top, right, top + height};

@@ -22,7 +22,14 @@ inline constexpr std::array fileMenuItems{std::to_array<MenuItemTemplate>({
 })};
 
 inline constexpr auto displayMenuItems = optionMenuItems<OptionMenu::display>();
-inline constexpr auto soundMenuItems = optionMenuItems<OptionMenu::sounds>();
+inline constexpr auto musicVolumeItems = optionMenuItems<OptionMenu::musicVolume>();
+inline constexpr auto soundVolumeItems = optionMenuItems<OptionMenu::soundVolume>();
+inline constexpr auto soundMenuItems =
+    joined(optionMenuItems<OptionMenu::sounds>(), std::to_array<MenuItemTemplate>({
+                                                      menuSeparator,
+                                                      {"Music Vo&lume\tF5 F6", 0, musicVolumeItems},
+                                                      {"Other V&olume\tF7 F8", 0, soundVolumeItems},
+                                                  }));
 inline constexpr auto resolutionMenuItems =
     joined(optionMenuItems<OptionMenu::pictureSize>(), std::array{menuSeparator},
            optionMenuItems<OptionMenu::screen>());

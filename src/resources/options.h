@@ -40,12 +40,14 @@ struct Options {
     int customPlanes = 25;
     int customSched = 2100; ///< length of a Custom shift in clock seconds
     int customBonus = 475;  ///< bonus points of a Custom shift
+    int musicVolume = 5;    ///< 1 to 5, the loudest; 0 is silent
+    int soundVolume = 5;    ///< of effects and pilots, the same
 
     friend bool operator==(const Options&, const Options&) = default;
 };
 
 /// The part of the Options menu in which an item stands.
-enum class OptionMenu { none, top, display, sounds, pictureSize, screen };
+enum class OptionMenu { none, top, display, sounds, musicVolume, soundVolume, pictureSize, screen };
 
 /// When an item is ticked, and what choosing it does.
 enum class OptionTick {
@@ -69,15 +71,30 @@ enum class OptionEffect {
     repaintRadar,
     rebuildMap,
     startOrStopMusic,
+    click,             ///< one is heard, so that the player knows how loud it is now
     sizeAtNextStart,   ///< the player is asked first, and the program ends
     screenAtNextStart, ///< it changes; then the player is asked whether the program shall end
 };
+
+inline constexpr std::size_t mostOptionItems = 5;
+
+/// The steps of a volume, whose commands count from that of the softest.
+constexpr std::array<OptionItem, mostOptionItems> volumeItems(OptionMenu menu, int softest) {
+    constexpr std::array<std::string_view, mostOptionItems> texts{"&1 (softest)", "&2", "&3", "&4",
+                                                                  "&5 (loudest)"};
+    std::array<OptionItem, mostOptionItems> items{};
+    for (int step = 0; step < static_cast<int>(mostOptionItems); ++step) {
+        const auto place = static_cast<std::size_t>(step);
+        items[place] = {menu, step, texts[place], softest + step, OptionTick::whenValue, step + 1};
+    }
+    return items;
+}
 
 struct OptionRow {
     std::string_view key;
     int Options::* value;
     OptionEffect effect = OptionEffect::none;
-    std::array<OptionItem, 2> items = {}; ///< those without a menu are none: dialogs change the option
+    std::array<OptionItem, mostOptionItems> items = {}; ///< those without a menu are none: dialogs change it
     bool isWritten = true;
 };
 
@@ -133,6 +150,10 @@ inline constexpr std::array optionRows{std::to_array<OptionRow>({
      {{{OptionMenu::screen, 0, "&Full Screen", command::fullScreen, OptionTick::whenOff}}}},
     {"AirportSelect", &Options::airportSelect},
     {"DirectEntry", &Options::directEntry},
+    {"MusicVolume", &Options::musicVolume, OptionEffect::none,
+     volumeItems(OptionMenu::musicVolume, command::musicVolume)},
+    {"SoundVolume", &Options::soundVolume, OptionEffect::click,
+     volumeItems(OptionMenu::soundVolume, command::soundVolume)},
     {.key = "SingleSound", .value = &Options::singleSound, .isWritten = false},
 })};
 static_assert(sizeof(Options) == optionRows.size() * sizeof(int), "every option has its row");

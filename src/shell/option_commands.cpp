@@ -1,5 +1,8 @@
 #include "shell/option_commands.h"
 
+#include <algorithm>
+#include <array>
+
 #include "shell/game_flow.h"
 
 namespace ventrel {
@@ -37,6 +40,7 @@ void follow(Shell& shell, OptionEffect effect) {
     case OptionEffect::repaintRadar: repaintInGame(shell); break;
     case OptionEffect::rebuildMap: rebuildInGame(shell); break;
     case OptionEffect::startOrStopMusic: followMusic(shell); break;
+    case OptionEffect::click: shell.sounds.clickControl(); break;
     case OptionEffect::sizeAtNextStart: shell.mainWindow.destroy(); break;
     case OptionEffect::screenAtNextStart:
         if (agreesToRestart(shell, TextId::confirmFullScreen)) {
@@ -59,6 +63,29 @@ void choose(Shell& shell, const OptionRow& row, const OptionItem& item) {
     follow(shell, row.effect);
 }
 
+/// A key that takes a volume one step down or up.
+struct VolumeKey {
+    int command;
+    int Options::* volume;
+    int step;
+};
+constexpr std::array volumeKeys{std::to_array<VolumeKey>({
+    {command::musicSofter, &Options::musicVolume, -1},
+    {command::musicLouder, &Options::musicVolume, 1},
+    {command::soundSofter, &Options::soundVolume, -1},
+    {command::soundLouder, &Options::soundVolume, 1},
+})};
+
+/// Chooses the item of the next step, if there is one.
+void stepVolume(Shell& shell, const VolumeKey& key) {
+    const int wanted = std::clamp(shell.options.*key.volume, 0, fullVolume) + key.step;
+    forEachOptionItem([&](const OptionRow& row, const OptionItem& item) {
+        if (row.value == key.volume && item.value == wanted) {
+            choose(shell, row, item);
+        }
+    });
+}
+
 void switchFullScreen(Shell& shell) {
     const bool fullScreen = !shell.desktop.isFullScreen();
     shell.desktop.setFullScreen(fullScreen);
@@ -72,13 +99,20 @@ SoundChoices soundChoices(const Options& options) {
     return {.effects = options.effects != 0,
             .voices = options.voice != 0,
             .music = options.music != 0,
-            .singleVoice = options.singleSound};
+            .singleVoice = options.singleSound,
+            .soundVolume = options.soundVolume,
+            .musicVolume = options.musicVolume};
 }
 
 void changeOption(Shell& shell, int id) {
     if (id == command::switchFullScreen) {
         switchFullScreen(shell);
         return;
+    }
+    for (const VolumeKey& key : volumeKeys) {
+        if (key.command == id) {
+            stepVolume(shell, key);
+        }
     }
     forEachOptionItem([&shell, id](const OptionRow& row, const OptionItem& item) {
         if (item.command == id) {

@@ -9,8 +9,8 @@ namespace ventrel {
 /// What the options say of sound and music.
 SoundChoices soundChoices(const Options& options);
 
-/// Turns an option over, or asks for another size of the window or for the full screen, which come with the
-/// next start. Nothing for any other command.
+/// Turns an option over, gives it a value, or asks for another size of the window or for the full screen,
+/// which come with the next start. Nothing for any other command.
 void changeOption(Shell& shell, int id);
 
 } // namespace ventrel

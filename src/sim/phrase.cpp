@@ -20,29 +20,29 @@ constexpr std::array<SnippetEntry, firstAirlineSnippet> plainSnippets{{
     {"request.snd", "requesting departure"},
     {"descending.snd", "descending to"},
     {"climbing.snd", "climbing to"},
-    {"levelat.snd", "level at"},
-    {"requestair.snd", "requesting airport"},
-    {"requestvor.snd", "requesting VOR"},
-    {"1k.snd", "1 thousand"},
-    {"2k.snd", "2 thousand"},
-    {"3k.snd", "3 thousand"},
-    {"4k.snd", "4 thousand"},
-    {"5k.snd", "5 thousand"},
-    {"6k.snd", "6 thousand"},
-    {"7k.snd", "7 thousand"},
-    {"8k.snd", "8 thousand"},
-    {"9k.snd", "9 thousand"},
-    {"10k.snd", "10 thousand"},
+    {"levelat.snd", "with you level at"},
+    {"requestair.snd", "going around, request new approach"},
+    {"requestvor.snd", "request vectors to the VOR"},
+    {"1k.snd", "one thousand"},
+    {"2k.snd", "two thousand"},
+    {"3k.snd", "three thousand"},
+    {"4k.snd", "four thousand"},
+    {"5k.snd", "five thousand"},
+    {"6k.snd", "six thousand"},
+    {"7k.snd", "seven thousand"},
+    {"8k.snd", "eight thousand"},
+    {"9k.snd", "niner thousand"},
+    {"10k.snd", "one zero thousand"},
     {"heavy.snd", "heavy"},
-    {"repeat.snd", "repeat"},
+    {"repeat.snd", "say again"},
     {"landing.snd", "landing"},
     {"roger.snd", "roger"},
     {"gooday.snd", "good day"},
-    {"directvor.snd", "direct to VOR"},
-    {"leaving.snd", "leaving"},
-    {"mayday.snd", "mayday"},
-    {"hell.snd", "what the hell"},
-    {"airvec.snd", "bad air vector"},
+    {"directvor.snd", "direct to the VOR"},
+    {"leaving.snd", "leaving your airspace"},
+    {"mayday.snd", "mayday, mayday"},
+    {"hell.snd", "what the hell!"},
+    {"airvec.snd", "we need a vector, now"},
     {"deadahead.snd", "traffic dead ahead"},
     {"one.snd", "one"},
     {"two.snd", "two"},
@@ -52,15 +52,15 @@ constexpr std::array<SnippetEntry, firstAirlineSnippet> plainSnippets{{
     {"six.snd", "six"},
     {"seven.snd", "seven"},
     {"eight.snd", "eight"},
-    {"nine.snd", "nine"},
-    {"turn0.snd", "turning 0"},
-    {"turn45.snd", "turning 45"},
-    {"turn90.snd", "turning 90"},
-    {"turn135.snd", "turning 135"},
-    {"turn180.snd", "turning 180"},
-    {"turn225.snd", "turning 225"},
-    {"turn270.snd", "turning 270"},
-    {"turn315.snd", "turning 315"},
+    {"nine.snd", "niner"},
+    {"turn0.snd", "turn heading three six zero"},
+    {"turn45.snd", "turn heading zero four five"},
+    {"turn90.snd", "turn heading zero niner zero"},
+    {"turn135.snd", "turn heading one three five"},
+    {"turn180.snd", "turn heading one eight zero"},
+    {"turn225.snd", "turn heading two two five"},
+    {"turn270.snd", "turn heading two seven zero"},
+    {"turn315.snd", "turn heading three one five"},
 }};
 
 static_assert(firstAirlineSnippet + airlineCount == snippetCount);
@@ -88,6 +88,12 @@ std::string_view snippetWords(int number) {
 int snippetNumber(char phraseCharacter) {
     const int number = static_cast<unsigned char>(phraseCharacter) - firstCharacter;
     return number >= 0 && number < snippetCount ? number : -1;
+}
+
+int drawNoises(RandomGenerator& random) {
+    constexpr int fewest = 1;
+    constexpr int most = 8;
+    return Random(random, fewest, most);
 }
 
 void VoiceAppend(std::string& phrase, char phraseCharacter) {

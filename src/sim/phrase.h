@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/random.h"
+
 namespace ventrel {
 
 /// An airline, or a kind of light aircraft that flies under its own name.
@@ -71,8 +73,11 @@ inline constexpr int snippetCount = 61;
 /// The file name of a snippet, by number from 0 to 60; every voice folder holds all of them.
 std::string_view snippetFile(int number);
 
-/// What a snippet says, as written words.
+/// What a snippet says, as written words (assets/sound/calls.toml).
 std::string_view snippetWords(int number);
+
+/// How often the radio noise sounds before a call, 1 to 8: drawn for every call that is spoken with it.
+int drawNoises(RandomGenerator& random);
 
 /// The number of the snippet that a phrase character stands for; -1 for a character that stands for none.
 int snippetNumber(char phraseCharacter);

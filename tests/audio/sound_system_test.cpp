@@ -188,6 +188,16 @@ TEST_F(SoundSystemTest, VoicesAreCountedUpToTheFirstMissingFolder) {
     EXPECT_EQ(sounds.voiceSetCount(), 21);
 }
 
+TEST_F(SoundSystemTest, VolumesActAtOnceAndEndInSilence) {
+    sounds.choose({.soundVolume = 0, .musicVolume = 1});
+    EXPECT_EQ(device.volume(), 0);
+    EXPECT_GT(sequencer.volume(), 0);
+    EXPECT_LT(sequencer.volume(), 0.1);
+    sounds.choose({.soundVolume = 99, .musicVolume = -3});
+    EXPECT_EQ(device.volume(), 1);
+    EXPECT_EQ(sequencer.volume(), 0);
+}
+
 TEST_F(SoundSystemTest, WithoutADeviceNothingIsHeardCountedOrDrawn) {
     HeadlessSound none{[this] { return now; }};
     none.broken = SoundFault::inUse;

@@ -63,15 +63,15 @@ Rect differenceOf(const Bitmap& before, const Bitmap& after) {
 }
 
 GameStage::GameStage(int windowWidth, std::string_view profileText,
-                     const std::filesystem::path& programFolder)
+                     const std::filesystem::path& programFolder, GameSounds* otherSounds)
     : backend(windowOf(windowWidth)), profile_(folder_ / "ventrel.ini"),
       fonts_(std::filesystem::path(PROGRAM_FOLDER) / "fonts",
              [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; }) {
     writeText(profile_, profileText);
     store_ = std::make_unique<OptionsStore>(profile_);
-    program_ = std::make_unique<Program>(ProgramParts{backend, fonts_, sounds, *store_},
-                                         ProgramPlaces{programFolder, {}, playersAirports()},
-                                         optionsOf(profile_, windowWidth), 1);
+    program_ = std::make_unique<Program>(
+        ProgramParts{backend, fonts_, otherSounds != nullptr ? *otherSounds : sounds, *store_},
+        ProgramPlaces{programFolder, {}, playersAirports()}, optionsOf(profile_, windowWidth), 1);
 }
 
 void GameStage::startNewGame(std::uint32_t seed) {

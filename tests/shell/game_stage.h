@@ -80,7 +80,8 @@ public:
 
     /// The program at that window width, with an options file of that text.
     explicit GameStage(int windowWidth = 1024, std::string_view profileText = "[Game]\nName=mary\nSkill=1\n",
-                       const std::filesystem::path& programFolder = PROGRAM_FOLDER);
+                       const std::filesystem::path& programFolder = PROGRAM_FOLDER,
+                       GameSounds* otherSounds = nullptr); ///< in place of `sounds`
 
     HeadlessBackend backend;
     HeardSounds sounds;

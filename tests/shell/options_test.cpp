@@ -113,6 +113,37 @@ TEST(OptionMenus, EachItemTurnsItsOwnOptionOverAndIsTickedWhileItIsOn) {
     stage.play();
 }
 
+TEST(OptionMenus, VolumesGoByStepsFromTheMenuAndByKeys) {
+    GameStage stage;
+    const auto expectVolumes = [&stage](int music, int sound) {
+        stage.look([&stage, music, sound] {
+            EXPECT_EQ(stage.sounds.choices().musicVolume, music);
+            EXPECT_EQ(stage.sounds.choices().soundVolume, sound);
+            const Options saved = ReadOptions(ProfileFile::read(stage.profile()).value());
+            EXPECT_EQ((std::pair{saved.musicVolume, saved.soundVolume}), (std::pair{music, sound}));
+        });
+    };
+    const auto press = [&stage](Key key) { stage.todo([key](Script& script) { script.key(key).wait(1); }); };
+    stage.todo([](Script& script) { script.key(Key::o, withAlt).type("ul2").wait(1); });
+    stage.todo([](Script& script) { script.key(Key::o, withAlt).type("uo3").wait(1); });
+    expectVolumes(2, 3);
+    stage.look([&stage] {
+        EXPECT_EQ(stage.sounds.count("click"), 1) << "a sample of the new loudness";
+        const MenuItem* music = itemNamed(optionsMenu(stage.shell()), "Music Vo&lume\tF5 F6");
+        ASSERT_NE(music, nullptr);
+        EXPECT_TRUE(music->items[1].checked);
+        EXPECT_FALSE(music->items[2].checked);
+    });
+    press(Key::f5);
+    press(Key::f5); // it is the softest already
+    press(Key::f8);
+    expectVolumes(1, 4);
+    press(Key::f6);
+    press(Key::f7);
+    expectVolumes(2, 3);
+    stage.play();
+}
+
 TEST(OptionMenus, TickTheSizeTheScreenAndThePause) {
     GameStage stage(800);
     stage.look([&] {

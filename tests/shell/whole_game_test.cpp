@@ -2,6 +2,8 @@
 
 #include <map>
 
+#include "audio/sound_system.h"
+#include "platform/headless/headless_sound.h"
 #include "shell/game_stage.h"
 #include "sim/reports.h"
 #include "sim/shift_texts.h"
@@ -56,10 +58,24 @@ private:
     ClockSeconds queueClock_{-1};
 };
 
-Game shiftAlone() {
+/// Sound on a machine in memory, whose clock the stage turns once it stands.
+struct Machine {
+    GameStage* stage = nullptr;
+    HeadlessSound device{[this] { return now(); }};
+    HeadlessSequencer sequencer{[this] { return now(); }};
+    SoundSystem sounds{device, sequencer, PROGRAM_FOLDER};
+
+    Millis now() const { return stage == nullptr ? 0 : stage->backend.now(); }
+};
+
+Game shiftAlone(int voiceSets) {
     const auto airspace = loadAirport(std::filesystem::path(PROGRAM_FOLDER) / "apt" / airportFile);
     return {airspace.value(),
-            {.skill = Skill::easy, .cloudCover = false, .layout = largeLayout, .controllerName = "Mary"},
+            {.skill = Skill::easy,
+             .cloudCover = false,
+             .voiceSetCount = voiceSets,
+             .layout = largeLayout,
+             .controllerName = "Mary"},
             RandomGenerator{seed}};
 }
 
@@ -110,8 +126,32 @@ private:
     const StepRecorder& recorded_;
 };
 
+/// The shift with its pilots heard: the noise of every call is drawn, so all that follows is another shift.
+TEST(WholeGame, WithItsPilotsHeardIsWhatTheSimulationAlonePlaysWhenItHearsThem) {
+    constexpr int voiceSets = 21;
+    Game alone = shiftAlone(voiceSets);
+    StepRecorder recorded{alone};
+    runShift(alone, recorded,
+             {.orders = {}, .until = 36000_s, .steering = automaticSteering(alone), .hearsPilots = true});
+    Machine machine;
+    GameStage stage(1024, "[Options]\nAirportSelect=1\n[Game]\nName=mary\nSkill=0\n", PROGRAM_FOLDER,
+                    &machine.sounds);
+    machine.stage = &stage;
+    Replay replay(stage, recorded);
+    stage.startNewGame(seed);
+    stage.look([&] { ScrollerClear(stage.shell().scroller); }); // the welcome
+    replay.playOn();
+    stage.look([&] {
+        EXPECT_EQ(stage.game().score, recorded.finalScore);
+        EXPECT_EQ(stage.game().random.state, alone.random.state);
+    });
+    stage.play();
+    EXPECT_GT(machine.device.starts.size(), 50U);
+    EXPECT_LE(machine.device.held(), 14U) << "twelve sounds and the clicks";
+}
+
 TEST(WholeGame, PlayedByMouseAndKeysIsWhatTheSimulationAlonePlays) {
-    Game alone = shiftAlone();
+    Game alone = shiftAlone(0);
     StepRecorder recorded{alone};
     runShift(alone, recorded, {.orders = {}, .until = 36000_s, .steering = automaticSteering(alone)});
     GameStage stage(1024, "[Options]\nAirportSelect=1\n[Game]\nName=mary\nSkill=0\n");

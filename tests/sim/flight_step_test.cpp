@@ -59,8 +59,8 @@ TEST(FlightStep, AFlightIsAnnouncedTwoMinutesAheadAndDoesNotMoveWhenItEnters) {
     test.step(75_s);
     EXPECT_TRUE(flight.announced);
     EXPECT_EQ(test.game.listedCount, 1);
-    EXPECT_EQ(test.steps(90_s, 180_s),
-              (Lines{"13 F0 entering airspace, proceeding to NW", "radio level at 5 thousand", "active 0"}));
+    EXPECT_EQ(test.steps(90_s, 180_s), (Lines{"13 F0 entering airspace, proceeding to NW",
+                                              "radio with you level at five thousand", "active 0"}));
     EXPECT_FALSE(flight.announced);
     EXPECT_EQ(flight.activatedAt, 180_s);
     EXPECT_EQ(flight.current().cell, (Cell{2, 24}));
@@ -83,7 +83,7 @@ TEST(FlightStep, AMissedApproachIsToldThenPaidAndTheFlightFliesOn) {
     const Flight& tooHigh = test.fly({23, 24}, 2, 90, mid);
     test.game.score = 400;
     EXPECT_EQ(test.step(60_s), (Lines{"11 F0, missed approach at MID- altitude too high",
-                                      "radio requesting airport what the hell", "lamp 1"}));
+                                      "radio going around, request new approach what the hell!", "lamp 1"}));
     // With the yellow lamp lit, the second pilot is not heard.
     test.fly({24, 23}, 1, 180, mid).callsign = "BAD";
     EXPECT_EQ(test.step(90_s),
@@ -98,11 +98,11 @@ TEST(FlightStep, AnExitNeedsTenThousandFeet) {
     TestGame test;
     const Flight& low = test.fly({12, 13}, 9, 0, northWest);
     EXPECT_EQ(test.step(60_s), (Lines{"11 F0, cannot exit to  NW VOR- altitude too low",
-                                      "radio requesting VOR what the hell", "lamp 1"}));
+                                      "radio request vectors to the VOR what the hell!", "lamp 1"}));
     const Flight& high = test.fly({13, 13}, 10, 315, northWest);
     // The failure is paid for in the same step, so the lamp stays yellow.
-    EXPECT_EQ(test.step(90_s),
-              (Lines{"score -100 = 0", "10 F1, leaving airspace at NW- good day", "radio leaving good day"}));
+    EXPECT_EQ(test.step(90_s), (Lines{"score -100 = 0", "10 F1, leaving airspace at NW- good day",
+                                      "radio leaving your airspace good day"}));
     EXPECT_TRUE(low.inPlay);
     EXPECT_EQ(test.step(120_s), (Lines{"score 75 = 75", "lamp 3"}));
     EXPECT_FALSE(high.inPlay);
@@ -143,7 +143,7 @@ TEST(FlightStep, AWaitingDepartureComplainsFromTheTenthMinuteOn) {
     EXPECT_EQ(first[0], "score -50 = 450");
     EXPECT_EQ(first[1].substr(0, 3), "11 ");
     EXPECT_NE(first[1].find("F0"), std::string::npos);
-    EXPECT_TRUE(first[2] == "radio still waiting" || first[2] == "radio repeat still waiting");
+    EXPECT_TRUE(first[2] == "radio still waiting" || first[2] == "radio say again still waiting");
     EXPECT_EQ(test.steps(645_s, 915_s), Lines{});
     // The draw for its wording is made also when the lamp silences the call.
     test.game.litLamp = LampLevel::yellow;
@@ -173,7 +173,8 @@ TEST(FlightStep, AnEnteringFlightGoesLowerBelowTrafficInItsRowOrColumn) {
         const auto lines = test.step(45_s);
         EXPECT_EQ(flight.current().altitude, entered);
         ASSERT_EQ(lines.size(), 3U);
-        EXPECT_EQ(lines[1], "radio level at " + std::to_string(entered) + " thousand");
+        EXPECT_EQ(lines[1],
+                  "radio " + phraseAsWords(std::string{snippet::levelAt, VoiceAltitudeCode(entered)}));
         test.game.flights.pop_back();
     }
 }

@@ -41,15 +41,15 @@ TEST_F(Orders, AreReadBackAsTheyWereUnderstood) {
         const char* readBack;
     };
     for (const Case& each : std::initializer_list<Case>{
-             {{.altitude = 5, .heading = 270}, "turning 270"},
-             {{.altitude = 3, .heading = 90}, "descending to 3 thousand"},
-             {{.altitude = 10, .heading = 180}, "turning 180 climbing to 10 thousand"},
+             {{.altitude = 5, .heading = 270}, "turn heading two seven zero"},
+             {{.altitude = 3, .heading = 90}, "descending to three thousand"},
+             {{.altitude = 10, .heading = 180}, "turn heading one eight zero climbing to one zero thousand"},
              {{.altitude = 5, .heading = 90, .speed = Speed::fast}, ""},
              {{.altitude = 8, .heading = 90, .directTarget = PointIndex{4}},
-              "climbing to 8 thousand direct to VOR"},
+              "climbing to eight thousand direct to the VOR"},
              {{.altitude = 5, .heading = 90, .directTarget = PointIndex{4}, .hold = true}, "roger"},
              {{.altitude = 1, .heading = 90, .directTarget = DirectTarget::holdPlace(), .hold = true},
-              "descending to 1 thousand"}}) {
+              "descending to one thousand"}}) {
         EXPECT_EQ(send(flight, each.order), (Lines{std::string("radio ") + each.readBack, "panel"}));
     }
 }
@@ -69,7 +69,8 @@ TEST_F(Orders, BesideTheTargetADirectCourseIsRefusedButCharged) {
         test.game.flights.clear();
         Flight& flight = test.fly(cell, 5, 90, northWest);
         EXPECT_EQ(send(flight, toNorthWest, OrderResult::acknowledged),
-                  (Lines{"radio repeat requesting VOR", "13 F0 is too close to NW for a direct VOR course"}));
+                  (Lines{"radio say again request vectors to the VOR",
+                         "13 F0 is too close to NW for a direct VOR course"}));
         EXPECT_EQ(flight.plan.length(), 1);
     }
     EXPECT_EQ(test.game.freeOrders, 98);

@@ -24,7 +24,8 @@ TEST(Separation, TouchingFlightsAtOneAltitudePayAtEachMoveOfTheirs) {
     const Lines lines = test.step(60_s);
     ASSERT_EQ(lines.size(), 5U);
     EXPECT_EQ(lines[0], "12 F0, Emergency! Near miss with F1");
-    EXPECT_TRUE(lines[1].starts_with("radio mayday ") && lines[2].starts_with("radio mayday "));
+    EXPECT_TRUE(lines[1].starts_with("radio mayday, mayday ") &&
+                lines[2].starts_with("radio mayday, mayday "));
     EXPECT_EQ(lines[3], "score -100 = 400");
     EXPECT_EQ(lines[4], "lamp 2");
     EXPECT_EQ(first.alert, Alert::nearMiss);

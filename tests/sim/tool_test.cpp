@@ -148,12 +148,25 @@ TEST(Trace, IsTheSameToTheByte) {
         << shift;
 }
 
+TEST(Trace, OfAGameThatIsHeardDrawsTheNoiseOfEachCall) {
+    const auto stateAfter = [](bool isHeard) {
+        Game game = shortGame(); // the flight calls when it enters
+        Output output;
+        TraceWriter writer{output, game};
+        runShift(game, writer, {.orders = {}, .until = 15_s, .steering = {}, .hearsPilots = isHeard});
+        return game.random;
+    };
+    RandomGenerator silent = stateAfter(false);
+    drawNoises(silent);
+    EXPECT_EQ(stateAfter(true).state, silent.state);
+}
+
 TEST(Log, TellsTheShiftInWords) {
     const std::string log = record<LogWriter>(shortGame(), {{}, 36000_s, {}});
     for (const std::string_view part :
          {"00:15         \xC3\x84\"\\1 entering airspace, proceeding to NW\n",
-          "00:15  radio  United one level at 5 thousand\n", "has been lost \n", "lamp   yellow on\n",
-          "score  +25, now 25\n", "Game Over.   Score: 25 out of a possible 0 \n"}) {
+          "00:15  radio  United one with you level at five thousand\n", "has been lost \n",
+          "lamp   yellow on\n", "score  +25, now 25\n", "Game Over.   Score: 25 out of a possible 0 \n"}) {
         EXPECT_NE(log.find(part), std::string::npos) << part << log;
     }
 }

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <cmath>
 #include <filesystem>
 #include <fstream>
@@ -15,6 +16,7 @@
 #include "tools/sound/midi.h"
 #include "tools/sound/radio.h"
 #include "tools/sound/sound_file.h"
+#include "tools/sound/speaker.h"
 
 namespace {
 
@@ -70,12 +72,32 @@ std::string contentOf(const fs::path& file) {
     return content.str();
 }
 
+/// Small letters alone: "V O R" and "VOR" are one.
+std::string lettersOf(std::string_view words) {
+    std::string letters;
+    for (const char c : words) {
+        if (std::isalpha(static_cast<unsigned char>(c)) != 0) {
+            letters += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
+        }
+    }
+    return letters;
+}
+
 Signal sine(double rate, double frequency, double seconds) {
     Signal signal(samplesIn(seconds, rate));
     for (std::size_t i = 0; i < signal.size(); ++i) {
         signal[i] = std::sin(2 * std::numbers::pi * frequency * static_cast<double>(i) / rate);
     }
     return signal;
+}
+
+TEST(Voices, SayWhatTheLogWrites) {
+    const auto script = readScript(SCRIPT_FILE);
+    ASSERT_TRUE(script) << script.error().text;
+    for (int number = 0; number < snippetCount; ++number) {
+        const std::string name = fs::path(snippetFile(number)).stem().string();
+        EXPECT_EQ(lettersOf(snippetWords(number)), lettersOf(script->at(name))) << name;
+    }
 }
 
 TEST(Sounds, EveryEffectKeepsToTheTableOfLevels) {

@@ -24,6 +24,7 @@ constexpr std::string_view help = R"(Plays one shift without a window and writes
   --clouds 0|1       random cloud cover (default 1; Easy has none)
   --direct-entry 0|1 flights enter on a direct course (default 1; Easy always)
   --voices V         pilot voice sets installed, 0 to 21 (default 0)
+  --speaking         the pilots are heard: the length of the radio noise is drawn with every call
   --cloud-size WxH   size of every cloud picture in pixels (default 64x48)
   --name NAME        controller name (default Test)
   --seed N           state of the random generator (default 1)
@@ -131,6 +132,7 @@ constexpr std::array optionRules{
     OptionRule{"--look-ahead", "a number from 1 to 40",
                [](Arguments& a, std::string_view v) { return readNumber(v, 1, stepsAhead, a.lookAhead); }},
     OptionRule{"--interactive", "", [](Arguments& a, std::string_view) { return a.interactive = true; }},
+    OptionRule{"--speaking", "", [](Arguments& a, std::string_view) { return a.speaking = true; }},
     OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }},
     OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }},
 };

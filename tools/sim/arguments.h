@@ -32,6 +32,7 @@ struct Arguments {
     bool controller = false;
     int lookAhead = 40;       ///< of the automatic controller, in steps
     bool interactive = false; ///< another program plays
+    bool speaking = false;    ///< the pilots are heard
     bool log = false;         ///< a log for people instead of the trace
     bool help = false;
 };

@@ -50,7 +50,7 @@ void LogWriter::reported(const Report& report) {
     line("", reportText(game(), report));
 }
 
-void LogWriter::pilotSpoke(const RadioCall& call) {
+void LogWriter::called(const RadioCall& call) {
     line("radio", phraseAsWords(radioPhrase(game(), call)));
 }
 

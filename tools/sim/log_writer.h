@@ -12,7 +12,7 @@ public:
     LogWriter(Output& output, const Game& game) : Recorder{game}, output_{output} {}
 
     void reported(const Report& report) override;
-    void pilotSpoke(const RadioCall& call) override;
+    void called(const RadioCall& call) override;
     void lampChanged(LampLevel lit) override;
     void scoreChanged(const ScoreChange& change) override;
 

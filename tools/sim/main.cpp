@@ -24,7 +24,8 @@ void complain(std::string_view text) {
 
 void playShift(Game& game, Output& output, const Arguments& arguments,
                std::span<const ScriptedOrder> orders) {
-    RunPlan plan{orders, arguments.until, {}};
+    RunPlan plan{
+        .orders = orders, .until = arguments.until, .steering = {}, .hearsPilots = arguments.speaking};
     if (arguments.controller) {
         plan.steering = automaticSteering(game, arguments.lookAhead);
     }

@@ -16,11 +16,16 @@ public:
     /// Writes down this game, which outlives the recorder.
     explicit Recorder(const Game& game) : game_{game} {}
 
+    /// From now on pilots are heard: each call with radio noise draws its length from there, as it does in
+    /// the game with its voices on.
+    void hearPilots(RandomGenerator& random) { noise_ = &random; }
+
     virtual void shiftSetUp() = 0;
     virtual void orderGiven(FlightIndex /*flight*/, const PanelOrder& /*order*/) {}
     virtual void orderExecuted(FlightIndex /*flight*/, OrderResult /*result*/) {}
     /// After a step that did not end the shift, with the lamps as they are then.
     virtual void stepTaken() = 0;
+    virtual void called(const RadioCall& /*call*/) {}
     virtual void runEnded(const RunResult& result) = 0;
 
     /// What `shiftEnded` has told.
@@ -33,10 +38,12 @@ protected:
     const Game& game() const { return game_; }
 
 private:
+    void pilotSpoke(const RadioCall& call) override;
     void shiftEnded(ShiftResult result) override { result_ = result; }
 
     const Game& game_;
     RunResult result_;
+    RandomGenerator* noise_ = nullptr; // none: nobody is heard
 };
 
 } // namespace ventrel

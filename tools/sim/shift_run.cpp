@@ -35,6 +35,9 @@ Steering automaticSteering(const Game& game, int lookAhead) {
 void runShift(Game& game, Recorder& recorder, const RunPlan& plan) {
     std::span<const ScriptedOrder> orders = plan.orders;
 
+    if (plan.hearsPilots) {
+        recorder.hearPilots(game.random);
+    }
     recorder.shiftSetUp();
     while (timeOfNextStep(game) <= plan.until && step(game, recorder)) {
         recorder.stepTaken();

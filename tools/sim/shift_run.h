@@ -21,6 +21,7 @@ struct RunPlan {
     std::span<const ScriptedOrder> orders; ///< sorted by time
     ClockSeconds until;                    ///< no step later than this
     Steering steering;                     ///< may be empty
+    bool hearsPilots = false;              ///< as in a game with its voices on (see Recorder::hearPilots)
 };
 
 /// The shift has just been set up; it is told to the recorder, run in steps of 15 clock seconds, and told to

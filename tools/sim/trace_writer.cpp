@@ -66,7 +66,7 @@ void TraceWriter::reported(const Report& report) {
     end();
 }
 
-void TraceWriter::pilotSpoke(const RadioCall& call) {
+void TraceWriter::called(const RadioCall& call) {
     const Flight& flight = game().flight(call.flight);
     begin("radio") << R"(,"voice":)" << flight.pilotVoice << R"(,"tag":)" << flight.radioId
                    << R"(,"phrase":)";

@@ -7,7 +7,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr double pieceGain = 0.6; // leaves room above the loudest bar of the game's pieces
+constexpr double pieceGain = 0.5; // at which the pieces have their level (assets/sound/levels.txt)
 constexpr int polyphony = 96;
 constexpr int on = 1;
 constexpr int off = 0;

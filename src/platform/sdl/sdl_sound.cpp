@@ -58,7 +58,7 @@ public:
     bool isPlaying(SoundId id) const override { return mixer_.isPlaying(id); }
     void release(SoundId id) override { mixer_.release(id); }
     void setVolume(float volume) override { mixer_.setSoundVolume(volume); }
-    Sequencer& sequencer() override { return sequencer_; }
+    Sequencer& sequencer() override { return isPresent() ? static_cast<Sequencer&>(sequencer_) : noMusic_; }
 
     void attend(Millis now) override {
         if (!nextAttention_ || now < *nextAttention_) {
@@ -143,6 +143,7 @@ private:
 
     Mixer mixer_;
     FluidSequencer sequencer_; // ends before the mixer that it plays into
+    NoSequencer noMusic_;
     State state_ = State::closed;
     SDL_AudioDeviceID device_ = 0;
     SoundFault fault_ = SoundFault::none;

@@ -18,7 +18,7 @@ namespace ventrel {
 
 class SdlSound : public SoundDevice {
 public:
-    /// Plays its music on the same device.
+    /// Plays its music on the same device; plays nothing where that is missing.
     virtual Sequencer& sequencer() = 0;
 
     /// Sees to the device: closes it after silence, notes its loss, looks for another. Whoever waits for
