@@ -15,45 +15,30 @@ namespace {
 constexpr Size aboutPicture{480, 320};
 constexpr int shelfTop = 256;
 
-constexpr Box scope{32, 30, 196, 196};
-constexpr Spot scopeMiddle = scope.middle();
+constexpr Box aboutScope{32, 30, 196, 196};
+constexpr Spot scopeMiddle = aboutScope.middle();
 constexpr Sweep sweep{.direction = 76, .trail = 80};
 
 constexpr std::array<Spot, 4> screws{{{14, 14}, {460, 14}, {14, 242}, {460, 242}}};
 constexpr double wordsMiddle = 357;
 
-/// A coast across the scope; land lies to its left.
+/// A coast across the aboutScope; land lies to its left.
 constexpr std::string_view coast =
     "M176,20 l-6,14 4,9 -9,8 3,7 -12,10 -2,12 7,5 -3,9 -11,4 -5,11 6,8 -4,6 5,7 11,2 4,-6 9,-1 5,5 -3,9 "
     "-11,5 -13,-2 -7,6 -4,13 -9,9 2,12 -8,9 1,11 -7,9 -14,22";
 
-struct Blip {
-    Spot at;
-    std::string_view callsign;
-    std::string_view altitude;
-};
-constexpr std::array<Blip, 4> blips{{
+constexpr std::array<Blip, 4> aboutBlips{{
     {{182, 100}, "VT48", "7"},
     {{99, 77}, "KL17", "5"},
     {{158, 172}, "CS310", "9"},
     {{72, 140}, "DL905", "3"},
 }};
 
-void drawTraffic(Svg& svg) {
-    for (const Blip& blip : blips) {
-        const auto [x, y] = blip.at;
-        svg.rect({x - 2.5, y - 2.5, 5, 5}, 0, "fill=\"none\" stroke=\"#7dffb0\"");
-        svg.line({x + 2.5, y - 2.5}, {x + 7.5, y - 7.5}, "stroke=\"#7dffb0\" opacity=\".8\"");
-        svg.text({x + 19, y - 8}, blip.callsign, fivePixelCapitals, 0.3, "fill=\"#7dffb0\"");
-        svg.text({x + 12, y - 1}, blip.altitude, fivePixelCapitals, 0.3, "fill=\"#7dffb0\"");
-    }
-}
-
 void drawPictureOnTube(Svg& svg) {
     svg.open("clip-path=\"url(#scopeEdge)\"");
     svg.path(std::string(coast) + " H20 V20 z", "fill=\"#3f8a60\" opacity=\".16\"");
     svg.path(coast, "fill=\"none\" stroke=\"#63d396\" stroke-width=\"1.1\" opacity=\".6\"");
-    drawSweep(svg, scopeMiddle, scope.width / 2, sweep);
+    drawSweep(svg, scopeMiddle, aboutScope.width / 2, sweep);
     // The approach to the field in the middle, and two fixes.
     svg.path("M120,150 l-21,35 M120,150 l-8,39", "stroke=\"#ffb066\" opacity=\".7\"");
     svg.line({116.5, 153.5}, {133.5, 124.5}, "stroke=\"#ffe3c0\" stroke-width=\"2.2\"");
@@ -61,18 +46,10 @@ void drawPictureOnTube(Svg& svg) {
         svg.circle(fix, 4, "fill=\"none\" stroke=\"#ffd98a\" opacity=\".85\"");
         svg.circle(fix, 0.8, "fill=\"#ffd98a\"");
     }
-    drawTraffic(svg);
+    for (const Blip& blip : aboutBlips) {
+        drawBlip(svg, blip, fivePixelCapitals);
+    }
     svg.close();
-}
-
-void drawLamps(Svg& svg) {
-    constexpr double y = 196;
-    constexpr double pitch = 28;
-    svg.rect({wordsMiddle - 45, y - 16, 90, 32}, 16, "fill=\"url(#lip)\"");
-    svg.rect({wordsMiddle - 44, y - 15, 88, 30}, 15, "fill=\"#171c1f\"");
-    drawLampAt(svg, {wordsMiddle - pitch, y}, LampColour::green, true);
-    drawLampAt(svg, {wordsMiddle, y}, LampColour::yellow, false);
-    drawLampAt(svg, {wordsMiddle + pitch, y}, LampColour::red, false);
 }
 
 /// Plain, so that what the dialog puts there has its own ground.
@@ -93,12 +70,12 @@ std::string drawAbout(std::string_view materials) {
     for (const Spot screw : screws) {
         svg.use("screwHead", screw, screw.x + screw.y);
     }
-    drawScopeBezel(svg, scope);
-    drawScopeTube(svg, scope);
+    drawScopeBezel(svg, aboutScope);
+    drawScopeTube(svg, aboutScope);
     drawPictureOnTube(svg);
-    drawScopeReflections(svg, scope);
+    drawScopeReflections(svg, aboutScope);
     drawName(svg, {.base = {wordsMiddle, 118}, .size = 68, .spacing = 1});
-    drawLamps(svg);
+    drawAlertLamps(svg, {wordsMiddle, 196});
     drawShelf(svg);
     return svg.text();
 }

@@ -14,7 +14,7 @@ namespace ventrel::art {
 
 namespace {
 
-constexpr double half = runwayWidth / 2;
+constexpr double halfRunway = runwayWidth / 2;
 
 /// A flat piece of ground from corner to corner.
 struct Patch {
@@ -35,23 +35,23 @@ void drawPatch(Svg& svg, const Camera& camera, const Patch& patch, std::string_v
     }
 }
 
-constexpr std::string_view paint = "fill=\"#d8d2c0\" opacity=\".62\"";
+constexpr std::string_view markingPaint = "fill=\"#d8d2c0\" opacity=\".62\"";
 
 void drawMarkings(Svg& svg, const Camera& camera) {
     constexpr double stripe = 1.8;
     for (int i = 0; i < 12; ++i) {
         const double y = (i < 6 ? -20.5 : 2.9) + (i % 6) * 3.1;
-        drawPatch(svg, camera, {6, 36, y, y + stripe}, paint);
+        drawPatch(svg, camera, {6, 36, y, y + stripe}, markingPaint);
     }
     for (double x = 66; x < runwayLength - 60; x += 50) {
-        drawPatch(svg, camera, {x, x + 30, -0.5, 0.5}, paint);
+        drawPatch(svg, camera, {x, x + 30, -0.5, 0.5}, markingPaint);
     }
     for (const double side : {-1.0, 1.0}) {
-        const double edge = side * (half - 1.2);
-        drawPatch(svg, camera, {0, runwayLength, edge - 0.45, edge + 0.45}, paint);
-        drawPatch(svg, camera, {300, 345, side * 9 - 3, side * 9 + 3}, paint);
+        const double edge = side * (halfRunway - 1.2);
+        drawPatch(svg, camera, {0, runwayLength, edge - 0.45, edge + 0.45}, markingPaint);
+        drawPatch(svg, camera, {300, 345, side * 9 - 3, side * 9 + 3}, markingPaint);
         for (const double x : {150.0, 450.0, 600.0}) {
-            drawPatch(svg, camera, {x, x + 22.5, side * 9 - 1.5, side * 9 + 1.5}, paint);
+            drawPatch(svg, camera, {x, x + 22.5, side * 9 - 1.5, side * 9 + 1.5}, markingPaint);
         }
     }
 }
@@ -61,10 +61,10 @@ void drawTarmac(Svg& svg, const Camera& camera) {
     constexpr std::string_view taxi = "fill=\"url(#asphalt)\" opacity=\".8\"";
     drawPatch(svg, camera, {-90, runwayLength + 90, 150, 172}, taxi);
     for (const double x : {-10.0, 760.0, 1500.0, 2380.0}) {
-        drawPatch(svg, camera, {x, x + 24, half, 150}, taxi);
+        drawPatch(svg, camera, {x, x + 24, halfRunway, 150}, taxi);
     }
     drawPatch(svg, camera, {300, 1900, 172, 330}, taxi);
-    drawPatch(svg, camera, {-60, runwayLength + 60, -half - 3, half + 3}, asphalt);
+    drawPatch(svg, camera, {-60, runwayLength + 60, -halfRunway - 3, halfRunway + 3}, asphalt);
     // The dark marks that tyres leave.
     drawPatch(svg, camera, {240, 620, -5, 5}, "fill=\"#14171a\" opacity=\".30\"");
     drawPatch(svg, camera, {290, 520, -4, 4}, "fill=\"#101316\" opacity=\".30\"");
@@ -86,7 +86,7 @@ void addRow(std::vector<Lamp>& lamps, const Lamp& first, const Vec& step, int co
 }
 
 /// The longer the lens, the larger the glare of the far ones.
-void drawLamps(Svg& svg, const Camera& camera, std::vector<Lamp> lamps) {
+void drawGlows(Svg& svg, const Camera& camera, std::vector<Lamp> lamps) {
     const double smallest = std::clamp(camera.focal / 1500, 0.75, 1.5); // pixels
     constexpr double largest = 26;
     constexpr double glare = 1.3;
@@ -273,7 +273,7 @@ void drawAirfield(Svg& svg, const Camera& camera, Size size) {
     svg.rect({0, 0, double(size.width), depth * 0.22}, 0, "fill=\"url(#mist)\"");
     std::vector<Lamp> town;
     addTown(town);
-    drawLamps(svg, level, town);
+    drawGlows(svg, level, town);
     drawTarmac(svg, level);
     std::vector<House> byDistance(houses.begin(), houses.end());
     std::ranges::sort(byDistance, std::ranges::greater{}, [&](const House& house) {
@@ -310,10 +310,10 @@ void addApproach(std::vector<Lamp>& lamps, double moment) {
 std::vector<Lamp> allLamps(double moment) {
     std::vector<Lamp> lamps;
     addApproach(lamps, moment);
-    addRow(lamps, {{-2, -half, 0.5}, "glowGreen", 1.6}, {0, 3, 0}, 16);
-    addRow(lamps, {{runwayLength + 2, -half, 0.5}, "glowRed", 1.4}, {0, 3, 0}, 16);
+    addRow(lamps, {{-2, -halfRunway, 0.5}, "glowGreen", 1.6}, {0, 3, 0}, 16);
+    addRow(lamps, {{runwayLength + 2, -halfRunway, 0.5}, "glowRed", 1.4}, {0, 3, 0}, 16);
     for (const double side : {-1.0, 1.0}) {
-        addRow(lamps, {{0, side * (half + 2), 0.5}, "glowWhite", 1.5}, {60, 0, 0}, 41);
+        addRow(lamps, {{0, side * (halfRunway + 2), 0.5}, "glowWhite", 1.5}, {60, 0, 0}, 41);
         for (int bar = 0; bar < 28; ++bar) {
             addRow(lamps, {{30.0 + bar * 30, side * 9, 0.1}, "glowWhite", 0.6}, {0, side * 1.6, 0}, 3);
         }
@@ -330,7 +330,7 @@ std::vector<Lamp> allLamps(double moment) {
 } // namespace
 
 void drawAirfieldLamps(Svg& svg, const Camera& camera, double moment) {
-    drawLamps(svg, camera, allLamps(moment));
+    drawGlows(svg, camera, allLamps(moment));
 }
 
 } // namespace ventrel::art

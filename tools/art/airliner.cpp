@@ -80,10 +80,9 @@ public:
 
 private:
     void addVisible(std::vector<Seen>& visible, const Face& face) const {
-        std::vector<Vec> corners;
-        for (const Vec& corner : face.corners) {
-            corners.push_back(placing_.point(corner));
-        }
+        std::vector<Vec> corners(face.corners.size());
+        std::ranges::transform(face.corners, corners.begin(),
+                               [this](const Vec& corner) { return placing_.point(corner); });
         const Vec middle = middleOf(corners);
         const Vec towardsEye = unit(camera_.at - middle);
         // Across the diagonals, as two corners of a ring may meet in its tip.

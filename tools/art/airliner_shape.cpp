@@ -97,7 +97,7 @@ struct Chord {
     double thickness;
 };
 
-Chord between(const Chord& a, const Chord& b, double part) {
+Chord chordBetween(const Chord& a, const Chord& b, double part) {
     return {a.front + (b.front - a.front) * part, a.back + (b.back - a.back) * part,
             a.thickness + (b.thickness - a.thickness) * part};
 }
@@ -118,8 +118,8 @@ struct WingLook {
 
 void addWing(std::vector<Face>& faces, const Chord& root, const Chord& tip, const WingLook& look) {
     for (int i = 0; i < look.pieces; ++i) {
-        const auto inner = outline(between(root, tip, double(i) / look.pieces), look.up);
-        const auto outer = outline(between(root, tip, double(i + 1) / look.pieces), look.up);
+        const auto inner = outline(chordBetween(root, tip, double(i) / look.pieces), look.up);
+        const auto outer = outline(chordBetween(root, tip, double(i + 1) / look.pieces), look.up);
         for (std::size_t k = 0; k < inner.size(); ++k) {
             const std::size_t next = (k + 1) % inner.size();
             faces.push_back({.corners = {inner[k], outer[k], outer[next], inner[next]},

@@ -13,10 +13,10 @@ namespace ventrel::art {
 
 namespace {
 
-constexpr Size picture{600, 240};
-constexpr int plateWidth = picture.width - filmSize.width;
-constexpr double middle = plateWidth / 2.0;
-constexpr Spot badge{middle, 84};
+constexpr Size awardPicture{600, 240};
+constexpr int plateWidth = awardPicture.width - filmSize.width;
+constexpr double plateMiddle = plateWidth / 2.0;
+constexpr Spot badge{plateMiddle, 84};
 constexpr double stillMoment = 3.85; // of the film: smoke behind the wheels
 
 constexpr std::string_view gold =
@@ -74,7 +74,7 @@ void drawWing(Svg& svg, bool isRight) {
     svg.close();
 }
 
-/// A controller's wings: gold, with a scope in their middle.
+/// A controller's wings: gold, with a scope in their plateMiddle.
 void drawBadge(Svg& svg) {
     constexpr double rim = 34;
     constexpr double tube = 26;
@@ -95,10 +95,10 @@ void drawBadge(Svg& svg) {
 }
 
 void drawPlateWords(Svg& svg) {
-    drawPolished(svg, {.base = {middle, 168}, .size = 44, .spacing = 2}, "WELL DONE");
-    svg.line({middle - 98, 180.5}, {middle + 98, 180.5}, "stroke=\"#0c0f10\" opacity=\".7\"");
-    svg.line({middle - 98, 181.5}, {middle + 98, 181.5}, "stroke=\"#ffb066\"");
-    drawPrinted(svg, {middle, 200}, "A PLACE AMONG THE TEN BEST", 13, 1.15, ivory);
+    drawPolished(svg, {.base = {plateMiddle, 168}, .size = 44, .spacing = 2}, "WELL DONE");
+    svg.line({plateMiddle - 98, 180.5}, {plateMiddle + 98, 180.5}, "stroke=\"#0c0f10\" opacity=\".7\"");
+    svg.line({plateMiddle - 98, 181.5}, {plateMiddle + 98, 181.5}, "stroke=\"#ffb066\"");
+    drawPrinted(svg, {plateMiddle, 200}, "A PLACE AMONG THE TEN BEST", 13, 1.15, ivory);
 }
 
 /// In the frame that closes the plate towards the film.
@@ -108,18 +108,18 @@ void drawStill(Svg& svg) {
     drawFilmPicture(svg, stillMoment);
     drawGrain(svg, filmSize);
     svg.closePicture();
-    svg.rect({plateWidth - 4.0, 0, 4, double(picture.height)}, 0, "fill=\"#07090a\"");
-    svg.rect({plateWidth - 5.0, 0, 1, double(picture.height)}, 0, "fill=\"#b4c0c4\" opacity=\".5\"");
+    svg.rect({plateWidth - 4.0, 0, 4, double(awardPicture.height)}, 0, "fill=\"#07090a\"");
+    svg.rect({plateWidth - 5.0, 0, 1, double(awardPicture.height)}, 0, "fill=\"#b4c0c4\" opacity=\".5\"");
 }
 
 } // namespace
 
 std::string drawAward(std::string_view materials) {
-    Svg svg(picture);
+    Svg svg(awardPicture);
     svg.define(materials);
     svg.define(gold);
-    drawSheet(svg, picture);
-    drawLight(svg, {plateWidth, picture.height});
+    drawSheet(svg, awardPicture);
+    drawLight(svg, {plateWidth, awardPicture.height});
     for (const Spot at :
          {Spot{13, 13}, Spot{plateWidth - 17.0, 13}, Spot{13, 227}, Spot{plateWidth - 17.0, 227}}) {
         svg.use("screwHead", at, at.x * 2 + at.y);

@@ -5,7 +5,7 @@
 #include <cmath>
 #include <cstddef>
 
-#include "base/random.h"
+#include "tools/art/chance.h"
 #include "tools/art/svg.h"
 
 namespace ventrel::art {
@@ -38,11 +38,6 @@ constexpr std::array<Cloud, cloudCount> clouds{{
     {{176, 88}, 13, 38, -0.2},
     {{90, 60}, 7, 99, 0},
 }};
-
-double drawn(RandomGenerator& random, double from, double to) {
-    constexpr int steps = 1000;
-    return from + (to - from) * Random(random, steps) / (steps - 1);
-}
 
 /// Shape, billows, light. The edge is the blurred shape, torn by fine noise, and thins out slowly: it is
 /// dithered away when the picture is made. Inside it a core keeps the cloud whole, and its billows only shade

@@ -7,13 +7,6 @@
 
 namespace ventrel::art {
 
-const Daylight evening{
-    .towardsSun = unit({-1, -0.32, 0.16}),
-    .sun = {1.18, 0.72, 0.42},
-    .sky = {0.38, 0.45, 0.60},
-    .ground = {0.40, 0.34, 0.33},
-};
-
 std::string hex(const Tint& colour) {
     const auto byte = [](double part) {
         return static_cast<unsigned>(std::lround(std::clamp(part, 0.0, 1.0) * 255));

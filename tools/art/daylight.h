@@ -36,14 +36,19 @@ std::string hex(const Tint& colour);
 
 /// The evening: low sun in the west, a bright sky above it, dark ground.
 struct Daylight {
-    Vec towardsSun;
+    Vec towardsSun; ///< of length 1
     Tint sun;
     Tint sky;    ///< from above
     Tint ground; ///< thrown back from below
 };
 
 inline constexpr double sunBearing = 268; // degrees
-extern const Daylight evening;
+inline constexpr Daylight evening{
+    .towardsSun = {-0.9416, -0.3013, 0.1507},
+    .sun = {1.18, 0.72, 0.42},
+    .sky = {0.38, 0.45, 0.60},
+    .ground = {0.40, 0.34, 0.33},
+};
 
 /// How a surface that faces `normal` (of length 1) looks from `towardsEye`; `shine` is 0 for dull paint, 1
 /// for polish.

@@ -7,7 +7,7 @@ namespace ventrel::art {
 namespace {
 
 /// 100 long, around its middle.
-constexpr std::string_view airliner =
+constexpr std::string_view silhouette =
     "M0,-50 C2.6,-49 4.6,-43.5 4.6,-36 V-16.5 L12.4,-11.2 V-16 Q12.4,-18 15,-18 Q17.6,-18 17.6,-16 V-7.6 "
     "L46,11.6 Q47.4,12.8 47.4,17.4 L17,7.4 L4.6,5.6 C4.6,14 4,23 3.2,30 L16,38.2 Q17,39 17,42.4 L2,39.2 "
     "Q1.2,46 0,48.6 Q-1.2,46 -2,39.2 L-17,42.4 Q-17,39 -16,38.2 L-3.2,30 C-4,23 -4.6,14 -4.6,5.6 L-17,7.4 "
@@ -27,7 +27,7 @@ std::string stroke(std::string_view colour, double width) {
 void drawAirlinerFromAbove(Svg& svg, Spot middle, double length, std::string_view look) {
     svg.open("transform=\"translate(" + number(middle.x) + ' ' + number(middle.y) + ") scale(" +
              number(length / 100) + ")\"");
-    svg.path(airliner, look);
+    svg.path(silhouette, look);
     svg.close();
 }
 

@@ -14,10 +14,10 @@ namespace {
 constexpr double touchDownFrom = 2.05;
 constexpr double roomFrom = 5.25;
 constexpr double fadeFrom = 9.35;
-constexpr double end = double(filmPictures) / filmRate;
+constexpr double filmEnd = double(filmPictures) / filmRate;
 
 void drawFade(Svg& svg, double moment) {
-    const double darkness = 1 - eased(moment, 0, 0.5) + eased(moment, fadeFrom, end - 0.05);
+    const double darkness = 1 - eased(moment, 0, 0.5) + eased(moment, fadeFrom, filmEnd - 0.05);
     if (darkness > 0) {
         svg.rect({0, 0, double(filmSize.width), double(filmSize.height)}, 0,
                  "fill=\"#000\" opacity=\"" + number(darkness) + '"');

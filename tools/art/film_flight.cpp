@@ -5,9 +5,9 @@
 #include <numbers>
 #include <vector>
 
-#include "base/random.h"
 #include "tools/art/airfield.h"
 #include "tools/art/airliner.h"
+#include "tools/art/chance.h"
 #include "tools/art/easing.h"
 #include "tools/art/film.h"
 #include "tools/art/sky.h"
@@ -75,11 +75,6 @@ Attitude rollingAt(double moment) {
 }
 
 namespace {
-
-double drawn(RandomGenerator& random, double from, double to) {
-    constexpr int steps = 1000;
-    return from + (to - from) * Random(random, steps) / (steps - 1);
-}
 
 /// What a tyre leaves in the air when it starts to turn.
 void drawSmoke(Svg& svg, const Camera& camera, double moment, int side) {

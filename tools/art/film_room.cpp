@@ -6,8 +6,8 @@
 #include <numbers>
 #include <span>
 
-#include "base/random.h"
 #include "tools/art/airliner.h"
+#include "tools/art/chance.h"
 #include "tools/art/easing.h"
 #include "tools/art/film.h"
 #include "tools/art/film_flight.h"
@@ -17,8 +17,8 @@ namespace ventrel::art {
 
 namespace {
 
-constexpr double width = filmSize.width;
-constexpr double height = filmSize.height;
+constexpr double roomWidth = filmSize.width;
+constexpr double roomHeight = filmSize.height;
 constexpr double headerBottom = 24;
 constexpr double sill = 164;
 
@@ -27,8 +27,8 @@ constexpr double throwing = 5.62;
 constexpr double highFive = 7.5;
 
 void drawHeader(Svg& svg) {
-    svg.rect({0, 0, width, headerBottom}, 0, "fill=\"url(#ceiling)\"");
-    svg.rect({0, headerBottom - 1, width, 1}, 0, "fill=\"#c08a5a\" opacity=\".45\"");
+    svg.rect({0, 0, roomWidth, headerBottom}, 0, "fill=\"url(#ceiling)\"");
+    svg.rect({0, headerBottom - 1, roomWidth, 1}, 0, "fill=\"#c08a5a\" opacity=\".45\"");
     for (const double x : {54.0, 160.0, 266.0}) {
         svg.ellipse({x - 15, 5, 30, 6}, "fill=\"#ffe7bd\" opacity=\".8\"");
         svg.ellipse({x - 34, -3, 68, 24}, "fill=\"url(#downlight)\"");
@@ -38,7 +38,7 @@ void drawHeader(Svg& svg) {
 /// The glass leans outwards, as in all towers: its posts spread upwards.
 void drawPosts(Svg& svg) {
     for (const double foot : {108.0, 212.0}) {
-        const double head = foot + (foot - width / 2) * 0.14;
+        const double head = foot + (foot - roomWidth / 2) * 0.14;
         const auto post = [&](double from, double to) {
             return 'M' + number(head + from) + ',' + number(headerBottom) + " L" + number(foot + from) + ',' +
                    number(sill) + " H" + number(foot + to) + " L" + number(head + to) + ',' +
@@ -71,9 +71,9 @@ void drawScreen(Svg& svg, double middle, double moment) {
 
 constexpr std::array<double, 3> seats{62, 160, 258};
 
-void drawDesk(Svg& svg, double moment) {
-    svg.rect({0, sill, width, height - sill}, 0, "fill=\"url(#desk)\"");
-    svg.rect({0, sill, width, 1.4}, 0, "fill=\"url(#sillLight)\"");
+void drawRoomDesk(Svg& svg, double moment) {
+    svg.rect({0, sill, roomWidth, roomHeight - sill}, 0, "fill=\"url(#desk)\"");
+    svg.rect({0, sill, roomWidth, 1.4}, 0, "fill=\"url(#sillLight)\"");
     for (const double seat : seats) {
         drawScreen(svg, seat, moment);
     }
@@ -206,13 +206,8 @@ void drawChairs(Svg& svg) {
     }
 }
 
-double drawn(RandomGenerator& random, double from, double to) {
-    constexpr int steps = 1000;
-    return from + (to - from) * Random(random, steps) / (steps - 1);
-}
-
 /// The flight strips that are thrown into the air: paper, which rises quickly and sinks slowly.
-void drawStrips(Svg& svg, double moment) {
+void drawFlyingStrips(Svg& svg, double moment) {
     constexpr int strips = 22;
     constexpr double drag = 2.1; // a second
     RandomGenerator random{41};
@@ -269,20 +264,20 @@ std::string roomMaterials() {
 }
 
 void drawRoom(Svg& svg, double moment) {
-    constexpr Camera camera{.at = {604, -300, 38}, .bearing = 356, .focal = 330, .middle = {160, 96}};
+    constexpr Camera roomCamera{.at = {604, -300, 30}, .bearing = 356, .focal = 330, .middle = {160, 88}};
     const Attitude airliner = rollingAt(moment);
     const double closer = between(1, 1.09, eased(moment, 5.2, 10));
     svg.open("transform=\"translate(160 120) scale(" + number(closer * 100) + "e-2) translate(-160 -120)\"");
-    drawFilmOutside(svg, camera, moment);
-    drawGroundShade(svg, camera, airliner);
-    drawAirliner(svg, camera, airliner, evening);
-    drawBeacons(svg, camera, airliner, beaconsAt(moment), 0.4);
+    drawFilmOutside(svg, roomCamera, moment);
+    drawGroundShade(svg, roomCamera, airliner);
+    drawAirliner(svg, roomCamera, airliner, evening);
+    drawBeacons(svg, roomCamera, airliner, beaconsAt(moment), 0.4);
     drawPosts(svg);
     drawHeader(svg);
-    drawDesk(svg, moment);
+    drawRoomDesk(svg, moment);
     drawPeople(svg, moment);
     drawChairs(svg);
-    drawStrips(svg, moment);
+    drawFlyingStrips(svg, moment);
     svg.close();
 }
 

@@ -10,11 +10,11 @@ namespace ventrel::art {
 
 namespace {
 
-constexpr Size picture{250, 100};
+constexpr Size headPicture{250, 100};
 constexpr std::string_view ink = "#1c2b46";
 constexpr std::string_view accent = "#a4552a";
 constexpr Spot seal{45, 48};
-constexpr double wordsMiddle = 167;
+constexpr double headWordsMiddle = 167;
 
 /// A branch of laurel up one side of the seal: left (-1) or right (1).
 void drawBranch(Svg& svg, double side) {
@@ -48,7 +48,7 @@ void drawWords(Svg& svg) {
     const std::string serif =
         "font-family=\"Liberation Serif\" text-anchor=\"middle\" fill=\"" + std::string(ink) + "\" ";
     const auto set = [&](double y, std::string_view words, const std::string& look) {
-        svg.words({wordsMiddle, y}, words, serif + look);
+        svg.words({headWordsMiddle, y}, words, serif + look);
     };
     set(32, "BUREAU OF", "font-size=\"17\" font-weight=\"bold\" letter-spacing=\"3.6\"");
     set(52, "AIR SAFETY", "font-size=\"22.5\" font-weight=\"bold\" letter-spacing=\"1.1\"");
@@ -61,8 +61,8 @@ void drawWords(Svg& svg) {
 } // namespace
 
 std::string drawLetterhead() {
-    Svg svg(picture);
-    svg.rect({0, 0, double(picture.width), double(picture.height)}, 0, "fill=\"#fff\"");
+    Svg svg(headPicture);
+    svg.rect({0, 0, double(headPicture.width), double(headPicture.height)}, 0, "fill=\"#fff\"");
     drawSeal(svg);
     drawWords(svg);
     return svg.text();

@@ -98,6 +98,15 @@ void drawSweep(Svg& svg, Spot middle, double radius, const Sweep& sweep) {
     svg.line(middle, onScopeRim(tube, 0, sweep.direction), "stroke=\"#a8ffcb\" stroke-width=\"1.6\"");
 }
 
+void drawBlip(Svg& svg, const Blip& blip, double letters) {
+    const auto [x, y] = blip.at;
+    const double grow = letters / fivePixelCapitals;
+    svg.rect({x - 2.5, y - 2.5, 5, 5}, 0, "fill=\"none\" stroke=\"#7dffb0\"");
+    svg.line({x + 2.5, y - 2.5}, {x + 7.5, y - 7.5}, "stroke=\"#7dffb0\" opacity=\".8\"");
+    svg.text({x + 19 * grow, y - 8}, blip.callsign, letters, 0.3, "fill=\"#7dffb0\"");
+    svg.text({x + 12 * grow, y - 9 + 8 * grow}, blip.altitude, letters, 0.3, "fill=\"#7dffb0\"");
+}
+
 void drawScopeBezel(Svg& svg, const Box& scope) {
     const Box shadow(scope.x + 3, scope.y + 4, scope.width, scope.height);
     svg.ellipse(shadow.grownBy(bezelOuter + 2),

@@ -20,6 +20,15 @@ struct Sweep {
 };
 void drawSweep(Svg& svg, Spot middle, double radius, const Sweep& sweep);
 
+/// A flight on the tube, with its tag to its upper right.
+struct Blip {
+    Spot at;
+    std::string_view callsign;
+    std::string_view altitude;
+};
+/// Its letters are of that size; clear letters have capitals of whole pixels (console_parts.h).
+void drawBlip(Svg& svg, const Blip& blip, double letters);
+
 /// The bezel around it, with a mark every two degrees.
 void drawScopeBezel(Svg& svg, const Box& scope);
 

@@ -13,40 +13,41 @@ namespace ventrel::art {
 
 namespace {
 
-constexpr Size picture{689, 600};
+constexpr Size scorePicture{689, 600};
 
-// The rows that the table writes: letters of 21 pixels from 50 down, 24 apart.
-constexpr int rows = 10;
+// The scoreRows that the table writes: letters of 21 pixels from 50 down, 24 apart.
+constexpr int scoreRows = 10;
 constexpr double firstRow = 48.5;
 constexpr double rowPitch = 24;
 constexpr double bayTop = 47;
-constexpr double bayBottom = firstRow + rows * rowPitch + 1.5;
+constexpr double bayBottom = firstRow + scoreRows * rowPitch + 1.5;
 constexpr double nameColumn = 5;
 constexpr double scoreColumn = 120;
 constexpr double airspaceColumn = 165;
 constexpr double rankColumn = 668;
 
 constexpr double windowBottom = 563;
-constexpr double horizon = 452;
-constexpr Camera camera{.at = {850, -92, 10}, .bearing = 302.4, .focal = 1420, .middle = {345, horizon}};
+constexpr double scoreHorizon = 452;
+constexpr Camera scoreCamera{
+    .at = {850, -92, 10}, .bearing = 302.4, .focal = 1420, .middle = {345, scoreHorizon}};
 constexpr Attitude departing{.at = {702, 0, 17}, .bearing = 90, .pitch = 11, .bank = -4};
 
-constexpr std::array<Box, 2> buttons{{{280, 575, 75, 19}, {365, 575, 75, 19}}};
+constexpr std::array<Box, 2> scoreButtons{{{280, 575, 75, 19}, {365, 575, 75, 19}}};
 
 void drawWindow(Svg& svg) {
-    drawSky(svg, {.size = picture, .horizon = horizon, .sun = 60, .reach = 300, .clouds = 34});
-    drawHills(svg, camera, picture.width);
-    svg.define(airfieldMaterials(picture.height - horizon));
-    drawAirfield(svg, camera, picture);
-    drawAirfieldLamps(svg, camera, 0.2);
-    drawAirliner(svg, camera, departing, evening);
-    drawBeacons(svg, camera, departing, {.landing = true, .strobe = false, .beacon = false}, 1.2);
-    drawGrain(svg, picture);
+    drawSky(svg, {.size = scorePicture, .horizon = scoreHorizon, .sun = 60, .reach = 300, .clouds = 34});
+    drawHills(svg, scoreCamera, scorePicture.width);
+    svg.define(airfieldMaterials(scorePicture.height - scoreHorizon));
+    drawAirfield(svg, scoreCamera, scorePicture);
+    drawAirfieldLamps(svg, scoreCamera, 0.2);
+    drawAirliner(svg, scoreCamera, departing, evening);
+    drawBeacons(svg, scoreCamera, departing, {.landing = true, .strobe = false, .beacon = false}, 1.2);
+    drawGrain(svg, scorePicture);
 }
 
 void drawStrip(Svg& svg, int row) {
     const double top = firstRow + row * rowPitch;
-    const Box paper(1, top, picture.width - 2.0, rowPitch - 1.4);
+    const Box paper(1, top, scorePicture.width - 2.0, rowPitch - 1.4);
     svg.rect({paper.x, paper.y + 1.4, paper.width, paper.height}, 1, "fill=\"#000\" opacity=\".55\"");
     svg.rect(paper, 1, row % 2 == 0 ? "fill=\"url(#paper)\"" : "fill=\"url(#paperGreen)\"");
     svg.rect({paper.x, paper.y, paper.width, 1}, 0, "fill=\"#fff\" opacity=\".75\"");
@@ -57,7 +58,7 @@ void drawStrip(Svg& svg, int row) {
 }
 
 void drawBay(Svg& svg) {
-    const Box bay(0, bayTop, picture.width, bayBottom - bayTop);
+    const Box bay(0, bayTop, scorePicture.width, bayBottom - bayTop);
     svg.define(
         "<linearGradient id=\"paper\" x1=\"0\" y1=\"0\" x2=\"1\" y2=\".05\"><stop offset=\"0\" "
         "stop-color=\"#faf5e4\"/><stop offset=\".6\" stop-color=\"#efe8d2\"/><stop offset=\"1\" "
@@ -70,7 +71,7 @@ void drawBay(Svg& svg) {
         "baseFrequency=\"0.5 0.7\" numOctaves=\"2\" seed=\"9\"/><feColorMatrix values=\"0 0 0 0 .3  0 0 "
         "0 0 .26  0 0 0 0 .2  .26 .26 0 0 -.16\"/></filter>\n");
     svg.rect(bay, 0, "fill=\"#0a0d0f\"");
-    for (int row = 0; row < rows; ++row) {
+    for (int row = 0; row < scoreRows; ++row) {
         drawStrip(svg, row);
     }
     svg.rect(bay, 0, "filter=\"url(#fibres)\"");
@@ -78,7 +79,7 @@ void drawBay(Svg& svg) {
 
 /// A bar of steel from side to side.
 void drawBar(Svg& svg, double top, double height) {
-    const Box bar(0, top, picture.width, height);
+    const Box bar(0, top, scorePicture.width, height);
     svg.rect({bar.x, bar.y + 1, bar.width, bar.height - 2}, 0,
              "fill=\"#000\" opacity=\".6\" filter=\"url(#softer)\"");
     svg.rect(bar, 0, "fill=\"url(#bar)\"");
@@ -89,27 +90,27 @@ void drawBar(Svg& svg, double top, double height) {
     svg.rect({bar.x, bar.bottom() - 1.4, bar.width, 1.4}, 0, "fill=\"#07090a\"");
 }
 
-void drawHead(Svg& svg) {
+void drawHeadBar(Svg& svg) {
     constexpr double labels = 43;
     drawBar(svg, 0, bayTop);
-    for (const double x : {16.0, picture.width - 16.0}) {
+    for (const double x : {16.0, scorePicture.width - 16.0}) {
         svg.use("screwHead", {x, 17}, x);
     }
-    drawPolished(svg, {.base = {picture.width / 2.0, 29}, .size = 30, .spacing = 5}, "BEST SHIFTS");
+    drawPolished(svg, {.base = {scorePicture.width / 2.0, 29}, .size = 30, .spacing = 5}, "BEST SHIFTS");
     drawEngraved(svg, {nameColumn + 26, labels}, "CONTROLLER", 1);
     drawEngraved(svg, {scoreColumn + 14, labels}, "SCORE", 1);
     drawEngraved(svg, {airspaceColumn + 19, labels}, "AIRSPACE", 1);
     drawEngraved(svg, {rankColumn, labels}, "PLACE", 1);
 }
 
-void drawShelf(Svg& svg) {
-    drawBar(svg, windowBottom, picture.height - windowBottom);
-    for (const Box& button : buttons) {
+void drawScoreShelf(Svg& svg) {
+    drawBar(svg, windowBottom, scorePicture.height - windowBottom);
+    for (const Box& button : scoreButtons) {
         drawWell(svg, button.grownBy(1), "#0b0e10", 2);
     }
     drawVent(svg, {.area = {40, 572, 150, 20}, .slots = 3});
     drawVent(svg, {.area = {499, 572, 150, 20}, .slots = 3});
-    for (const double x : {16.0, 214.0, 475.0, picture.width - 16.0}) {
+    for (const double x : {16.0, 214.0, 475.0, scorePicture.width - 16.0}) {
         svg.use("screwHead", {x, 582}, x * 3);
     }
 }
@@ -117,16 +118,16 @@ void drawShelf(Svg& svg) {
 } // namespace
 
 std::string drawScores(std::string_view materials) {
-    Svg svg(picture);
+    Svg svg(scorePicture);
     svg.define(materials);
     svg.define(glowMaterials());
     drawWindow(svg);
-    defineLight(svg, picture);
-    svg.rect({0, bayBottom - 6, double(picture.width), 12}, 0, "fill=\"#000\" filter=\"url(#softer)\"");
+    defineLight(svg, scorePicture);
+    svg.rect({0, bayBottom - 6, double(scorePicture.width), 12}, 0, "fill=\"#000\" filter=\"url(#softer)\"");
     drawBay(svg);
-    drawHead(svg);
+    drawHeadBar(svg);
     drawBar(svg, bayBottom, 7);
-    drawShelf(svg);
+    drawScoreShelf(svg);
     return svg.text();
 }
 

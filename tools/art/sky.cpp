@@ -4,7 +4,7 @@
 #include <cmath>
 #include <numbers>
 
-#include "base/random.h"
+#include "tools/art/chance.h"
 
 namespace ventrel::art {
 
@@ -65,11 +65,6 @@ std::string cloudMaterials(const SkyLook& look) {
            "<feFlood flood-color=\"#ffb27a\"/>\n"
            "<feComposite in2=\"belly\" operator=\"in\" result=\"glow\"/>\n"
            "<feMerge><feMergeNode in=\"body\"/><feMergeNode in=\"glow\"/></feMerge></filter>\n";
-}
-
-double drawn(RandomGenerator& random, double from, double to) {
-    constexpr int steps = 1000;
-    return from + (to - from) * Random(random, steps) / (steps - 1);
 }
 
 void drawStars(Svg& svg, const SkyLook& look) {

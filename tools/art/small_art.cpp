@@ -143,6 +143,16 @@ void drawLampAt(Svg& svg, Spot middle, LampColour colour, bool bright) {
                     : "fill=\"none\" stroke=\"#fff\" stroke-width=\"1\" opacity=\".16\"");
 }
 
+void drawAlertLamps(Svg& svg, Spot middle) {
+    constexpr double pitch = 28;
+    const auto [x, y] = middle;
+    svg.rect({x - 45, y - 16, 90, 32}, 16, "fill=\"url(#lip)\"");
+    svg.rect({x - 44, y - 15, 88, 30}, 15, "fill=\"#171c1f\"");
+    drawLampAt(svg, {x - pitch, y}, LampColour::green, true);
+    drawLampAt(svg, middle, LampColour::yellow, false);
+    drawLampAt(svg, {x + pitch, y}, LampColour::red, false);
+}
+
 std::string drawLamp(LampColour colour, bool bright) {
     Svg svg(lampPicture);
     svg.define(lampMetal);

@@ -14,6 +14,9 @@ enum class LampColour { green, yellow, red };
 /// A lamp 26 pixels across, in a drawing that knows the material "rim". One of each colour to a drawing.
 void drawLampAt(Svg& svg, Spot middle, LampColour colour, bool bright);
 
+/// The three lamps in their tray, the green one lit, around a middle; also "lip" is to be known.
+void drawAlertLamps(Svg& svg, Spot middle);
+
 /// A lamp of 28 x 28 pixels, to be shown through a round opening.
 std::string drawLamp(LampColour colour, bool bright);
 
