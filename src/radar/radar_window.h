@@ -12,12 +12,12 @@
 #include <optional>
 #include <vector>
 
+#include "options/options.h"
 #include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 #include "radar/flight_drawing.h"
 #include "radar/radar_layout.h"
 #include "radar/sweep.h"
-#include "resources/options.h"
 #include "sim/game.h"
 
 namespace ventrel {

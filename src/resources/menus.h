@@ -8,7 +8,7 @@
 #include "platform/widgets/templates.h"
 #include "resources/command_ids.h"
 #include "resources/joined.h"
-#include "resources/options.h"
+#include "resources/option_rows.h"
 
 namespace ventrel {
 

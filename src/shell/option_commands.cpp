@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "resources/option_rows.h"
 #include "shell/game_flow.h"
 
 namespace ventrel {

@@ -2,20 +2,21 @@
 
 #include <string>
 
+#include "resources/option_rows.h"
 #include "sim/custom_skill.h"
 
 namespace ventrel {
 
 namespace {
 
-constexpr std::string_view section = "Options";
+constexpr std::string_view optionsSection = "Options";
 
 } // namespace
 
 Options ReadOptions(const ProfileFile& profile) {
     Options options;
     const auto read = [&](std::string_view key, int missing) {
-        return profile.integer(section, key, missing);
+        return profile.integer(optionsSection, key, missing);
     };
     for (const OptionRow& row : optionRows) {
         options.*row.value = read(row.key, options.*row.value);
@@ -28,7 +29,7 @@ Options ReadOptions(const ProfileFile& profile) {
 void WriteOptions(const Options& options, ProfileFile& profile) {
     for (const OptionRow& row : optionRows) {
         if (row.isWritten) {
-            profile.set(section, row.key, std::to_string(options.*row.value));
+            profile.set(optionsSection, row.key, std::to_string(options.*row.value));
         }
     }
 }

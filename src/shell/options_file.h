@@ -3,7 +3,7 @@
 #pragma once
 
 #include "base/profile_file.h"
-#include "resources/options.h"
+#include "options/options.h"
 
 namespace ventrel {
 

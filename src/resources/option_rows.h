@@ -1,9 +1,7 @@
-// The player's settings, and everything that the program does with each.
+// Everything that the program does with each of the player's settings.
 //
-// An option is a line of the record and a row of the table below it: its key in the options file, its menu
-// items with their ticks, and what a change brings. The file, the menus and the commands read the table.
-// The file is read once at start-up and written when something was changed; in between the menus and dialogs
-// change the record alone. Nothing is checked on reading: of a flag, any number but 0 counts as on.
+// An option is a line of the record and a row of the table here: its key in the options file, its menu items
+// with their ticks, and what a change brings. The file, the menus and the commands read the table.
 
 #pragma once
 
@@ -11,40 +9,11 @@
 #include <array>
 #include <string_view>
 
+#include "options/options.h"
 #include "platform/widgets/templates.h"
 #include "resources/command_ids.h"
 
 namespace ventrel {
-
-/// Values of `resolution`.
-inline constexpr int smallResolution = 2; ///< 800 x 600
-inline constexpr int largeResolution = 3; ///< 1024 x 768
-
-/// The values here are those of missing keys.
-struct Options {
-    int autoSelect = 0; ///< select every flight when it becomes active
-    int showGrid = 0;   ///< draw the grid on the radar map
-    int music = 1;
-    int effects = 1;       ///< sound effects
-    int voice = 1;         ///< pilot voices
-    int resolution = 0;    ///< another value than the two: chosen from the screen
-    int singleSound = -1;  ///< the one voice set of all pilots, or -1; never written back
-    int showRoutes = 1;    ///< draw the routes of flights on a direct course
-    int mapDetails = 1;    ///< draw the picture under the radar map
-    int stormTrak = 1;     ///< random cloud cover
-    int radarSweep = 1;    ///< draw the sweep
-    int windowed = 0;      ///< a window rather than the full screen
-    int airportSelect = 0; ///< index into the sorted airport catalogue
-    int directEntry = 1;   ///< flights enter on a direct course
-    int customSkill = 1;   ///< kept for its file alone
-    int customPlanes = 25;
-    int customSched = 2100; ///< length of a Custom shift in clock seconds
-    int customBonus = 475;  ///< bonus points of a Custom shift
-    int musicVolume = 5;    ///< 1 to 5, the loudest; 0 is silent
-    int soundVolume = 5;    ///< of effects and pilots, the same
-
-    friend bool operator==(const Options&, const Options&) = default;
-};
 
 /// The part of the Options menu in which an item stands.
 enum class OptionMenu { none, top, display, sounds, musicVolume, soundVolume, pictureSize, screen };
