@@ -20,12 +20,10 @@ constexpr Size largeWindow{1024, 768};
 constexpr Millis aMinute = 60000;
 constexpr Millis aMoment = 20;
 
-void complain(std::string_view, MessageIcon) {}
-
 /// A program of its own on a machine in memory, with options that nobody keeps.
 struct Game {
     HeadlessBackend backend;
-    FontSet fonts{fs::path(PROGRAM_FOLDER) / "fonts", complain};
+    FontSet fonts{fs::path(PROGRAM_FOLDER) / "fonts"};
     HeadlessSound device{[this] { return backend.now(); }};
     HeadlessSequencer sequencer{[this] { return backend.now(); }};
     SoundSystem sounds{device, sequencer, PROGRAM_FOLDER};

@@ -84,7 +84,7 @@ struct Play {
 
     HeadlessBackend backend{screen};
     Desktop desktop{backend, screen};
-    FontSet fonts{PROGRAM_FOLDER "/fonts", [](std::string_view, MessageIcon) {}};
+    FontSet fonts{PROGRAM_FOLDER "/fonts"};
     Game game;
     Options options;
     CursorImage hand;

@@ -35,20 +35,20 @@ void settle(SdlBackend& backend) {
 /// `scaleTenths`: of the window to the picture.
 void damageToScreen(benchmark::State& state, const Rect& part, int scaleTenths) {
     const Size window{picture.width * scaleTenths / tenths, picture.height * scaleTenths / tenths};
-    const auto silent = [](std::string_view, MessageIcon) {};
-    const auto backend = openSdlBackend(
-        {.title = "Bench", .picture = picture, .placement = WindowPlacement{Rect::at({}, window)}}, silent);
-    if (!backend) {
+    const auto opened = openSdlBackend(
+        {.title = "Bench", .picture = picture, .placement = WindowPlacement{Rect::at({}, window)}});
+    if (!opened) {
         state.SkipWithError("there is no screen here");
         return;
     }
+    SdlBackend& backend = **opened;
     Bitmap shown(picture);
-    backend->show(true);
-    settle(*backend);
+    backend.show(true);
+    settle(backend);
     Pixel shade = 0;
     for (auto _ : state) {
         shown.at(part.left, part.top) = ++shade;
-        backend->present(shown, std::span(&part, 1));
+        backend.present(shown, std::span(&part, 1));
     }
 }
 

@@ -26,9 +26,11 @@ constexpr std::string_view paragraph =
     "two jet liners. DL274H and UA39 collided head-on at an altitude of 5000 feet.";
 
 FontSet loadedFonts() {
-    return {FONT_FOLDER, [](std::string_view text, MessageIcon) {
-                std::fprintf(stderr, "%.*s\n", static_cast<int>(text.size()), text.data());
-            }};
+    FontSet fonts(FONT_FOLDER);
+    for (const Failure& missing : fonts.failures()) {
+        std::fprintf(stderr, "%s\n", missing.text.c_str());
+    }
+    return fonts;
 }
 
 void PanelLine(benchmark::State& state) {

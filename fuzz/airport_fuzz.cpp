@@ -39,7 +39,7 @@ void fly(Game& game) {
 
 /// What the tool shows has to be a source, which it makes sure of by itself.
 void checkAndShow(std::span<const std::byte> bytes) {
-    const auto airport = readAirportFile(bytes, "fuzz.apt", [](std::string_view, MessageIcon) {});
+    const auto airport = readAirportFile(bytes, "fuzz.apt");
     for (const apt::Problem& problem :
          apt::airspaceProblems(*airport, embeddedPicture(bytes, airport->header))) {
         if (problem.text.empty()) {

@@ -1,6 +1,5 @@
 // Ventrel: the game on this machine's screen.
 
-#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstdio>
@@ -10,6 +9,7 @@
 #include <string_view>
 
 #include "audio/sound_system.h"
+#include "base/letters.h"
 #include "base/version.h"
 #include "base/windows1252.h"
 #include "platform/machine/instance_lock.h"
@@ -50,7 +50,7 @@ constexpr std::string_view usage =
     "or no face to write with; 2 wrong usage.\n";
 
 /// `text` is Windows-1252, and may hold what a file or the command line has brought along.
-void complain(std::string_view text, MessageIcon /*icon*/ = MessageIcon::none) {
+void complain(std::string_view text) {
     std::fprintf(stderr, "ventrel: %s\n", toTerminal(text).c_str());
 }
 
@@ -68,8 +68,8 @@ Settings readSettings(const ProfileFile& profile, const Screen& screen) {
     return settings;
 }
 
-std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::optional<CursorImage>& icon,
-                                       SdlSound& sound) {
+Result<std::unique_ptr<SdlBackend>> openScreen(const Settings& settings,
+                                                const std::optional<CursorImage>& icon, SdlSound& sound) {
     SdlOptions options{.title = std::string(programTitle), .picture = settings.window};
     options.fullScreen = settings.options.windowed == 0;
     if (settings.windowPlace) {
@@ -77,7 +77,7 @@ std::unique_ptr<SdlBackend> openScreen(const Settings& settings, const std::opti
     }
     options.icon = icon ? &*icon : nullptr;
     options.sound = &sound;
-    return openSdlBackend(options, complain);
+    return openSdlBackend(options);
 }
 
 /// The seed that the environment asks for, with which a game can be played again; none without such a wish,
@@ -142,15 +142,17 @@ int play(const std::filesystem::path& executable) {
         return cannotStart;
     }
     const auto device = openSdlSound(soundfontCandidates(programFolder));
-    const auto backend = openScreen(settings, data.icon, *device);
-    if (!backend) {
+    const auto screenBackend = openScreen(settings, data.icon, *device);
+    if (!screenBackend) {
+        complain(screenBackend.error().text);
         return cannotStart;
     }
+    SdlBackend& backend = **screenBackend;
     SoundSystem sounds(*device, device->sequencer(), programFolder);
-    Program program({*backend, data.fonts, sounds, store, std::move(data.troubles)},
+    Program program({backend, data.fonts, sounds, store, std::move(data.troubles)},
                     {programFolder, playerFolder, playersAirports()}, settings.options,
                     wantedSeed().value_or(seedOfTheMoment()));
-    const auto keep = [&] { keepSettings(store, program.options(), settings.window, *backend); };
+    const auto keep = [&] { keepSettings(store, program.options(), settings.window, backend); };
     {
         const SuddenEnd whenTheScreenIsLost(keep);
         if (const auto started = program.startUp()) {
@@ -166,8 +168,7 @@ int play(const std::filesystem::path& executable) {
 /// Exactly this word skips the pictures, in any case.
 bool skipsSplash(std::string_view word) {
     constexpr std::string_view wanted = "/NOSPLASH";
-    const auto raised = [](char c) { return c >= 'a' && c <= 'z' ? static_cast<char>(c - 'a' + 'A') : c; };
-    return std::ranges::equal(word, wanted, {}, raised);
+    return sameWithoutCase(word, wanted);
 }
 
 /// What the command line asks for in place of playing, as the status to end with.
@@ -178,11 +179,11 @@ std::optional<int> answerWords(std::span<char*> words) {
     }
     const bool isAlone = words.size() == 1;
     if (isAlone && word == "--help") {
-        std::fputs(usage.data(), stdout);
+        std::fwrite(usage.data(), 1, usage.size(), stdout);
         return ended;
     }
     if (isAlone && word == "--version") {
-        std::printf("ventrel %s\n", programVersion.data());
+        std::puts(("ventrel " + std::string(programVersion)).c_str());
         return ended;
     }
     const bool isKnown = skipsSplash(word) || word == "--help" || word == "--version";

@@ -1,12 +1,6 @@
-// How a part of the program tells the player that something failed.
-//
-// Code below the shell reports through a function that it is given; the shell shows message boxes,
-// the command-line tools write to standard error, tests collect the texts.
+// What a message to the player is about.
 
 #pragma once
-
-#include <functional>
-#include <string_view>
 
 namespace ventrel {
 
@@ -18,8 +12,5 @@ enum class MessageIcon {
     exclamation, ///< questions that guard something, and warnings
     information, ///< input errors
 };
-
-/// Shows one finished text (Windows-1252) to the player and returns when it has been taken note of.
-using FailureReporter = std::function<void(std::string_view text, MessageIcon icon)>;
 
 } // namespace ventrel

@@ -6,8 +6,10 @@ namespace ventrel {
 
 ProgramData openProgramData(const std::filesystem::path& programFolder) {
     std::vector<std::string> troubles;
-    FontSet fonts(programFolder / "fonts",
-                  [&troubles](std::string_view text, MessageIcon) { troubles.emplace_back(text); });
+    FontSet fonts(programFolder / "fonts");
+    for (const Failure& failure : fonts.failures()) {
+        troubles.push_back(failure.text);
+    }
     auto icon = loadIcon(programFolder);
     if (!icon) {
         troubles.push_back(std::move(icon.error().text));

@@ -79,8 +79,4 @@ void Shell::tellLater(const Result<bool>& sound) {
     }
 }
 
-FailureReporter Shell::reporter() {
-    return [this](std::string_view text, MessageIcon icon) { report(text, icon); };
-}
-
 } // namespace ventrel

@@ -17,11 +17,11 @@
 #include "controls/scroller.h"
 #include "controls/strips.h"
 #include "controls/top_bar.h"
+#include "options/options.h"
 #include "platform/desktop/desktop.h"
 #include "platform/widgets/button.h"
 #include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
-#include "resources/options.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
 #include "shell/simulation_player.h"
@@ -91,7 +91,6 @@ struct Shell {
     void report(std::string_view text, MessageIcon icon);
     /// The same with what an operation failed of; nothing for a failure without words.
     void report(const Failure& failure);
-    FailureReporter reporter();
     /// The same for what was to be heard, once the sequence that it belongs to has ended: nobody waits for a
     /// box in the middle of a step.
     void tellLater(const Result<bool>& sound);

@@ -157,22 +157,18 @@ std::optional<AirportHeader> readAirportHeader(std::span<const std::byte> file) 
     return header;
 }
 
-std::optional<AirportFile> readAirportFile(std::span<const std::byte> file, const std::filesystem::path& path,
-                                           const FailureReporter& report) {
+Result<AirportFile> readAirportFile(std::span<const std::byte> file, const std::filesystem::path& path) {
     const std::string fileName = pathText(path);
     const auto header = readAirportHeader(file);
     if (!header) {
-        report(FormatText(tooShortText, {fileName}), MessageIcon::stop);
-        return std::nullopt;
+        return failed(FormatText(tooShortText, {fileName}));
     }
     if (const auto fault = outlineFault(file, *header); !fault.empty()) {
-        report(FormatText(fault, {fileName, shownName(*header)}), MessageIcon::stop);
-        return std::nullopt;
+        return failed(FormatText(fault, {fileName, shownName(*header)}));
     }
     AirportFile airport{*header, readPoints(file, *header)};
     if (const auto fault = mapFault(airport); !fault.empty()) {
-        report(FormatText(fault, {fileName, shownName(*header)}), MessageIcon::stop);
-        return std::nullopt;
+        return failed(FormatText(fault, {fileName, shownName(*header)}));
     }
     return airport;
 }

@@ -15,7 +15,7 @@
 #include <string>
 #include <vector>
 
-#include "base/failure.h"
+#include "base/result.h"
 #include "sim/vor.h"
 
 namespace ventrel {
@@ -91,11 +91,9 @@ struct AirportFile {
 /// Decodes a header; nothing when there are fewer than 76 bytes.
 std::optional<AirportHeader> readAirportHeader(std::span<const std::byte> file);
 
-/// Decodes and checks a whole file. `path` names the file in the report (stop icon) that goes with a refusal:
-/// too short, unfinished, not an airport file, table or picture outside the file, a control character in a
-/// name, no exit, no airport.
-std::optional<AirportFile> readAirportFile(std::span<const std::byte> file, const std::filesystem::path& path,
-                                           const FailureReporter& report);
+/// Decodes and checks a whole file. Fails by the name of `path` when it is too short, unfinished, not an
+/// airport file, has table or picture outside the file, a control character in a name, no exit, no airport.
+Result<AirportFile> readAirportFile(std::span<const std::byte> file, const std::filesystem::path& path);
 
 /// The embedded picture's bytes within `file`, the bytes from which `header` was accepted.
 std::span<const std::byte> embeddedPicture(std::span<const std::byte> file, const AirportHeader& header);

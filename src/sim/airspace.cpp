@@ -7,18 +7,16 @@ namespace ventrel {
 
 Result<AirspacePtr> loadAirport(const std::filesystem::path& file) {
     FileBuffer buffer;
-    if (const auto read = buffer.Load(file, false, std::nullopt); !read) {
+    if (const auto read = buffer.load(file, false, std::nullopt); !read) {
         return tl::unexpected(read.error());
     }
     return loadAirport(buffer.data, file);
 }
 
 Result<AirspacePtr> loadAirport(std::span<const std::byte> bytes, const std::filesystem::path& name) {
-    Failure failure;
-    auto file = readAirportFile(
-        bytes, name, [&](std::string_view text, MessageIcon icon) { failure = {std::string{text}, icon}; });
+    auto file = readAirportFile(bytes, name);
     if (!file) {
-        return tl::unexpected(failure);
+        return tl::unexpected(file.error());
     }
     const auto picture = embeddedPicture(bytes, file->header);
     return std::make_shared<const Airspace>(

@@ -19,8 +19,7 @@ Vor point(std::string ident, bool isAirport) {
 } // namespace
 
 ConsoleStage::ConsoleStage(Size size)
-    : backend(size), desktop(backend, size),
-      fonts(std::string(PROGRAM_FOLDER) + "/fonts", [](std::string_view, MessageIcon) {}), console(size) {
+    : backend(size), desktop(backend, size), fonts(std::string(PROGRAM_FOLDER) + "/fonts"), console(size) {
     Canvas(console).fill(console.bounds(), consoleGrey);
     main = desktop.create({.bounds = desktop.area(), .background = black});
     game.phase = Phase::running;

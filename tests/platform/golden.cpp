@@ -80,8 +80,8 @@ std::uint64_t sumOf(const Bitmap& picture) {
 
 /// The same for two machines when they draw the program's faces alike; "none" where a face is missing.
 std::string lettersOfThisMachine() {
-    FontSet fonts(FONT_FOLDER, [](std::string_view, MessageIcon) {});
-    if (!fonts.isComplete()) {
+    FontSet fonts(FONT_FOLDER);
+    if (!fonts.failures().empty()) {
         return "none";
     }
     Bitmap picture({1024, 256});

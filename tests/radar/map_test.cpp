@@ -61,7 +61,7 @@ protected:
     }
 
 private:
-    FontSet fonts_{std::string(PROGRAM_FOLDER) + "/fonts", [](std::string_view, MessageIcon) {}};
+    FontSet fonts_{std::string(PROGRAM_FOLDER) + "/fonts"};
 };
 
 TEST_F(MapTest, MapPointsLookAsTheyDid) {

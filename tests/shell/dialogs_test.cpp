@@ -131,7 +131,7 @@ protected:
 };
 
 TEST_F(DialogLooks, TextsAreNotCut) {
-    FontSet faces(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
+    FontSet faces(std::filesystem::path(PROGRAM_FOLDER) / "fonts");
     const Font& font = widgetFontsOf(faces).text;
     for (const NamedShape& shape : allShapes()) {
         for (const ControlTemplate& control : shape.controls) {

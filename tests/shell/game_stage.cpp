@@ -65,8 +65,7 @@ Rect differenceOf(const Bitmap& before, const Bitmap& after) {
 GameStage::GameStage(int windowWidth, std::string_view profileText,
                      const std::filesystem::path& programFolder, GameSounds* otherSounds)
     : backend(windowOf(windowWidth)), profile_(folder_ / "ventrel.ini"),
-      fonts_(std::filesystem::path(PROGRAM_FOLDER) / "fonts",
-             [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; }) {
+      fonts_(std::filesystem::path(PROGRAM_FOLDER) / "fonts") {
     writeText(profile_, profileText);
     store_ = std::make_unique<OptionsStore>(profile_);
     program_ = std::make_unique<Program>(

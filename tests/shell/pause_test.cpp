@@ -174,7 +174,7 @@ TEST(StartUp, TheWindowFollowsTheScreenUntilThePlayerChooses) {
 TEST(StartUp, AScreenOfFewColoursIsComplainedOfInAWindowAndThenUsed) {
     for (const int windowed : {1, 0}) {
         HeadlessBackend backend({800, 600}, {{800, 600}, 8});
-        FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
+        FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts");
         HeardSounds sounds;
         OptionsStore store("none.ini");
         Program program({backend, fonts, sounds, store}, {PROGRAM_FOLDER},
@@ -192,7 +192,7 @@ TEST(StartUp, AScreenOfFewColoursIsComplainedOfInAWindowAndThenUsed) {
 TEST(StartUp, AMissingPictureIsNamedAndNothingStarts) {
     TempFolder folder;
     HeadlessBackend backend({800, 600});
-    FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts", [](std::string_view, MessageIcon) {});
+    FontSet fonts(std::filesystem::path(PROGRAM_FOLDER) / "fonts");
     HeardSounds sounds;
     OptionsStore store(folder / "ventrel.ini");
     Program program({backend, fonts, sounds, store}, {folder.path()}, Options{.resolution = 2}, 1);

@@ -43,14 +43,6 @@ private:
 void putWord(std::vector<std::byte>& file, std::size_t offset, unsigned value);
 void putDoubleWord(std::vector<std::byte>& file, std::size_t offset, std::uint32_t value);
 
-/// Collects reports instead of showing them.
-struct Reports {
-    std::vector<std::string> texts;
-    FailureReporter reporter() {
-        return [this](std::string_view text, MessageIcon) { texts.emplace_back(text); };
-    }
-};
-
 /// Writes everything that happens to a game as one line each, in order: "13 text", "radio words", "lamp 1",
 /// "score -100 = 0", "sent 0", "panel", "strips", "active 0", "ended -1".
 class EventLog final : public SimulationEvents {

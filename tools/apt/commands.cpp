@@ -178,7 +178,10 @@ Result<DrawnAirport> openToDraw(const Drawing& drawing) {
 }
 
 Result<> drawPicture(const Drawing& drawing) {
-    FontSet fonts(drawing.fonts, [](std::string_view text, MessageIcon) { complain(text); });
+    FontSet fonts(drawing.fonts);
+    for (const Failure& missing : fonts.failures()) {
+        complain(missing.text);
+    }
     if (!fonts.hasFaces()) {
         return failed(pathText(drawing.fonts) + ": no face to write with");
     }

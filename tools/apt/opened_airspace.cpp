@@ -21,11 +21,9 @@ Result<OpenedAirport> openAirport(const fs::path& file) {
     if (!bytes) {
         return tl::unexpected(bytes.error());
     }
-    std::string refusal;
-    auto airport = readAirportFile(*bytes, file,
-                                   [&](std::string_view text, MessageIcon) { refusal = std::string(text); });
+    auto airport = readAirportFile(*bytes, file);
     if (!airport) {
-        return failed(refusal);
+        return tl::unexpected(airport.error());
     }
     return OpenedAirport{std::move(*bytes), std::move(*airport)};
 }

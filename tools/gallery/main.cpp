@@ -28,7 +28,7 @@ struct Arguments {
     std::string picture;
 };
 
-void complain(std::string_view text, MessageIcon = MessageIcon::stop) {
+void complain(std::string_view text) {
     std::fprintf(stderr, "ventrel-gallery: %s\n", toTerminal(text).c_str());
 }
 
@@ -45,7 +45,7 @@ int intoFile(const Arguments& arguments, FontSet& fonts) {
     Script(backend).then([&] { desktop.quit(); });
     desktop.run();
     if (!writePng(arguments.picture, backend.screen())) {
-        complain(arguments.picture + " cannot be written", MessageIcon::stop);
+        complain(arguments.picture + " cannot be written");
         return failure;
     }
     return 0;
@@ -56,12 +56,12 @@ int inWindow(const Arguments& arguments, FontSet& fonts) {
     const auto backend = openSdlBackend({.title = "Gallery",
                                          .picture = arguments.size,
                                          .fullScreen = arguments.fullScreen,
-                                         .sound = sound.get()},
-                                        complain);
+                                         .sound = sound.get()});
     if (!backend) {
+        complain(backend.error().text);
         return failure;
     }
-    Desktop desktop(*backend, arguments.size);
+    Desktop desktop(**backend, arguments.size);
     const Gallery gallery(desktop, fonts, sayAloud);
     desktop.setDragStrip(DragStrip{Rect{0, 0, arguments.size.width, 8}, {}});
     desktop.run();
@@ -91,7 +91,10 @@ int runGallery(int argc, char** argv) {
     }
     arguments.size = isLarge ? largeScreen : smallScreen;
     const std::filesystem::path program = argv[0];
-    FontSet fonts(program.parent_path() / "fonts", [](auto... words) { complain(words...); });
+    FontSet fonts(program.parent_path() / "fonts");
+    for (const Failure& missing : fonts.failures()) {
+        complain(missing.text);
+    }
     return arguments.picture.empty() ? inWindow(arguments, fonts) : intoFile(arguments, fonts);
 }
 

@@ -10,10 +10,11 @@
 #include <cstdint>
 #include <filesystem>
 #include <memory>
+#include <span>
 #include <string_view>
 #include <vector>
 
-#include "base/failure.h"
+#include "base/result.h"
 #include "platform/canvas/canvas.h"
 #include "platform/canvas/canvas_limits.h"
 
@@ -86,15 +87,15 @@ private:
 
 class FontSet {
 public:
-    /// Loads the faces from the program's font folder. Each that is missing or damaged is reported by name
-    /// (text 1, stop icon), and another of the folder stands in for it. Without any, fonts draw nothing.
-    FontSet(const std::filesystem::path& folder, const FailureReporter& report);
+    /// Loads the faces from the program's font folder. For one that is missing or damaged another of the
+    /// folder stands in. Without any, fonts draw nothing.
+    explicit FontSet(const std::filesystem::path& folder);
     ~FontSet();
     FontSet(FontSet&&) noexcept;
     FontSet& operator=(FontSet&&) noexcept;
 
-    /// Every face is its own.
-    bool isComplete() const;
+    /// The faces that are missing or damaged, each by name (text 1, stop icon).
+    std::span<const Failure> failures() const;
     /// There is one at least, so that texts can be read.
     bool hasFaces() const;
 

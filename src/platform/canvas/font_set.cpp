@@ -44,6 +44,7 @@ std::size_t fileOf(const FontRequest& request) {
 struct FontSet::Contents {
     FreeTypeLibrary library = startFreeType(); // first, so that it closes last
     std::array<std::optional<FontFace>, files.size()> faces;
+    std::vector<Failure> failures;
     std::map<FontRequest, Font> fonts;
 
     const FontFace* faceFor(std::size_t file) const;
@@ -53,21 +54,24 @@ struct FontSet::Contents {
 const FontFace* FontSet::Contents::faceFor(std::size_t file) const {
     const std::size_t otherWeight = file ^ 1U;
     for (const std::size_t own : {file, otherWeight}) {
-        if (faces[own]) {
-            return &*faces[own];
+        if (const auto& face = faces[own]) {
+            return &*face;
         }
     }
-    const auto any = std::ranges::find_if(faces, [](const auto& face) { return face.has_value(); });
-    return any == faces.end() ? nullptr : &**any;
+    for (const auto& face : faces) {
+        if (face) {
+            return &*face;
+        }
+    }
+    return nullptr;
 }
 
-FontSet::FontSet(const std::filesystem::path& folder, const FailureReporter& report)
-    : contents_(std::make_unique<Contents>()) {
+FontSet::FontSet(const std::filesystem::path& folder) : contents_(std::make_unique<Contents>()) {
     for (std::size_t i = 0; i < files.size(); ++i) {
         const std::filesystem::path file = folder / files[i];
         contents_->faces[i] = openFontFace(contents_->library, file);
         if (!contents_->faces[i]) {
-            report(FormatStringId(TextId::cannotOpenFile, {pathText(file)}), MessageIcon::stop);
+            contents_->failures.push_back({FormatStringId(TextId::cannotOpenFile, {pathText(file)})});
         }
     }
 }
@@ -76,8 +80,8 @@ FontSet::~FontSet() = default;
 FontSet::FontSet(FontSet&&) noexcept = default;
 FontSet& FontSet::operator=(FontSet&&) noexcept = default;
 
-bool FontSet::isComplete() const {
-    return std::ranges::all_of(contents_->faces, [](const auto& face) { return face.has_value(); });
+std::span<const Failure> FontSet::failures() const {
+    return contents_->failures;
 }
 
 bool FontSet::hasFaces() const {

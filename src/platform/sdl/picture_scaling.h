@@ -20,6 +20,6 @@ Size firstWindowSize(Size screen, Size picture);
 
 /// From a position in the window to the picture's pixels; positions beside the picture come out outside it.
 Point toPicture(Point window, const Rect& area, Size picture);
-Point fromPicture(Point picture, const Rect& area, Size size);
+Point fromPicture(Point point, const Rect& area, Size picture);
 
 } // namespace ventrel

@@ -4,29 +4,27 @@
 
 #include <algorithm>
 #include <limits>
-#include <map>
 #include <string>
 #include <string_view>
 #include <utility>
-#include <vector>
 
 #include "base/windows1252.h"
 #include "platform/devices/deadline.h"
 #include "platform/sdl/picture_scaling.h"
-#include "platform/sdl/scaled_picture.h"
 #include "platform/sdl/sdl_beeper.h"
 #include "platform/sdl/sdl_input.h"
 #include "platform/sdl/sdl_keys.h"
+#include "platform/sdl/sdl_pointers.h"
+#include "platform/sdl/sdl_surface.h"
 #include "platform/sdl/sdl_system.h"
+#include "platform/sdl/window_grips.h"
 #include "platform/sdl/x11_care.h"
 
 namespace ventrel {
 
 namespace {
 
-constexpr int resizeEdge = 4;        // pixels of the window by which a person resizes it
 constexpr int doubleClickRadius = 4; // pixels of the picture between two clicks that count as one
-constexpr std::size_t bytesPerPixel = sizeof(Pixel);
 
 class SdlWindow final : public SdlBackend {
 public:
@@ -89,25 +87,7 @@ public:
     }
 
     void present(const Bitmap& picture, std::span<const Rect> changed) override {
-        SDL_Surface* screen = SDL_GetWindowSurface(window_.get());
-        SDL_Surface* drawn = screen == nullptr ? nullptr : surfaceToDrawOn(*screen);
-        if (drawn == nullptr) {
-            return;
-        }
-        std::vector<SDL_Rect> sent = drawParts(*drawn, picture, changed);
-        if (showsBars_) {
-            paintBars(*drawn);
-            sent.assign(1, {0, 0, drawn->w, drawn->h});
-            showsBars_ = false;
-        }
-        if (drawn != screen) {
-            for (SDL_Rect part : sent) {
-                SDL_BlitSurface(drawn, &part, screen, &part);
-            }
-        }
-        if (!sent.empty()) {
-            SDL_UpdateWindowSurfaceRects(window_.get(), sent.data(), static_cast<int>(sent.size()));
-        }
+        surface_.present(*window_, picture, changed, [this](Size window) { return areaIn(window); });
     }
 
     void show(bool visible) override {
@@ -123,15 +103,7 @@ public:
         SDL_SetWindowTitle(window_.get(), toUtf8(title).c_str());
     }
 
-    void setCursor(const CursorImage* cursor) override {
-        cursor_ = cursor;
-        if (cursor == nullptr) {
-            SDL_ShowCursor(SDL_DISABLE);
-            return;
-        }
-        SDL_SetCursor(shownCursor(*cursor));
-        SDL_ShowCursor(SDL_ENABLE);
-    }
+    void setCursor(const CursorImage* cursor) override { pointers_.set(cursor); }
 
     void captureMouse(bool captured) override {
         captured_ = captured;
@@ -159,7 +131,7 @@ public:
             moveTo(fullScreen ? screenBounds() : windowed_.bounds);
         }
         isFullScreen_ = fullScreen;
-        showsBars_ = true;
+        surface_.sendAll();
         adaptToScale();
     }
     bool isFullScreen() const override { return isFullScreen_; }
@@ -287,7 +259,9 @@ private:
 
     void noteWindowChange(const SDL_WindowEvent& event) {
         const bool isResized = event.event == SDL_WINDOWEVENT_SIZE_CHANGED;
-        showsBars_ = showsBars_ || isResized || event.event == SDL_WINDOWEVENT_EXPOSED;
+        if (isResized || event.event == SDL_WINDOWEVENT_EXPOSED) {
+            surface_.sendAll();
+        }
         if (isResized) {
             adaptToScale();
         }
@@ -301,93 +275,19 @@ private:
         }
         multiple_ = multiple;
         SDL_SetHint(SDL_HINT_MOUSE_DOUBLE_CLICK_RADIUS, std::to_string(doubleClickRadius * multiple).c_str());
-        cursors_.clear();
-        if (cursor_ != nullptr) {
-            SDL_SetCursor(shownCursor(*cursor_));
-        }
-    }
-
-    /// The window's own surface, or one of its size when its pixels are of another kind than ours.
-    SDL_Surface* surfaceToDrawOn(SDL_Surface& screen) {
-        if (screen.format->format == SDL_PIXELFORMAT_RGB888) {
-            return &screen;
-        }
-        if (!scaled_ || scaled_->w != screen.w || scaled_->h != screen.h) {
-            constexpr Uint32 noFlags = 0;
-            constexpr int bitsPerPixel = 32;
-            scaled_.reset(SDL_CreateRGBSurfaceWithFormat(noFlags, screen.w, screen.h, bitsPerPixel,
-                                                         SDL_PIXELFORMAT_RGB888));
-            showsBars_ = true;
-        }
-        return scaled_.get();
-    }
-
-    std::vector<SDL_Rect> drawParts(const SDL_Surface& target, const Bitmap& picture,
-                                    std::span<const Rect> changed) {
-        const PixelRows rows{static_cast<Pixel*>(target.pixels),
-                             static_cast<int>(static_cast<std::size_t>(target.pitch) / bytesPerPixel),
-                             {target.w, target.h}};
-        const Rect place = areaIn(rows.size);
-        std::vector<SDL_Rect> drawn;
-        for (const Rect& part : changed) {
-            const Rect shown = scaler_.draw(rows, place, picture, part);
-            if (!shown.isEmpty()) {
-                drawn.push_back({shown.left, shown.top, shown.width(), shown.height()});
-            }
-        }
-        return drawn;
-    }
-
-    /// Black beside the picture.
-    void paintBars(SDL_Surface& target) const {
-        constexpr Uint32 black = 0;
-        const Rect place = areaIn({target.w, target.h});
-        const SDL_Rect bars[]{{0, 0, target.w, place.top},
-                              {0, place.bottom, target.w, target.h - place.bottom},
-                              {0, place.top, place.left, place.height()},
-                              {place.right, place.top, target.w - place.right, place.height()}};
-        for (const SDL_Rect& bar : bars) {
-            SDL_FillRect(&target, &bar, black);
-        }
-    }
-
-    SDL_Cursor* shownCursor(const CursorImage& image) {
-        CursorPointer& cursor = cursors_[&image];
-        if (!cursor) {
-            const SurfacePointer surface = surfaceOf(image, multiple_);
-            cursor.reset(SDL_CreateColorCursor(surface.get(), image.hotSpot.x * multiple_,
-                                               image.hotSpot.y * multiple_));
-        }
-        return cursor.get();
+        pointers_.enlargeBy(multiple);
     }
 
     static SDL_HitTestResult hitTest(SDL_Window*, const SDL_Point* point, void* data) {
         return static_cast<const SdlWindow*>(data)->partAt({point->x, point->y});
     }
 
-    /// The first row of the window below the drag strip.
-    int stripBottom() const { return fromPicture({0, dragStrip_->area.bottom}, area(), picture_).y; }
-
     /// A press that a menu waits for must arrive, wherever it is made.
     SDL_HitTestResult partAt(Point p) const {
         if (captured_ || isFullScreen_) {
             return SDL_HITTEST_NORMAL;
         }
-        const Point shown = toPicture(p, area(), picture_);
-        if (dragStrip_ && dragStrip_->contains(shown)) {
-            return SDL_HITTEST_DRAGGABLE;
-        }
-        // Beside the strip lies what the program puts there, up to the window's own edge.
-        const bool isBesideStrip = dragStrip_ && p.y >= area().top && p.y < stripBottom() + resizeEdge;
-        const Size size = windowSize();
-        const bool isBottom = p.y >= size.height - resizeEdge;
-        if (p.x >= size.width - resizeEdge) {
-            return isBottom ? SDL_HITTEST_RESIZE_BOTTOMRIGHT : SDL_HITTEST_RESIZE_RIGHT;
-        }
-        if (p.x < resizeEdge && !isBesideStrip) {
-            return isBottom ? SDL_HITTEST_RESIZE_BOTTOMLEFT : SDL_HITTEST_RESIZE_LEFT;
-        }
-        return isBottom ? SDL_HITTEST_RESIZE_BOTTOM : SDL_HITTEST_NORMAL;
+        return WindowGrips{windowSize(), area(), picture_, dragStrip_}.at(p);
     }
 
     std::unique_ptr<VideoSystem> video_;
@@ -395,12 +295,9 @@ private:
     WindowPointer window_;
     bool isFullScreen_ = false;
     WindowPlacement windowed_; // while the screen is filled: where the window comes back to
-    PictureScaler scaler_;
-    SurfacePointer scaled_; // only for a screen with other pixels than ours
-    bool showsBars_ = true; // the whole window is to be sent, also beside the picture
-    int multiple_ = 0;      // by which pointers are drawn; 0: not known yet
-    std::map<const CursorImage*, CursorPointer> cursors_;
-    const CursorImage* cursor_ = nullptr;
+    SdlSurface surface_;
+    int multiple_ = 0; // by which pointers are drawn; 0: not known yet
+    SdlPointers pointers_;
     std::optional<TextEvent> typed_; // comes after the key that typed it
     SdlSound* sound_;
     std::optional<Beeper> beeper_; // where there is sound
@@ -425,16 +322,14 @@ std::optional<Size> Screen::size() const {
     return Size{mode.w, mode.h};
 }
 
-std::unique_ptr<SdlBackend> openSdlBackend(const SdlOptions& options, const FailureReporter& report) {
+Result<std::unique_ptr<SdlBackend>> openSdlBackend(const SdlOptions& options) {
     auto video = std::make_unique<VideoSystem>();
     if (!video->hasScreen()) {
-        report(noScreenText, MessageIcon::stop);
-        return nullptr;
+        return failed(std::string(noScreenText));
     }
     auto backend = std::make_unique<SdlWindow>(std::move(video), options);
     if (!backend->isOpen()) {
-        report(std::string("The window cannot be opened: ") + SDL_GetError(), MessageIcon::stop);
-        return nullptr;
+        return failed(std::string("The window cannot be opened: ") + SDL_GetError());
     }
     endOnHangUp();
     return backend;

@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-#include "base/failure.h"
+#include "base/result.h"
 #include "platform/devices/backend.h"
 #include "platform/sdl/sdl_sound.h"
 
@@ -58,7 +58,7 @@ private:
     std::unique_ptr<VideoSystem> video_;
 };
 
-/// Opens the window, hidden. Null, after a report, when there is no screen to show it on.
-std::unique_ptr<SdlBackend> openSdlBackend(const SdlOptions& options, const FailureReporter& report);
+/// Opens the window, hidden. Fails when there is no screen to show it on.
+Result<std::unique_ptr<SdlBackend>> openSdlBackend(const SdlOptions& options);
 
 } // namespace ventrel

@@ -42,7 +42,7 @@ protected:
     }
 
 private:
-    FontSet fonts_{fontFolder, [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; }};
+    FontSet fonts_{fontFolder};
 };
 
 /// The rectangle around everything that is not black.
@@ -145,16 +145,6 @@ TEST_F(Fonts, TakeAnyHeightAndAnyPlace) {
     EXPECT_TRUE(inkOf(bitmap).isEmpty());
 }
 
-/// What a set of that folder complains of.
-std::vector<std::string> complaintsOf(const TempFolder& folder, std::optional<FontSet>& fonts) {
-    std::vector<std::string> reports;
-    fonts.emplace(folder.path(), [&](std::string_view text, MessageIcon icon) {
-        EXPECT_EQ(icon, MessageIcon::stop);
-        reports.emplace_back(text);
-    });
-    return reports;
-}
-
 TEST(FontSets, NameEveryMissingOrHalfFaceAndLetAnotherStandIn) {
     const TempFolder folder;
     for (const auto& entry : std::filesystem::directory_iterator(fontFolder)) {
@@ -164,25 +154,25 @@ TEST(FontSets, NameEveryMissingOrHalfFaceAndLetAnotherStandIn) {
     const std::string half = "LiberationMono-Regular.ttf";
     const std::string content = readText(folder / half);
     writeText(folder / half, content.substr(0, content.size() * 9 / 10));
-    std::optional<FontSet> fonts;
-    const std::vector<std::string> reports = complaintsOf(folder, fonts);
-    ASSERT_EQ(reports.size(), 2U);
-    EXPECT_NE(reports[0].find("LiberationSans-Bold"), std::string::npos) << reports[0];
-    EXPECT_NE(reports[1].find(half), std::string::npos) << reports[1];
-    EXPECT_FALSE(fonts->isComplete());
-    EXPECT_TRUE(fonts->hasFaces());
-    EXPECT_EQ(fonts->font({Face::arial, -16, true}).width("Lamp"),
-              fonts->font({Face::arial, -16, false}).width("Lamp"));
-    EXPECT_EQ(fonts->font({Face::courierNew, -16, false}).width("Lamp"),
-              fonts->font({Face::courierNew, -16, true}).width("Lamp"));
+    FontSet fonts(folder.path());
+    const auto failures = fonts.failures();
+    ASSERT_EQ(failures.size(), 2U);
+    EXPECT_NE(failures[0].text.find("LiberationSans-Bold"), std::string::npos) << failures[0].text;
+    EXPECT_NE(failures[1].text.find(half), std::string::npos) << failures[1].text;
+    EXPECT_EQ(failures[1].icon, MessageIcon::stop);
+    EXPECT_TRUE(fonts.hasFaces());
+    EXPECT_EQ(fonts.font({Face::arial, -16, true}).width("Lamp"),
+              fonts.font({Face::arial, -16, false}).width("Lamp"));
+    EXPECT_EQ(fonts.font({Face::courierNew, -16, false}).width("Lamp"),
+              fonts.font({Face::courierNew, -16, true}).width("Lamp"));
 }
 
 TEST(FontSets, WithoutAnyFaceWindowsKeepAShape) {
     const TempFolder folder;
-    std::optional<FontSet> fonts;
-    EXPECT_EQ(complaintsOf(folder, fonts).size(), 4U);
-    EXPECT_FALSE(fonts->hasFaces());
-    const Font& missing = fonts->font(scores);
+    FontSet fonts(folder.path());
+    EXPECT_EQ(fonts.failures().size(), 4U);
+    EXPECT_FALSE(fonts.hasFaces());
+    const Font& missing = fonts.font(scores);
     EXPECT_GT(missing.lineHeight(), 0);
     EXPECT_GT(missing.width("AB"), missing.width("A"));
     Bitmap bitmap({40, 40});

@@ -17,7 +17,7 @@ struct Stage {
     Size size;
     HeadlessBackend backend{size};
     Desktop desktop{backend, size};
-    FontSet fonts{std::string(PROGRAM_FOLDER) + "/fonts", [](std::string_view, MessageIcon) {}};
+    FontSet fonts{std::string(PROGRAM_FOLDER) + "/fonts"};
     std::vector<std::string> said;
     Gallery gallery{desktop, fonts, [this](const std::string& line) { said.push_back(line); }};
     Script script{backend};

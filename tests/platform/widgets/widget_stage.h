@@ -18,8 +18,7 @@ struct WidgetStage {
 
     HeadlessBackend backend{size};
     Desktop desktop{backend, size};
-    FontSet faces{std::string(PROGRAM_FOLDER) + "/fonts",
-                  [](std::string_view text, MessageIcon) { ADD_FAILURE() << text; }};
+    FontSet faces{std::string(PROGRAM_FOLDER) + "/fonts"};
     WidgetFonts fonts{faces.font({Face::msSansSerif, -11, false}),
                       faces.font({Face::msSansSerif, -11, true})};
     Script script{backend};
