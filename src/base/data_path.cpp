@@ -1,8 +1,9 @@
 #include "base/data_path.h"
 
-#include <algorithm>
 #include <string>
 #include <system_error>
+
+#include "base/letters.h"
 
 namespace ventrel {
 
@@ -12,14 +13,6 @@ namespace {
 
 /// The second one so that no name can smuggle it in and lead out of the folder.
 constexpr std::string_view separators = "\\/";
-
-char lowered(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool sameWithoutCase(std::string_view a, std::string_view b) {
-    return std::ranges::equal(a, b, {}, lowered, lowered);
-}
 
 /// The entry of `folder` under that name, whatever its case; the name as given when there is none.
 fs::path entryOf(const fs::path& folder, std::string_view name) {

@@ -40,8 +40,8 @@ Result<Bytes> readFirst(const FileHandle& handle, std::size_t wanted, const fs::
 
 } // namespace
 
-Result<> FileBuffer::Load(const fs::path& file, bool mayWrite, std::optional<std::size_t> size) {
-    Free();
+Result<> FileBuffer::load(const fs::path& file, bool mayWrite, std::optional<std::size_t> size) {
+    free();
     path = file;
     const OpenedFile opened = openForReading(file);
     if (!opened.handle.isOpen()) {
@@ -61,7 +61,7 @@ Result<> FileBuffer::Load(const fs::path& file, bool mayWrite, std::optional<std
     return {};
 }
 
-Result<> FileBuffer::Save() {
+Result<> FileBuffer::save() {
     if (!writable) {
         return failed("");
     }
@@ -81,7 +81,7 @@ Result<> FileBuffer::Save() {
     return {};
 }
 
-void FileBuffer::Free() {
+void FileBuffer::free() {
     data.clear();
     data.shrink_to_fit();
     loaded = false;

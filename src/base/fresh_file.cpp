@@ -97,8 +97,10 @@ fs::path folderOf(const fs::path& file) {
 
 Result<FreshFile> FreshFile::beside(const fs::path& file) {
     const auto target = withoutLinks(file);
-    const int hindrance = !file.has_filename() ? ENOENT : target ? whyNotReplaced(*target) : ELOOP;
-    if (hindrance != 0) {
+    if (!target) {
+        return cannotWrite(file, ELOOP);
+    }
+    if (const int hindrance = file.has_filename() ? whyNotReplaced(*target) : ENOENT; hindrance != 0) {
         return cannotWrite(file, hindrance);
     }
     FreshFile fresh;

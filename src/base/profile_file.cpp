@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "base/letters.h"
 #include "base/whole_file.h"
 
 namespace ventrel {
@@ -43,14 +44,6 @@ std::string_view trimmed(std::string_view text) {
         return {};
     }
     return text.substr(first, text.find_last_not_of(blanks) - first + 1);
-}
-
-char lowered(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
-bool sameName(std::string_view a, std::string_view b) {
-    return std::ranges::equal(a, b, {}, lowered, lowered);
 }
 
 bool isComment(std::string_view line) {
@@ -118,12 +111,12 @@ std::optional<ProfileFile::Place> ProfileFile::find(std::string_view section, st
             if (place) {
                 break; // the section ends here
             }
-            if (sameName(*name, section)) {
+            if (sameWithoutCase(*name, section)) {
                 place = Place{false, 0, 0, line.next};
             }
         } else if (place) {
             const auto keyOfLine = keyName(line.text);
-            if (keyOfLine && sameName(*keyOfLine, key)) {
+            if (keyOfLine && sameWithoutCase(*keyOfLine, key)) {
                 const std::size_t pastEquals = line.text.find('=') + 1;
                 const std::size_t valueAt =
                     std::min(line.text.find_first_not_of(blanks, pastEquals), line.text.size());

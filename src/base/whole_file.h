@@ -6,13 +6,11 @@
 #include <filesystem>
 #include <optional>
 #include <span>
-#include <vector>
 
+#include "base/bytes.h"
 #include "base/result.h"
 
 namespace ventrel {
-
-using Bytes = std::vector<std::byte>;
 
 /// At most `limit` bytes from the start of the file, fewer when it ends before. Folders, devices and pipes
 /// are no files.

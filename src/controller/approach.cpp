@@ -36,11 +36,12 @@ std::optional<std::size_t> indexOf(const Place& place) {
 
 Approach::Approach(const Vor& airport) : moves_(placeCount, outOfReach) {
     const Place end{airport.cell, airport.runwayHeading};
-    if (!airport.isAirport || end.heading >= fullCircle || !indexOf(end)) {
+    const auto endIndex = indexOf(end);
+    if (!airport.isAirport || end.heading >= fullCircle || !endIndex) {
         return;
     }
     std::deque<Place> found{end};
-    moves_[*indexOf(end)] = 0;
+    moves_[*endIndex] = 0;
     for (; !found.empty(); found.pop_front()) {
         const Place to = found.front();
         const Cell before = stepCell(to.cell, turned(to.heading, fullCircle / 2));

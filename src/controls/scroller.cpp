@@ -8,7 +8,7 @@ namespace ventrel {
 namespace {
 
 constexpr FontRequest lineFont{Face::arial, -16, true};
-constexpr Colour black = Colour::rgb(0, 0, 0);
+constexpr Colour tickerGround = Colour::rgb(0, 0, 0);
 
 constexpr int widthMargin = 2; // pixels after a line
 constexpr int lineTop = 1;     // of the line's picture in the strip
@@ -23,7 +23,7 @@ void makeLinePicture(Scroller& scroller) {
     scroller.state.lineWidth = font.width(slot.text) + widthMargin;
     scroller.line = Bitmap(Size{scroller.state.lineWidth, scroller.window.size().height});
     Canvas canvas(scroller.line);
-    drawText(canvas, font, {0, 0}, slot.text, {messageColour(slot.messageClass), black});
+    drawText(canvas, font, {0, 0}, slot.text, {messageColour(slot.messageClass), tickerGround});
 }
 
 } // namespace
@@ -37,7 +37,7 @@ void ScrollerCreate(Scroller& scroller, const Window& parent, int mainWindowWidt
     scroller.window = scroller.sources.desktop.create({.parent = parent,
                                                        .id = scrollerId,
                                                        .bounds = places.ticker,
-                                                       .background = black,
+                                                       .background = tickerGround,
                                                        .handlers = std::move(handlers)});
 }
 

@@ -13,17 +13,17 @@ constexpr FontRequest stripFont{Face::arial, -11, false};
 constexpr Colour columnColour = Colour::rgb(64, 8, 0);
 
 /// The text lines of a column stand alike at both sizes.
-constexpr const StripsLayout& places = smallConsole.strips;
-static_assert(places.pitch == largeConsole.strips.pitch &&
-              places.routeLine == largeConsole.strips.routeLine &&
-              places.stateLine == largeConsole.strips.stateLine);
+constexpr const StripsLayout& columnPlaces = smallConsole.strips;
+static_assert(columnPlaces.pitch == largeConsole.strips.pitch &&
+              columnPlaces.routeLine == largeConsole.strips.routeLine &&
+              columnPlaces.stateLine == largeConsole.strips.stateLine);
 
 void paintStrip(Canvas& canvas, const Strips& strips, int slot, const Flight& flight, const Font& font) {
     const Game& game = strips.sources.game;
     const TextStyle style{stripColour(flight, game), columnColour};
-    const int top = slot * places.pitch;
-    drawText(canvas, font, {0, top + places.routeLine}, stripRouteLine(flight, game), style);
-    drawText(canvas, font, {0, top + places.stateLine}, stripStateLine(flight), style);
+    const int top = slot * columnPlaces.pitch;
+    drawText(canvas, font, {0, top + columnPlaces.routeLine}, stripRouteLine(flight, game), style);
+    drawText(canvas, font, {0, top + columnPlaces.stateLine}, stripStateLine(flight), style);
 }
 
 void paint(Strips& strips, Canvas& canvas) {

@@ -10,13 +10,13 @@ namespace ventrel {
 
 namespace {
 
-constexpr Colour black = Colour::rgb(0, 0, 0);
+constexpr Colour barGround = Colour::rgb(0, 0, 0);
 constexpr Colour clockRed = Colour::rgb(220, 0, 0);
 
 /// The instruments stand alike at both sizes.
-constexpr const TopBarLayout& places = smallConsole.topBar;
+constexpr const TopBarLayout& barPlaces = smallConsole.topBar;
 
-constexpr Point scopeMiddle{places.smallScope.width() / 2, places.smallScope.height() / 2};
+constexpr Point scopeMiddle{barPlaces.smallScope.width() / 2, barPlaces.smallScope.height() / 2};
 constexpr int trailStep = 2; // sweep positions between two lines
 constexpr std::array<Colour, 6> sweepPens{Colour::rgb(0, 255, 0), Colour::rgb(0, 225, 0),
                                           Colour::rgb(0, 195, 0), Colour::rgb(0, 165, 0),
@@ -31,17 +31,18 @@ int trailBehind(int position) {
 } // namespace
 
 void paintClock(Canvas& canvas, const Game& game, const Font& font) {
-    const Rect whole = Rect::at({}, places.clock.size());
-    canvas.fill(whole, black);
+    const Rect whole = Rect::at({}, barPlaces.clock.size());
+    canvas.fill(whole, barGround);
     if (game.isRunning()) {
-        drawText(canvas, font, places.clockText, FormatMinutesSeconds(game.clock.count()), {clockRed, black});
+        drawText(canvas, font, barPlaces.clockText, FormatMinutesSeconds(game.clock.count()),
+                 {clockRed, barGround});
     }
 }
 
 void paintSmallScope(Canvas& canvas, const Bitmap& background, std::span<const Blip> blips, int sweepIndex,
                      Colour flightColour, Colour selectedColour) {
     canvas.draw({0, 0}, background);
-    canvas.setClip(Region::ellipse(places.smallScopeFace));
+    canvas.setClip(Region::ellipse(barPlaces.smallScopeFace));
     for (const Blip& blip : blips) {
         canvas.setPixel(blip.position, blip.selected ? selectedColour : flightColour);
     }
@@ -55,7 +56,7 @@ void paintSmallScope(Canvas& canvas, const Bitmap& background, std::span<const B
 
 void paintLamp(Canvas& canvas, const Bitmap& background, const Bitmap& lamp) {
     canvas.draw({0, 0}, background);
-    canvas.setClip(Region::ellipse(places.lampGlass));
+    canvas.setClip(Region::ellipse(barPlaces.lampGlass));
     canvas.draw({0, 0}, lamp);
     canvas.clearClip();
 }

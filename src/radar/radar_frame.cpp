@@ -1,5 +1,7 @@
 #include "radar/radar_frame.h"
 
+#include <cassert>
+
 #include "base/format.h"
 #include "platform/canvas/text.h"
 #include "radar/clouds.h"
@@ -50,6 +52,7 @@ void drawPause(RadarWindow& radar, Canvas& canvas) {
 
 void paintRadarFrame(RadarWindow& radar) {
     const Game& game = radar.sources.game;
+    assert(radar.map);
     Canvas canvas(radar.backBuffer);
     canvas.draw({0, 0}, *radar.map);
     canvas.setClip(radar.scope);

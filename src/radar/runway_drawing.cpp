@@ -81,13 +81,14 @@ void drawApproachCone(Canvas& canvas, const RadarLayout& layout, const Vor& airp
 
 void drawRunway(Canvas& canvas, const RadarLayout& layout, const Vor& airport) {
     const auto lines = runwayLines(layout, airport.pixel, airport.runwayHeading);
-    if (!lines) {
+    const auto heading = headingNumber(airport.runwayHeading);
+    if (!lines || !heading) {
         return;
     }
     for (const MapLine& line : *lines) {
         canvas.line(line.from, line.to, airport.runwayColour);
     }
-    drawLandingArrow(canvas, layout, airport, *headingNumber(airport.runwayHeading));
+    drawLandingArrow(canvas, layout, airport, *heading);
 }
 
 } // namespace ventrel

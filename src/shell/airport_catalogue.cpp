@@ -6,6 +6,7 @@
 
 #include "base/data_path.h"
 #include "base/file_buffer.h"
+#include "base/letters.h"
 #include "sim/airport_file.h"
 
 namespace ventrel {
@@ -18,12 +19,8 @@ constexpr std::size_t mostEntries = 512;
 constexpr std::size_t longestName = airport_layout::nameSize - 1;
 constexpr std::string_view airportExtension = ".apt";
 
-char lowered(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
-
 bool isAirportName(const fs::path& file) {
-    return std::ranges::equal(file.extension().string(), airportExtension, {}, lowered);
+    return sameWithoutCase(file.extension().string(), airportExtension);
 }
 
 /// Adds the airport files of the folder by their names, in place of those that are there.
@@ -61,7 +58,7 @@ AirportCatalogue BuildAirportCatalogue(const fs::path& programsOwn, const fs::pa
         if (catalogue.entries.size() == mostEntries) {
             break;
         }
-        if (const auto read = start.Load(file, false, airport_layout::headerSize); !read) {
+        if (const auto read = start.load(file, false, airport_layout::headerSize); !read) {
             catalogue.troubles.push_back(read.error().text);
             continue;
         }

@@ -18,6 +18,7 @@ const ScopeLayout& scopeLayout(const Shell& shell) {
 
 std::vector<Size> cloudSizes(const Shell& shell) {
     std::vector<Size> sizes;
+    sizes.reserve(shell.radar.clouds.size());
     for (const Bitmap& cloud : shell.radar.clouds) {
         sizes.push_back(cloud.size());
     }

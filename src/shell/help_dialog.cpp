@@ -65,7 +65,7 @@ void showPage(Dialog& dialog, int topic) {
     }
 }
 
-void open(Dialog& dialog) {
+void openHelp(Dialog& dialog) {
     const ListBox topics = dialog.list(help::topicList);
     for (const std::string_view topic : help::topics) {
         topics.add(std::string(topic));
@@ -101,7 +101,7 @@ void runHelpDialog(Shell& shell) {
         }
     };
     runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, help::shape,
-              {.init = open, .command = onCommand});
+              {.init = openHelp, .command = onCommand});
 }
 
 } // namespace ventrel

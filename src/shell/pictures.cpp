@@ -123,8 +123,8 @@ Result<LoadedPictures> loadPictures(const fs::path& programFolder, int windowWid
     pictures.stripButtonDown = loader.load("grf\\strip_button_down.grf", console.strips.firstButton.size());
     pictures.hand = pointer(loader.load("grf\\pointer_hand.grf", pointerSize), handHotSpot);
     pictures.arrow = pointer(loader.load("grf\\pointer_arrow.grf", pointerSize), arrowHotSpot);
-    if (loader.failure()) {
-        return tl::unexpected(*loader.failure());
+    if (const auto& failure = loader.failure()) {
+        return tl::unexpected(*failure);
     }
     loadClouds(loaded, programFolder, scope);
     return loaded;

@@ -6,7 +6,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr std::string_view section = "Window";
+constexpr std::string_view windowSection = "Window";
 constexpr std::string_view pictureKey = "Picture";
 constexpr std::string_view leftKey = "Left";
 constexpr std::string_view topKey = "Top";
@@ -23,7 +23,7 @@ bool isSound(int value) {
 } // namespace
 
 std::optional<Rect> readWindowPlace(const ProfileFile& profile, int pictureWidth) {
-    const auto number = [&](std::string_view key) { return profile.integer(section, key, 0); };
+    const auto number = [&](std::string_view key) { return profile.integer(windowSection, key, 0); };
     const Point corner{number(leftKey), number(topKey)};
     const Size size{number(widthKey), number(heightKey)};
     const bool isUsable = number(pictureKey) == pictureWidth && isSound(corner.x) && isSound(corner.y) &&
@@ -32,11 +32,11 @@ std::optional<Rect> readWindowPlace(const ProfileFile& profile, int pictureWidth
 }
 
 void writeWindowPlace(const Rect& place, int pictureWidth, ProfileFile& profile) {
-    profile.set(section, pictureKey, std::to_string(pictureWidth));
-    profile.set(section, leftKey, std::to_string(place.left));
-    profile.set(section, topKey, std::to_string(place.top));
-    profile.set(section, widthKey, std::to_string(place.width()));
-    profile.set(section, heightKey, std::to_string(place.height()));
+    profile.set(windowSection, pictureKey, std::to_string(pictureWidth));
+    profile.set(windowSection, leftKey, std::to_string(place.left));
+    profile.set(windowSection, topKey, std::to_string(place.top));
+    profile.set(windowSection, widthKey, std::to_string(place.width()));
+    profile.set(windowSection, heightKey, std::to_string(place.height()));
 }
 
 } // namespace ventrel

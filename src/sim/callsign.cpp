@@ -46,7 +46,7 @@ void makeCallsign(Game& game, Flight& flight) {
     flight.radioId = Random(random, radioIds);
     const bool threeDigits = RandomPercent(random) < threeDigitsBelow;
 
-    flight.callsign = AIRLINES[static_cast<std::size_t>(row)].code;
+    flight.callsign = airlines[static_cast<std::size_t>(row)].code;
     flight.callsignPhrase = {};
     flight.callsignPhrase += VoiceAirlineCode(row);
     appendDigit(flight, first);

@@ -77,12 +77,12 @@ constexpr char offsetBy(char base, int offset) {
 
 std::string_view snippetFile(int number) {
     return number < firstAirlineSnippet ? plainSnippets.at(indexOf(number)).file
-                                        : AIRLINES.at(indexOf(number - firstAirlineSnippet)).snippet;
+                                        : airlines.at(indexOf(number - firstAirlineSnippet)).snippet;
 }
 
 std::string_view snippetWords(int number) {
     return number < firstAirlineSnippet ? plainSnippets.at(indexOf(number)).words
-                                        : AIRLINES.at(indexOf(number - firstAirlineSnippet)).words;
+                                        : airlines.at(indexOf(number - firstAirlineSnippet)).words;
 }
 
 int snippetNumber(char phraseCharacter) {

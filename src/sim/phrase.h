@@ -24,7 +24,7 @@ struct Airline {
 inline constexpr int airlineCount = 16;
 inline constexpr int firstLightAircraft = 11; ///< rows from here on are never heavy
 
-inline constexpr std::array<Airline, airlineCount> AIRLINES{{
+inline constexpr std::array<Airline, airlineCount> airlines{{
     {"UA", "united.snd", "United"},
     {"DL", "delta.snd", "Delta"},
     {"NW", "northwest.snd", "Northwest"},
@@ -91,7 +91,7 @@ char VoiceAltitudeCode(int altitude);
 char VoiceHeadingCode(int heading);
 /// "one" to "nine"; the caller passes 1 to 9.
 char VoiceDigitCode(int digit);
-/// The spoken name of a row of `AIRLINES`.
+/// The spoken name of a row of `airlines`.
 char VoiceAirlineCode(int row);
 
 /// The whole phrase as written words with blanks between them.

@@ -14,7 +14,7 @@ class Files : public ::testing::Test {
 protected:
     /// What loading the file fails with.
     Failure refusalOf(const std::filesystem::path& file, std::optional<std::size_t> size = {}) {
-        const auto loaded = buffer.Load(file, true, size);
+        const auto loaded = buffer.load(file, true, size);
         EXPECT_FALSE(loaded.has_value()) << file;
         EXPECT_FALSE(buffer.loaded || !buffer.data.empty()) << file;
         return loaded ? Failure{} : loaded.error();
@@ -45,35 +45,35 @@ TEST_F(Files, ShortFilesAreRefusedAndGiantOnesTakeNoMemory) {
         "The file " + file.string() + " is too large: at most 268435456 bytes can be read.";
     EXPECT_EQ(refusalOf(file).text, tooLarge);
     EXPECT_EQ(readWholeFile(file, std::size_t{1} << 28).error().text, tooLarge);
-    EXPECT_TRUE(buffer.Load(file, false, 76));
+    EXPECT_TRUE(buffer.load(file, false, 76));
 }
 
 TEST_F(Files, NextLoadReplacesTheContent) {
     writeText(folder / "a", "first");
-    EXPECT_TRUE(buffer.Load(folder / "a", false, {}));
+    EXPECT_TRUE(buffer.load(folder / "a", false, {}));
     EXPECT_EQ(buffer.data.size(), 5U);
-    EXPECT_TRUE(buffer.Load(folder / "a", false, 2));
+    EXPECT_TRUE(buffer.load(folder / "a", false, 2));
     EXPECT_EQ(buffer.data.size(), 2U);
     refusalOf(folder / "b");
 }
 
 TEST_F(Files, SavingKeepsTheLengthAndNeedsPermission) {
     writeText(folder / "scores", "0123456789");
-    ASSERT_TRUE(buffer.Load(folder / "scores", false, {}));
-    EXPECT_EQ(buffer.Save().error().text, "");
+    ASSERT_TRUE(buffer.load(folder / "scores", false, {}));
+    EXPECT_EQ(buffer.save().error().text, "");
 
-    ASSERT_TRUE(buffer.Load(folder / "scores", true, {}));
+    ASSERT_TRUE(buffer.load(folder / "scores", true, {}));
     buffer.data[0] = std::byte{'X'};
     buffer.data.push_back(std::byte{'!'});
-    EXPECT_TRUE(buffer.Save());
+    EXPECT_TRUE(buffer.save());
     EXPECT_EQ(readText(folder / "scores"), "X123456789");
 
     buffer.data.resize(4);
-    EXPECT_NE(buffer.Save().error().text.find("Tried to write 10 bytes"), std::string::npos);
+    EXPECT_NE(buffer.save().error().text.find("Tried to write 10 bytes"), std::string::npos);
     EXPECT_EQ(readText(folder / "scores"), "X123456789");
 
     std::filesystem::remove(folder / "scores");
-    EXPECT_EQ(buffer.Save().error().text,
+    EXPECT_EQ(buffer.save().error().text,
               "Can't open the file " + (folder / "scores").string() + " for writing. Please re-install.");
     EXPECT_FALSE(std::filesystem::exists(folder / "scores"));
 }

@@ -49,14 +49,14 @@ TEST(FreshFile, FailingDisksLeaveTheOldFileAloneAndNothingBeside) {
     const TempFolder folder;
     writeText(folder / "scores", "old");
     FileBuffer buffer;
-    ASSERT_TRUE(buffer.Load(folder / "scores", true, {}));
+    ASSERT_TRUE(buffer.load(folder / "scores", true, {}));
     {
         WatchedCalls watched(folder.path());
         watched.writeError = ENOSPC;
         EXPECT_EQ(replaceText(folder / "scores", "much").error().text,
                   "The file " + (folder / "scores").string() +
                       " cannot be written: No space left on device.");
-        EXPECT_NE(buffer.Save().error().text.find("and could only write 2 bytes"), std::string::npos);
+        EXPECT_NE(buffer.save().error().text.find("and could only write 2 bytes"), std::string::npos);
     }
     EXPECT_EQ(readText(folder / "scores"), "old");
     EXPECT_EQ(filesIn(folder.path()), 1);

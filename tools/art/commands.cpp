@@ -143,7 +143,10 @@ Colour uncovered(Colour onBlack, Colour onWhite, int least) {
 /// The clear pixels that lead out to the picture's edge, each within one dither square of the next.
 std::vector<bool> openGround(const Bitmap& keyed) {
     constexpr int reach = static_cast<int>(ditherSteps.size());
-    const auto index = [&](Point p) { return static_cast<std::size_t>(p.y * keyed.width() + p.x); };
+    const auto index = [&](Point p) {
+        const int pixel = p.y * keyed.width() + p.x;
+        return static_cast<std::size_t>(pixel);
+    };
     std::vector<bool> isOpen(static_cast<std::size_t>(keyed.width()) *
                              static_cast<std::size_t>(keyed.height()));
     std::vector<Point> toVisit{{0, 0}};
@@ -182,6 +185,7 @@ void closePinholes(Bitmap& keyed, const Bitmap& onBlack, const Bitmap& onWhite) 
 
 std::vector<std::string> drawingNames() {
     std::vector<std::string> names;
+    names.reserve(consoles.size() + cloudCount + 1 + smallDrawings.size());
     for (const ConsoleDrawing& console : consoles) {
         names.emplace_back(console.name);
     }

@@ -1,7 +1,6 @@
 #include "tools/art/console_parts.h"
 
 #include <cmath>
-#include <numbers>
 
 namespace ventrel::art {
 
@@ -11,15 +10,6 @@ constexpr int knobRidges = 36;
 constexpr int knobMarks = 11;
 constexpr double knobMarksFrom = -135; // degrees, 0 is up
 constexpr double knobMarksTo = 135;
-
-Spot around(Spot centre, double radius, double degrees) {
-    const double angle = degrees * std::numbers::pi / 180;
-    return {centre.x + radius * std::sin(angle), centre.y - radius * std::cos(angle)};
-}
-
-std::string moved(Spot from, Spot to) {
-    return 'M' + number(from.x) + ',' + number(from.y) + " L" + number(to.x) + ',' + number(to.y);
-}
 
 struct Figures {
     double size;

@@ -1,8 +1,6 @@
 #include "tools/art/control_art.h"
 
 #include <array>
-#include <cmath>
-#include <numbers>
 
 #include "console/panel_layout.h"
 #include "tools/art/console_parts.h"
@@ -50,11 +48,6 @@ constexpr Box at(Point corner, const Rect& rect) {
 
 constexpr Spot at(Point corner, Spot spot) {
     return {corner.x + spot.x, corner.y + spot.y};
-}
-
-Spot around(Spot centre, double radius, double degrees) {
-    const double angle = degrees * std::numbers::pi / 180;
-    return {centre.x + radius * std::sin(angle), centre.y - radius * std::cos(angle)};
 }
 
 void drawDial(Svg& svg, Point corner) {

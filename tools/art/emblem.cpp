@@ -14,10 +14,6 @@ constexpr std::string_view silhouette =
     "L-47.4,17.4 Q-47.4,12.8 -46,11.6 L-17.6,-7.6 V-16 Q-17.6,-18 -15,-18 Q-12.4,-18 -12.4,-16 V-11.2 "
     "L-4.6,-16.5 V-36 C-4.6,-43.5 -2.6,-49 0,-50 z";
 
-std::string moved(Spot from, Spot to) {
-    return 'M' + number(from.x) + ',' + number(from.y) + " L" + number(to.x) + ',' + number(to.y) + ' ';
-}
-
 std::string stroke(std::string_view colour, double width) {
     return "fill=\"none\" stroke=\"" + std::string(colour) + "\" stroke-width=\"" + number(width) + '"';
 }

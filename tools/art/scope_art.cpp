@@ -81,18 +81,21 @@ void drawScopeReflections(Svg& svg, const Box& scope) {
              "fill=\"url(#glare)\" filter=\"url(#soften)\"");
 }
 
+/// A slice of the tube: its outline as a path.
+std::string wedge(Spot middle, double radius, Spot first, Spot last) {
+    const auto at = [](Spot spot) { return number(spot.x) + ',' + number(spot.y); };
+    return 'M' + at(middle) + " L" + at(first) + " A" + at({radius, radius}) + " 0 0 1 " + at(last) + " z";
+}
+
 void drawSweep(Svg& svg, Spot middle, double radius, const Sweep& sweep) {
     constexpr int slice = 2; // degrees
     constexpr double brightest = 0.42;
     const Box tube(middle.x - radius, middle.y - radius, 2 * radius, 2 * radius);
-    const std::string from = 'M' + number(middle.x) + ',' + number(middle.y) + " L";
-    const std::string arc = " A" + number(radius) + ',' + number(radius) + " 0 0 1 ";
     for (int behind = 0; behind < sweep.trail; behind += slice) {
         const double fade = 1 - double(behind) / sweep.trail;
         const Spot first = onScopeRim(tube, 0, sweep.direction - behind - slice);
         const Spot last = onScopeRim(tube, 0, sweep.direction - behind);
-        svg.path(from + number(first.x) + ',' + number(first.y) + arc + number(last.x) + ',' +
-                     number(last.y) + " z",
+        svg.path(wedge(middle, radius, first, last),
                  "fill=\"#58ff9a\" opacity=\"" + number(brightest * fade * fade) + '"');
     }
     svg.line(middle, onScopeRim(tube, 0, sweep.direction), "stroke=\"#a8ffcb\" stroke-width=\"1.6\"");

@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 #include <cstdio>
+#include <numbers>
 
 namespace ventrel::art {
 
@@ -16,10 +17,19 @@ std::string attribute(std::string_view name, double value) {
 
 } // namespace
 
+Spot around(Spot centre, double radius, double degrees) {
+    const double angle = degrees * std::numbers::pi / 180;
+    return {centre.x + radius * std::sin(angle), centre.y - radius * std::cos(angle)};
+}
+
 std::string number(double value) {
     std::array<char, 32> text{};
     std::snprintf(text.data(), text.size(), "%.2f", value);
     return text.data();
+}
+
+std::string moved(Spot from, Spot to) {
+    return 'M' + number(from.x) + ',' + number(from.y) + " L" + number(to.x) + ',' + number(to.y);
 }
 
 Svg::Svg(Size size) : size_(size) {}

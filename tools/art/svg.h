@@ -34,8 +34,14 @@ struct Box {
     constexpr Spot middle() const { return {x + width / 2, y + height / 2}; }
 };
 
+/// Upwards is 0 degrees; they go on clockwise.
+Spot around(Spot centre, double radius, double degrees);
+
 /// A number as it is written into a drawing.
 std::string number(double value);
+
+/// A straight line as a part of a path.
+std::string moved(Spot from, Spot to);
 
 class Svg {
 public:

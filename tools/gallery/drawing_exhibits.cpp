@@ -7,11 +7,8 @@ namespace ventrel {
 
 namespace {
 
-constexpr Colour green = Colour::rgb(0x5C, 0xFF, 0x94);
 constexpr Colour red = Colour::rgb(0xE0, 0x30, 0x30);
 constexpr Colour blue = Colour::rgb(0x40, 0x70, 0xE0);
-constexpr Colour amber = Colour::rgb(255, 159, 82);
-constexpr Colour white = Colour::rgb(255, 255, 255);
 constexpr Colour grey = Colour::rgb(0x90, 0xA0, 0x98);
 constexpr Colour key = Colour::rgb(255, 0, 255); // the transparent colour
 

@@ -8,9 +8,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr Colour amber = Colour::rgb(255, 159, 82);
-constexpr Colour green = Colour::rgb(0x5C, 0xFF, 0x94);
-constexpr Colour white = Colour::rgb(255, 255, 255);
 constexpr Colour dim = Colour::rgb(0x20, 0x48, 0x38);
 
 struct FaceSample {

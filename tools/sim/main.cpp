@@ -2,7 +2,9 @@
 
 #include <array>
 #include <cstdio>
+#include <exception>
 #include <iostream>
+#include <span>
 
 #include "base/windows1252.h"
 #include "tools/sim/arguments.h"
@@ -80,22 +82,31 @@ ExitStatus play(const Arguments& arguments) {
     return played;
 }
 
-} // namespace
-
-} // namespace ventrel
-
-int main(int count, char** words) {
-    using namespace ventrel;
+int runTool(std::span<const char* const> words) {
     std::ios::sync_with_stdio(false);
-    const auto parsed = parseArguments({words + 1, words + count});
+    const auto parsed = parseArguments(words);
     if (const auto* const fault = std::get_if<std::string>(&parsed)) {
         complain(fromUtf8(*fault) + " (see --help)");
         return wrongUsage;
     }
     const auto& arguments = std::get<Arguments>(parsed);
     if (arguments.help) {
-        std::fputs(helpText().data(), stdout);
+        std::fwrite(helpText().data(), 1, helpText().size(), stdout);
         return played;
     }
     return play(arguments);
+}
+
+} // namespace
+
+} // namespace ventrel
+
+int main(int count, char** words) {
+    using namespace ventrel;
+    try {
+        return runTool({words + 1, words + count});
+    } catch (const std::exception& error) { // such as memory that ran out
+        std::fprintf(stderr, "ventrel-sim: %s\n", error.what());
+        return scenarioRefused;
+    }
 }

@@ -1,6 +1,7 @@
 // ventrel-sound: makes the sounds of the build from their recipes, and measures sounds.
 
 #include <cstdio>
+#include <exception>
 #include <string>
 #include <vector>
 
@@ -17,12 +18,16 @@ constexpr int success = 0;
 constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 
+int complain(const std::string& text) {
+    std::fprintf(stderr, "ventrel-sound: %s\n", text.c_str());
+    return failure;
+}
+
 int statusOf(const Result<>& result) {
     if (result) {
         return success;
     }
-    std::fprintf(stderr, "ventrel-sound: %s\n", result.error().text.c_str());
-    return failure;
+    return complain(result.error().text);
 }
 
 int measureAll(const std::vector<fs::path>& files) {
@@ -37,9 +42,7 @@ int measureAll(const std::vector<fs::path>& files) {
     return status;
 }
 
-} // namespace
-
-int main(int argc, char** argv) {
+int runTool(int argc, char** argv) {
     fs::path recipe;
     fs::path script;
     fs::path folder;
@@ -88,4 +91,14 @@ int main(int argc, char** argv) {
         return statusOf(sound::endOnBeat(target));
     }
     return measureAll(files);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return runTool(argc, argv);
+    } catch (const std::exception& error) { // such as memory that ran out
+        return complain(error.what());
+    }
 }

@@ -11,7 +11,7 @@ namespace ventrel::sound {
 
 namespace {
 
-constexpr double workRate = 16000;
+constexpr double radioRate = 16000;
 constexpr double workLevel = -23; // RMS, at which the trimming and the compressor are set
 
 // Cut off is what lies below this level over 10 ms: of the full band, for a hiss has little below 3.4 kHz.
@@ -63,13 +63,13 @@ double compressed(double level) {
 }
 
 double stepOf(double seconds) {
-    return 1 - std::exp(-1 / (seconds * workRate));
+    return 1 - std::exp(-1 / (seconds * radioRate));
 }
 
 void compress(Signal& signal) {
     const double rising = stepOf(attack);
     const double falling = stepOf(release);
-    const std::size_t ahead = samplesIn(lookAhead, workRate);
+    const std::size_t ahead = samplesIn(lookAhead, radioRate);
     double envelope = fromDecibels(workLevel);
     for (std::size_t i = 0; i < signal.size() + ahead; ++i) {
         const double coming = i < signal.size() ? std::abs(signal[i]) : 0;
@@ -83,7 +83,7 @@ void compress(Signal& signal) {
 
 /// What lies between the first and the last block in which somebody speaks, and a block to either side.
 Signal trimmed(SignalView signal) {
-    const std::size_t block = samplesIn(trimBlock, workRate);
+    const std::size_t block = samplesIn(trimBlock, radioRate);
     std::size_t first = signal.size();
     std::size_t last = 0;
     for (std::size_t at = 0; at + block <= signal.size(); at += block) {
@@ -119,19 +119,19 @@ Signal levelled(const Signal& signal, double loudness) {
 } // namespace
 
 Result<Signal> overRadio(SignalView speech, const RadioSettings& settings) {
-    Signal signal = resampled(speech, settings.rate * settings.tract, workRate);
+    Signal signal = resampled(speech, settings.rate * settings.tract, radioRate);
     const double level = rootMeanSquare(signal);
     if (level == 0) {
         return failed("nobody speaks");
     }
     amplify(signal, fromDecibels(workLevel) / level);
     signal = trimmed(signal);
-    fadeEnds(signal, samplesIn(trimRise, workRate), samplesIn(trimFall, workRate));
-    Biquad::highShelf(workRate, emphasisFrequency, emphasisQuality, emphasis).run(signal);
-    signal = bandPass(signal, workRate, bandLow, bandHigh, bandTaps);
+    fadeEnds(signal, samplesIn(trimRise, radioRate), samplesIn(trimFall, radioRate));
+    Biquad::highShelf(radioRate, emphasisFrequency, emphasisQuality, emphasis).run(signal);
+    signal = bandPass(signal, radioRate, bandLow, bandHigh, bandTaps);
     compress(signal);
-    signal = bandPass(signal, workRate, cleanLow, cleanHigh, cleanTaps);
-    signal = resampled(signal, workRate, fileRate);
+    signal = bandPass(signal, radioRate, cleanLow, cleanHigh, cleanTaps);
+    signal = resampled(signal, radioRate, fileRate);
     fadeEnds(signal, samplesIn(trimRise, fileRate), samplesIn(trimFall, fileRate));
     signal.insert(signal.begin(), samplesIn(silenceBefore, fileRate), 0);
     signal.insert(signal.end(), samplesIn(silenceAfter, fileRate), 0);

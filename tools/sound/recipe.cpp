@@ -6,13 +6,13 @@ namespace ventrel::sound {
 
 namespace {
 
-std::string written(double value) {
+std::string inFull(double value) {
     const std::string text = std::to_string(value);
     return value == std::floor(value) ? text.substr(0, text.find('.')) : text;
 }
 
-bool isIn(const Range& range, std::optional<double> value) {
-    return value && *value >= range.lowest && *value <= range.highest;
+bool isIn(const Range& range, double value) {
+    return value >= range.lowest && value <= range.highest;
 }
 
 } // namespace
@@ -39,8 +39,8 @@ double RecipeTable::number(std::string_view key, Range range, std::optional<doub
         return *missing;
     }
     const std::optional<double> number = value != nullptr ? value->value<double>() : std::nullopt;
-    if (!isIn(range, number)) {
-        refuse(key, "must be a number from " + written(range.lowest) + " to " + written(range.highest));
+    if (!number || !isIn(range, *number)) {
+        refuse(key, "must be a number from " + inFull(range.lowest) + " to " + inFull(range.highest));
         return range.lowest;
     }
     return *number;
@@ -78,9 +78,9 @@ std::vector<double> RecipeTable::numbers(std::string_view key, Range range) {
     if (value != nullptr && value->is_array()) {
         for (const toml::node& element : *value->as_array()) {
             const auto number = element.value<double>();
-            if (!isIn(range, number)) {
-                refuse(key, "must be a list of numbers from " + written(range.lowest) + " to " +
-                                written(range.highest));
+            if (!number || !isIn(range, *number)) {
+                refuse(key, "must be a list of numbers from " + inFull(range.lowest) + " to " +
+                                inFull(range.highest));
                 return {};
             }
             result.push_back(*number);
@@ -106,10 +106,10 @@ Curve RecipeTable::curve(std::string_view key, Range range) {
         const bool isPair = pair != nullptr && pair->size() == 2;
         const auto time = isPair ? pair->get(0)->value<double>() : std::nullopt;
         const auto height = isPair ? pair->get(1)->value<double>() : std::nullopt;
-        const bool isLater = time && (result.empty() || *time > result.back().time);
-        if (!isLater || !isIn(range, height)) {
-            refuse(key, "must be a list of [seconds, number from " + written(range.lowest) + " to " +
-                            written(range.highest) + "], in the order of time");
+        const auto isLater = [&](double seconds) { return result.empty() || seconds > result.back().time; };
+        if (!time || !isLater(*time) || !height || !isIn(range, *height)) {
+            refuse(key, "must be a list of [seconds, number from " + inFull(range.lowest) + " to " +
+                            inFull(range.highest) + "], in the order of time");
             return {};
         }
         result.push_back({*time, *height});

@@ -16,23 +16,9 @@ namespace {
 
 constexpr std::size_t largestFile = std::size_t{1} << 28;
 constexpr int middle = 128; // of the 8 bits
-constexpr int greatest = 255;
+constexpr int highest = 255;
 
-using Bytes = std::span<const std::byte>;
-
-unsigned numberAt(Bytes bytes, std::size_t at, std::size_t size) {
-    unsigned number = 0;
-    for (std::size_t i = size; i-- > 0;) {
-        number = (number << 8U) | std::to_integer<unsigned>(bytes[at + i]);
-    }
-    return number;
-}
-
-bool isTag(Bytes bytes, std::size_t at, std::string_view tag) {
-    return std::ranges::equal(bytes.subspan(at, tag.size()), std::as_bytes(std::span(tag)));
-}
-
-Result<std::vector<std::byte>> contentOf(const fs::path& file) {
+Result<Bytes> contentOf(const fs::path& file) {
     auto content = readFileStart(file, largestFile);
     if (!content) {
         return failed(file.string() + " cannot be opened");
@@ -46,7 +32,7 @@ struct Format {
 };
 
 /// Of the "fmt " chunk; no channels where it is none that is understood.
-Format formatOf(Bytes chunk) {
+Format formatOf(ByteView chunk) {
     constexpr std::size_t length = 16;
     constexpr unsigned plain = 1;
     constexpr unsigned bits = 16;
@@ -56,7 +42,7 @@ Format formatOf(Bytes chunk) {
     return {numberAt(chunk, 2, 2), numberAt(chunk, 4, 4)};
 }
 
-Recording samplesOf(Bytes chunk, Format format) {
+Recording samplesOf(ByteView chunk, Format format) {
     constexpr double full = 32768;
     Recording recording{static_cast<double>(format.rate), std::vector<Signal>(format.channels)};
     const std::size_t frame = std::size_t{2} * format.channels;
@@ -78,7 +64,7 @@ Result<Recording> readWave(const fs::path& file) {
     if (!content) {
         return tl::unexpected(content.error());
     }
-    const Bytes bytes = *content;
+    const ByteView bytes = *content;
     Format format;
     if (bytes.size() >= headerSize && isTag(bytes, 0, "RIFF") && isTag(bytes, 8, "WAVE")) {
         for (std::size_t at = headerSize; at + chunkHeader <= bytes.size();) {
@@ -112,7 +98,7 @@ Result<> writeSound(const fs::path& file, SignalView signal, std::string_view di
     std::ranges::transform(signal, bytes.begin(), [&](double sample) {
         const double hiss = dither.empty() ? 0 : (chance.next() + chance.next()) / 2;
         const long value = std::lround(sample / fileStep + hiss) + middle;
-        return static_cast<char>(std::clamp<long>(value, 0, greatest));
+        return static_cast<char>(std::clamp<long>(value, 0, highest));
     });
     std::ofstream target(file, std::ios::binary);
     target << bytes;

@@ -29,7 +29,7 @@ constexpr Range paces{0.5, 300};
 constexpr Range tracts{0.8, 1.25};
 
 /// A number as the programs read it.
-std::string written(double value) {
+std::string inShort(double value) {
     std::ostringstream text;
     text << value;
     return text.str();
@@ -43,11 +43,11 @@ std::string unfinished(const std::string& words) {
 Result<> speakByFlite(const Speaker& speaker, const Script& script, const fs::path& folder) {
     for (const auto& [name, text] : script) {
         std::vector<std::string> words{"flite", "-voice", speaker.name, "--setf",
-                                       "duration_stretch=" + written(speaker.pace * speaker.tract)};
+                                       "duration_stretch=" + inShort(speaker.pace * speaker.tract)};
         if (speaker.pitch > 0) {
             words.insert(words.end(),
-                         {"--setf", "int_f0_target_mean=" + written(speaker.pitch / speaker.tract), "--setf",
-                          "int_f0_target_stddev=" + written(speaker.spread / speaker.tract)});
+                         {"--setf", "int_f0_target_mean=" + inShort(speaker.pitch / speaker.tract), "--setf",
+                          "int_f0_target_stddev=" + inShort(speaker.spread / speaker.tract)});
         }
         words.insert(words.end(), {"-t", unfinished(text), "-o", (folder / (name + ".wav")).string()});
         if (auto result = run(words); !result) {
@@ -83,8 +83,8 @@ Result<> speakByFestival(const Speaker& speaker, const Script& script, const fs:
 Result<> speakByEspeak(const Speaker& speaker, const Script& script, const fs::path& folder) {
     for (const auto& [name, text] : script) {
         if (auto result =
-                run({"espeak-ng", "-v", speaker.name, "-p", written(speaker.pitch), "-s",
-                     written(speaker.pace), "-w", (folder / (name + ".wav")).string(), unfinished(text)});
+                run({"espeak-ng", "-v", speaker.name, "-p", inShort(speaker.pitch), "-s",
+                     inShort(speaker.pace), "-w", (folder / (name + ".wav")).string(), unfinished(text)});
             !result) {
             return result;
         }

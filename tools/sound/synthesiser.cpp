@@ -12,7 +12,7 @@ namespace ventrel::sound {
 
 namespace {
 
-constexpr double workRate = 4 * fileRate;
+constexpr double synthesisRate = 4 * fileRate;
 constexpr double rumble = 45;   // hertz: below it loudspeakers only move
 constexpr int retuneEvery = 32; // samples: how often a moving filter is set anew
 constexpr double concertKey = 69;
@@ -69,10 +69,10 @@ Signal oscillate(const Layer& layer, const Curve& pitch, std::size_t length) {
     Signal signal(length);
     double phase = 0;
     for (std::size_t i = 0; i < length; ++i) {
-        const double time = static_cast<double>(i) / workRate;
+        const double time = static_cast<double>(i) / synthesisRate;
         const double bend =
             layer.vibrato.depth * std::sin(2 * std::numbers::pi * layer.vibrato.rate * time) / semitones;
-        const double step = heightAt(pitch, time, true) * std::exp2(bend) / workRate;
+        const double step = heightAt(pitch, time, true) * std::exp2(bend) / synthesisRate;
         signal[i] = waveAt(layer.wave, phase, step);
         phase = std::fmod(phase + step, 1.0);
     }
@@ -86,10 +86,11 @@ void sweep(Signal& signal, const Curve& curve, FilterMaker make, double quality)
     if (curve.empty()) {
         return;
     }
-    Biquad filter = make(workRate, curve.front().value, quality);
+    Biquad filter = make(synthesisRate, curve.front().value, quality);
     for (std::size_t i = 0; i < signal.size(); ++i) {
         if (curve.size() > 1 && i % retuneEvery == 0) {
-            filter.retune(make(workRate, heightAt(curve, static_cast<double>(i) / workRate, true), quality));
+            filter.retune(
+                make(synthesisRate, heightAt(curve, static_cast<double>(i) / synthesisRate, true), quality));
         }
         signal[i] = filter.next(signal[i]);
     }
@@ -103,7 +104,7 @@ Signal wandering(const Swing& flutter, std::size_t length, Chance& chance) {
     double share = 0;
     for (double& factor : factors) {
         factor = fromDecibels(flutter.depth * (from + (to - from) * share));
-        share += flutter.rate / workRate;
+        share += flutter.rate / synthesisRate;
         if (share >= 1) {
             share -= 1;
             from = to;
@@ -116,7 +117,7 @@ Signal wandering(const Swing& flutter, std::size_t length, Chance& chance) {
 void shape(Signal& signal, const Layer& layer, Chance& chance) {
     const Signal flutter = wandering(layer.flutter, signal.size(), chance);
     for (std::size_t i = 0; i < signal.size(); ++i) {
-        const double time = static_cast<double>(i) / workRate;
+        const double time = static_cast<double>(i) / synthesisRate;
         double level = layer.gain;
         if (layer.decay > 0) {
             level -= 60 * time / layer.decay;
@@ -127,7 +128,7 @@ void shape(Signal& signal, const Layer& layer, Chance& chance) {
         const double swing = std::sin(2 * std::numbers::pi * layer.tremolo.rate * time);
         signal[i] *= fromDecibels(level) * flutter[i] * (1 - layer.tremolo.depth * (0.5 - 0.5 * swing));
     }
-    fadeEnds(signal, samplesIn(layer.attack, workRate), samplesIn(layer.release, workRate));
+    fadeEnds(signal, samplesIn(layer.attack, synthesisRate), samplesIn(layer.release, synthesisRate));
 }
 
 /// A soft limit at 1, reached sooner by so many decibels.
@@ -141,7 +142,7 @@ void limitSoftly(Signal& signal, double drive) {
 }
 
 void mixIn(Signal& sum, const Signal& signal, double start) {
-    const std::size_t first = samplesIn(std::max(0.0, start), workRate);
+    const std::size_t first = samplesIn(std::max(0.0, start), synthesisRate);
     for (std::size_t i = 0; i < signal.size() && first + i < sum.size(); ++i) {
         sum[first + i] += signal[i];
     }
@@ -150,7 +151,7 @@ void mixIn(Signal& sum, const Signal& signal, double start) {
 /// What a layer's wave gives before it is shaped.
 Signal rawWave(const Layer& layer, const Curve& pitch, double length, const Signal& recording,
                Chance& chance) {
-    const std::size_t count = samplesIn(length, workRate);
+    const std::size_t count = samplesIn(length, synthesisRate);
     if (layer.wave == Wave::recording) {
         Signal signal = recording;
         signal.resize(count);
@@ -204,13 +205,13 @@ Result<Signal> joined(const Layer& layer, const std::filesystem::path& sounds) {
         }
         all.insert(all.end(), sound->begin(), sound->end());
     }
-    return all.empty() ? all : resampled(all, fileRate, workRate);
+    return all.empty() ? all : resampled(all, fileRate, synthesisRate);
 }
 
 } // namespace
 
 Result<Signal> play(const Effect& effect, const std::filesystem::path& sounds) {
-    Signal sum(samplesIn(effect.length, workRate));
+    Signal sum(samplesIn(effect.length, synthesisRate));
     for (std::size_t i = 0; i < effect.layers.size(); ++i) {
         const auto recording = joined(effect.layers[i], sounds);
         if (!recording) {
@@ -220,11 +221,11 @@ Result<Signal> play(const Effect& effect, const std::filesystem::path& sounds) {
         playLayer(sum, effect.layers[i], *recording, chance);
     }
     if (effect.hasRoom) {
-        addRoom(sum, workRate, effect.roomTime, effect.roomGain);
+        addRoom(sum, synthesisRate, effect.roomTime, effect.roomGain);
     }
     limitSoftly(sum, effect.drive);
-    Biquad::highPass(workRate, rumble, flat).run(sum);
-    Signal result = resampled(sum, workRate, fileRate);
+    Biquad::highPass(synthesisRate, rumble, flat).run(sum);
+    Signal result = resampled(sum, synthesisRate, fileRate);
     fadeEnds(result, samplesIn(effect.fadeIn, fileRate), samplesIn(effect.fadeOut, fileRate));
     return result;
 }

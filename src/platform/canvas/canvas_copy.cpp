@@ -85,8 +85,8 @@ void Canvas::copy(const Rect& to, const Bitmap& picture, const Rect& from, Raste
     const Point back = from.topLeft() - to.topLeft();
     const Rect covered = picture.bounds().movedBy(Point{} - back).intersectedWith(to);
     changeInside(covered, [&](const Run& piece, std::span<Pixel> pixels) {
-        combine(op, pixels,
-                picture.row(piece.y + back.y).subspan(static_cast<std::size_t>(piece.left + back.x)));
+        const int left = piece.left + back.x;
+        combine(op, pixels, picture.row(piece.y + back.y).subspan(static_cast<std::size_t>(left)));
     });
 }
 

@@ -9,8 +9,6 @@ namespace ventrel {
 
 namespace {
 
-using Bytes = std::span<const std::byte>;
-
 constexpr std::uint32_t coreHeaderSize = 12;
 constexpr std::uint32_t infoHeaderSize = 40;
 constexpr std::uint32_t noCompression = 0;
@@ -26,29 +24,20 @@ struct DibHeader {
     std::size_t bytesPerColour() const { return size == coreHeaderSize ? 3 : 4; }
 };
 
-/// `count` bytes at `offset`, the lowest first. They must lie within.
-std::uint32_t number(Bytes bytes, std::size_t offset, std::size_t count) {
-    std::uint32_t value = 0;
-    for (std::size_t i = count; i-- > 0;) {
-        value = value << 8 | std::to_integer<std::uint32_t>(bytes[offset + i]);
-    }
-    return value;
+std::int64_t signedNumber(ByteView bytes, std::size_t offset) {
+    return static_cast<std::int32_t>(numberAt(bytes, offset, 4));
 }
 
-std::int64_t signedNumber(Bytes bytes, std::size_t offset) {
-    return static_cast<std::int32_t>(number(bytes, offset, 4));
-}
-
-std::optional<DibHeader> readHeader(Bytes dib) {
+std::optional<DibHeader> readHeader(ByteView dib) {
     DibHeader header;
     if (dib.size() < coreHeaderSize) {
         return std::nullopt;
     }
-    header.size = number(dib, 0, 4);
+    header.size = numberAt(dib, 0, 4);
     if (header.size == coreHeaderSize) {
-        header.width = number(dib, 4, 2);
-        header.height = number(dib, 6, 2);
-        header.bitsPerPixel = number(dib, 10, 2);
+        header.width = numberAt(dib, 4, 2);
+        header.height = numberAt(dib, 6, 2);
+        header.bitsPerPixel = numberAt(dib, 10, 2);
         return header;
     }
     if (header.size < infoHeaderSize || dib.size() < header.size) {
@@ -56,9 +45,9 @@ std::optional<DibHeader> readHeader(Bytes dib) {
     }
     header.width = signedNumber(dib, 4);
     header.height = signedNumber(dib, 8);
-    header.bitsPerPixel = number(dib, 14, 2);
-    header.compression = number(dib, 16, 4);
-    header.coloursUsed = number(dib, 32, 4);
+    header.bitsPerPixel = numberAt(dib, 14, 2);
+    header.compression = numberAt(dib, 16, 4);
+    header.coloursUsed = numberAt(dib, 32, 4);
     return header;
 }
 
@@ -88,12 +77,12 @@ bool isUnderstood(const DibHeader& header) {
 }
 
 /// Blue, green and red at `offset`.
-Pixel pixelAt(Bytes bytes, std::size_t offset) {
-    return number(bytes, offset, 3);
+Pixel pixelAt(ByteView bytes, std::size_t offset) {
+    return numberAt(bytes, offset, 3);
 }
 
 /// The colour table; its bytes must lie within.
-std::vector<Pixel> readColours(Bytes dib, const DibHeader& header) {
+std::vector<Pixel> readColours(ByteView dib, const DibHeader& header) {
     std::vector<Pixel> colours(std::min<std::size_t>(colourCount(header), 256));
     for (std::size_t i = 0; i < colours.size(); ++i) {
         colours[i] = pixelAt(dib, header.size + i * header.bytesPerColour());
@@ -102,7 +91,7 @@ std::vector<Pixel> readColours(Bytes dib, const DibHeader& header) {
 }
 
 /// False when a pixel asks for a colour that the table lacks.
-bool readIndexedRow(Bytes bytes, unsigned bitsPerPixel, std::span<const Pixel> colours,
+bool readIndexedRow(ByteView bytes, unsigned bitsPerPixel, std::span<const Pixel> colours,
                     std::span<Pixel> row) {
     const std::size_t perByte = 8 / bitsPerPixel;
     for (std::size_t x = 0; x < row.size(); ++x) {
@@ -117,7 +106,7 @@ bool readIndexedRow(Bytes bytes, unsigned bitsPerPixel, std::span<const Pixel> c
     return true;
 }
 
-void readDirectRow(Bytes bytes, unsigned bitsPerPixel, std::span<Pixel> row) {
+void readDirectRow(ByteView bytes, unsigned bitsPerPixel, std::span<Pixel> row) {
     for (std::size_t x = 0; x < row.size(); ++x) {
         row[x] = pixelAt(bytes, x * (bitsPerPixel / 8));
     }
@@ -125,11 +114,11 @@ void readDirectRow(Bytes bytes, unsigned bitsPerPixel, std::span<Pixel> row) {
 
 } // namespace
 
-std::optional<Bitmap> CreateBitmapFromDib(Bytes dib) {
+std::optional<Bitmap> CreateBitmapFromDib(ByteView dib) {
     return CreateBitmapFromDib(dib, DibBits(dib));
 }
 
-std::optional<Bitmap> CreateBitmapFromDib(Bytes dib, Bytes bits) {
+std::optional<Bitmap> CreateBitmapFromDib(ByteView dib, ByteView bits) {
     const auto header = readHeader(dib);
     if (!header || !isUnderstood(*header) || dib.size() < bitsOffset(*header)) {
         return std::nullopt;
@@ -155,22 +144,22 @@ std::optional<Bitmap> CreateBitmapFromDib(Bytes dib, Bytes bits) {
     return bitmap;
 }
 
-std::size_t DibColourCount(Bytes dib) {
+std::size_t DibColourCount(ByteView dib) {
     const auto header = readHeader(dib);
     return header ? colourCount(*header) : 0;
 }
 
-std::size_t DibColourTableSize(Bytes dib) {
+std::size_t DibColourTableSize(ByteView dib) {
     const auto header = readHeader(dib);
     return header ? colourCount(*header) * header->bytesPerColour() : 0;
 }
 
-Bytes DibBits(Bytes dib) {
+ByteView DibBits(ByteView dib) {
     const auto header = readHeader(dib);
-    return header && bitsOffset(*header) <= dib.size() ? dib.subspan(bitsOffset(*header)) : Bytes{};
+    return header && bitsOffset(*header) <= dib.size() ? dib.subspan(bitsOffset(*header)) : ByteView{};
 }
 
-std::optional<DibSize> DibPictureSize(Bytes dib) {
+std::optional<DibSize> DibPictureSize(ByteView dib) {
     const auto header = readHeader(dib);
     return header ? std::optional(DibSize{header->width, std::abs(header->height)}) : std::nullopt;
 }

@@ -12,14 +12,6 @@ namespace {
 constexpr std::size_t fileHeaderSize = 14;
 constexpr std::size_t bitsOffsetPlace = 10;
 
-std::size_t numberAt(std::span<const std::byte> data, std::size_t offset) {
-    std::size_t value = 0;
-    for (std::size_t i = 4; i-- > 0;) {
-        value = value << 8 | std::to_integer<std::size_t>(data[offset + i]);
-    }
-    return value;
-}
-
 void fill(Image& image, const Bitmap& bitmap) {
     image.width = static_cast<std::uint32_t>(bitmap.width());
     image.height = static_cast<std::uint32_t>(bitmap.height());
@@ -32,8 +24,8 @@ void fill(Image& image, const Bitmap& bitmap) {
 
 } // namespace
 
-ImageError readBmp(std::span<const std::byte> data, Image& image) {
-    if (data.size() < fileHeaderSize || data[0] != std::byte{'B'} || data[1] != std::byte{'M'}) {
+ImageError readBmp(ByteView data, Image& image) {
+    if (data.size() < fileHeaderSize || !isTag(data, 0, "BM")) {
         return ImageError::wrongFormat;
     }
     const auto dib = data.subspan(fileHeaderSize);
@@ -44,7 +36,7 @@ ImageError readBmp(std::span<const std::byte> data, Image& image) {
     if (!isPictureSize(size->width, size->height)) {
         return ImageError::tooLarge;
     }
-    const auto bits = data.subspan(std::min(numberAt(data, bitsOffsetPlace), data.size()));
+    const auto bits = data.subspan(std::min<std::size_t>(numberAt(data, bitsOffsetPlace), data.size()));
     const auto bitmap = CreateBitmapFromDib(dib, bits);
     if (!bitmap) {
         return ImageError::damaged;

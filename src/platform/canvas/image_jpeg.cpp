@@ -11,14 +11,12 @@ namespace ventrel {
 
 namespace {
 
-using Bytes = std::span<const std::byte>;
-
 constexpr unsigned char startOfImage[] = {0xFF, 0xD8, 0xFF};
 
 /// A picture in more passes than any encoder makes only costs time.
 constexpr int passLimit = 64;
 
-constexpr std::size_t channels = 3;
+constexpr std::size_t jpegChannels = 3;
 
 /// The library's error leaves by longjmp, over whatever was running. So everything with a destructor lives
 /// here, made before the jump's target and freed after it.
@@ -81,7 +79,7 @@ bool decode(JpegReading& reading, const unsigned char* data, std::size_t size) {
     }
     jpeg.out_color_space = JCS_RGB;
     jpeg_start_decompress(&jpeg);
-    const std::size_t pitch = channels * jpeg.output_width;
+    const std::size_t pitch = jpegChannels * jpeg.output_width;
     // The memory grows with the rows that really come.
     while (jpeg.output_scanline < jpeg.output_height) {
         reading.pixels.resize(reading.pixels.size() + pitch);
@@ -94,7 +92,7 @@ bool decode(JpegReading& reading, const unsigned char* data, std::size_t size) {
 
 } // namespace
 
-ImageError readJpeg(Bytes data, Image& image) {
+ImageError readJpeg(ByteView data, Image& image) {
     const auto* const start = reinterpret_cast<const unsigned char*>(data.data());
     if (data.size() < sizeof startOfImage ||
         !std::equal(std::begin(startOfImage), std::end(startOfImage), start)) {

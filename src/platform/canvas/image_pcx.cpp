@@ -7,8 +7,6 @@ namespace ventrel {
 
 namespace {
 
-using Bytes = std::span<const std::byte>;
-
 constexpr std::size_t headerSize = 128;
 constexpr unsigned manufacturer = 10;
 constexpr unsigned runLengthCoded = 1;
@@ -28,23 +26,23 @@ struct PcxHeader {
     std::size_t bytesPerLine = 0; ///< of one plane
 };
 
-unsigned byteAt(Bytes data, std::size_t offset) {
+unsigned byteAt(ByteView data, std::size_t offset) {
     return std::to_integer<unsigned>(data[offset]);
 }
 
-int numberAt(Bytes data, std::size_t offset) {
-    return static_cast<int>(byteAt(data, offset) | byteAt(data, offset + 1) << 8);
+int shortAt(ByteView data, std::size_t offset) {
+    return static_cast<int>(numberAt(data, offset, 2));
 }
 
-PcxHeader readHeader(Bytes data) {
-    return {numberAt(data, 8) - numberAt(data, 4) + 1, numberAt(data, 10) - numberAt(data, 6) + 1,
-            byteAt(data, 65), static_cast<std::size_t>(numberAt(data, 66))};
+PcxHeader readPcxHeader(ByteView data) {
+    return {shortAt(data, 8) - shortAt(data, 4) + 1, shortAt(data, 10) - shortAt(data, 6) + 1,
+            byteAt(data, 65), static_cast<std::size_t>(shortAt(data, 66))};
 }
 
 /// Unpacks one row of all planes after another. Runs may cross from row to row.
 class RunReader {
 public:
-    explicit RunReader(Bytes packed) : packed_(packed) {}
+    explicit RunReader(ByteView packed) : packed_(packed) {}
 
     /// False when the bytes end before the row does.
     bool read(std::span<std::uint8_t> row) {
@@ -77,13 +75,13 @@ private:
         return true;
     }
 
-    Bytes packed_;
+    ByteView packed_;
     unsigned left_ = 0;
     std::uint8_t value_ = 0;
 };
 
 /// The three bytes of each pixel of a row: out of the table, or one from each plane.
-void appendRow(const PcxHeader& header, std::span<const std::uint8_t> row, Bytes table,
+void appendRow(const PcxHeader& header, std::span<const std::uint8_t> row, ByteView table,
                std::vector<std::uint8_t>& pixels) {
     for (std::size_t x = 0; x < static_cast<std::size_t>(header.width); ++x) {
         for (std::size_t channel = 0; channel < 3; ++channel) {
@@ -96,11 +94,11 @@ void appendRow(const PcxHeader& header, std::span<const std::uint8_t> row, Bytes
 
 } // namespace
 
-ImageError readPcx(Bytes data, Image& image) {
+ImageError readPcx(ByteView data, Image& image) {
     if (data.size() < headerSize || byteAt(data, 0) != manufacturer || byteAt(data, 2) != runLengthCoded) {
         return ImageError::wrongFormat;
     }
-    const PcxHeader header = readHeader(data);
+    const PcxHeader header = readPcxHeader(data);
     if (header.width <= 0 || header.height <= 0) {
         return ImageError::damaged;
     }
@@ -111,8 +109,8 @@ ImageError readPcx(Bytes data, Image& image) {
     if (!isRead || header.bytesPerLine < static_cast<std::size_t>(header.width)) {
         return ImageError::damaged;
     }
-    Bytes packed = data.subspan(headerSize);
-    Bytes table;
+    ByteView packed = data.subspan(headerSize);
+    ByteView table;
     if (header.planes == 1) {
         if (packed.size() <= tableSize || packed[packed.size() - tableSize - 1] != tableMark) {
             return ImageError::damaged;

@@ -9,15 +9,13 @@ namespace ventrel {
 
 namespace {
 
-using Bytes = std::span<const std::byte>;
-
 constexpr std::size_t signatureSize = 8;
 /// The first chunk is the header: behind its length and name stand width and height.
 constexpr std::size_t widthPlace = 16;
 constexpr std::size_t heightPlace = 20;
 constexpr std::size_t leastSize = 24;
 
-/// Bytes a chunk of texts or profiles may unpack to, and how many such chunks are looked at.
+/// ByteView a chunk of texts or profiles may unpack to, and how many such chunks are looked at.
 constexpr png_alloc_size_t chunkSizeLimit = 1 << 20;
 constexpr png_uint_32 chunkCountLimit = 100;
 
@@ -30,12 +28,12 @@ constexpr unsigned opaque = 0xFF;
 /// The library's error leaves by longjmp, over whatever was running. So everything with a destructor lives
 /// here, made before the jump's target and freed after it.
 struct PngReading {
-    explicit PngReading(Bytes bytes) : rest(bytes) {}
+    explicit PngReading(ByteView bytes) : rest(bytes) {}
     ~PngReading() { png_destroy_read_struct(&png, &info, nullptr); }
     PngReading(const PngReading&) = delete;
     PngReading& operator=(const PngReading&) = delete;
 
-    Bytes rest;
+    ByteView rest;
     png_structp png = nullptr;
     png_infop info = nullptr;
     std::vector<std::uint8_t> pixels; ///< decoded, with opacity
@@ -129,7 +127,7 @@ void layOnBlack(std::vector<std::uint8_t>& pixels) {
 
 } // namespace
 
-ImageError readPng(Bytes data, Image& image) {
+ImageError readPng(ByteView data, Image& image) {
     const auto* const start = reinterpret_cast<png_const_bytep>(data.data());
     if (data.size() < signatureSize || png_sig_cmp(start, 0, signatureSize) != 0) {
         return ImageError::wrongFormat;

@@ -5,9 +5,7 @@
 
 #pragma once
 
-#include <cstddef>
-#include <span>
-
+#include "base/bytes.h"
 #include "platform/canvas/image.h"
 
 namespace ventrel {
@@ -16,11 +14,11 @@ constexpr bool isPictureSize(std::int64_t width, std::int64_t height) {
     return width > 0 && height > 0 && width <= imageSideLimit && height <= imageSideLimit;
 }
 
-ImageError readJpeg(std::span<const std::byte> data, Image& image);
-ImageError readPng(std::span<const std::byte> data, Image& image);
+ImageError readJpeg(ByteView data, Image& image);
+ImageError readPng(ByteView data, Image& image);
 /// Run-length coded pictures of 256 colours or of 24 bits.
-ImageError readPcx(std::span<const std::byte> data, Image& image);
+ImageError readPcx(ByteView data, Image& image);
 /// Uncompressed pictures of every depth that a device-independent bitmap may have here (dib.h).
-ImageError readBmp(std::span<const std::byte> data, Image& image);
+ImageError readBmp(ByteView data, Image& image);
 
 } // namespace ventrel

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/bytes.h"
 #include "platform/canvas/image.h"
 
 namespace ventrel {
@@ -16,23 +17,6 @@ constexpr int deepestList = 4;
 constexpr std::size_t mostFrames = 100000;
 constexpr std::uint32_t longestFrameTime = 10'000'000; // microseconds
 
-using Bytes = std::span<const std::byte>;
-
-std::uint32_t numberAt(Bytes bytes, std::size_t offset) {
-    std::uint32_t number = 0;
-    for (std::size_t i = 0; i < sizeof number; ++i) {
-        number |= std::to_integer<std::uint32_t>(bytes[offset + i]) << (8 * i);
-    }
-    return number;
-}
-
-bool isTag(Bytes bytes, std::size_t offset, std::string_view tag) {
-    return offset + tag.size() <= bytes.size() &&
-           std::ranges::equal(bytes.subspan(offset, tag.size()), tag, [](std::byte byte, char letter) {
-               return byte == static_cast<std::byte>(letter);
-           });
-}
-
 /// One chunk: its tag stands at `start`, its content from `offset` on.
 struct Chunk {
     std::size_t start = 0;
@@ -44,7 +28,7 @@ struct Chunk {
 /// ends the walk.
 class ChunkWalk {
 public:
-    ChunkWalk(Bytes file, std::size_t begin, std::size_t end) : file_(file), at_(begin), end_(end) {}
+    ChunkWalk(ByteView file, std::size_t begin, std::size_t end) : file_(file), at_(begin), end_(end) {}
 
     std::optional<Chunk> next() {
         if (end_ - at_ < chunkHeaderSize) {
@@ -61,7 +45,7 @@ public:
     }
 
 private:
-    Bytes file_;
+    ByteView file_;
     std::size_t at_;
     std::size_t end_;
 };
@@ -130,7 +114,7 @@ private:
     }
 
     MovieFile& movie_;
-    Bytes file_;
+    ByteView file_;
 };
 
 } // namespace
@@ -145,7 +129,7 @@ std::optional<Bitmap> decodeFrame(const MovieFile& movie, std::size_t frame) {
     const MovieFile::Frame& place = movie.frames[frame];
     Image image;
     Bitmap picture;
-    const Bytes jpeg = Bytes(movie.bytes).subspan(place.offset, place.size);
+    const ByteView jpeg = ByteView(movie.bytes).subspan(place.offset, place.size);
     if (ImageLoadMemory(image, jpeg, ImageFormat::jpeg) != ImageError::none ||
         ImageToBitmap(image, picture) != ImageError::none || picture.size() != movie.size) {
         return std::nullopt;

@@ -12,7 +12,7 @@ namespace {
 
 constexpr int packingEffort = 9;
 constexpr int bitsPerChannel = 8;
-constexpr std::size_t channels = 3;
+constexpr std::size_t storedChannels = 3;
 
 /// As in reading, everything with a destructor is made before the target of the library's longjmp.
 struct PngWriting {
@@ -27,11 +27,11 @@ struct PngWriting {
     std::vector<std::byte> file;
 };
 
-[[noreturn]] void leave(png_structp png, png_const_charp) {
+[[noreturn]] void leaveWriting(png_structp png, png_const_charp) {
     png_longjmp(png, 1);
 }
 
-void ignore(png_structp, png_const_charp) {}
+void ignoreWhileWriting(png_structp, png_const_charp) {}
 
 void giveBytes(png_structp png, png_bytep from, std::size_t size) {
     auto& file = static_cast<PngWriting*>(png_get_io_ptr(png))->file;
@@ -49,7 +49,7 @@ void spread(std::span<const Pixel> pixels, std::vector<std::uint8_t>& row) {
 
 /// Nothing here may need a destructor: see PngWriting.
 bool encode(PngWriting& writing, const Bitmap& bitmap) {
-    writing.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, leave, ignore);
+    writing.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, leaveWriting, ignoreWhileWriting);
     writing.info = writing.png != nullptr ? png_create_info_struct(writing.png) : nullptr;
     if (writing.info == nullptr) {
         return false;
@@ -78,7 +78,7 @@ std::vector<std::byte> encodePng(const Bitmap& bitmap) {
         return {};
     }
     PngWriting writing;
-    writing.row.reserve(channels * static_cast<std::size_t>(bitmap.width()));
+    writing.row.reserve(storedChannels * static_cast<std::size_t>(bitmap.width()));
     return encode(writing, bitmap) ? std::move(writing.file) : std::vector<std::byte>{};
 }
 

@@ -32,7 +32,7 @@ bool offer(WindowPtr window, Handler handler, const Arguments&... arguments) {
 
 /// The menu while one is open; else the focus, unless a dialog locks the active window.
 WindowPtr keyTarget(const DesktopState& state) {
-    const WindowPtr menu = alive(state.pointer.menu);
+    WindowPtr menu = alive(state.pointer.menu);
     if (menu != nullptr && menu == alive(state.pointer.captured)) {
         return menu;
     }

@@ -55,8 +55,8 @@ void paint(const WindowPtr& window) {
     const std::shared_ptr<Surface> surface = topLevelOf(*window).surface;
     Canvas canvas(surface->picture, corner, region, &surface->damage);
     const Rect update = region.bounds().movedBy(Point{} - corner);
-    if (window->background) {
-        canvas.fill(update, *window->background);
+    if (const auto& background = window->background) {
+        canvas.fill(update, *background);
     }
     callHandler(window, &WindowHandlers::paint, canvas, update);
 }

@@ -49,7 +49,7 @@ std::optional<Timer> takeDueTimer(Timers& timers, Millis now) {
     if (next == timers.running.end() || next->due > now) {
         return std::nullopt;
     }
-    const Timer taken = *next;
+    Timer taken = *next;
     next->due += ((now - next->due) / next->period + 1) * next->period;
     return taken;
 }

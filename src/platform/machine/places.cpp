@@ -13,7 +13,7 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t ownerOnly = 0700;
+constexpr mode_t ownerOnlyFolder = 0700;
 
 /// The path in an environment variable; empty when it is not set, and for one below the current folder.
 fs::path fromEnvironment(const char* name) {
@@ -24,7 +24,7 @@ fs::path fromEnvironment(const char* name) {
 
 /// The player's home as the environment has it, else as the system's list of users has it.
 fs::path homeFolder() {
-    const fs::path home = fromEnvironment("HOME");
+    fs::path home = fromEnvironment("HOME");
     if (!home.empty()) {
         return home;
     }
@@ -55,7 +55,7 @@ fs::path userDataFolder(std::string_view program) {
     const fs::path folder = data / program;
     std::error_code error;
     fs::create_directories(data, error);
-    ::mkdir(folder.c_str(), ownerOnly);
+    ::mkdir(folder.c_str(), ownerOnlyFolder);
     return fs::is_directory(folder, error) ? folder : fs::path();
 }
 

@@ -88,6 +88,7 @@ PictureScaler::Between PictureScaler::between(int shown, int shownLength, int le
 
 std::vector<PictureScaler::Between> PictureScaler::betweenAll(int shownLength, int length) {
     std::vector<Between> result;
+    result.reserve(static_cast<std::size_t>(shownLength));
     for (int shown = 0; shown < shownLength; ++shown) {
         result.push_back(between(shown, shownLength, length));
     }

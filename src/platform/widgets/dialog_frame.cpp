@@ -9,7 +9,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr int border = 3;
+constexpr int frameBorder = 3;
 constexpr int captionHeight = 18;
 constexpr int captionTextIndent = 4;
 constexpr Size closeBoxSize{16, 14};
@@ -17,7 +17,7 @@ constexpr Size closeBoxSize{16, 14};
 } // namespace
 
 int Dialog::frameTop() const {
-    return border + (title_.empty() ? 0 : captionHeight);
+    return frameBorder + (title_.empty() ? 0 : captionHeight);
 }
 
 void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
@@ -54,8 +54,9 @@ void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
 
 void Dialog::resizeInside(Size size) {
     const Point corner = frame_.bounds().topLeft();
-    frame_.setBounds(Rect::at(corner, {size.width + 2 * border, size.height + frameTop() + border}));
-    inside_.setBounds(Rect::at({border, frameTop()}, size));
+    frame_.setBounds(
+        Rect::at(corner, {size.width + 2 * frameBorder, size.height + frameTop() + frameBorder}));
+    inside_.setBounds(Rect::at({frameBorder, frameTop()}, size));
 }
 
 void Dialog::centre() {
@@ -63,7 +64,7 @@ void Dialog::centre() {
 }
 
 Rect Dialog::captionBox() const {
-    return {border, border, frame_.size().width - border, border + captionHeight};
+    return {frameBorder, frameBorder, frame_.size().width - frameBorder, frameBorder + captionHeight};
 }
 
 Rect Dialog::closeBox() const {

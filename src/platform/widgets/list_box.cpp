@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/letters.h"
+
 namespace ventrel {
 
 namespace {
@@ -21,10 +23,6 @@ constexpr Millis nextRepeats = 60;
 constexpr Millis typingPause = 900;
 
 enum class BarPart { none, up, down, pageUp, pageDown };
-
-char lowered(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
-}
 
 bool beginsWith(std::string_view line, std::string_view word) {
     return std::ranges::equal(line.substr(0, word.size()), word, {}, lowered, lowered);

@@ -24,10 +24,10 @@ struct Sign {
     Colour colour;
 };
 
-template <std::size_t Rows>
-void drawSigns(Canvas& canvas, Point corner, const std::array<std::string_view, Rows>& rows,
+template <std::size_t rowCount>
+void drawSigns(Canvas& canvas, Point corner, const std::array<std::string_view, rowCount>& rows,
                std::initializer_list<Sign> colours) {
-    for (std::size_t y = 0; y < Rows; ++y) {
+    for (std::size_t y = 0; y < rowCount; ++y) {
         for (std::size_t x = 0; x < rows[y].size(); ++x) {
             for (const Sign& sign : colours) {
                 if (rows[y][x] == sign.sign) {

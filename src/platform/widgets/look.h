@@ -54,15 +54,15 @@ void drawFocusFrame(Canvas& canvas, const Rect& rect);
 void drawSeparator(Canvas& canvas, int left, int right, int y);
 
 /// Text with its marked letter underlined; greyed text is engraved.
-void drawLabel(Canvas& canvas, const Font& font, const Rect& box, std::string_view text, bool enabled,
+void drawLabel(Canvas& canvas, const Font& font, const Rect& box, std::string_view words, bool enabled,
                const TextLayout& layout);
 
 /// A check mark of 7 x 7 pixels.
 void drawCheckMark(Canvas& canvas, Point corner, Colour colour);
 enum class ToggleLook { ready, pressed, greyed };
 /// The box of a check box, 13 x 13 pixels, and the ring of a radio button, 12 x 12.
-void drawCheckBox(Canvas& canvas, Point corner, bool checked, ToggleLook look);
-void drawRadioRing(Canvas& canvas, Point corner, bool checked, ToggleLook look);
+void drawCheckBox(Canvas& canvas, Point corner, bool checked, ToggleLook toggle);
+void drawRadioRing(Canvas& canvas, Point corner, bool checked, ToggleLook toggle);
 inline constexpr int toggleMarkSize = 13;
 
 enum class ArrowDirection { up, down, right };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "base/letters.h"
+
 namespace ventrel {
 
 Menu makeMenu(std::span<const MenuItemTemplate> items) {
@@ -47,7 +49,7 @@ char mnemonicOf(std::string_view label) {
         }
         const char letter = label[i + 1];
         if (letter != '&') {
-            return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+            return lowered(letter);
         }
         ++i;
     }

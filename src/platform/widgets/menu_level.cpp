@@ -6,7 +6,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr int border = 3;
+constexpr int menuBorder = 3;
 constexpr int markColumn = 18;  // left of the texts, for check marks
 constexpr int arrowColumn = 18; // right of them, for submenus
 constexpr int keyGap = 16;      // between a text and its key
@@ -109,13 +109,13 @@ MenuLevel makeMenuLevel(const Menu& menu, const WidgetFonts& fonts) {
         width = std::max(width, widthOf(fonts.text, item));
     }
     width += markColumn + arrowColumn;
-    int y = border;
+    int y = menuBorder;
     for (const MenuItem& item : menu) {
         const int height = item.text.empty() ? separatorHeight : fonts.text.lineHeight() + rowPadding;
-        level.rows.push_back({border, y, border + width, y + height});
+        level.rows.push_back({menuBorder, y, menuBorder + width, y + height});
         y += height;
     }
-    level.size = {width + 2 * border, y + border};
+    level.size = {width + 2 * menuBorder, y + menuBorder};
     return level;
 }
 
