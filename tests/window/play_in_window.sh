@@ -28,88 +28,20 @@
 # When a step fails, the screen and what the program wrote are left in the current folder.
 set -euo pipefail
 
-patience=60 # seconds until a step that looks gives up
-screen=1280x1024x24
+source "$(dirname "${BASH_SOURCE[0]}")/real_window.sh"
 
 play=$1
 shift
-name=$(basename "$play" .play)
-work=$(mktemp -d)
-jobs_to_end=()
-
-cleanup() {
-    local job
-    for job in "${jobs_to_end[@]}"; do
-        kill "$job" 2>/dev/null || true
-    done
-    wait 2>/dev/null || true
-    rm -rf "$work"
-}
-trap cleanup EXIT
-
-fail() {
-    echo "$play: $1" >&2
-    if [ -n "${DISPLAY:-}" ]; then
-        import -silent -window root "$name.failed.png" 2>/dev/null &&
-            echo "The screen: $PWD/$name.failed.png" >&2
-    fi
-    echo "The program wrote:" >&2
-    cat "$work/said" "$work/complaints" >&2 2>/dev/null || true
-    exit 1
-}
-
-program= # its process, once it runs
-may_end=no
-has_ended() { ! kill -0 "$program" 2>/dev/null; }
-has_ended_early() { [ -n "$program" ] && [ "$may_end" = no ] && has_ended; }
-
-# until_true WHAT COMMAND...: until the command succeeds.
-until_true() {
-    local what=$1 end=$((SECONDS + patience))
-    shift
-    until "$@"; do
-        ! has_ended_early || fail "the program ended by itself while this was waited for: $what"
-        [ "$SECONDS" -lt "$end" ] || fail "waited $patience seconds for this: $what"
-        sleep 0.05
-    done
-}
-
-for tool in Xvfb openbox xdotool setxkbmap import; do
-    command -v "$tool" >/dev/null || fail "$tool is missing; packages.txt names its package"
-done
-
-# The display: the server finds a free number by itself.
-Xvfb -displayfd 3 -screen 0 "$screen" -nolisten tcp 3>"$work/display" 2>"$work/server" &
-jobs_to_end+=($!)
-unset WAYLAND_DISPLAY SDL_VIDEODRIVER DISPLAY
-until_true "a display" test -s "$work/display"
-DISPLAY=:$(cat "$work/display")
-export DISPLAY SDL_VIDEODRIVER=x11 SDL_AUDIODRIVER=dummy
+open_display "$(basename "$play" .play)"
+use_home "$work"
 export SDL_MOUSE_DOUBLE_CLICK_TIME=5000 # a busy machine is slow with the second click
-LSAN_OPTIONS=suppressions=$(dirname "${BASH_SOURCE[0]}")/known_leaks.txt:print_suppressions=0
-export LSAN_OPTIONS
-export HOME=$work XDG_CONFIG_HOME=$work XDG_CACHE_HOME=$work XDG_DATA_HOME=$work
-openbox >"$work/manager" 2>&1 &
-jobs_to_end+=($!)
-has_manager() { xdotool get_num_desktops >/dev/null 2>&1; }
-until_true "a window manager" has_manager
 
-window=
-is_open() {
-    window=$(xdotool search --onlyvisible --pid "$program" 2>/dev/null | tail -n 1)
-    [ -n "$window" ] && [ "$(xdotool getactivewindow 2>/dev/null)" = "$window" ]
-}
 said=0 # lines that were found
-start() {
-    : >"$work/said"
+begin() {
     said=0
-    may_end=no
-    "$@" >"$work/said" 2>"$work/complaints" &
-    program=$!
-    jobs_to_end+=("$program")
-    until_true "the window, active" is_open
+    start "$@"
 }
-start "$@"
+begin "$@"
 
 says() {
     local line
@@ -187,7 +119,7 @@ step() {
     sized) until_true "sized $rest" sized "$1" ;;
     stands) until_true "stands $rest" stands "$@" ;;
     close) xdotool key alt+F4 ;;
-    again) start "${command[@]}" ;;
+    again) begin "${command[@]}" ;;
     second) second "$1" "${rest#* }" "${command[@]}" ;;
     ends)
         may_end=yes
