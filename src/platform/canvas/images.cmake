@@ -10,6 +10,6 @@ ventrel_room(ventrel_images
     jpeg_writer.cpp
     movie_file.cpp
     png_writer.cpp
-    HEADERS image.h image_readers.h jpeg_writer.h movie_file.h png_writer.h
+    HEADERS channel_row.h image.h image_readers.h jpeg_writer.h movie_file.h png_writer.h
     USES ventrel_base ventrel_canvas)
 target_link_libraries(ventrel_images PRIVATE JPEG::JPEG PNG::PNG)

@@ -10,6 +10,7 @@
 #include <span>
 
 #include "base/whole_file.h"
+#include "platform/canvas/channel_row.h"
 
 namespace ventrel {
 
@@ -38,11 +39,11 @@ JpegWriting& writingOf(j_compress_ptr jpeg) {
     return *static_cast<JpegWriting*>(jpeg->client_data);
 }
 
-[[noreturn]] void leave(j_common_ptr jpeg) {
+[[noreturn]] void leaveJpegWriting(j_common_ptr jpeg) {
     std::longjmp(static_cast<JpegWriting*>(jpeg->client_data)->jump, 1);
 }
 
-void saySilently(j_common_ptr) {}
+void saySilentlyToWriter(j_common_ptr) {}
 
 void startBuffer(j_compress_ptr jpeg) {
     jpeg->dest->next_output_byte = writingOf(jpeg).buffer.data();
@@ -67,8 +68,8 @@ void endBuffer(j_compress_ptr jpeg) {
 
 void setHandlers(JpegWriting& writing) {
     writing.jpeg.err = jpeg_std_error(&writing.errors);
-    writing.errors.error_exit = leave;
-    writing.errors.output_message = saySilently;
+    writing.errors.error_exit = leaveJpegWriting;
+    writing.errors.output_message = saySilentlyToWriter;
     writing.jpeg.client_data = &writing;
 }
 
@@ -91,14 +92,6 @@ void describe(jpeg_compress_struct& jpeg, Size size, int quality) {
     jpeg.comp_info[0].v_samp_factor = 1;
 }
 
-void spread(std::span<const Pixel> pixels, std::vector<std::uint8_t>& row) {
-    row.clear();
-    for (const Pixel pixel : pixels) {
-        const Colour colour = toColour(pixel);
-        row.insert(row.end(), {colour.red(), colour.green(), colour.blue()});
-    }
-}
-
 /// Nothing here may need a destructor: see JpegWriting.
 bool encode(JpegWriting& writing, const Bitmap& bitmap, int quality) {
     setHandlers(writing);
@@ -110,7 +103,7 @@ bool encode(JpegWriting& writing, const Bitmap& bitmap, int quality) {
     describe(writing.jpeg, bitmap.size(), quality);
     jpeg_start_compress(&writing.jpeg, TRUE);
     for (int y = 0; y < bitmap.height(); ++y) {
-        spread(bitmap.row(y), writing.row);
+        spreadChannels(bitmap.row(y), writing.row);
         JSAMPROW row = writing.row.data();
         jpeg_write_scanlines(&writing.jpeg, &row, 1);
     }

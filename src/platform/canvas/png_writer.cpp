@@ -5,6 +5,7 @@
 #include <csetjmp>
 
 #include "base/whole_file.h"
+#include "platform/canvas/channel_row.h"
 
 namespace ventrel {
 
@@ -27,11 +28,11 @@ struct PngWriting {
     std::vector<std::byte> file;
 };
 
-[[noreturn]] void leaveWriting(png_structp png, png_const_charp) {
+[[noreturn]] void leavePngWriting(png_structp png, png_const_charp) {
     png_longjmp(png, 1);
 }
 
-void ignoreWhileWriting(png_structp, png_const_charp) {}
+void ignoreInWriter(png_structp, png_const_charp) {}
 
 void giveBytes(png_structp png, png_bytep from, std::size_t size) {
     auto& file = static_cast<PngWriting*>(png_get_io_ptr(png))->file;
@@ -39,17 +40,9 @@ void giveBytes(png_structp png, png_bytep from, std::size_t size) {
     file.insert(file.end(), bytes, bytes + size);
 }
 
-void spread(std::span<const Pixel> pixels, std::vector<std::uint8_t>& row) {
-    row.clear();
-    for (const Pixel pixel : pixels) {
-        const Colour colour = toColour(pixel);
-        row.insert(row.end(), {colour.red(), colour.green(), colour.blue()});
-    }
-}
-
 /// Nothing here may need a destructor: see PngWriting.
 bool encode(PngWriting& writing, const Bitmap& bitmap) {
-    writing.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, leaveWriting, ignoreWhileWriting);
+    writing.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, leavePngWriting, ignoreInWriter);
     writing.info = writing.png != nullptr ? png_create_info_struct(writing.png) : nullptr;
     if (writing.info == nullptr) {
         return false;
@@ -64,7 +57,7 @@ bool encode(PngWriting& writing, const Bitmap& bitmap) {
                  PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
     png_write_info(writing.png, writing.info);
     for (int y = 0; y < bitmap.height(); ++y) {
-        spread(bitmap.row(y), writing.row);
+        spreadChannels(bitmap.row(y), writing.row);
         png_write_row(writing.png, writing.row.data());
     }
     png_write_end(writing.png, writing.info);
