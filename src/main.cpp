@@ -69,7 +69,7 @@ Settings readSettings(const ProfileFile& profile, const Screen& screen) {
 }
 
 Result<std::unique_ptr<SdlBackend>> openScreen(const Settings& settings,
-                                                const std::optional<CursorImage>& icon, SdlSound& sound) {
+                                               const std::optional<CursorImage>& icon, SdlSound& sound) {
     SdlOptions options{.title = std::string(programTitle), .picture = settings.window};
     options.fullScreen = settings.options.windowed == 0;
     if (settings.windowPlace) {
