@@ -200,6 +200,7 @@ def trace(source):
     while len(text := outline_text(airspace["name"], rings, lines, tolerance)) > LARGEST_TEXT:
         tolerance *= COARSER
     target = source.parent / "outlines" / (source.stem + ".outline")
+    target.parent.mkdir(exist_ok=True)
     target.write_text(text)
     print(f"{target}: {len(text)} bytes, {tolerance:.3f} cells off at most")
 
