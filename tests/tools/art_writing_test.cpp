@@ -1,4 +1,5 @@
-// The pictures that the program writes on: whether every letter and button finds its ground there.
+// The pictures that the program writes on or moves: whether letters, buttons and edges find there what they
+// need.
 
 #include <gtest/gtest.h>
 
@@ -87,4 +88,14 @@ TEST(ArtWriting, TheButtonAndVersionOfTheAboutPictureHaveAPlainShelf) {
     const Bitmap about = picture("about", ImageFormat::png);
     const std::vector<int> shelf = brightnesses(about, {0, 258, 480, 320});
     EXPECT_EQ(shelf.front(), shelf.back());
+}
+
+TEST(ArtWriting, TheCurtainsTravellingEdgeIsABrightRailOverDarkSlats) {
+    for (const char* name : {"curtain8", "curtain10"}) {
+        const Bitmap curtain = picture(name, ImageFormat::png);
+        const int width = curtain.width();
+        const int rail = median(brightnesses(curtain, {40, 4, width - 40, 24}));
+        EXPECT_GT(rail, 90) << name;
+        EXPECT_LT(median(brightnesses(curtain, {40, 60, width - 40, curtain.height()})), rail / 2) << name;
+    }
 }

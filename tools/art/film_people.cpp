@@ -21,10 +21,6 @@ std::string limb(std::string_view colour, double width) {
            number(width) + '"';
 }
 
-std::string straightPath(Spot a, Spot b) {
-    return 'M' + number(a.x) + ',' + number(a.y) + " L" + number(b.x) + ',' + number(b.y);
-}
-
 /// Where the elbow is when the hand is there: away from the body and down. `side` is -1 for the left. On its
 /// way from one side of the arm to the other it comes towards the eye, so that the arm looks shorter.
 Spot elbowOf(Spot root, Spot hand, double side) {
@@ -48,15 +44,15 @@ void drawArm(Svg& svg, const PersonLook& look, Spot hand, double side) {
     const Spot elbow = elbowOf(root, hand, side);
     const Spot wrist{elbow.x + (hand.x - elbow.x) * 0.86, elbow.y + (hand.y - elbow.y) * 0.86};
     const Spot cuff{elbow.x + (hand.x - elbow.x) * 0.3, elbow.y + (hand.y - elbow.y) * 0.3};
-    svg.path(straightPath(elbow, wrist), limb(look.skin, 6.4));
+    svg.path(moved(elbow, wrist), limb(look.skin, 6.4));
     svg.circle(hand, 4.8, fill(look.skin));
-    svg.path(straightPath({hand.x, hand.y}, {hand.x - side * 2.6, hand.y - 5.6}), limb(look.skin, 3.4));
-    svg.path(straightPath(root, elbow), limb(look.sleeve, 11));
-    svg.path(straightPath(elbow, cuff), limb(look.sleeve, 9.4));
+    svg.path(moved({hand.x, hand.y}, {hand.x - side * 2.6, hand.y - 5.6}), limb(look.skin, 3.4));
+    svg.path(moved(root, elbow), limb(look.sleeve, 11));
+    svg.path(moved(elbow, cuff), limb(look.sleeve, 9.4));
     // The evening's light on its left edge.
     svg.open("transform=\"translate(-2.4 -1)\" opacity=\".5\"");
-    svg.path(straightPath(root, elbow), limb("#ffb877", 1.8));
-    svg.path(straightPath(elbow, wrist), limb("#ffc890", 1.5));
+    svg.path(moved(root, elbow), limb("#ffb877", 1.8));
+    svg.path(moved(elbow, wrist), limb("#ffc890", 1.5));
     svg.close();
 }
 

@@ -267,7 +267,7 @@ void drawRoom(Svg& svg, double moment) {
     constexpr Camera roomCamera{.at = {604, -300, 30}, .bearing = 356, .focal = 330, .middle = {160, 88}};
     const Attitude airliner = rollingAt(moment);
     const double closer = between(1, 1.09, eased(moment, 5.2, 10));
-    svg.open("transform=\"translate(160 120) scale(" + number(closer * 100) + "e-2) translate(-160 -120)\"");
+    svg.open("transform=\"translate(160 120) scale(" + fineNumber(closer) + ") translate(-160 -120)\"");
     drawFilmOutside(svg, roomCamera, moment);
     drawGroundShade(svg, roomCamera, airliner);
     drawAirliner(svg, roomCamera, airliner, evening);

@@ -50,8 +50,8 @@ std::string cloudMaterials(const SkyLook& look) {
            "<filter id=\"clouds\" x=\"0\" y=\"0\" width=\"100%\" height=\"100%\" "
            "color-interpolation-filters=\"sRGB\">\n"
            "<feTurbulence type=\"fractalNoise\" baseFrequency=\"" +
-           number(0.0042 / grow * 100) + "e-2 " + number(0.030 / grow * 100) +
-           "e-2\" numOctaves=\"5\" seed=\"" + std::to_string(look.clouds) +
+           fineNumber(0.0042 / grow) + ' ' + fineNumber(0.030 / grow) + "\" numOctaves=\"5\" seed=\"" +
+           std::to_string(look.clouds) +
            "\"/>\n<feColorMatrix values=\"0 0 0 0 0  0 0 0 0 0  0 0 0 0 0  3.6 1.6 0 0 -2.62\" "
            "result=\"mass\"/>\n"
            "<feOffset in=\"mass\" dx=\"" +

@@ -28,6 +28,12 @@ std::string number(double value) {
     return text.data();
 }
 
+std::string fineNumber(double value) {
+    std::array<char, 32> text{};
+    std::snprintf(text.data(), text.size(), "%.5f", value);
+    return text.data();
+}
+
 std::string moved(Spot from, Spot to) {
     return 'M' + number(from.x) + ',' + number(from.y) + " L" + number(to.x) + ',' + number(to.y);
 }

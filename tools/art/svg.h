@@ -40,6 +40,9 @@ Spot around(Spot centre, double radius, double degrees);
 /// A number as it is written into a drawing.
 std::string number(double value);
 
+/// The same with five decimals, for scales and the grain of noise.
+std::string fineNumber(double value);
+
 /// A straight line as a part of a path.
 std::string moved(Spot from, Spot to);
 
