@@ -51,7 +51,7 @@ void drawStrip(Svg& svg, int row) {
     svg.rect({paper.x, paper.y + 1.4, paper.width, paper.height}, 1, "fill=\"#000\" opacity=\".55\"");
     svg.rect(paper, 1, row % 2 == 0 ? "fill=\"url(#paper)\"" : "fill=\"url(#paperGreen)\"");
     svg.rect({paper.x, paper.y, paper.width, 1}, 0, "fill=\"#fff\" opacity=\".75\"");
-    for (const double x : {scoreColumn - 5.5, airspaceColumn - 5.5, rankColumn - 17.5}) {
+    for (const double x : {scoreColumn - 5.5, airspaceColumn - 2.5, rankColumn - 17.5}) {
         svg.line({x, paper.y + 2}, {x, paper.bottom() - 2}, "stroke=\"#8fa79a\" opacity=\".55\"");
     }
     svg.text({rankColumn, top + 15}, std::to_string(row + 1), 13, 0, "fill=\"#93a398\"");
@@ -97,10 +97,13 @@ void drawHeadBar(Svg& svg) {
         svg.use("screwHead", {x, 17}, x);
     }
     drawPolished(svg, {.base = {scorePicture.width / 2.0, 29}, .size = 30, .spacing = 5}, "BEST SHIFTS");
-    drawEngraved(svg, {nameColumn + 26, labels}, "CONTROLLER", 1);
-    drawEngraved(svg, {scoreColumn + 14, labels}, "SCORE", 1);
-    drawEngraved(svg, {airspaceColumn + 19, labels}, "AIRSPACE", 1);
-    drawEngraved(svg, {rankColumn, labels}, "PLACE", 1);
+    const auto label = [&](double middle, std::string_view words) {
+        drawPrinted(svg, {middle, labels}, words, fivePixelCapitals, 1, ivory);
+    };
+    label(nameColumn + 26, "CONTROLLER");
+    label(scoreColumn + 14, "SCORE");
+    label(airspaceColumn + 19, "AIRSPACE");
+    label(rankColumn, "PLACE");
 }
 
 void drawScoreShelf(Svg& svg) {
