@@ -8,7 +8,7 @@ namespace ventrel {
 
 Result<std::vector<std::uint8_t>> readRecording(const std::filesystem::path& file) {
     FileBuffer buffer;
-    if (auto loaded = buffer.Load(file, false, std::nullopt); !loaded) {
+    if (auto loaded = buffer.load(file, false, std::nullopt); !loaded) {
         return tl::unexpected(loaded.error());
     }
     std::vector<std::uint8_t> samples(buffer.data.size());
