@@ -106,6 +106,7 @@ void FluidSequencer::renderPiece(PieceRenderer& renderer, const Order& order) {
     std::array<float, 2 * PieceRenderer::grain> grain;
     int tail = tailSeconds * rate_;
     bool isEnding = false;
+    bool hasNotes = false; // a damaged piece ends as it begins, and would be begun for ever
     while (isWanted(order.piece) && tail > 0) {
         if (music.room() < PieceRenderer::grain) {
             std::this_thread::sleep_for(renderPause);
@@ -116,10 +117,12 @@ void FluidSequencer::renderPiece(PieceRenderer& renderer, const Order& order) {
         if (isEnding) {
             tail -= static_cast<int>(PieceRenderer::grain);
         } else if (renderer.isAtEnd()) {
-            isEnding = !order.repeat || !renderer.begin(order.midi);
+            isEnding = !order.repeat || !hasNotes || !renderer.begin(order.midi);
             if (isEnding) {
                 music.markEnd();
             }
+        } else {
+            hasNotes = true;
         }
     }
 }
