@@ -102,7 +102,7 @@ TEST_F(MixedMinute, IsLoudAndSilentWhereItShouldBe) {
     }
     EXPECT_EQ(sounds.voiceSetCount(), 21);
     EXPECT_LT(loudestVoice - softestVoice, 4);
-    for (const std::string_view alarm : {"snd\\red.snd", "snd\\collide.snd"}) {
+    for (const std::string_view alarm : {"snd\\yellow.snd", "snd\\red.snd", "snd\\collide.snd"}) {
         ASSERT_TRUE(sounds.playEffect(alarm).value());
         EXPECT_GT(momentOf(rest()), loudestVoice) << alarm;
     }
