@@ -1,6 +1,7 @@
 // Options from the file to the menus and back.
 
 #include <fstream>
+#include <sstream>
 
 #include "resources/menus.h"
 #include "shell/game_stage.h"
@@ -174,6 +175,34 @@ TEST(OptionMenus, TickTheSizeTheScreenAndThePause) {
     });
     stage.todo([](Script& script) { script.key(Key::p).wait(1); });
     stage.look([&] { EXPECT_TRUE(isTicked(stage, "&Pause\tPAUSE")); });
+    stage.play();
+}
+
+/// The items of a menu and its submenus as they are read, each with a comma.
+std::string readAloud(const Menu& menu) {
+    std::string words;
+    for (const MenuItem& item : menu) {
+        words += item.text.substr(0, item.text.find('\t')) + "," + readAloud(item.items);
+    }
+    std::erase(words, '&');
+    return words;
+}
+
+TEST(OptionMenus, KeepTheOrderThatHandsHaveLearned) {
+    GameStage stage(800);
+    stage.look([&] {
+        std::string words = "," + readAloud(fileMenu(stage.shell())) + readAloud(optionsMenu(stage.shell())) +
+                            readAloud(makeMenu(systemMenuItems));
+        std::istringstream usual("New Game...,End Game,Exit,Schedule...,Boss Key,Pause,Show Hi Scores...,"
+                                 "Display Options,Radar Sweep,Grid,Direct to VOR Lines,Background Image,"
+                                 "Sounds,Music,Sound Effects,Pilot Voices,Screen Resolution,800 x 600,"
+                                 "1024 x 768,Full Screen,Auto Select New Planes,Minimize,Close");
+        for (std::string item; std::getline(usual, item, ',');) {
+            const std::size_t place = words.find("," + item + ",");
+            ASSERT_NE(place, std::string::npos) << item << " is not behind those before it";
+            words.erase(0, place + 1);
+        }
+    });
     stage.play();
 }
 
