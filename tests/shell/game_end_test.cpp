@@ -119,6 +119,11 @@ TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
         EXPECT_TRUE(isOnTicker("Game Over.   Score: 575 out of a possible"));
         EXPECT_TRUE(stage.shell().radar.window.isVisible());
     });
+    const auto expectMenu = [this](std::size_t menus, const char* when) {
+        stage.todo([](Script& script) { script.click({57, 30}).wait(1); });
+        stage.look([this, menus, when] { EXPECT_EQ(stage.desktop().topLevels().size(), 1 + menus) << when; });
+    };
+    expectMenu(0, "the mouse rests while the last line is read");
     stage.wait(4000);
     stage.look([this] { EXPECT_TRUE(isOnTicker("Game Over.")) << "it is still scrolling"; });
     stage.wait(15000);
@@ -127,6 +132,8 @@ TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
         EXPECT_EQ(stage.shell().game.clock, 0_s);
         EXPECT_EQ(stage.shell().panel.state.flight, std::nullopt);
     });
+    expectMenu(1, "the mouse is free again");
+    stage.todo([](Script& script) { script.key(Key::escape).wait(1); });
     stage.startNewGame(); // and the next game begins as the first one did
     stage.wait(100);
     stage.look([this] {

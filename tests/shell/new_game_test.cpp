@@ -55,7 +55,14 @@ TEST(NewGame, NamesEndAtThirtyCharacters) {
     openNewGame(stage);
     stage.todo(
         [](Script& script) { script.type("abcdefghijklmnopqrstuvwxyzabcdefghij").key(Key::enter).wait(1); });
-    stage.look([&] { EXPECT_EQ(stage.game().controllerName, "Abcdefghijklmnopqrstuvwxyzabcd"); });
+    const auto expectName = [&] {
+        stage.look([&] { EXPECT_EQ(stage.game().controllerName, "Abcdefghijklmnopqrstuvwxyzabcd"); });
+    };
+    expectName();
+    openNewGame(stage);
+    press(stage, Key::enter); // the game is given up
+    press(stage, Key::enter); // for one under the name that was kept
+    expectName();
     stage.play();
 }
 
@@ -154,6 +161,10 @@ TEST(NewGame, AirportsAreChosenFromTheListByDoubleClick) {
     openNewGame(stage);
     click(stage, new_game::choose);
     press(stage, Key::enter); // without a choice
+    click(stage, new_game::choose);
+    press(stage, Key::down);
+    press(stage, Key::end);
+    press(stage, Key::escape);
     stage.look([&] { EXPECT_EQ(stage.shell().options.airportSelect, 0); });
     click(stage, new_game::choose);
     stage.todo([&](Script& script) {

@@ -218,7 +218,7 @@ TEST_F(OrdersTest, ExecIsGreyUntilAFlightIsChosenAndSendsByMouse) {
 }
 
 TEST_F(OrdersTest, APressOnThePanelHoldsBackAutomaticSelection) {
-    stage.look([this] { stage.shell().options.autoSelect = 1; });
+    stage.look([this] { stage.shell().options.autoSelect = 2; });
     QuietShift shift(stage);
     shift.enter(FlightIndex{0}, {.cell = {10, 20}, .altitude = 5, .heading = 90});
     stage.skipTo(QuietShift::entryTime);
@@ -246,7 +246,7 @@ TEST_F(OrdersTest, APressOnThePanelHoldsBackAutomaticSelection) {
 }
 
 TEST_F(OrdersTest, APressInAnEarlierGameHoldsNothingBack) {
-    stage.look([this] { stage.shell().options.autoSelect = 1; });
+    stage.look([this] { stage.shell().options.autoSelect = 2; });
     begin();
     stage.skipTo(300_s);
     stage.selectByStrip(FlightIndex{0});

@@ -72,6 +72,9 @@ TEST(Lock, ShutsOutOthersUntilItIsLetGoAndNobodyElseCanOpenIt) {
     EXPECT_FALSE(InstanceLock(folder / "lock").isTaken());
     EXPECT_FALSE(InstanceLock(folder / "no such folder/lock").isTaken());
     EXPECT_FALSE(InstanceLock({}).isTaken());
+    fs::create_symlink(folder / "elsewhere", folder / "link");
+    EXPECT_FALSE(InstanceLock(folder / "link").isTaken());
+    EXPECT_FALSE(fs::exists(folder / "elsewhere")) << "a link was followed";
 }
 
 TEST(Lock, AFileThatIsSomebodyElsesShutsNobodyOut) {
