@@ -81,6 +81,10 @@ TEST(PanelTest, TheSelectorRunsInARingOverThePointsAndHold) {
     CtrlStepAltitude(stage.panel, true);
     EXPECT_EQ(stage.pending().altitude, 10);
     EXPECT_EQ(stage.take().size(), 14U) << "EXEC enabled once, and a click for every step";
+    stage.game.flight(FlightIndex{0}).plan = {flying(5, 90, 1, true)}; // as it flies a hold
+    CtrlSetFlight(stage.panel, FlightIndex{0});
+    EXPECT_EQ(selector(false), (At{2, 1})) << "on the way down a flown hold stays one";
+    EXPECT_EQ(selector(true), (At{1, 0}));
 }
 
 TEST(PanelTest, NothingCanBeSetForAFlightThatIsNotInTheAir) {
@@ -116,6 +120,56 @@ TEST(PanelTest, NothingCanBeSetForAFlightThatIsNotInTheAir) {
     CtrlStepDirect(stage.panel, true);
     EXPECT_EQ(stage.pending().directTarget, PointIndex{1}) << "a selector that is on turns on the ground too";
     EXPECT_EQ(stage.take(), Lines{"click"});
+}
+
+struct WantedArea {
+    PanelControl control;
+    Rect press;
+    Rect hand;
+};
+
+// Pixel by pixel: the places are put together from anchors, and fields overlap.
+TEST(PanelTest, EveryPointOfThePanelBelongsToItsControlAndItsHeading) {
+    using enum PanelControl;
+    constexpr std::array<WantedArea, 8> controls{{
+        {dial, {17, 5, 77, 65}, {17, 5, 77, 65}},
+        {altitude, {111, 0, 161, 89}, {111, 0, 161, 89}},
+        {fast, {93, 11, 102, 20}, {93, 11, 103, 21}},
+        {normal, {93, 31, 102, 40}, {93, 31, 103, 41}},
+        {slow, {93, 51, 102, 60}, {93, 51, 103, 61}},
+        {direct, {3, 74, 18, 89}, {3, 74, 18, 89}},
+        {targetUp, {79, 73, 90, 82}, {79, 73, 90, 82}},
+        {targetDown, {79, 83, 90, 92}, {79, 83, 90, 92}},
+    }};
+    constexpr std::array<std::pair<Rect, int>, 8> headings{{
+        {{43, 9, 50, 33}, 0},
+        {{48, 31, 75, 39}, 90},
+        {{43, 36, 50, 64}, 180},
+        {{20, 31, 46, 39}, 270},
+        {{17, 5, 38, 32}, 315},
+        {{38, 5, 77, 32}, 45},
+        {{38, 32, 77, 65}, 135},
+        {{17, 32, 38, 65}, 225},
+    }};
+    for (int i = 0; i < 168 * 109; ++i) {
+        const Point p{i % 168, i / 168};
+        const auto* const control =
+            std::ranges::find_if(controls, [p](const WantedArea& area) { return area.press.contains(p); });
+        const bool isControl = control != controls.end();
+        EXPECT_EQ(panelControlAt(p), isControl ? std::optional(control->control) : std::nullopt)
+            << p.x << ", " << p.y;
+        for (const bool directIsOn : {false, true}) {
+            const bool isHand = std::ranges::any_of(controls, [&](const WantedArea& area) {
+                const bool isArrow = area.control == targetUp || area.control == targetDown;
+                return area.hand.contains(p) && (directIsOn ? area.control != dial : !isArrow);
+            });
+            EXPECT_EQ(isHandArea(p, directIsOn), isHand) << p.x << ", " << p.y;
+        }
+        const auto* const heading =
+            std::ranges::find_if(headings, [p](const auto& field) { return field.first.contains(p); });
+        EXPECT_EQ(dialHeadingAt(p), heading != headings.end() ? std::optional(heading->second) : std::nullopt)
+            << p.x << ", " << p.y;
+    }
 }
 
 TEST(PanelTest, EveryControlAnswersToAPress) {
@@ -338,6 +392,12 @@ TEST(PanelPictureTest, LooksAsItDidInEveryState) {
         Canvas(sheet).draw(corner, stage.picture(stage.panel.window));
     }
     expectGolden(sheet, "controls_panel");
+    const auto shown = [&](PlanStep order) {
+        stage.panel.state.pending = order;
+        CtrlRepaint(stage.panel);
+        return stage.picture(stage.panel.window);
+    };
+    EXPECT_EQ(shown(flying(1, 0, 1, true)), shown(flying(1, 0, 3, true))) << "a flown hold reads hold, too";
     CtrlClearFlight(stage.panel);
     const Bitmap idle = stage.picture(stage.panel.window);
     EXPECT_EQ(count(idle, consoleGrey, idle.bounds()), idle.width() * idle.height());

@@ -49,6 +49,7 @@ void expectPace(Size window, int stripWidth, Millis step) {
     stage.post("Welcome Pat");
     ScrollerTick(stage.scroller);
     const int lineWidth = stage.scroller.state.lineWidth;
+    EXPECT_EQ(lineWidth, stage.fonts.font({Face::arial, -16, true}).width("Welcome Pat") + 2);
     EXPECT_EQ(stage.runUntilFree(0), step * (stripWidth + lineWidth + 1));
     EXPECT_EQ(stage.inked(), 0) << "the line takes all its pixels along";
     stage.run(1);

@@ -51,6 +51,8 @@ TEST(StripsTest, EachScreenfulIsOrderedByTimeWithTheEmptyStripsLast) {
     stage.rebuild();
     const std::vector<int> wanted{5, 1, 3, 0, 2, -1, -1, -1, -1, -1};
     EXPECT_EQ(stage.slots(), wanted);
+    EXPECT_EQ(selectableFlights(stage.game),
+              (std::vector{FlightIndex{1}, FlightIndex{3}, FlightIndex{0}, FlightIndex{2}}));
     EXPECT_EQ(StripsFlightSlot(stage.strips, FlightIndex{0}), 3);
     EXPECT_EQ(StripsFlightSlot(stage.strips, FlightIndex{4}), noSlot);
     EXPECT_TRUE(StripsSlotSelectable(stage.strips, 1));

@@ -91,6 +91,13 @@ TEST(ClockTest, IsPaintedAnewEveryFiveSecondsAndTheScopeWithEveryStep) {
     stage.bar.clock.sweepIndex = 119;
     tickAfter(81);
     EXPECT_EQ(stage.bar.clock.sweepIndex, 0) << "once around the border";
+    tickAfter(300);
+    ClockSkip(stage.bar);
+    stage.game.lastStepTime = 15_s; // it has acted
+    tickAfter(399);
+    EXPECT_EQ(stage.game.clock, 15_s) << "a skip lets its second begin anew";
+    tickAfter(2);
+    EXPECT_EQ(stage.game.clock, 16_s);
     stage.game.phase = Phase::idle;
     EXPECT_EQ(tickAfter(1000), std::nullopt);
 }
@@ -109,7 +116,19 @@ TEST(SmallScopeTest, ShowsADotForEachOfTheFirst32FlightsInTheAir) {
     EXPECT_EQ(stage.bar.blips[1], (Blip{{4 + 48 / 49, 15}, true}));
     EXPECT_EQ(stage.bar.blips[31].position, (Point{4 + 24 * 32 / 49, 15}))
         << "the 33rd and later are left out";
+    const auto dots = [&](Colour colour) {
+        const Bitmap scope = stage.picture(stage.bar.scopeWindow);
+        return count(scope, colour, scope.bounds());
+    };
+    EXPECT_GT(dots(flightGreen), 0);
+    stage.game.phase = Phase::lastLine;
+    stage.bar.scopeWindow.invalidate();
+    EXPECT_EQ(dots(flightGreen) + dots(selectedWhite), 0) << "without a game none is shown";
+    stage.game.phase = Phase::running;
+    stage.bar.scopeWindow.invalidate();
+    EXPECT_GT(dots(selectedWhite), 0);
     ClockReset(stage.bar);
+    EXPECT_EQ(dots(flightGreen) + dots(selectedWhite), 0);
     EXPECT_TRUE(stage.bar.blips.empty());
     EXPECT_EQ(stage.game.clock, 0_s);
 }

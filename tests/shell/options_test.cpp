@@ -4,9 +4,10 @@
 #include <sstream>
 
 #include "resources/menus.h"
-#include "shell/game_stage.h"
+#include "shell/commands.h"
 #include "shell/options_file.h"
 #include "shell/popup_menus.h"
+#include "shell/quiet_shift.h"
 #include "shell/window_memory.h"
 
 namespace ventrel {
@@ -142,6 +143,38 @@ TEST(OptionMenus, VolumesGoByStepsFromTheMenuAndByKeys) {
     press(Key::f6);
     press(Key::f7);
     expectVolumes(2, 3);
+    stage.play();
+}
+
+TEST(OptionMenus, WhatTheRadarShowsChangesAtOnce) {
+    GameStage stage(800, "[Options]\nRadarSweep=0\nStormTrak=0\n[Game]\nName=mary\nSkill=1\n");
+    QuietShift shift(stage);
+    shift.enter(FlightIndex{0}, {.cell = {10, 20}, .altitude = 5, .heading = 90});
+    stage.skipTo(QuietShift::entryTime);
+    stage.look([&stage] {
+        stage.game().flight(FlightIndex{0}).plan = {
+            {.cell = {10, 20}, .altitude = 5, .heading = 90, .directTarget = PointIndex{0}},
+            {.cell = {30, 20}}};
+        RadarRepaint(stage.shell().radar);
+    });
+    stage.wait(1);
+    const auto radar = [&stage] {
+        return pictureOf(stage.desktop().picture(), radarWindowRect(stage.shell().radar.layout));
+    };
+    for (const int item : {command::routes, command::grid}) {
+        const auto before = std::make_shared<Bitmap>();
+        stage.look([&stage, radar, before, item] {
+            *before = radar();
+            onCommand(stage.shell(), item);
+        });
+        stage.wait(1);
+        stage.look([&stage, radar, before, item] {
+            EXPECT_NE(radar(), *before) << item;
+            onCommand(stage.shell(), item);
+        });
+        stage.wait(1);
+        stage.look([radar, before, item] { EXPECT_EQ(radar(), *before) << item; });
+    }
     stage.play();
 }
 

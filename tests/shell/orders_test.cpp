@@ -6,6 +6,7 @@
 #include "shell/popup_menus.h"
 #include "shell/quiet_shift.h"
 #include "shell/selection.h"
+#include "sim/grid.h"
 
 namespace ventrel {
 namespace {
@@ -175,8 +176,14 @@ TEST_F(OrdersTest, TheRightButtonsMenuSendsAtOnce) {
     choose(1, 6); // heading 270
     expectSelected(FlightIndex{2}, "by the right button");
     stage.look([this] { EXPECT_EQ(flight(FlightIndex{2}).lastStep().heading, 270); });
-    choose(3, 2); // altitude 3K
-    stage.look([this] { EXPECT_EQ(flight(FlightIndex{2}).lastStep().altitude, 3); });
+    for (int item = 0; item < 10; ++item) {
+        choose(3, item);
+        stage.look([this, item] { EXPECT_EQ(flight(FlightIndex{2}).lastStep().altitude, item + 1); });
+    }
+    for (int item = 0; item < 8; ++item) {
+        choose(1, item);
+        stage.look([this, item] { EXPECT_EQ(flight(FlightIndex{2}).lastStep().heading, 45 * item); });
+    }
     choose(4, 0); // fast
     stage.look([this] { EXPECT_EQ(flight(FlightIndex{2}).current().speed, Speed::fast); });
     choose(2, 2); // the second map point, after the hold
@@ -195,7 +202,7 @@ TEST_F(OrdersTest, TheRightButtonsMenuSendsAtOnce) {
     stage.todo([this](Script& script) { script.click(stage.onRadar({40, 40}), MouseButton::right).wait(1); });
     stage.look([this] {
         EXPECT_EQ(stage.desktop().topLevels().size(), 1U) << "no menu where there is no flight";
-        EXPECT_EQ(stage.sounds.count("set"), 5);
+        EXPECT_EQ(stage.sounds.count("set"), 22);
     });
     stage.play();
 }
@@ -330,6 +337,12 @@ TEST_F(OrdersTest, TheWheelScrollsTheStripsAndTheButtonFollowsItsFlight) {
     stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 3); });
     stage.todo([](Script& script) { script.wheel({850, 300}, 2).wheel({400, 300}, 1).wait(1); });
     stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 1); });
+    // The arrows: down by each of two corners, up by one; a pixel beside them nothing.
+    stage.todo([](Script& script) {
+        script.click({852, 604}).click({862, 612}).click({863, 608}).click({857, 613}).click({857, 603});
+        script.click({862, 77}).click({851, 72}).click({857, 78}).click({857, 68}).wait(1);
+    });
+    stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 2); });
     stage.play();
 }
 

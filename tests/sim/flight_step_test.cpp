@@ -61,6 +61,11 @@ TEST(FlightStep, AFlightIsAnnouncedTwoMinutesAheadAndDoesNotMoveWhenItEnters) {
     EXPECT_EQ(test.game.listedCount, 1);
     EXPECT_EQ(test.steps(90_s, 180_s), (Lines{"13 F0 entering airspace, proceeding to NW",
                                               "radio with you level at five thousand", "active 0"}));
+    Flight& departure = test.wait(mid, northWest);
+    departure.activatedAt = 0_s;
+    departure.scheduledAt = 195_s;
+    EXPECT_EQ(test.step(195_s),
+              (Lines{"13 F1 request departure at MID", "radio requesting departure", "active 1"}));
     EXPECT_FALSE(flight.announced);
     EXPECT_EQ(flight.activatedAt, 180_s);
     EXPECT_EQ(flight.current().cell, (Cell{2, 24}));

@@ -179,7 +179,8 @@ TEST(Voices, AreHandedOutInOrderOfAppearanceAndWrapRound) {
 
 TEST(Clouds, DriftInTogetherAndOnlyTheFirstThreeAreThereAtOnce) {
     const std::vector<Size> sizes(16, Size{600, 600}); // wider than the picture: still no harm
-    for (std::uint32_t seed = 0; seed < 20; ++seed) {
+    std::set<int> drifts;
+    for (std::uint32_t seed = 0; seed < 60; ++seed) {
         const Game game = shift(seed, {.skill = Skill::hard, .cloudSizes = sizes});
         ASSERT_EQ(game.clouds.size(), 10U);
         for (std::size_t i = 0; i < game.clouds.size(); ++i) {
@@ -190,8 +191,15 @@ TEST(Clouds, DriftInTogetherAndOnlyTheFirstThreeAreThereAtOnce) {
                 cloud.start.x >= 0 && cloud.start.x < 539 && cloud.start.y >= 0 && cloud.start.y < 539;
             EXPECT_EQ(isOnPicture, i < 3);
             EXPECT_LT(cloud.image, 11);
+            const Cell drift = stepCell({0, 0}, cloud.driftHeading);
+            const auto edge = [](int step) { return step > 0 ? -600 : 539; };
+            EXPECT_TRUE(isOnPicture ||
+                        (drift.x != 0 ? cloud.start.x == edge(drift.x) : cloud.start.y == edge(drift.y)))
+                << "to " << cloud.driftHeading << " from " << cloud.start.x << ", " << cloud.start.y;
+            drifts.insert(cloud.driftHeading);
         }
     }
+    EXPECT_EQ(drifts.size(), 8U);
 }
 
 } // namespace

@@ -42,6 +42,21 @@ TEST(CommandLine, SaysWhatIsWrongWithIt) {
     EXPECT_NE(faultOf({"a.apt", "--minutes", "0"}), "");
 }
 
+TEST(CommandLine, AsksForTheShiftThatTheNewGameDialogWouldMake) {
+    const auto setup = [](std::vector<const char*> words) {
+        return setupFor(std::get<Arguments>(parseArguments(words)));
+    };
+    const ShiftSetup easy = setup({"a.apt", "--skill", "0", "--direct-entry", "0", "--clouds", "1"});
+    EXPECT_TRUE(easy.directEntry);
+    EXPECT_FALSE(easy.cloudCover);
+    const ShiftSetup custom = setup({"a.apt", "--skill", "4", "--planes", "10", "--minutes", "10",
+                                     "--direct-entry", "0", "--clouds", "0", "--voices", "3"});
+    EXPECT_FALSE(custom.directEntry || custom.cloudCover);
+    EXPECT_EQ(custom.custom.length, 600_s);
+    EXPECT_EQ(custom.custom.bonus, 1200);
+    EXPECT_EQ(custom.voiceSetCount, 3);
+}
+
 class OrderFile : public ::testing::Test {
 protected:
     std::variant<std::vector<ScriptedOrder>, std::string> read(std::string_view text) {
@@ -161,10 +176,52 @@ TEST(Trace, OfAGameThatIsHeardDrawsTheNoiseOfEachCall) {
     EXPECT_EQ(stateAfter(true).state, silent.state);
 }
 
+/// An order at every step, whatever it is and whomever it reaches.
+std::vector<ScriptedOrder> anyOrders(const Game& game, RandomGenerator random) {
+    std::vector<ScriptedOrder> orders;
+    for (ClockSeconds clock = 60_s; clock < 3000_s; clock += stepInterval) {
+        const FlightIndex flight{Random(random, game.planeCount())};
+        const int target = Random(random, game.vorCount() + 5) - 5;
+        orders.push_back({clock,
+                          flight,
+                          {.altitude = Random(random, 1, 10),
+                           .heading = headingStep * Random(random, 8),
+                           .directTarget = directTargetOf(target, game.vorCount()),
+                           .speed = static_cast<Speed>(Random(random, 3) - 1),
+                           .hold = Random(random, 4) == 0}});
+    }
+    return orders;
+}
+
+// What a seed tells must be the same in the next version and on every machine: draws, their order and limits,
+// judgements, texts. Who changes one of them on purpose writes the new sum down here.
+TEST(Trace, OfAShiftStaysWhatItWas) {
+    SmallAirspace air = SmallAirspace::usual().airport("MAJ", {30, 20}, 180);
+    air.last().isMajor = true;
+    air.airport("BTH", {40, 30}, 45).last().reverseChance = 40;
+    air.last().isExit = true;
+    std::uint64_t sum = 0xCBF29CE484222325U;
+    for (std::uint32_t seed = 0; seed < 60; ++seed) {
+        const Game game = air.game({.skill = static_cast<Skill>(seed % 5),
+                                    .directEntry = seed % 3 != 0,
+                                    .voiceSetCount = static_cast<int>(seed % 4)},
+                                   seed * 7919);
+        const auto orders = anyOrders(game, RandomGenerator{seed});
+        for (const char byte : record<TraceWriter>(game, {orders, 4000_s, {}})) {
+            sum = (sum ^ static_cast<unsigned char>(byte)) * 0x100000001B3U;
+        }
+    }
+    EXPECT_EQ(sum, 0x527A4D99136A5577U);
+}
+
 TEST(Log, TellsTheShiftInWords) {
-    const std::string log = record<LogWriter>(shortGame(), {{}, 36000_s, {}});
+    const std::vector<ScriptedOrder> orders{
+        {15_s, FlightIndex{0}, {.altitude = 4, .heading = 45, .speed = Speed::slow}},
+        {15_s, FlightIndex{0}, {.altitude = 4, .heading = 90, .speed = Speed::fast}}};
+    const std::string log = record<LogWriter>(shortGame(), {orders, 36000_s, {}});
     for (const std::string_view part :
-         {"00:15         \xC3\x84\"\\1 entering airspace, proceeding to NW\n",
+         {"heading 45 at 4K, slow\n", "heading 90 at 4K, fast\n",
+          "00:15         \xC3\x84\"\\1 entering airspace, proceeding to NW\n",
           "00:15  radio  United one with you level at five thousand\n", "has been lost \n",
           "lamp   yellow on\n", "score  +25, now 25\n", "Game Over.   Score: 25 out of a possible 0 \n"}) {
         EXPECT_NE(log.find(part), std::string::npos) << part << log;
