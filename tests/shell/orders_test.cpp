@@ -337,12 +337,16 @@ TEST_F(OrdersTest, TheWheelScrollsTheStripsAndTheButtonFollowsItsFlight) {
     stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 3); });
     stage.todo([](Script& script) { script.wheel({850, 300}, 2).wheel({400, 300}, 1).wait(1); });
     stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 1); });
-    // The arrows: down by each of two corners, up by one; a pixel beside them nothing.
-    stage.todo([](Script& script) {
-        script.click({852, 604}).click({862, 612}).click({863, 608}).click({857, 613}).click({857, 603});
-        script.click({862, 77}).click({851, 72}).click({857, 78}).click({857, 68}).wait(1);
-    });
-    stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 2); });
+    const auto offsetAfter = [this](std::initializer_list<Point> clicks, int offset) {
+        for (const Point click : clicks) {
+            stage.todo([click](Script& script) { script.click(click).wait(1); });
+        }
+        stage.look([this, offset] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, offset); });
+    };
+    offsetAfter({{863, 608}, {851, 608}, {857, 613}, {857, 603}}, 1); // beside the lower arrow
+    offsetAfter({{852, 604}, {862, 612}}, 3);
+    offsetAfter({{863, 72}, {851, 72}, {857, 78}, {857, 68}}, 3); // beside the upper one
+    offsetAfter({{852, 69}, {862, 77}}, 1);
     stage.play();
 }
 
