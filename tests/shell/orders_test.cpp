@@ -6,7 +6,6 @@
 #include "shell/popup_menus.h"
 #include "shell/quiet_shift.h"
 #include "shell/selection.h"
-#include "sim/grid.h"
 
 namespace ventrel {
 namespace {
