@@ -153,4 +153,21 @@ inline constexpr DialogTemplate shape{
 
 } // namespace about
 
+// High scores -----------------------------------------------------------------------------------------------
+
+namespace high_scores {
+
+inline constexpr int deleteAll = 104;
+
+/// Their places follow from the picture.
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::pushButton, deleteAll, "Delete Scores", {}},
+    {ControlKind::pushButton, okId, "OK", {}},
+})};
+
+inline constexpr DialogTemplate shape{
+    .title = "", .size = {}, .controls = controls, .hasCloseBox = false, .hasFrame = false};
+
+} // namespace high_scores
+
 } // namespace ventrel

@@ -6,6 +6,7 @@
 #include "shell/about_dialog.h"
 #include "shell/game_flow.h"
 #include "shell/help_dialog.h"
+#include "shell/high_score_dialog.h"
 #include "shell/new_game_dialog.h"
 #include "shell/option_commands.h"
 #include "shell/popup_menus.h"
@@ -33,7 +34,9 @@ void newGame(Shell& shell) {
     }
     if (const auto setup = runNewGameDialog(shell)) {
         if (isShiftEnding(shell)) {
-            onGameOver(shell);
+            if (const auto row = enterFinishedScore(shell)) {
+                ShowHighScores(shell, row);
+            }
         } else {
             EndGame(shell); // the rings of a collision may still spread, with all that belongs to its game
         }
@@ -67,6 +70,13 @@ void hideFromBoss(Shell& shell) {
     }
 }
 
+void showHighScores(Shell& shell) {
+    ShowHighScores(shell);
+    if (shell.game.isRunning()) {
+        shell.sounds.playMusic(gameMusic, false);
+    }
+}
+
 struct Action {
     int command;
     void (*run)(Shell&);
@@ -82,6 +92,7 @@ constexpr std::array actions{std::to_array<Action>({
     {command::exitProgram, exitProgram},
     {command::minimise, [](Shell& shell) { shell.desktop.minimise(); }},
     {command::schedule, runScheduleDialog},
+    {command::highScores, showHighScores},
     {command::about, runAboutDialog},
     {command::help, runHelpDialog},
     {command::bossKey, hideFromBoss},

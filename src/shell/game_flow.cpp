@@ -1,6 +1,8 @@
 #include "shell/game_flow.h"
 
 #include "console/window_size.h"
+#include "shell/high_score_dialog.h"
+#include "shell/high_scores.h"
 #include "sim/shift_texts.h"
 
 namespace ventrel {
@@ -78,6 +80,10 @@ void endWithScore(Shell& shell) {
     ScrollerSetPostGameOver(shell.scroller, true);
 }
 
+HighScoreEntry finishedEntry(const Game& game) {
+    return {game.controllerName, game.score, game.airspace->name};
+}
+
 } // namespace
 
 void startGame(Shell& shell, const GameSetup& setup) {
@@ -143,10 +149,22 @@ void onGameOver(Shell& shell) {
     if (!isShiftEnding(shell)) {
         return; // it has been cut short
     }
+    ShowHighScores(shell, enterFinishedScore(shell));
+}
+
+std::optional<int> enterFinishedScore(Shell& shell) {
     ScrollerSetPostGameOver(shell.scroller, false);
     shell.mainWindow.releaseCapture();
     EndGame(shell);
-    shell.sounds.playMusic(idleMusic, false);
+    const auto place = InsertHighScore(shell.highScorePath, finishedEntry(shell.game));
+    if (!place) {
+        shell.report(place.error());
+        return std::nullopt;
+    }
+    if (!place->saved) {
+        shell.report(place->saved.error());
+    }
+    return place->row;
 }
 
 void reportScore(Shell& shell) {

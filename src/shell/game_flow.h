@@ -9,6 +9,7 @@ namespace ventrel {
 
 inline constexpr std::string_view idleMusic = "mci\\idle.mci";
 inline constexpr std::string_view gameMusic = "mci\\game.mci";
+inline constexpr std::string_view tableMusic = "mci\\splash.mci";
 
 /// Loads the airport, sets the shift up and lets the clock run. A refused airport starts no game; the game
 /// music starts all the same.
@@ -29,8 +30,12 @@ void endShift(Shell& shell, ShiftResult result);
 /// Whether the shift is over but its last line still on the ticker.
 bool isShiftEnding(const Shell& shell);
 
-/// The game-over line has scrolled away, or nobody waits for it any more; nothing when no shift is ending.
+/// The game-over line has scrolled away: the score is entered, and shown. Nothing when no shift is ending.
 void onGameOver(Shell& shell);
+
+/// Nobody waits for the game-over line any more: its game is ended and its score entered. The row at which
+/// that stands now; none without a place in the table, of which no trouble goes untold.
+std::optional<int> enterFinishedScore(Shell& shell);
 
 /// The score so far, for the ticker.
 void reportScore(Shell& shell);

@@ -17,7 +17,7 @@
 
 namespace ventrel {
 
-inline constexpr std::string_view highScoreFile = "hiscore.dat";
+inline constexpr std::string_view highScoreFileName = "hiscore.dat";
 inline constexpr int highScoreRows = 10;
 
 struct HighScoreEntry {

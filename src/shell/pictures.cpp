@@ -6,7 +6,6 @@
 #include "base/windows1252.h"
 #include "console/console_layout.h"
 #include "console/window_size.h"
-#include "platform/canvas/image.h"
 #include "radar/clouds.h"
 #include "radar/radar_window.h"
 
@@ -37,10 +36,10 @@ tl::unexpected<Failure> wrongSize(const fs::path& file, Size size, std::string_v
                              {pathText(file), pixelsText(size), std::string(wanted)}));
 }
 
-Result<Bitmap> decodePicture(const fs::path& file) {
+Result<Bitmap> decodePicture(const fs::path& file, ImageFormat format = ImageFormat::png) {
     Image image;
     Bitmap bitmap;
-    if (ImageLoadFile(image, file, ImageFormat::png) != ImageError::none ||
+    if (ImageLoadFile(image, file, format) != ImageError::none ||
         ImageToBitmap(image, bitmap) != ImageError::none) {
         return failed(FormatStringId(TextId::cannotOpenFile, {pathText(file)}));
     }
@@ -58,11 +57,7 @@ public:
         if (failure_) {
             return {};
         }
-        const fs::path file = DataPath(folder_, name);
-        Result<Bitmap> picture = decodePicture(file);
-        if (picture && picture->size() != size) {
-            picture = wrongSize(file, picture->size(), pixelsText(size));
-        }
+        Result<Bitmap> picture = loadPictureOfSize(folder_, name, size);
         if (!picture) {
             failure_ = std::move(picture.error());
             return {};
@@ -136,6 +131,16 @@ Result<CursorImage> loadIcon(const fs::path& programFolder) {
         return tl::unexpected(std::move(icon.error()));
     }
     return pointer(std::move(*icon), {});
+}
+
+Result<Bitmap> loadPictureOfSize(const fs::path& programFolder, std::string_view name, Size size,
+                                 ImageFormat format) {
+    const fs::path file = DataPath(programFolder, name);
+    Result<Bitmap> picture = decodePicture(file, format);
+    if (picture && picture->size() != size) {
+        return wrongSize(file, picture->size(), pixelsText(size));
+    }
+    return picture;
 }
 
 Result<Bitmap> loadPicture(const fs::path& programFolder, std::string_view name, Size most) {

@@ -9,6 +9,7 @@
 
 #include "base/result.h"
 #include "controls/top_bar.h"
+#include "platform/canvas/image.h"
 #include "platform/devices/backend.h"
 
 namespace ventrel {
@@ -35,6 +36,10 @@ Result<LoadedPictures> loadPictures(const std::filesystem::path& programFolder, 
 
 /// The program's icon.
 Result<CursorImage> loadIcon(const std::filesystem::path& programFolder);
+
+/// A picture that is refused with another size than that one.
+Result<Bitmap> loadPictureOfSize(const std::filesystem::path& programFolder, std::string_view name, Size size,
+                                 ImageFormat format = ImageFormat::png);
 
 /// A picture of any size up to that one.
 Result<Bitmap> loadPicture(const std::filesystem::path& programFolder, std::string_view name, Size most);

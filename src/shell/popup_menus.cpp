@@ -63,7 +63,6 @@ Menu optionsMenu(const Shell& shell) {
     for (const int gameCommand : gameCommands) {
         greyMenuItem(menu, gameCommand, !shell.game.isRunning());
     }
-    greyMenuItem(menu, command::highScores, true); // there is no table yet
     return menu;
 }
 

@@ -6,6 +6,7 @@
 #include "console/window_size.h"
 #include "platform/widgets/message_box.h"
 #include "shell/game_flow.h"
+#include "shell/high_scores.h"
 #include "shell/main_window.h"
 #include "shell/option_commands.h"
 #include "shell/tick.h"
@@ -70,6 +71,9 @@ Result<> Program::startUp() {
                                                 .pictures = std::move(loaded->pictures),
                                                 .options = options_,
                                                 .random = {seed_}});
+    if (auto made = makeHighScoreFile(shell_->highScorePath); !made) {
+        parts_.troubles.push_back(std::move(made.error().text));
+    }
     createMainWindow(*shell_);
     tellOfSilence(*shell_, *soundFault);
     desktop_.setIdle([this] { return Tick(*shell_); });

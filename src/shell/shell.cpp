@@ -1,6 +1,8 @@
 #include "shell/shell.h"
 
+#include "base/data_path.h"
 #include "shell/game_flow.h"
+#include "shell/high_scores.h"
 #include "shell/popup_menus.h"
 #include "shell/selection.h"
 
@@ -37,9 +39,10 @@ ControlPanelCallbacks panelCallbacks(Shell& shell) {
 Shell::Shell(ShellParts parts)
     : desktop(parts.desktop), sounds(parts.sounds), fonts(parts.fonts), widgetFonts(widgetFontsOf(fonts)),
       store(parts.store), programFolder(std::move(parts.programFolder)),
-      playerFolder(std::move(parts.playerFolder)), playersAirports(std::move(parts.playersAirports)),
-      pictures(std::move(parts.pictures)), options(parts.options),
-      topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
+      playerFolder(std::move(parts.playerFolder)),
+      highScorePath(DataPath(playerFolder.empty() ? programFolder : playerFolder, highScoreFileName)),
+      playersAirports(std::move(parts.playersAirports)), pictures(std::move(parts.pictures)),
+      options(parts.options), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
       scroller{.sources = scrollerSources(*this)},
       strips{.sources = {game, fonts, pictures.arrow},
              .callbacks = {.press = [this](int slot) { StripsPress(*this, slot); }}},

@@ -59,6 +59,7 @@ struct Shell {
     const std::filesystem::path programFolder;
     /// Where the player's own files lie; the program folder itself for a portable copy, empty for nowhere.
     const std::filesystem::path playerFolder;
+    const std::filesystem::path highScorePath; ///< of the table, in the player's folder if there is one
     const std::filesystem::path playersAirports;
     Pictures pictures;
     Options options;

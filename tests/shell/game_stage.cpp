@@ -70,7 +70,7 @@ GameStage::GameStage(int windowWidth, std::string_view profileText,
     store_ = std::make_unique<OptionsStore>(profile_);
     program_ = std::make_unique<Program>(
         ProgramParts{backend, fonts_, otherSounds != nullptr ? *otherSounds : sounds, *store_},
-        ProgramPlaces{programFolder, {}, playersAirports()}, optionsOf(profile_, windowWidth), 1);
+        ProgramPlaces{programFolder, folder_.path(), playersAirports()}, optionsOf(profile_, windowWidth), 1);
 }
 
 void GameStage::startNewGame(std::uint32_t seed) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/canvas/jpeg_writer.h"
 #include "platform/canvas/png_writer.h"
 #include "radar/clouds.h"
 #include "radar/radar_window.h"
@@ -14,6 +15,8 @@ namespace {
 
 constexpr Colour consoleColour = Colour::rgb(0x50, 0x58, 0x5A);
 constexpr Colour cloudColour = Colour::rgb(0xB0, 0xB4, 0xB8);
+constexpr Colour tableColour = Colour::rgb(0xE0, 0xE0, 0xE0);
+constexpr int jpegQuality = 90;
 constexpr Size cloudSize{96, 56};
 constexpr Size lampSize{28, 28};
 constexpr Size stripButtonSize{20, 12};
@@ -66,6 +69,7 @@ void makePlainProgram(const fs::path& folder) {
     write("pointer_arrow", plain(pointerSize, cloudTransparent));
     write("icon", plain(pointerSize, cloudColour));
     write("about", plain({400, 220}, consoleColour));
+    ASSERT_TRUE(writeJpeg(folder / "grf/hiscore.grf", plain({689, 600}, tableColour), jpegQuality));
 }
 
 } // namespace ventrel

@@ -102,6 +102,7 @@ private:
     Rect captionBox() const;
     Rect closeBox() const;
     int frameTop() const;
+    int border() const;
 
     bool key(const KeyEvent& event);
     bool type(std::string_view words);
@@ -125,6 +126,7 @@ private:
     DialogHandlers handlers_;
     std::string title_;
     bool hasCloseBox_ = true;
+    bool hasFrame_ = true;
     Window frame_;
     Window inside_;
     std::vector<Placed> controls_;

@@ -16,8 +16,12 @@ constexpr Size closeBoxSize{16, 14};
 
 } // namespace
 
+int Dialog::border() const {
+    return hasFrame_ ? frameBorder : 0;
+}
+
 int Dialog::frameTop() const {
-    return frameBorder + (title_.empty() ? 0 : captionHeight);
+    return border() + (title_.empty() ? 0 : captionHeight);
 }
 
 void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
@@ -54,9 +58,8 @@ void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
 
 void Dialog::resizeInside(Size size) {
     const Point corner = frame_.bounds().topLeft();
-    frame_.setBounds(
-        Rect::at(corner, {size.width + 2 * frameBorder, size.height + frameTop() + frameBorder}));
-    inside_.setBounds(Rect::at({frameBorder, frameTop()}, size));
+    frame_.setBounds(Rect::at(corner, {size.width + 2 * border(), size.height + frameTop() + border()}));
+    inside_.setBounds(Rect::at({border(), frameTop()}, size));
 }
 
 void Dialog::centre() {
@@ -64,7 +67,7 @@ void Dialog::centre() {
 }
 
 Rect Dialog::captionBox() const {
-    return {frameBorder, frameBorder, frame_.size().width - frameBorder, frameBorder + captionHeight};
+    return {border(), border(), frame_.size().width - border(), border() + captionHeight};
 }
 
 Rect Dialog::closeBox() const {

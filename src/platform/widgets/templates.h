@@ -60,6 +60,7 @@ struct DialogTemplate {
     Size size;
     std::span<const ControlTemplate> controls;
     bool hasCloseBox = true;
+    bool hasFrame = true; ///< false: nothing but the inside
 };
 
 /// The numbers that every dialog uses.
