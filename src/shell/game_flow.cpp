@@ -3,6 +3,7 @@
 #include "console/window_size.h"
 #include "shell/high_score_dialog.h"
 #include "shell/high_scores.h"
+#include "shell/presentations.h"
 #include "sim/shift_texts.h"
 
 namespace ventrel {
@@ -66,6 +67,7 @@ void endWithCollision(Shell& shell) {
     shell.sounds.playMusic(collisionMusic, false);
     shell.mainWindow.releaseCapture();
     EndGame(shell);
+    reportCollision(shell);
 }
 
 void emptyStrips(Shell& shell) {
@@ -149,7 +151,11 @@ void onGameOver(Shell& shell) {
     if (!isShiftEnding(shell)) {
         return; // it has been cut short
     }
-    ShowHighScores(shell, enterFinishedScore(shell));
+    if (const auto row = enterFinishedScore(shell)) {
+        celebrate(shell, *row);
+    } else {
+        ShowHighScores(shell);
+    }
 }
 
 std::optional<int> enterFinishedScore(Shell& shell) {

@@ -30,7 +30,8 @@ void endShift(Shell& shell, ShiftResult result);
 /// Whether the shift is over but its last line still on the ticker.
 bool isShiftEnding(const Shell& shell);
 
-/// The game-over line has scrolled away: the score is entered, and shown. Nothing when no shift is ending.
+/// The game-over line has scrolled away: the score is entered, celebrated when it has a place in the table,
+/// and the table shown. Nothing when no shift is ending.
 void onGameOver(Shell& shell);
 
 /// Nobody waits for the game-over line any more: its game is ended and its score entered. The row at which

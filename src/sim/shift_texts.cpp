@@ -10,6 +10,14 @@ namespace {
 
 constexpr long feetPerAltitude = 1000;
 
+// In English, whatever language the machine speaks.
+constexpr std::array<std::string_view, 7> weekdays{"Sunday",   "Monday", "Tuesday", "Wednesday",
+                                                   "Thursday", "Friday", "Saturday"};
+constexpr std::array<std::string_view, 12> months{"January",   "February", "March",    "April",
+                                                  "May",       "June",     "July",     "August",
+                                                  "September", "October",  "November", "December"};
+constexpr int firstYear = 1900; // from which `std::tm` counts
+
 } // namespace
 
 std::string welcomeText(const Game& game) {
@@ -41,9 +49,9 @@ PressRelease composePressRelease(const Game& game, std::string_view date) {
 }
 
 std::string pressReleaseDate(const std::tm& day) {
-    std::array<char, 64> text{};
-    const std::size_t length = std::strftime(text.data(), text.size(), "%A, %B %d, %Y", &day);
-    return {text.data(), length};
+    return FormatText("%s, %s %02d, %d", {weekdays.at(static_cast<std::size_t>(day.tm_wday)),
+                                          months.at(static_cast<std::size_t>(day.tm_mon)), long{day.tm_mday},
+                                          long{firstYear + day.tm_year}});
 }
 
 } // namespace ventrel

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "shell/plain_program.h"
 #include "shell/quiet_shift.h"
 
 namespace ventrel {
@@ -9,7 +10,8 @@ namespace {
 
 class GameEndTest : public ::testing::Test {
 protected:
-    GameStage stage;
+    PlainProgram program;
+    GameStage stage{1024, "[Game]\nName=mary\nSkill=1\n", program.folder()};
 
     /// The airport and the exit that come first in the table.
     const Vor& airport() { return *std::ranges::find(stage.game().vors(), true, &Vor::isAirport); }
@@ -42,8 +44,10 @@ protected:
     }
     bool selectsFirst = false; ///< the first of the two is on the panel when they meet
 
+    /// And there will be nothing to celebrate.
     void finishAllBut(FlightIndex first) {
         stage.look([this, first] {
+            stage.game().bonus = 0;
             for (const FlightIndex i : stage.game().flightPlaces()) {
                 stage.game().flight(i).inPlay = stage.game().flight(i).inPlay && i < first;
             }
@@ -132,6 +136,8 @@ TEST_F(GameEndTest, TheLastFlightEndsTheShiftWithItsLineAndThenTheGame) {
         EXPECT_EQ(stage.shell().game.clock, 0_s);
         EXPECT_EQ(stage.shell().panel.state.flight, std::nullopt);
     });
+    stage.wait(6000); // the film that celebrates it lets itself be closed by then
+    stage.todo([](Script& script) { script.key(Key::space).wait(20).key(Key::enter).wait(20); });
     expectMenu(1, "the mouse is free again");
     stage.todo([](Script& script) { script.key(Key::escape).wait(1); });
     stage.startNewGame(); // and the next game begins as the first one did
@@ -193,6 +199,14 @@ TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
         EXPECT_FALSE(stage.shell().radar.window.isVisible());
         EXPECT_EQ(stage.sounds.heard.back(), "mci\\faa.mci");
         EXPECT_FALSE(isOnTicker("Game Over"));
+        EXPECT_TRUE(stage.isDialogOpen()) << "no page about it";
+    });
+    stage.wait(1100);
+    stage.todo([](Script& script) { script.key(Key::a).wait(20); });
+    stage.look([this] {
+        EXPECT_FALSE(stage.isDialogOpen());
+        EXPECT_EQ(stage.sounds.heard.back(), "mci\\idle.mci");
+        EXPECT_FALSE(stage.backend.isCaptured());
     });
     stage.startNewGame();
     stage.play();

@@ -68,6 +68,8 @@ void makePlainProgram(const fs::path& folder) {
     write("pointer_hand", plain(pointerSize, cloudTransparent));
     write("pointer_arrow", plain(pointerSize, cloudTransparent));
     write("icon", plain(pointerSize, cloudColour));
+    write("letterhead", plain({250, 100}, consoleColour));
+    write("movie_frame", plain({600, 240}, consoleColour));
     write("about", plain({400, 220}, consoleColour));
     ASSERT_TRUE(writeJpeg(folder / "grf/hiscore.grf", plain({689, 600}, tableColour), jpegQuality));
 }

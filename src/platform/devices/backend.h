@@ -6,6 +6,7 @@
 #pragma once
 
 #include <cstdint>
+#include <ctime>
 #include <optional>
 #include <span>
 #include <string>
@@ -46,6 +47,8 @@ public:
     virtual ~Backend() = default;
 
     virtual Millis now() = 0;
+    /// Today, where the machine stands.
+    virtual std::tm today() = 0;
 
     /// The next event, waiting at most `limit` for it: 0 only looks, none waits for ever.
     virtual std::optional<InputEvent> wait(std::optional<Millis> limit) = 0;

@@ -35,6 +35,9 @@ public:
     /// A slow screen; at first it shows whatever is sent.
     void setFrameTime(Millis time) { frameTime_ = time; }
 
+    /// Until then it is no day of any calendar.
+    void setToday(const std::tm& day) { today_ = day; }
+
     /// Writes something else on the key at that place. At first letters, digits and signs have those of the
     /// United States, and no other key has anything.
     void writeOnKey(Key place, std::string name) { keyNames_[place] = std::move(name); }
@@ -70,6 +73,7 @@ public:
     // Backend ---------------------------------------------------------------------------------------------
 
     Millis now() override { return now_; }
+    std::tm today() override { return today_; }
     std::optional<InputEvent> wait(std::optional<Millis> limit) override;
     DisplayInfo display() override { return display_; }
     void present(const Bitmap& picture, std::span<const Rect> changed) override;
@@ -107,6 +111,7 @@ private:
     DisplayInfo display_;
     Millis frameTime_ = 0;
     Millis now_ = 1000; // not 0, so that nobody mistakes "never" for "now"
+    std::tm today_{};
     std::deque<Entry> timeline_;
     bool timelineHasEnded_ = false;
     int emptyPolls_ = 0;

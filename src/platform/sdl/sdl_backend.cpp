@@ -165,6 +165,12 @@ public:
 
     void setClipboard(std::string_view text) override { SDL_SetClipboardText(toUtf8(text).c_str()); }
 
+    std::tm today() override {
+        const std::time_t moment = std::time(nullptr);
+        std::tm day{};
+        ::localtime_r(&moment, &day);
+        return day;
+    }
     void beep(MessageIcon kind) override {
         if (beeper_) {
             beeper_->beep(kind);

@@ -1,0 +1,15 @@
+// What frames a shift, with its pictures, sounds and music.
+
+#pragma once
+
+#include "shell/shell.h"
+
+namespace ventrel {
+
+/// Opens the page about the collision that the game ended with; the idle music plays once it is closed.
+void reportCollision(Shell& shell);
+
+/// Opens the film about a score that has entered the table; the table with that row is shown once it is over.
+void celebrate(Shell& shell, int row);
+
+} // namespace ventrel
