@@ -38,7 +38,7 @@ constexpr std::string_view usage =
     "Ventrel, an air-traffic-control game.\n"
     "\n"
     "    ventrel              plays\n"
-    "    ventrel /NOSPLASH    plays without the pictures at the start\n"
+    "    ventrel /NOSPLASH    plays without the opening\n"
     "    ventrel --version    tells its version\n"
     "    ventrel --help       tells this\n"
     "\n"
@@ -129,7 +129,7 @@ void keepSettings(OptionsStore& store, const Options& options, Size window, cons
 }
 
 /// From start-up to shutdown, within the program's own folder.
-int play(const std::filesystem::path& executable) {
+int play(const std::filesystem::path& executable, FirstScene firstScene) {
     const std::filesystem::path programFolder = executable.parent_path();
     const std::filesystem::path playerFolder = playerDataFolder(programFolder, programName);
     OptionsStore store(optionsFile(executable, playerFolder));
@@ -149,7 +149,7 @@ int play(const std::filesystem::path& executable) {
     }
     SdlBackend& backend = **screenBackend;
     SoundSystem sounds(*device, device->sequencer(), programFolder);
-    Program program({backend, data.fonts, sounds, store, std::move(data.troubles)},
+    Program program({backend, data.fonts, sounds, store, std::move(data.troubles), firstScene},
                     {programFolder, playerFolder, playersAirports()}, settings.options,
                     wantedSeed().value_or(seedOfTheMoment()));
     const auto keep = [&] { keepSettings(store, program.options(), settings.window, backend); };
@@ -207,5 +207,6 @@ int main(int count, char** words) {
         complain("another copy is running already");
         return ended;
     }
-    return play(executableFile(words[0]));
+    const FirstScene firstScene = count > 1 ? FirstScene::console : FirstScene::opening;
+    return play(executableFile(words[0]), firstScene);
 }

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 
 #include "presentation/framed_picture.h"
 #include "presentation/full_screen_window.h"
@@ -26,8 +27,10 @@ constexpr Millis titleLasts = 2000;
 constexpr Millis pumpInterval = 20; // between two looks whether somebody has closed it
 constexpr int beeps = 5;
 
-bool isClosingKey(Key key) {
-    return key == Key::escape || key == Key::enter || key == Key::keypadEnter || key == Key::space;
+bool isClosingKey(const KeyEvent& event) {
+    constexpr std::array keys{Key::escape, Key::enter, Key::keypadEnter, Key::space};
+    const bool isAlone = !event.modifiers.control && !event.modifiers.alt;
+    return isAlone && std::ranges::find(keys, event.key) != keys.end();
 }
 
 Millis holdFor(int screenWidth) {
@@ -37,48 +40,45 @@ Millis holdFor(int screenWidth) {
 
 class Opening {
 public:
-    explicit Opening(OpeningParts parts) : parts_(std::move(parts)) {
-        curtain_ = createFullScreenWindow(parts_.desktop,
-                                          {.paint = [this](Canvas& canvas) { paintCurtain(canvas); },
-                                           .dismiss = [this](const auto& key) { dismissCurtain(key); },
-                                           .destroyed = [this] { parts_.sounds.stopEffects(); }});
+    Opening(Desktop& desktop, const OpeningSounds& sounds, OpeningPictures pictures)
+        : desktop_(desktop), sounds_(sounds), pictures_(std::move(pictures)) {
         title_ =
-            createFullScreenWindow(parts_.desktop, {.alwaysOnTop = false,
-                                                    .background = black,
-                                                    .paint = [this](Canvas& canvas) { paintTitle(canvas); },
-                                                    .dismiss = [this](const auto& key) { dismissTitle(key); },
-                                                    .destroyed = [this] { parts_.sounds.stopMusic(); }});
-        curtain_.activate();
+            createFullScreenWindow(desktop, {.alwaysOnTop = false,
+                                             .background = black,
+                                             .paint = [this](Canvas& canvas) { paintTitle(canvas); },
+                                             .dismiss = [this](const auto& key) { dismiss(title_, key); },
+                                             .destroyed = [this] { sounds_.stopMusic(); }});
+        curtain_ =
+            createFullScreenWindow(desktop, {.paint = [this](Canvas& canvas) { paintCurtain(canvas); },
+                                             .dismiss = [this](const auto& key) { dismiss(curtain_, key); },
+                                             .destroyed = [this] { sounds_.stopEffects(); }});
     }
     Opening(const Opening&) = delete;
     Opening& operator=(const Opening&) = delete;
-    ~Opening() { close(); }
+    ~Opening() {
+        curtain_.destroy();
+        title_.destroy();
+        desktop_.setCursor(StandardCursor::arrow);
+    }
 
-    void play() {
-        if (!parts_.sounds.playScroll()) {
-            return;
-        }
-        hasBegun_ = true;
-        const Millis start = parts_.desktop.now();
+    /// The sound has begun at `start`.
+    void play(Millis start) {
         curtain_.capture();
-        hidePointer(parts_.desktop);
-        if (!pumpUntil(start + holdFor(parts_.desktop.size().width)) || !slide()) {
+        hidePointer(desktop_);
+        if (!pumpUntil(start + holdFor(desktop_.size().width)) || !slide()) {
             return;
         }
         curtain_.invalidate();
-        while (parts_.sounds.isAnyPlaying()) {
-            if (!pumpFor(pumpInterval)) {
-                return;
-            }
+        if (pumpWhile(sounds_.isAnyPlaying)) {
+            showTitle();
         }
-        showTitle();
     }
 
 private:
     /// One pixel after the other until the sound ends.
     bool slide() {
-        const Size screen = parts_.desktop.size();
-        for (int y = 0; y < screen.height - leftHanging && parts_.sounds.isAnyPlaying(); ++y) {
+        const Size screen = desktop_.size();
+        for (int y = 0; y < screen.height - leftHanging && sounds_.isAnyPlaying(); ++y) {
             if (!pumpFor(slideInterval)) {
                 return false;
             }
@@ -90,80 +90,74 @@ private:
 
     void showTitle() {
         title_.capture();
-        parts_.sounds.playMusic();
+        sounds_.playMusic();
         title_.invalidate();
         if (!pumpFor(titleLasts)) {
             return;
         }
         title_.releaseCapture();
-        parts_.desktop.setCursor(StandardCursor::arrow);
-        while (parts_.sounds.isMusicPlaying()) {
-            if (!pumpFor(pumpInterval)) {
-                return;
+        desktop_.setCursor(StandardCursor::arrow);
+        if (pumpWhile(sounds_.isMusicPlaying)) {
+            for (int i = 0; i < beeps; ++i) {
+                desktop_.backend().beep(MessageIcon::none);
             }
-        }
-        for (int i = 0; i < beeps; ++i) {
-            parts_.desktop.backend().beep(MessageIcon::none);
         }
     }
 
-    bool isOpen() const { return curtain_.exists() && title_.exists() && !parts_.desktop.isQuitting(); }
+    bool isOpen() const { return curtain_.exists() && title_.exists() && !desktop_.isQuitting(); }
 
-    bool pumpFor(Millis time) { return pumpUntil(parts_.desktop.now() + time); }
+    // Each false when it has been closed meanwhile.
 
-    /// False when it has been closed meanwhile.
     bool pumpUntil(Millis moment) {
-        while (isOpen() && parts_.desktop.now() < moment) {
-            parts_.desktop.pumpUntil(std::min(moment, parts_.desktop.now() + pumpInterval));
+        while (isOpen() && desktop_.now() < moment) {
+            desktop_.pumpUntil(std::min(moment, desktop_.now() + pumpInterval));
         }
         return isOpen();
     }
 
-    void close() {
-        curtain_.destroy();
-        title_.destroy();
-        parts_.desktop.setCursor(StandardCursor::arrow);
-    }
+    bool pumpFor(Millis time) { return pumpUntil(desktop_.now() + time); }
 
-    void dismissCurtain(const std::optional<KeyEvent>& key) {
-        if (hasBegun_ && (!key || isClosingKey(key->key))) {
-            curtain_.destroy();
+    bool pumpWhile(const std::function<bool()>& isSo) {
+        while (isOpen() && isSo()) {
+            pumpFor(pumpInterval);
         }
+        return isOpen();
     }
 
-    void dismissTitle(const std::optional<KeyEvent>& key) {
-        if (!key || isClosingKey(key->key)) {
-            title_.destroy();
+    static void dismiss(const Window& window, const std::optional<KeyEvent>& key) {
+        if (!key || isClosingKey(*key)) {
+            window.destroy();
         }
     }
 
     void paintCurtain(Canvas& canvas) const {
-        if (curtain_.size().height >= blackBelow) {
-            canvas.draw({0, 0}, parts_.curtain);
+        if (curtain_.size().height >= blackBelow && !pictures_.curtain.isEmpty()) {
+            canvas.draw({0, 0}, pictures_.curtain);
         } else {
             canvas.fill(curtain_.area(), black);
         }
     }
 
     void paintTitle(Canvas& canvas) const {
-        if (parts_.title) {
-            const Point corner = centredCorner(parts_.desktop.size(), parts_.title->size());
-            canvas.draw({std::abs(corner.x), std::abs(corner.y)}, *parts_.title);
-        }
+        const Point corner = centredCorner(desktop_.size(), pictures_.title.size());
+        canvas.draw({std::abs(corner.x), std::abs(corner.y)}, pictures_.title);
     }
 
-    OpeningParts parts_;
-    Window curtain_;
+    Desktop& desktop_;
+    const OpeningSounds& sounds_;
+    OpeningPictures pictures_;
     Window title_;
-    bool hasBegun_ = false;
+    Window curtain_;
 };
 
 } // namespace
 
 bool playOpening(OpeningParts parts) {
-    Desktop& desktop = parts.desktop;
-    Opening(std::move(parts)).play();
-    return !desktop.isQuitting();
+    const Millis start = parts.desktop.now();
+    if (parts.sounds.playScroll()) {
+        Opening(parts.desktop, parts.sounds, parts.loadPictures()).play(start);
+    }
+    return !parts.desktop.isQuitting();
 }
 
 } // namespace ventrel

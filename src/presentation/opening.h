@@ -1,12 +1,11 @@
 // How the program opens: a curtain that hangs still while a sound sets the scene, then slides down and
 // uncovers the title; a piece of music; and the console.
 //
-// A click, Esc, Enter or Space ends it at any moment once it has begun.
+// Once it has begun a click, Esc, Enter or Space ends it at any moment.
 
 #pragma once
 
 #include <functional>
-#include <optional>
 
 #include "platform/desktop/desktop.h"
 
@@ -21,15 +20,20 @@ struct OpeningSounds {
     std::function<void()> stopMusic;
 };
 
-struct OpeningParts {
-    Desktop& desktop;
-    Bitmap curtain;              ///< as large as the desktop
-    std::optional<Bitmap> title; ///< none: the screen behind the curtain stays black
-    OpeningSounds sounds;
+/// In place of an empty one there is black.
+struct OpeningPictures {
+    Bitmap curtain; ///< as large as the desktop
+    Bitmap title;   ///< in its middle
 };
 
-/// Shows it from beginning to end, with everything else of the program running on. Over at once when its
-/// sound does not start. False when the program is quitting.
+struct OpeningParts {
+    Desktop& desktop;
+    OpeningSounds sounds;
+    std::function<OpeningPictures()> loadPictures; ///< called when the sound has begun
+};
+
+/// Shows it from beginning to end, with everything else of the program running on. When its sound does not
+/// start nothing is shown. False when the program is quitting.
 bool playOpening(OpeningParts parts);
 
 } // namespace ventrel

@@ -9,6 +9,7 @@
 #include "shell/high_scores.h"
 #include "shell/main_window.h"
 #include "shell/option_commands.h"
+#include "shell/presentations.h"
 #include "shell/tick.h"
 #include "shell/trouble_text.h"
 
@@ -77,12 +78,22 @@ Result<> Program::startUp() {
     createMainWindow(*shell_);
     tellOfSilence(*shell_, *soundFault);
     desktop_.setIdle([this] { return Tick(*shell_); });
+    if (parts_.firstScene == FirstScene::opening) {
+        if (auto checked = checkOpening(places_.programFolder); !checked) {
+            return giveUp(std::move(checked.error()));
+        }
+    }
     shell_->mainWindow.post([this] { finishStartUp(); });
     return {};
 }
 
-/// Whatever is shown before the console comes first; then the console appears.
 void Program::finishStartUp() {
+    if (parts_.firstScene == FirstScene::console || showOpening(*shell_)) {
+        showConsole();
+    }
+}
+
+void Program::showConsole() {
     shell_->mainWindow.releaseCapture();
     const bool isWindowed = shell_->options.windowed != 0;
     if (isWindowed && parts_.backend.display().bitsPerPixel < leastColourDepth) {

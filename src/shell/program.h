@@ -25,6 +25,9 @@ struct ProgramPlaces {
 /// screen's width and is noted in the option.
 Size chooseWindowSize(Options& options, Size screen);
 
+/// What a start shows first.
+enum class FirstScene { opening, console };
+
 /// The machine and what was opened on it before there is a window. All of it outlives the program.
 struct ProgramParts {
     Backend& backend;
@@ -32,6 +35,7 @@ struct ProgramParts {
     GameSounds& sounds;
     OptionsStore& store;
     std::vector<std::string> troubles = {}; ///< what is missing but not needed; told once the console stands
+    FirstScene firstScene = FirstScene::console;
 };
 
 class Program {
@@ -60,6 +64,7 @@ private:
     /// Shows why nothing can start.
     tl::unexpected<Failure> giveUp(Failure reason);
     void finishStartUp();
+    void showConsole();
 
     ProgramParts parts_;
     ProgramPlaces places_;

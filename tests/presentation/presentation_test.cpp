@@ -73,7 +73,9 @@ protected:
                                    .isMusicPlaying = [this] { return isSounding(musicEnd); },
                                    .stopMusic = [this] { musicEnd.reset(); }};
         const bool goesOn =
-            playOpening({desktop, plain(desktop.size(), red), plain({799, 577}, green), sounds});
+            playOpening({desktop, sounds, [this] {
+                             return OpeningPictures{plain(desktop.size(), red), plain({799, 577}, green)};
+                         }});
         note(goesOn ? "over" : "quit");
     }
     /// The curtain's upper edge.

@@ -63,13 +63,15 @@ Rect differenceOf(const Bitmap& before, const Bitmap& after) {
 }
 
 GameStage::GameStage(int windowWidth, std::string_view profileText,
-                     const std::filesystem::path& programFolder, GameSounds* otherSounds)
+                     const std::filesystem::path& programFolder, FirstScene firstScene,
+                     GameSounds* otherSounds)
     : backend(windowOf(windowWidth)), profile_(folder_ / "ventrel.ini"),
       fonts_(std::filesystem::path(PROGRAM_FOLDER) / "fonts") {
     writeText(profile_, profileText);
     store_ = std::make_unique<OptionsStore>(profile_);
     program_ = std::make_unique<Program>(
-        ProgramParts{backend, fonts_, otherSounds != nullptr ? *otherSounds : sounds, *store_},
+        ProgramParts{
+            backend, fonts_, otherSounds != nullptr ? *otherSounds : sounds, *store_, {}, firstScene},
         ProgramPlaces{programFolder, folder_.path(), playersAirports()}, optionsOf(profile_, windowWidth), 1);
 }
 

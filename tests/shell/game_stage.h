@@ -35,7 +35,9 @@ public:
     }
     void choose(const SoundChoices& choices) override { choices_ = choices; }
     const SoundChoices& choices() const { return choices_; }
-    Result<bool> playEffect(std::string_view name) override { return hear(std::string(name)); }
+    Result<bool> playEffect(std::string_view name) override {
+        return choices_.effects ? hear(std::string(name)) : false;
+    }
     void clickControl() override { heard.emplace_back("click"); }
     void clickSet() override { heard.emplace_back("set"); }
     Result<bool> clickSelect() override { return hear("select"); }
@@ -81,6 +83,7 @@ public:
     /// The program at that window width, with an options file of that text.
     explicit GameStage(int windowWidth = 1024, std::string_view profileText = "[Game]\nName=mary\nSkill=1\n",
                        const std::filesystem::path& programFolder = PROGRAM_FOLDER,
+                       FirstScene firstScene = FirstScene::console,
                        GameSounds* otherSounds = nullptr); ///< in place of `sounds`
 
     HeadlessBackend backend;

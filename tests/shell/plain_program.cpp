@@ -15,6 +15,8 @@ namespace {
 
 constexpr Colour consoleColour = Colour::rgb(0x50, 0x58, 0x5A);
 constexpr Colour cloudColour = Colour::rgb(0xB0, 0xB4, 0xB8);
+constexpr Colour titleColour = Colour::rgb(0x40, 0x60, 0x90);
+constexpr Colour curtainColour = Colour::rgb(0x90, 0x90, 0x98);
 constexpr Colour tableColour = Colour::rgb(0xE0, 0xE0, 0xE0);
 constexpr int jpegQuality = 90;
 constexpr Size cloudSize{96, 56};
@@ -49,6 +51,10 @@ void makePlainProgram(const fs::path& folder) {
     fs::create_directories(folder / "grf");
     fs::create_directory_symlink(fs::path(PROGRAM_FOLDER) / "apt", folder / "apt");
     fs::create_directory_symlink(fs::path(PROGRAM_FOLDER) / "fonts", folder / "fonts");
+    fs::create_directory(folder / "snd");
+    fs::create_directory(folder / "mci");
+    writeText(folder / "snd/scroll.snd", "not heard");
+    writeText(folder / "mci/fade.mci", "not heard");
     const auto write = [&](const std::string& name, const Bitmap& picture) {
         ASSERT_TRUE(writePng(folder / "grf" / (name + ".grf"), picture));
     };
@@ -69,7 +75,10 @@ void makePlainProgram(const fs::path& folder) {
     write("pointer_arrow", plain(pointerSize, cloudTransparent));
     write("icon", plain(pointerSize, cloudColour));
     write("letterhead", plain({250, 100}, consoleColour));
-    write("movie_frame", plain({600, 240}, consoleColour));
+    write("splash", plain({799, 577}, titleColour));
+    write("curtain8", plain({800, 600}, curtainColour));
+    write("curtain10", plain({1024, 768}, curtainColour));
+    write("award", plain({600, 240}, consoleColour));
     write("about", plain({400, 220}, consoleColour));
     ASSERT_TRUE(writeJpeg(folder / "grf/hiscore.grf", plain({689, 600}, tableColour), jpegQuality));
 }
