@@ -206,7 +206,7 @@ void drawHouse(Svg& svg, const Camera& camera, const House& house) {
 
 /// The lit boards that name the turn-offs, along the runway's south side.
 void drawBoards(Svg& svg, const Camera& camera) {
-    constexpr std::array<std::string_view, 5> names{"B1", "B2", "B3", "B4", "B5"};
+    constexpr std::array<std::string_view, 4> names{"B1", "B2", "B3", "B4"};
     constexpr double first = 250; // metres along the runway
     constexpr double pitch = 130;
     constexpr double widthOfBoard = 4.4;
@@ -214,7 +214,7 @@ void drawBoards(Svg& svg, const Camera& camera) {
     constexpr double foot = 0.5;
     constexpr double tooNear = 40;
     for (std::size_t i = 0; i < names.size(); ++i) {
-        const Vec at{first + pitch * static_cast<double>(i), -44, foot};
+        const Vec at{first + pitch * static_cast<double>(i), -35, foot};
         const auto spot = camera.seen(at);
         if (!spot || camera.depth(at) < tooNear) {
             continue;

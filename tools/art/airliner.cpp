@@ -26,7 +26,7 @@ class Placing {
 public:
     explicit Placing(const Attitude& attitude)
         : at_(attitude.at), bearing_(turn(attitude.bearing)), pitch_(turn(attitude.pitch)),
-          bank_(turn(attitude.bank)) {}
+          bank_(turn(attitude.bank)), bend_(attitude.bend) {}
 
     Vec direction(const Vec& own) const {
         const double y = own.y * bank_.cosine - own.z * bank_.sine;
@@ -35,13 +35,19 @@ public:
         const double z = up * pitch_.cosine + own.x * pitch_.sine;
         return {x * bearing_.sine - y * bearing_.cosine, x * bearing_.cosine + y * bearing_.sine, z};
     }
-    Vec point(const Vec& own) const { return at_ + direction(own); }
+    Vec point(const Vec& own) const {
+        constexpr double wingRoot = 1.5; // metres from the middle
+        constexpr double wingSpan = 15.5;
+        const double outward = std::max(0.0, std::abs(own.y) - wingRoot) / wingSpan;
+        return at_ + direction(own + Vec{0, 0, bend_ * outward * outward});
+    }
 
 private:
     Vec at_;
     Turn bearing_;
     Turn pitch_;
     Turn bank_;
+    double bend_;
 };
 
 /// A face in the world, ready to be drawn.
@@ -110,6 +116,25 @@ void drawGlow(Svg& svg, const Camera& camera, const Vec& point, std::string_view
     }
 }
 
+/// Whether the body stands between the camera and a lamp: their line of sight passes its axis within its
+/// girth.
+bool isBehindBody(const Placing& placing, const Camera& camera, const Vec& lamp) {
+    constexpr double girth = 1.9; // metres
+    const Vec nose = placing.point({17, 0, axisHeight});
+    const Vec axis = placing.point({-15, 0, axisHeight}) - nose;
+    const Vec sight = placing.point(lamp) - camera.at;
+    const Vec apart = cross(sight, axis);
+    const double square = dot(apart, apart);
+    if (square <= 0) {
+        return false;
+    }
+    const Vec between = nose - camera.at;
+    const double alongSight = dot(cross(between, axis), apart) / square;
+    const double alongAxis = dot(cross(between, sight), apart) / square;
+    const double distance = std::abs(dot(between, apart)) / std::sqrt(square);
+    return alongSight < 1 && alongAxis > 0 && alongAxis < 1 && distance < girth;
+}
+
 Vec onRight(const Vec& left) {
     return {left.x, -left.y, left.z};
 }
@@ -173,7 +198,9 @@ void drawBeacons(Svg& svg, const Camera& camera, const Attitude& attitude, const
                  double scale) {
     const Placing placing(attitude);
     const auto glow = [&](const Vec& own, std::string_view kind, double radius) {
-        drawGlow(svg, camera, placing.point(own), kind, radius * scale);
+        if (own.y == 0 || !isBehindBody(placing, camera, own)) {
+            drawGlow(svg, camera, placing.point(own), kind, radius * scale);
+        }
     };
     glow(wingTip, "glowRed", 9);
     glow(onRight(wingTip), "glowGreen", 9);
@@ -199,7 +226,7 @@ namespace {
 
 /// An ellipse on the ground, along the flight, around a place ahead of the airliner.
 std::vector<Vec> groundEllipse(const Attitude& attitude, double ahead, double along, double across) {
-    const Placing placing({{attitude.at.x, attitude.at.y, 0}, attitude.bearing, 0, 0});
+    const Placing placing({{attitude.at.x, attitude.at.y, 0}, attitude.bearing, 0, 0, 0});
     std::vector<Vec> corners;
     for (int degrees = 0; degrees < 360; degrees += 12) {
         const Turn angle = turn(degrees);

@@ -15,6 +15,7 @@ struct Attitude {
     double bearing = 0; ///< degrees clockwise from north
     double pitch = 0;   ///< degrees, nose up
     double bank = 0;    ///< degrees, right wing down
+    double bend = 1;    ///< metres by which the wings' tips are lifted: about 1 in flight, 0 on the ground
 };
 
 /// Which of its lamps are on.

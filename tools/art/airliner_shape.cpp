@@ -135,11 +135,11 @@ void addWing(std::vector<Face>& faces, const Chord& root, const Chord& tip, cons
 void addWings(std::vector<Face>& faces) {
     constexpr Vec up{0, 0, 1};
     const Chord root{{5.2, 1.5, 3.1}, {-2.6, 1.5, 3.0}, 0.95};
-    const Chord kink{{2.5, 6.4, 3.6}, {-2.8, 6.4, 3.5}, 0.62};
-    const Chord tip{{-3.0, 17.0, 4.75}, {-4.7, 17.0, 4.7}, 0.2};
+    const Chord kink{{2.5, 6.4, 3.3}, {-2.8, 6.4, 3.2}, 0.62};
+    const Chord tip{{-3.0, 17.0, 3.85}, {-4.7, 17.0, 3.8}, 0.2};
     addWing(faces, root, kink, {wingGrey, up, 4});
     addWing(faces, kink, tip, {wingGrey, up, 6});
-    const Chord winglet{{-4.3, 17.5, 6.5}, {-5.2, 17.5, 6.5}, 0.1};
+    const Chord winglet{{-4.3, 17.5, 5.6}, {-5.2, 17.5, 5.6}, 0.1};
     addWing(faces, tip, winglet, {petrol, {0, 1, 0}, 1});
     // The flaps, down for landing.
     const auto flap = [&](const Vec& inner, const Vec& outer, double depth) {
@@ -149,8 +149,8 @@ void addWings(std::vector<Face>& faces) {
                          .shine = 0.3,
                          .twoSided = true});
     };
-    flap({-2.6, 2.2, 2.95}, {-2.8, 6.3, 3.45}, 1.5);
-    flap({-2.8, 6.9, 3.5}, {-3.75, 12.2, 4.1}, 1.1);
+    flap({-2.6, 2.2, 2.95}, {-2.8, 6.3, 3.15}, 1.5);
+    flap({-2.8, 6.9, 3.2}, {-3.75, 12.2, 3.5}, 1.1);
     const Chord tailRoot{{-13.2, 0.7, 5.5}, {-16.4, 0.5, 5.6}, 0.4};
     const Chord tailTip{{-16.3, 6.3, 6.1}, {-17.8, 6.3, 6.1}, 0.14};
     addWing(faces, tailRoot, tailTip, {wingGrey, up, 3});

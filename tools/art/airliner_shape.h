@@ -32,7 +32,7 @@ AirlinerShape makeAirliner();
 inline constexpr double axisHeight = 4.4; // of the body, above the ground
 inline constexpr Vec landingLampLeft{4.2, 2.2, 3.3};
 inline constexpr Vec noseLamp{12.9, 0, 1.7};
-inline constexpr Vec wingTip{-3.8, 17.3, 5.0};
+inline constexpr Vec wingTip{-3.8, 17.3, 4.1};
 inline constexpr Vec mainWheelFoot{-0.9, 3.4, 0};
 
 } // namespace ventrel::art

@@ -71,7 +71,8 @@ Attitude rollingAt(double moment) {
                    since < 0 ? 4.6 * sink * sink * (1 + 0.4 * sink) : 0.10 * std::abs(settled)},
             .bearing = 90,
             .pitch = between(5.2, -0.3, eased(moment, touchMoment + 0.35, touchMoment + 1.55)),
-            .bank = since < 0 ? 1.2 * std::sin(moment * 3) * progress(-since, 0, 0.8) : 0};
+            .bank = since < 0 ? 1.2 * std::sin(moment * 3) * progress(-since, 0, 0.8) : 0,
+            .bend = between(1, 0.1, eased(moment, touchMoment, touchMoment + 1))};
 }
 
 namespace {
@@ -137,7 +138,7 @@ void drawApproach(Svg& svg, double moment) {
 
 void drawTouchDown(Svg& svg, double moment) {
     const Attitude airliner = rollingAt(moment);
-    Camera camera{.at = {432, -112, 9}, .bearing = 0, .focal = 0, .middle = {160, 148}};
+    Camera camera{.at = {432, -112, 13.5}, .bearing = 0, .focal = 0, .middle = {160, 118}};
     camera.focal = between(740, 600, eased(moment, 2.1, 5.2));
     camera.bearing = 360 + bearingFrom(camera.at, rollingAt(moment - 0.10).at) + 2.4;
     drawFilmOutside(svg, camera, moment);

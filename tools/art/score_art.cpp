@@ -30,7 +30,7 @@ constexpr double windowBottom = 563;
 constexpr double scoreHorizon = 452;
 constexpr Camera scoreCamera{
     .at = {850, -92, 10}, .bearing = 302.4, .focal = 1420, .middle = {345, scoreHorizon}};
-constexpr Attitude departing{.at = {702, 0, 17}, .bearing = 90, .pitch = 11, .bank = -4};
+constexpr Attitude departing{.at = {702, 0, 17}, .bearing = 90, .pitch = 11, .bank = -4, .bend = 1.5};
 
 constexpr std::array<Box, 2> scoreButtons{{{280, 575, 75, 19}, {365, 575, 75, 19}}};
 
