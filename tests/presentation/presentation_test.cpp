@@ -226,7 +226,7 @@ protected:
     PressReleaseTest() = default;
     explicit PressReleaseTest(Size size) : PresentationTest(size) {}
 
-    FontSet fonts{PROGRAM_FOLDER "/fonts", [](std::string_view, MessageIcon) {}};
+    FontSet fonts{PROGRAM_FOLDER "/fonts"};
 
     void show(const PressRelease& text) {
         start = desktop.now();

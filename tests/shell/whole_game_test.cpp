@@ -136,7 +136,7 @@ TEST(WholeGame, WithItsPilotsHeardIsWhatTheSimulationAlonePlaysWhenItHearsThem) 
              {.orders = {}, .until = 36000_s, .steering = automaticSteering(alone), .hearsPilots = true});
     Machine machine;
     GameStage stage(1024, "[Options]\nAirportSelect=1\n[Game]\nName=mary\nSkill=0\n", PROGRAM_FOLDER,
-                    &machine.sounds);
+                    FirstScene::console, &machine.sounds);
     machine.stage = &stage;
     Replay replay(stage, recorded);
     stage.startNewGame(seed);
