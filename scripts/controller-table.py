@@ -4,7 +4,7 @@
     scripts/controller-table.py [PROGRAM-FOLDER [SHIFTS]]
 
 Shares of the possible score in per cent, on average over SHIFTS shifts (50), seeds 1 and up.  The last column
-is that of a hurried player, who looks one minute ahead, in Hard shifts; the table is sorted by it.
+is that of a hurried player, who looks one minute ahead, in six times as many Hard shifts; the table is sorted by it.
 """
 import json
 import pathlib
@@ -19,7 +19,7 @@ shifts = int(sys.argv[2]) if len(sys.argv) > 2 else 50
 collisions = 0
 
 
-def share(airspace, skill, *options):
+def share(airspace, skill, shifts, *options):
     global collisions
     total = 0
     for seed in range(1, shifts + 1):
@@ -34,7 +34,7 @@ def share(airspace, skill, *options):
 rows = []
 for airspace in sorted(folder.glob("apt/*8.apt")):
     name = airspace.stem[:-1].replace("_", " ").title()
-    rows.append([name, *(share(airspace, skill) for skill in range(len(SKILLS))), share(airspace, 3, *HURRIED)])
+    rows.append([name, *(share(airspace, skill, shifts) for skill in range(len(SKILLS))), share(airspace, 3, 6 * shifts, *HURRIED)])
 print("| Airspace |", " | ".join(SKILLS), "| Hard, hurried |")
 print("|---|" + "---:|" * (len(SKILLS) + 1))
 for row in sorted(rows, key=lambda row: -row[-1]):
