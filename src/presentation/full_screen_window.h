@@ -10,6 +10,12 @@
 
 namespace ventrel {
 
+/// Around what is presented.
+inline constexpr Colour screenBlack = Colour::rgb(0, 0, 0);
+
+/// The timer of a window that cannot be closed at once.
+inline constexpr int lockTimer = 1;
+
 struct FullScreenSetup {
     bool alwaysOnTop = true;
     std::optional<Colour> background = {};

@@ -1,5 +1,6 @@
 #include "presentation/movie.h"
 
+#include <cassert>
 #include <memory>
 
 #include "presentation/framed_picture.h"
@@ -10,10 +11,8 @@ namespace ventrel {
 namespace {
 
 constexpr int filmLeft = 280; // within the frame, at its top
-constexpr Colour black = Colour::rgb(0, 0, 0);
 
-constexpr int lockTimer = 1;
-constexpr Millis lockedFor = 5000;
+constexpr Millis movieLockedFor = 5000;
 constexpr int filmTimer = 2;
 constexpr Millis filmTick = 10; // finer than any frame is long
 
@@ -51,7 +50,7 @@ void Showing::beginFilm() {
     film = parts.desktop.create({.parent = window,
                                  .bounds = Rect::at(place, parts.movie->size),
                                  .enabled = false, // a press on it is one on the window
-                                 .background = black,
+                                 .background = screenBlack,
                                  .handlers = std::move(handlers)});
     begun = parts.desktop.now();
     window.startTimer(filmTimer, filmTick);
@@ -61,6 +60,7 @@ void Showing::beginFilm() {
 
 /// Frames that are late are passed over; one that cannot be decoded leaves the picture before it.
 void Showing::showDueFrame() {
+    assert(parts.movie); // the film's timer runs with a film alone
     const MovieFile& movie = *parts.movie;
     const auto played = std::chrono::microseconds(std::chrono::milliseconds(parts.desktop.now() - begun));
     const auto due = static_cast<std::size_t>(played / movie.frameTime);
@@ -105,14 +105,14 @@ void Showing::end() const {
 void MovieStart(MovieParts parts) {
     const auto showing = std::make_shared<Showing>(Showing{std::move(parts)});
     showing->window = createFullScreenWindow(showing->parts.desktop,
-                                             {.background = black,
+                                             {.background = screenBlack,
                                               .paint = [showing](Canvas& canvas) { showing->paint(canvas); },
                                               .timer = [showing](int timer) { showing->onTimer(timer); },
                                               .dismiss = [showing](const auto&) { showing->dismiss(); },
                                               .destroyed = [showing] { showing->end(); }});
     showing->window.capture();
     hidePointer(showing->parts.desktop);
-    showing->window.startTimer(lockTimer, lockedFor);
+    showing->window.startTimer(lockTimer, movieLockedFor);
     showing->beginFilm();
 }
 

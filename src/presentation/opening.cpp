@@ -11,8 +11,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr Colour black = Colour::rgb(0, 0, 0);
-
 /// How long the curtain hangs still: the wider the screen, the shorter, for the way down is longer.
 struct Hold {
     int leastWidth;
@@ -44,7 +42,7 @@ public:
         : desktop_(desktop), sounds_(sounds), pictures_(std::move(pictures)) {
         title_ =
             createFullScreenWindow(desktop, {.alwaysOnTop = false,
-                                             .background = black,
+                                             .background = screenBlack,
                                              .paint = [this](Canvas& canvas) { paintTitle(canvas); },
                                              .dismiss = [this](const auto& key) { dismiss(title_, key); },
                                              .destroyed = [this] { sounds_.stopMusic(); }});
@@ -134,7 +132,7 @@ private:
         if (curtain_.size().height >= blackBelow && !pictures_.curtain.isEmpty()) {
             canvas.draw({0, 0}, pictures_.curtain);
         } else {
-            canvas.fill(curtain_.area(), black);
+            canvas.fill(curtain_.area(), screenBlack);
         }
     }
 

@@ -11,7 +11,7 @@ namespace ventrel {
 namespace {
 
 constexpr Size pageSize{450, 580};
-constexpr Colour black = Colour::rgb(0, 0, 0);
+constexpr Colour ink = Colour::rgb(0, 0, 0);
 constexpr Colour white = Colour::rgb(255, 255, 255);
 constexpr Colour shadow = Colour::rgb(128, 128, 128);
 constexpr int shadowWidth = 2;
@@ -23,8 +23,7 @@ constexpr int rightMargin = 50;
 constexpr FontRequest typewriter{Face::courierNew, -12, false};
 constexpr TextLayout wrapped{.wrap = true};
 
-constexpr int lockTimer = 1;
-constexpr Millis lockedFor = 1000;
+constexpr Millis pageLockedFor = 1000;
 
 /// One open page; lives as long as its window.
 struct Page {
@@ -61,7 +60,7 @@ void Page::paint(Canvas& canvas) const {
     Rect box{sheet.left + leftMargin, letterhead.y + letterheadSize.height + textBelowLetterhead,
              sheet.right - rightMargin, sheet.bottom};
     const auto paragraph = [&](const std::string& text, int linesAfter) {
-        const int height = drawTextBox(canvas, font, box, text, {black, white}, wrapped);
+        const int height = drawTextBox(canvas, font, box, text, {ink, white}, wrapped);
         box.top += height + linesAfter * font.lineHeight();
     };
     paragraph(parts.text.heading, 2);
@@ -74,7 +73,7 @@ void Page::paint(Canvas& canvas) const {
 void showPressRelease(PressReleaseParts parts) {
     const auto page = std::make_shared<Page>(Page{std::move(parts)});
     page->window =
-        createFullScreenWindow(page->parts.desktop, {.background = black,
+        createFullScreenWindow(page->parts.desktop, {.background = screenBlack,
                                                      .paint = [page](Canvas& canvas) { page->paint(canvas); },
                                                      .timer =
                                                          [page](int timer) {
@@ -85,7 +84,7 @@ void showPressRelease(PressReleaseParts parts) {
                                                      .destroyed = [page] { page->parts.closed(); }});
     page->window.capture();
     page->parts.desktop.setCursor(StandardCursor::arrow);
-    page->window.startTimer(lockTimer, lockedFor);
+    page->window.startTimer(lockTimer, pageLockedFor);
 }
 
 } // namespace ventrel

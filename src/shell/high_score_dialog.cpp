@@ -15,7 +15,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr std::string_view pictureName = "grf\\hiscore.grf";
+constexpr std::string_view tableName = "grf\\hiscore.grf";
 constexpr Size pictureSize{689, 600};
 constexpr Size buttonSize{75, 19};
 constexpr Point deletePlace{280, 575}; // in the picture
@@ -129,7 +129,7 @@ void Showing::onCommand(Dialog& dialog, int id) {
 }
 
 void runTable(Shell& shell, std::optional<int> row) {
-    auto picture = loadPictureOfSize(shell.programFolder, pictureName, pictureSize, ImageFormat::jpeg);
+    auto picture = loadPictureOfSize(shell.programFolder, tableName, pictureSize, ImageFormat::jpeg);
     if (!picture) {
         return;
     }
