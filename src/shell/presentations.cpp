@@ -23,7 +23,7 @@ constexpr std::string_view titleMusic = "mci\\fade.mci";
 constexpr std::array openingFiles{titleName, scrollSound, titleMusic};
 
 constexpr std::string_view letterheadName = "grf\\letterhead.grf";
-constexpr std::string_view movieFrameName = "grf\\award.grf";
+constexpr std::string_view movieFrameName = "grf\\movie_frame.grf";
 constexpr std::string_view movieName = "grf\\main.avi";
 constexpr std::string_view movieSound = "grf\\main.snd";
 constexpr std::size_t movieLimit = std::size_t{64} << 20;

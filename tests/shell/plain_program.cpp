@@ -78,7 +78,7 @@ void makePlainProgram(const fs::path& folder) {
     write("splash", plain({799, 577}, titleColour));
     write("curtain8", plain({800, 600}, curtainColour));
     write("curtain10", plain({1024, 768}, curtainColour));
-    write("award", plain({600, 240}, consoleColour));
+    write("movie_frame", plain({600, 240}, consoleColour));
     write("about", plain({400, 220}, consoleColour));
     ASSERT_TRUE(writeJpeg(folder / "grf/hiscore.grf", plain({689, 600}, tableColour), jpegQuality));
 }
