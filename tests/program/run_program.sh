@@ -151,6 +151,17 @@ unreadable() {
     [ "$(stat -c %s "$options")" -eq 1048577 ] || fail "a file too large to be read was written over"
 }
 
+# It says so in a box, which waits, and nothing else: no library complains on the standard error.
+no_sound() {
+    export SDL_AUDIODRIVER=none
+    start
+    sleep 1
+    kill -0 "$started" || fail "ended without sound"
+    stop TERM
+    [ ! -s "$work/complaints" ] || fail "complained"
+    has_line Music=1
+}
+
 second_copy() {
     start
     local runtime

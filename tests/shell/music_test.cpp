@@ -85,6 +85,26 @@ TEST_F(MusicTest, EndsWithTheShift) {
     stage.play();
 }
 
+TEST_F(MusicTest, ASoundThatCannotBeReadIsToldOnceItsSequenceHasEnded) {
+    QuietShift shift(stage);
+    shift.enter(FlightIndex{0}, {.cell = {24, 24}, .altitude = 5, .heading = 90});
+    stage.skipTo(QuietShift::entryTime);
+    stage.look([this] { stage.sounds.unreadable = "select"; });
+    stage.selectByStrip(FlightIndex{0});
+    stage.look([this] {
+        EXPECT_EQ(stage.backend.beeps(), std::vector{MessageIcon::stop});
+        EXPECT_TRUE(stage.isDialogOpen());
+        EXPECT_TRUE(stage.game().flight(FlightIndex{0}).selected) << "the flight is chosen all the same";
+        EXPECT_TRUE(stage.shell().paused);
+    });
+    press(Key::enter);
+    stage.look([this] {
+        EXPECT_FALSE(stage.isDialogOpen());
+        EXPECT_FALSE(stage.shell().paused);
+    });
+    stage.play();
+}
+
 TEST(Leftovers, AGameLeavesTheConsoleAsItFoundIt) {
     for (const int width : {800, 1024}) {
         GameStage stage(width, "[Game]\nName=mary\nSkill=3\n");
