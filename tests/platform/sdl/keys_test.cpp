@@ -38,6 +38,12 @@ TEST(SdlKeys, HaveAPlaceThatIsFoundAgain) {
     EXPECT_EQ(placeOf(SDL_SCANCODE_KP_0), Key::keypad0);
 }
 
+TEST(SdlKeys, ModifiersAreToldApart) {
+    EXPECT_EQ(modifiersOf(KMOD_LSHIFT), (Modifiers{true, false, false}));
+    EXPECT_EQ(modifiersOf(KMOD_RCTRL), (Modifiers{false, true, false}));
+    EXPECT_EQ(modifiersOf(KMOD_LALT), (Modifiers{false, false, true}));
+}
+
 TEST(SdlKeys, TheKeypadTypesDigitsAlsoWithoutNumLock) {
     SDL_Event event{};
     event.type = SDL_KEYDOWN;

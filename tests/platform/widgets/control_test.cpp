@@ -152,10 +152,16 @@ TEST(EditText, ErasesAndWalksByWords) {
     EXPECT_EQ(line.caret, line.text.size());
 }
 
-TEST(CheckBox, FlipsWhereItIsReleased) {
+TEST(CheckBox, FlipsWhereItIsReleasedByTheLeftButtonAsAButtonIsPressed) {
     WidgetStage stage;
     const Toggle box = createToggle(
         stage.desktop, {stage.main, 7, {20, 20, 120, 36}, ToggleKind::checkBox, "Clouds", &stage.fonts.text});
+    createButton(stage.desktop, {.parent = stage.main,
+                                 .id = 8,
+                                 .bounds = {20, 50, 120, 70},
+                                 .text = "Ask",
+                                 .font = &stage.fonts.text});
+    stage.script.click({30, 60}, MouseButton::right);
     stage.script.click({30, 28}).drag({30, 28}, {30, 90}).click({30, 28}, MouseButton::right);
     stage.play();
     EXPECT_TRUE(box.isChecked());
