@@ -1,5 +1,7 @@
 // The opening, the movie and the press release: what is seen and heard when, and every way of closing them.
 
+#include <malloc.h>
+
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -110,6 +112,17 @@ TEST_F(OpeningTest, WithoutMusicTheTitleStaysTwoSeconds) {
     musicLength = 0;
     play();
     EXPECT_NEAR(static_cast<double>(last().second), 12000 + 2000, 100);
+}
+
+TEST_F(OpeningTest, TenTakeNoMoreMemoryThanOne) {
+    constexpr std::size_t slack = 16 * 1024;
+    soundLength = 9500;
+    play();
+    const std::size_t afterOne = ::mallinfo2().uordblks + ::mallinfo2().hblkhd;
+    for (int i = 1; i < 10; ++i) {
+        play();
+    }
+    EXPECT_LE(::mallinfo2().uordblks + ::mallinfo2().hblkhd, afterOne + slack);
 }
 
 TEST_F(OpeningTest, WithoutItsSoundItIsOverAtOnce) {
