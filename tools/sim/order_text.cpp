@@ -32,20 +32,22 @@ enum Field {
 
 using OrderFields = std::array<int, fieldCount>;
 
-/// What a field may hold: from lowest to highest in steps of `unit`.
+/// What a field may hold: from lowest to highest in steps of `unit`. Altitude and heading are left to the
+/// judge of orders; for them this is what a fault says.
 struct FieldRule {
     std::string_view name;
     int lowest;
     int highest;
     int unit;
+    bool isJudged = false;
 };
 
 std::array<FieldRule, fieldCount> fieldRules(const Game& game) {
     return {{
         {"clock", 0, std::numeric_limits<int>::max(), stepInterval.count()},
         {"flight", 0, game.planeCount() - 1, 1},
-        {"altitude", approachAltitude, exitAltitude, 1},
-        {"heading", 0, fullCircle - headingStep, headingStep},
+        {"altitude", approachAltitude, exitAltitude, 1, true},
+        {"heading", 0, fullCircle - headingStep, headingStep, true},
         {"speed", static_cast<int>(Speed::slow), static_cast<int>(Speed::fast), 1},
         {"directTarget", -1, game.vorCount(), 1},
         {"hold", 0, 1, 1},
@@ -77,38 +79,21 @@ std::string describe(const FieldRule& rule) {
     return text;
 }
 
+bool allows(const FieldRule& rule, int value) {
+    return rule.isJudged || (value >= rule.lowest && value <= rule.highest && value % rule.unit == 0);
+}
+
 std::optional<int> readField(std::string_view word, const FieldRule& rule) {
     int value = 0;
     const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
-    if (error != std::errc{} || end != word.data() + word.size() || value < rule.lowest ||
-        value > rule.highest || value % rule.unit != 0) {
+    if (error != std::errc{} || end != word.data() + word.size() || !allows(rule, value)) {
         return std::nullopt;
     }
     return value;
 }
 
-/// The fields from `first` on; those before it are 0.
-std::variant<OrderFields, std::string> readFields(const std::vector<std::string_view>& words,
-                                                  const Game& game, std::size_t first) {
-    if (words.size() != fieldCount - first) {
-        return "an order has " + std::to_string(fieldCount - first) + " fields, not " +
-               std::to_string(words.size());
-    }
-    const auto rules = fieldRules(game);
-    OrderFields fields{};
-    for (std::size_t i = first; i < fields.size(); ++i) {
-        const std::string_view word = words[i - first];
-        const auto value = readField(word, rules[i]);
-        if (!value) {
-            return describe(rules[i]) + ", not '" + fromUtf8(word.substr(0, mostShown)) + "'";
-        }
-        fields[i] = *value;
-    }
-    if (fields[targetField] == game.vorCount() && fields[holdField] == 0) {
-        return "there is no map point " + std::to_string(fields[targetField]) +
-               "; this number stands for a hold and needs hold 1";
-    }
-    return fields;
+std::string faultOf(const FieldRule& rule, std::string_view word) {
+    return describe(rule) + ", not '" + fromUtf8(word.substr(0, mostShown)) + "'";
 }
 
 ScriptedOrder toOrder(const OrderFields& fields, int pointCount) {
@@ -119,6 +104,43 @@ ScriptedOrder toOrder(const OrderFields& fields, int pointCount) {
              .directTarget = directTargetOf(fields[targetField], pointCount),
              .speed = static_cast<Speed>(fields[speedField]),
              .hold = fields[holdField] != 0}};
+}
+
+/// What the judge of orders has against the numbers; the words are the fields from `first` on.
+std::optional<std::string> judgedFault(const Game& game, const ScriptedOrder& order,
+                                       const std::vector<std::string_view>& words, std::size_t first) {
+    const auto rules = fieldRules(game);
+    switch (judgeNumbers(game, game.flight(order.flight), order.order)) {
+    case OrderVerdict::altitudeOutOfRange: return faultOf(rules[altitudeField], words[altitudeField - first]);
+    case OrderVerdict::headingOutOfRange: return faultOf(rules[headingField], words[headingField - first]);
+    case OrderVerdict::unknownTarget:
+        return "there is no map point " + std::string{words[targetField - first]} +
+               "; this number stands for a hold and needs hold 1";
+    default: return std::nullopt;
+    }
+}
+
+/// The fields from `first` on; the clock of an order without one is 0.
+std::variant<ScriptedOrder, std::string> readOrder(const std::vector<std::string_view>& words,
+                                                   const Game& game, std::size_t first) {
+    if (words.size() != fieldCount - first) {
+        return "an order has " + std::to_string(fieldCount - first) + " fields, not " +
+               std::to_string(words.size());
+    }
+    const auto rules = fieldRules(game);
+    OrderFields fields{};
+    for (std::size_t i = first; i < fields.size(); ++i) {
+        const auto value = readField(words[i - first], rules[i]);
+        if (!value) {
+            return faultOf(rules[i], words[i - first]);
+        }
+        fields[i] = *value;
+    }
+    const ScriptedOrder order = toOrder(fields, game.vorCount());
+    if (const auto fault = judgedFault(game, order, words, first)) {
+        return *fault;
+    }
+    return order;
 }
 
 /// The whole text, also out of a pipe.
@@ -147,11 +169,11 @@ std::variant<std::optional<ScriptedOrder>, std::string> readOrderLine(std::strin
     if (words.empty()) {
         return std::nullopt;
     }
-    const auto fields = readFields(words, game, flightField);
-    if (const auto* const fault = std::get_if<std::string>(&fields)) {
+    auto read = readOrder(words, game, flightField);
+    if (const auto* const fault = std::get_if<std::string>(&read)) {
         return *fault;
     }
-    ScriptedOrder order = toOrder(std::get<OrderFields>(fields), game.vorCount());
+    auto& order = std::get<ScriptedOrder>(read);
     order.clock = game.clock;
     return order;
 }
@@ -170,11 +192,11 @@ std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::f
         if (words.empty()) {
             continue;
         }
-        const auto fields = readFields(words, game, clockField);
-        if (const auto* const fault = std::get_if<std::string>(&fields)) {
+        const auto read = readOrder(words, game, clockField);
+        if (const auto* const fault = std::get_if<std::string>(&read)) {
             return pathText(file) + ":" + std::to_string(number) + ": " + *fault;
         }
-        orders.push_back(toOrder(std::get<OrderFields>(fields), game.vorCount()));
+        orders.push_back(std::get<ScriptedOrder>(read));
     }
     std::stable_sort(orders.begin(), orders.end(),
                      [](const ScriptedOrder& a, const ScriptedOrder& b) { return a.clock < b.clock; });
