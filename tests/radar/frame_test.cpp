@@ -141,9 +141,11 @@ TEST(FrameTest, ARouteGoesFromTheAircraftToItsLastQueuedStep) {
 
 TEST(BlinkTest, ANewFlightShowsOnEvenSecondsUntilItsFifteenth) {
     RadarStage stage;
-    stage.flyAt({20, 20}, 90).activatedAt = 304_s;
+    Flight& fresh = stage.flyAt({20, 20}, 90);
+    fresh.activatedAt = 304_s;
+    fresh.callsign = std::string_view{"NW888H"};
     stage.flyAt({30, 20}, 90).activatedAt = 200_s;
-    const Rect box = blinkBox({220, 220});
+    constexpr Rect box{220 - 8, 220 - 16, 220 + 32, 220 + 16};
     stage.clock = 303_s;
     stage.frame();
     const int shown = stage.count(flightGreen, box);

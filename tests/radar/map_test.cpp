@@ -75,11 +75,12 @@ TEST_F(MapTest, TheOptionsDecideOnPictureAndGrid) {
     const auto map = [&](Point p) { return toColour(stage.radar.map->at(p.x, p.y)); };
     const Point inside{270, 271};
     EXPECT_EQ(map(inside), frameColour) << "the glass, for an airport without a picture";
-    Bitmap picture({539, 539});
+    Bitmap picture({539, 300});
     Canvas(picture).fill(picture.bounds(), pictureGreen);
     stage.radar.airportImage = std::move(picture);
     stage.buildMap();
     EXPECT_EQ(map(inside), pictureGreen);
+    EXPECT_EQ(map({270, 400}), black) << "below a picture that ends before the scope does";
     stage.options.mapDetails = 0;
     stage.options.showGrid = 1;
     stage.buildMap();
