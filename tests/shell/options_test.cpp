@@ -131,7 +131,8 @@ TEST(OptionMenus, VolumesGoByStepsFromTheMenuAndByKeys) {
     expectVolumes(2, 3);
     stage.look([&stage] {
         EXPECT_EQ(stage.sounds.count("click"), 1) << "a sample of the new loudness";
-        const MenuItem* music = itemNamed(optionsMenu(stage.shell()), "Music Vo&lume\tF5 F6");
+        const auto menu = optionsMenu(stage.shell());
+        const MenuItem* music = itemNamed(menu, "Music Vo&lume\tF5 F6");
         ASSERT_NE(music, nullptr);
         EXPECT_TRUE(music->items[1].checked);
         EXPECT_FALSE(music->items[2].checked);
