@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "base/bytes.h"
 #include "base/format.h"
 #include "base/whole_file.h"
 #include "base/windows1252.h"
@@ -18,7 +19,8 @@ namespace layout {
 constexpr std::size_t recordSize = 104;
 constexpr std::size_t nameSize = 32; // from offset 0
 constexpr std::size_t scoreOffset = 32;
-constexpr std::size_t airportOffset = 34;
+constexpr std::size_t scoreSize = 2;
+constexpr std::size_t airportOffset = scoreOffset + scoreSize;
 constexpr std::size_t airportSize = recordSize - airportOffset;
 } // namespace layout
 
@@ -48,8 +50,7 @@ void putText(Record& record, std::size_t offset, std::size_t size, std::string_v
 }
 
 int scoreOf(const Record& record) {
-    return std::to_integer<int>(record[layout::scoreOffset]) |
-           std::to_integer<int>(record[layout::scoreOffset + 1]) << 8;
+    return static_cast<int>(numberAt(record, layout::scoreOffset, layout::scoreSize));
 }
 
 HighScoreEntry entryOf(const Record& record) {

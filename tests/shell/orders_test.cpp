@@ -1,79 +1,15 @@
-// Choosing flights and sending them orders, in every way that the console has.
+// Sending orders, in every way that the console has.
 
 #include <algorithm>
 
 #include "resources/menus.h"
 #include "shell/popup_menus.h"
-#include "shell/quiet_shift.h"
-#include "shell/selection.h"
+#include "shell/three_flights.h"
 
 namespace ventrel {
 namespace {
 
-class OrdersTest : public ::testing::Test {
-protected:
-    GameStage stage;
-
-    /// Three flights well apart, in the air at 60.
-    void begin() {
-        QuietShift shift(stage);
-        shift.enter(FlightIndex{0}, {.cell = {10, 20}, .altitude = 5, .heading = 90});
-        shift.enter(FlightIndex{1}, {.cell = {30, 12}, .altitude = 7, .heading = 180});
-        shift.enter(FlightIndex{2}, {.cell = {20, 35}, .altitude = 9, .heading = 0});
-        stage.skipTo(QuietShift::entryTime);
-    }
-
-    void expectSelected(FlightIndex flight, const char* how) {
-        stage.look([this, flight, how] {
-            for (const FlightIndex i : stage.game().flightPlaces()) {
-                EXPECT_EQ(stage.game().flight(i).selected, i == flight)
-                    << "flight " << i.number() << ", " << how;
-            }
-            EXPECT_EQ(stage.shell().panel.state.flight, flight) << how;
-            EXPECT_EQ(stage.shell().pressedStrip, StripsFlightSlot(stage.shell().strips, flight)) << how;
-            EXPECT_TRUE(stage.shell().exec.window.isEnabled()) << how;
-        });
-    }
-
-    void press(Key key, int times = 1) {
-        stage.todo([key, times](Script& script) {
-            for (int i = 0; i < times; ++i) {
-                script.key(key);
-            }
-            script.wait(1);
-        });
-    }
-
-    const Flight& flight(FlightIndex index) { return stage.game().flight(index); }
-};
-
-TEST_F(OrdersTest, RadarStripsAndKeysChooseFlights) {
-    begin();
-    press(Key::up);
-    stage.look([this] {
-        EXPECT_EQ(stage.shell().panel.state.flight, StripsSlotFlight(stage.shell().strips, 0))
-            << "with none chosen the first strip comes first";
-    });
-    stage.look([this] { stage.sounds.heard.clear(); });
-    stage.todo([this](Script& script) { script.click(stage.onFlight(FlightIndex{1})).wait(1); });
-    expectSelected(FlightIndex{1}, "by the radar");
-    stage.todo([this](Script& script) { script.click(stage.onFlight(FlightIndex{1})).wait(1); });
-    stage.look([this] { EXPECT_EQ(stage.sounds.count("select"), 1) << "it was selected already"; });
-    stage.selectByStrip(FlightIndex{2});
-    expectSelected(FlightIndex{2}, "by its strip");
-    stage.todo([this](Script& script) {
-        const int slot = StripsFlightSlot(stage.shell().strips, FlightIndex{0});
-        const int from = stage.shell().pressedStrip;
-        for (int i = from; i != slot; i += slot > from ? 1 : -1) {
-            script.key(slot > from ? Key::down : Key::up);
-        }
-        script.wait(1);
-    });
-    expectSelected(FlightIndex{0}, "by keys");
-    stage.todo([this](Script& script) { script.click(stage.onRadar({40, 40})).wait(1); });
-    expectSelected(FlightIndex{0}, "a click on nothing");
-    stage.play();
-}
+using OrdersTest = ThreeFlights;
 
 TEST_F(OrdersTest, ThePanelSendsEveryKindOfOrder) {
     begin();
@@ -290,117 +226,6 @@ TEST_F(OrdersTest, TheHandPointsAtWhatCanBePressed) {
         ASSERT_TRUE(strip);
         EXPECT_TRUE(strip->contains({0, 0}) && strip->contains({1023, 4}));
         EXPECT_FALSE(strip->contains({4, 4}) || strip->contains({500, 5}));
-    });
-    stage.play();
-}
-
-TEST_F(OrdersTest, UpAndDownScrollWhereTheStripsEnd) {
-    stage.startNewGame();
-    stage.look([this] {
-        for (Flight& flight : stage.game().flights) {
-            flight.scheduledAt = QuietShift::entryTime;
-        }
-    });
-    stage.skipTo(QuietShift::entryTime);
-    const auto expectStrip = [this](int strip, int scrolled, const char* when) {
-        stage.look([this, strip, scrolled, when] {
-            EXPECT_EQ(stage.shell().pressedStrip, strip) << when;
-            EXPECT_EQ(stage.shell().strips.list.scrollOffset, scrolled) << when;
-        });
-    };
-    press(Key::down, 13);
-    expectStrip(13, 0, "at the last strip");
-    press(Key::down, 2);
-    expectStrip(13, 2, "below it");
-    press(Key::up, 14);
-    expectStrip(0, 1, "above the first");
-    press(Key::up, 2);
-    expectStrip(0, 0, "at the top of the list");
-    stage.play();
-}
-
-TEST_F(OrdersTest, TheWheelScrollsTheStripsAndTheButtonFollowsItsFlight) {
-    stage.startNewGame();
-    stage.look([this] {
-        for (Flight& flight : stage.game().flights) {
-            flight.scheduledAt = QuietShift::entryTime;
-        }
-    });
-    stage.skipTo(QuietShift::entryTime);
-    stage.selectByStrip(FlightIndex{20});
-    stage.todo([](Script& script) { script.wheel({900, 300}, 20).wait(1); });
-    stage.look([this] { EXPECT_EQ(stage.shell().pressedStrip, noSlot) << "its strip is out of sight"; });
-    stage.todo([](Script& script) { script.wheel({900, 300}, -20).wait(1); });
-    stage.todo([](Script& script) { script.wheel({900, 300}, 20).wait(1); });
-    stage.todo([](Script& script) { script.moveTo({900, 300}).wheel({900, 300}, -3).wait(1); });
-    stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 3); });
-    stage.todo([](Script& script) { script.wheel({850, 300}, 2).wheel({400, 300}, 1).wait(1); });
-    stage.look([this] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, 1); });
-    const auto offsetAfter = [this](std::initializer_list<Point> clicks, int offset) {
-        for (const Point click : clicks) {
-            stage.todo([click](Script& script) { script.click(click).wait(1); });
-        }
-        stage.look([this, offset] { EXPECT_EQ(stage.shell().strips.list.scrollOffset, offset); });
-    };
-    offsetAfter({{863, 608}, {851, 608}, {857, 613}, {857, 603}}, 1); // beside the lower arrow
-    offsetAfter({{852, 604}, {862, 612}}, 3);
-    offsetAfter({{863, 72}, {851, 72}, {857, 78}, {857, 68}}, 3); // beside the upper one
-    offsetAfter({{852, 69}, {862, 77}}, 1);
-    stage.play();
-}
-
-TEST_F(OrdersTest, TabGoesThroughAllThatCanBeSelectedWhereverTheyStand) {
-    stage.startNewGame();
-    stage.look([this] {
-        for (Flight& flight : stage.game().flights) {
-            flight.scheduledAt = QuietShift::entryTime;
-        }
-        stage.game().flights[0].scheduledAt = 150_s;
-        stage.game().flights[1].inPlay = false;
-        stage.game().flights[2].scheduledAt = 75_s;
-    });
-    stage.skipTo(90_s);
-    auto order = std::make_shared<std::vector<FlightIndex>>();
-    stage.look([this, order] { *order = selectableFlights(stage.game()); });
-    stage.todo([this, order](Script& script) {
-        ASSERT_GT(order->size(), 14U);
-        EXPECT_EQ(order->front(), FlightIndex{2}) << "the latest";
-        EXPECT_EQ(std::ranges::count(*order, FlightIndex{0}), 0) << "it is only announced";
-        EXPECT_EQ(std::ranges::count(*order, FlightIndex{1}), 0) << "it is gone";
-        for (std::size_t i = 0; i < order->size(); ++i) {
-            script.key(Key::tab).wait(1).then([this, order, i] {
-                EXPECT_TRUE(flight((*order)[i]).selected) << i;
-                EXPECT_NE(stage.shell().pressedStrip, noSlot) << i;
-            });
-        }
-    });
-    press(Key::tab);
-    stage.look([this, order] { EXPECT_TRUE(flight(order->front()).selected) << "round"; });
-    stage.todo([](Script& script) { script.key(Key::tab, withShift).wait(1); });
-    stage.look([this, order] { EXPECT_TRUE(flight(order->back()).selected) << "and back"; });
-    stage.todo([](Script& script) { script.key(Key::tab, withShift).wait(1); });
-    stage.look([this, order] { EXPECT_TRUE(flight((*order)[order->size() - 2]).selected); });
-    stage.play();
-}
-
-TEST(Selection, AFlightAboveTheShownStripsIsScrolledTo) {
-    GameStage stage(800, "[Game]\nName=mary\nSkill=3\n");
-    stage.startNewGame();
-    constexpr FlightIndex chosen{16}; // beyond the strips of a console that is scrolled to its top
-    stage.look([&] {
-        for (Flight& flight : stage.game().flights) {
-            flight.scheduledAt = QuietShift::entryTime;
-            flight.plan[0].cell = {20, 20};
-        }
-        stage.game().flight(chosen).plan[0].cell = {35, 35};
-    });
-    stage.skipTo(QuietShift::entryTime);
-    stage.todo([](Script& script) { script.wheel({700, 200}, -40).wait(1); });
-    stage.todo([&](Script& script) { script.click(stage.onFlight(chosen)).wait(1); });
-    stage.look([&] {
-        const int slot = StripsFlightSlot(stage.shell().strips, chosen);
-        EXPECT_NE(slot, noSlot);
-        EXPECT_EQ(stage.shell().pressedStrip, slot);
     });
     stage.play();
 }

@@ -13,16 +13,15 @@
 #include <vector>
 
 #include "console/console_layout.h"
+#include "drawn_picture.h"
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/image.h"
 
 using namespace ventrel;
 
 namespace {
 
 int brightness(const Bitmap& picture, Point at) {
-    const Colour colour = toColour(picture.at(at.x, at.y));
-    return (colour.red() * 3 + colour.green() * 6 + colour.blue()) / 10;
+    return ventrel::brightness(toColour(picture.at(at.x, at.y)));
 }
 
 /// Whole pixels outside a place's border; negative inside.
@@ -212,15 +211,6 @@ struct Console {
 };
 constexpr std::array<Console, 2> consoles{{{smallConsole, "bkgnd8"}, {largeConsole, "bkgnd10"}}};
 
-Bitmap pictureOf(const Console& console) {
-    Image image;
-    Bitmap bitmap;
-    const std::string file = std::string(PROGRAM_FOLDER) + "/grf/" + console.picture + ".grf";
-    EXPECT_EQ(ImageLoadFile(image, file, ImageFormat::png), ImageError::none) << file;
-    EXPECT_EQ(ImageToBitmap(image, bitmap), ImageError::none) << file;
-    return bitmap;
-}
-
 /// The picture with one place, and a little of what is around it, drawn somewhere else.
 Bitmap displaced(const Bitmap& picture, const Rect& area, Point offset) {
     constexpr int around = 9;
@@ -234,7 +224,7 @@ Bitmap displaced(const Bitmap& picture, const Rect& area, Point offset) {
 
 TEST(ArtPlaces, EverythingIsDrawnWhereTheTableSaysItIs) {
     for (const Console& console : consoles) {
-        const Bitmap picture = pictureOf(console);
+        const Bitmap picture = drawnPicture(console.picture);
         for (const Place& place : placesOf(console.places)) {
             EXPECT_TRUE(place.isRight(picture)) << console.picture << ": " << place.name;
         }
@@ -244,7 +234,7 @@ TEST(ArtPlaces, EverythingIsDrawnWhereTheTableSaysItIs) {
 TEST(ArtPlaces, ThreePixelsBesideAreSeen) {
     constexpr std::array<Point, 4> offsets{{{0, 3}, {0, -3}, {3, 0}, {-3, 0}}};
     for (const Console& console : consoles) {
-        const Bitmap picture = pictureOf(console);
+        const Bitmap picture = drawnPicture(console.picture);
         for (const Place& place : placesOf(console.places)) {
             for (const Point offset : offsets) {
                 if (place.isWide && offset.x != 0) {

@@ -10,7 +10,7 @@
 #include "base/format.h"
 #include "console/console_layout.h"
 #include "controls/console_piece.h"
-#include "platform/canvas/image.h"
+#include "drawn_picture.h"
 #include "radar/clouds.h"
 
 using namespace ventrel;
@@ -18,20 +18,6 @@ using namespace ventrel;
 namespace {
 
 constexpr int cloudPictures = 16;
-
-Bitmap picture(const std::string& name) {
-    Image image;
-    Bitmap bitmap;
-    EXPECT_EQ(ImageLoadFile(image, std::string(PROGRAM_FOLDER) + "/grf/" + name + ".grf", ImageFormat::png),
-              ImageError::none)
-        << name;
-    EXPECT_EQ(ImageToBitmap(image, bitmap), ImageError::none) << name;
-    return bitmap;
-}
-
-int brightness(Colour colour) {
-    return (colour.red() * 3 + colour.green() * 6 + colour.blue()) / 10;
-}
 
 int brightness(const Bitmap& bitmap, const Rect& area) {
     int sum = 0;
@@ -79,22 +65,22 @@ bool isKey(const Bitmap& bitmap, int x, int y) {
 } // namespace
 
 TEST(Art, PicturesHaveTheSizesThatTheWindowsExpect) {
-    EXPECT_EQ(picture("bkgnd8").size(), (Size{800, 600}));
-    EXPECT_EQ(picture("bkgnd10").size(), (Size{1024, 768}));
-    EXPECT_EQ(picture("r8frame").size(), (Size{539, 539}));
-    EXPECT_EQ(picture("r10frame").size(), (Size{686, 686}));
-    EXPECT_EQ(picture("strip_button_up").size(), (Size{20, 12}));
-    EXPECT_EQ(picture("strip_button_down").size(), (Size{20, 12}));
-    EXPECT_EQ(picture("about").size(), (Size{480, 320}));
-    EXPECT_EQ(picture("splash").size(), (Size{799, 577}));
-    EXPECT_EQ(picture("movie_frame").size(), (Size{600, 240}));
-    EXPECT_EQ(picture("curtain8").size(), (Size{800, 600}));
-    EXPECT_EQ(picture("curtain10").size(), (Size{1024, 768}));
+    EXPECT_EQ(drawnPicture("bkgnd8").size(), (Size{800, 600}));
+    EXPECT_EQ(drawnPicture("bkgnd10").size(), (Size{1024, 768}));
+    EXPECT_EQ(drawnPicture("r8frame").size(), (Size{539, 539}));
+    EXPECT_EQ(drawnPicture("r10frame").size(), (Size{686, 686}));
+    EXPECT_EQ(drawnPicture("strip_button_up").size(), (Size{20, 12}));
+    EXPECT_EQ(drawnPicture("strip_button_down").size(), (Size{20, 12}));
+    EXPECT_EQ(drawnPicture("about").size(), (Size{480, 320}));
+    EXPECT_EQ(drawnPicture("splash").size(), (Size{799, 577}));
+    EXPECT_EQ(drawnPicture("movie_frame").size(), (Size{600, 240}));
+    EXPECT_EQ(drawnPicture("curtain8").size(), (Size{800, 600}));
+    EXPECT_EQ(drawnPicture("curtain10").size(), (Size{1024, 768}));
 }
 
 TEST(Art, ClearPartsAreExactlyTheKeyAndNothingElseComesNearIt) {
     for (const std::string& name : keyedNames()) {
-        const Bitmap bitmap = picture(name);
+        const Bitmap bitmap = drawnPicture(name);
         int nearKey = 0;
         int drawn = 0;
         int onRim = 0;
@@ -121,7 +107,7 @@ TEST(Art, ClearPartsAreExactlyTheKeyAndNothingElseComesNearIt) {
 TEST(Art, CloudsAreDarkAndHaveNoHolesInside) {
     constexpr int ditherStep = 4; // the clear pixels of a soft edge lie no further apart
     for (int i = 0; i < cloudPictures; ++i) {
-        const Bitmap cloud = picture(cloudName(i));
+        const Bitmap cloud = drawnPicture(cloudName(i));
         std::set<std::pair<int, int>> outside{{0, 0}};
         std::vector<Point> toVisit{{0, 0}};
         while (!toVisit.empty()) {
@@ -154,15 +140,15 @@ TEST(Art, CloudsAreDarkAndHaveNoHolesInside) {
 TEST(Art, EveryCloudHasASizeOfItsOwn) {
     std::set<std::pair<int, int>> sizes;
     for (int i = 0; i < cloudPictures; ++i) {
-        const Size size = picture(cloudName(i)).size();
+        const Size size = drawnPicture(cloudName(i)).size();
         sizes.insert({size.width, size.height});
     }
     EXPECT_EQ(sizes.size(), std::size_t{cloudPictures});
 }
 
 TEST(Art, PointersPointWithTheirTips) {
-    const Bitmap hand = picture("pointer_hand");
-    const Bitmap arrow = picture("pointer_arrow");
+    const Bitmap hand = drawnPicture("pointer_hand");
+    const Bitmap arrow = drawnPicture("pointer_arrow");
     EXPECT_FALSE(isKey(hand, 6, 0));
     EXPECT_TRUE(isKey(hand, 5, 0));
     EXPECT_FALSE(isKey(arrow, 7, 9));
@@ -173,8 +159,8 @@ TEST(Art, PointersPointWithTheirTips) {
 
 TEST(Art, ALitLampIsMuchBrighterThanADarkOneOfItsSize) {
     for (const std::string colour : {"green", "yellow", "red"}) {
-        const Bitmap bright = picture("lamp_" + colour + "_bright");
-        const Bitmap dark = picture("lamp_" + colour + "_dark");
+        const Bitmap bright = drawnPicture("lamp_" + colour + "_bright");
+        const Bitmap dark = drawnPicture("lamp_" + colour + "_dark");
         const Rect lens{8, 8, 20, 20};
         EXPECT_EQ(bright.size(), (Size{28, 28})) << colour;
         EXPECT_EQ(dark.size(), (Size{28, 28})) << colour;
@@ -184,8 +170,8 @@ TEST(Art, ALitLampIsMuchBrighterThanADarkOneOfItsSize) {
 
 TEST(Art, TheRadarFrameContinuesTheConsoleAndItsGlassIsDark) {
     for (const Console& console : consoles) {
-        const Bitmap whole = picture(console.picture);
-        const Bitmap frame = picture(console.frame);
+        const Bitmap whole = drawnPicture(console.picture);
+        const Bitmap frame = drawnPicture(console.frame);
         const Region tube = Region::ellipse(console.radar.scopeEllipse);
         int differing = 0;
         int brightest = 0;
@@ -206,7 +192,7 @@ TEST(Art, TheRadarFrameContinuesTheConsoleAndItsGlassIsDark) {
 
 TEST(Art, WellsUnderTextAreDarkToTheirEdges) {
     for (const Console& console : consoles) {
-        const Bitmap whole = picture(console.picture);
+        const Bitmap whole = drawnPicture(console.picture);
         const Bitmap panel = panelGround(whole);
         const Rect messages{443, 19, 443 + console.messageWidth, 39};
         constexpr int dark = 12;
@@ -220,7 +206,7 @@ TEST(Art, WellsUnderTextAreDarkToTheirEdges) {
 TEST(Art, ThePanelsBarLampsAndNeedleLieOnTheirArtwork) {
     for (const Console& console : consoles) {
         SCOPED_TRACE(console.picture);
-        const Bitmap panel = panelGround(picture(console.picture));
+        const Bitmap panel = panelGround(drawnPicture(console.picture));
         const auto row = [&](int y) { return brightness(panel, {113, y, 150, y + 1}); };
         for (int altitude = 1; altitude <= 10; ++altitude) {
             const int top = 93 - 9 * altitude;

@@ -8,25 +8,11 @@
 #include <string>
 #include <vector>
 
-#include "platform/canvas/image.h"
+#include "drawn_picture.h"
 
 using namespace ventrel;
 
 namespace {
-
-Bitmap picture(const std::string& name, ImageFormat format) {
-    Image image;
-    Bitmap bitmap;
-    EXPECT_EQ(ImageLoadFile(image, std::string(PROGRAM_FOLDER) + "/grf/" + name + ".grf", format),
-              ImageError::none)
-        << name;
-    EXPECT_EQ(ImageToBitmap(image, bitmap), ImageError::none) << name;
-    return bitmap;
-}
-
-int brightness(Colour colour) {
-    return (colour.red() * 3 + colour.green() * 6 + colour.blue()) / 10;
-}
 
 /// Of all pixels of an area, sorted.
 std::vector<int> brightnesses(const Bitmap& bitmap, const Rect& area) {
@@ -53,7 +39,7 @@ constexpr int rows = 10;
 } // namespace
 
 TEST(ArtWriting, EveryRowOfScoresLiesOnPaleEvenPaper) {
-    const Bitmap scores = picture("hiscore", ImageFormat::jpeg);
+    const Bitmap scores = drawnPicture("hiscore", ImageFormat::jpeg);
     ASSERT_EQ(scores.size(), (Size{689, 600}));
     for (int row = 0; row < rows; ++row) {
         const std::vector<int> paper = brightnesses(scores, scoreRow(row));
@@ -66,7 +52,7 @@ TEST(ArtWriting, EveryRowOfScoresLiesOnPaleEvenPaper) {
 }
 
 TEST(ArtWriting, TheButtonsOfTheScoresHaveWellsOfTheirSize) {
-    const Bitmap scores = picture("hiscore", ImageFormat::jpeg);
+    const Bitmap scores = drawnPicture("hiscore", ImageFormat::jpeg);
     for (const Rect button : {Rect{280, 575, 355, 594}, Rect{365, 575, 440, 594}}) {
         EXPECT_LT(brightnesses(scores, button).back(), 60) << button.left;
         const Rect above{button.left, button.top - 8, button.right, button.top - 4};
@@ -75,7 +61,7 @@ TEST(ArtWriting, TheButtonsOfTheScoresHaveWellsOfTheirSize) {
 }
 
 TEST(ArtWriting, TheLetterheadGoesOverIntoThePage) {
-    const Bitmap head = picture("letterhead", ImageFormat::png);
+    const Bitmap head = drawnPicture("letterhead", ImageFormat::png);
     ASSERT_EQ(head.size(), (Size{250, 100}));
     for (const Rect edge :
          {Rect{0, 0, 250, 2}, Rect{0, 98, 250, 100}, Rect{0, 0, 2, 100}, Rect{248, 0, 250, 100}}) {
@@ -85,14 +71,14 @@ TEST(ArtWriting, TheLetterheadGoesOverIntoThePage) {
 }
 
 TEST(ArtWriting, TheButtonAndVersionOfTheAboutPictureHaveAPlainShelf) {
-    const Bitmap about = picture("about", ImageFormat::png);
+    const Bitmap about = drawnPicture("about", ImageFormat::png);
     const std::vector<int> shelf = brightnesses(about, {0, 258, 480, 320});
     EXPECT_EQ(shelf.front(), shelf.back());
 }
 
 TEST(ArtWriting, TheCurtainsTravellingEdgeIsABrightRailOverDarkSlats) {
     for (const char* name : {"curtain8", "curtain10"}) {
-        const Bitmap curtain = picture(name, ImageFormat::png);
+        const Bitmap curtain = drawnPicture(name, ImageFormat::png);
         const int width = curtain.width();
         const int rail = median(brightnesses(curtain, {40, 4, width - 40, 24}));
         EXPECT_GT(rail, 90) << name;
