@@ -46,6 +46,7 @@ void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setu
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
     shell.game = Game{airspace, shiftSetup(shell, setup, sizes), shell.game.random};
     shell.game.lastStepTime = lastStepTime;
+    shell.shiftKind = setup.kind;
     RadarDecodePicture(shell.radar);
     RadarBuildMap(shell.radar, shell.pictures.radarFrame);
     ClockReset(shell.topBar);
@@ -153,8 +154,10 @@ void onGameOver(Shell& shell) {
     }
     if (const auto row = enterFinishedScore(shell)) {
         celebrate(shell, *row);
-    } else {
+    } else if (shell.shiftKind == ShiftKind::scored) {
         ShowHighScores(shell);
+    } else {
+        shell.sounds.playMusic(idleMusic, false);
     }
 }
 
@@ -162,6 +165,9 @@ std::optional<int> enterFinishedScore(Shell& shell) {
     ScrollerSetPostGameOver(shell.scroller, false);
     shell.mainWindow.releaseCapture();
     EndGame(shell);
+    if (shell.shiftKind == ShiftKind::practice) {
+        return std::nullopt;
+    }
     const auto place = InsertHighScore(shell.highScorePath, finishedEntry(shell.game));
     if (!place) {
         shell.report(place.error());

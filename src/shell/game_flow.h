@@ -31,11 +31,12 @@ void endShift(Shell& shell, ShiftResult result);
 bool isShiftEnding(const Shell& shell);
 
 /// The game-over line has scrolled away: the score is entered, celebrated when it has a place in the table,
-/// and the table shown. Nothing when no shift is ending.
+/// and the table shown; of a practice shift neither. Nothing when no shift is ending.
 void onGameOver(Shell& shell);
 
 /// Nobody waits for the game-over line any more: its game is ended and its score entered. The row at which
-/// that stands now; none without a place in the table, of which no trouble goes untold.
+/// that stands now; none without a place in the table, of which no trouble goes untold, and none for a
+/// practice shift.
 std::optional<int> enterFinishedScore(Shell& shell);
 
 /// The score so far, for the ticker.

@@ -9,7 +9,14 @@
 
 namespace ventrel {
 
+/// What a shift is played for.
+enum class ShiftKind {
+    scored,   ///< its score may enter the table
+    practice, ///< whatever its score, no table hears of it
+};
+
 struct GameSetup {
+    ShiftKind kind = ShiftKind::scored;
     Skill skill = Skill::normal;
     std::string controllerName; ///< at most 30 characters
     std::string airportName;

@@ -51,7 +51,8 @@ Shell::Shell(ShellParts parts)
             .sources = {game, options, fonts, pictures.hand},
             .callbacks = radarCallbacks(*this),
             .layout = radarLayoutFor(windowSize().width)},
-      events(*this) {
+      player(*this) {
+    events.add(player);
     game.random = parts.random;
     game.lastStepTime = 0_s; // of the first game alone: its clock does not stand still at 0
     scroller.gameOverShown = [this] { mainWindow.post([this] { onGameOver(*this); }); };

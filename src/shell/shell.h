@@ -22,9 +22,11 @@
 #include "platform/widgets/button.h"
 #include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
+#include "shell/game_setup.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
 #include "shell/simulation_player.h"
+#include "sim/event_relay.h"
 #include "sim/game.h"
 
 namespace ventrel {
@@ -66,7 +68,8 @@ struct Shell {
 
     /// Also while none is played: its generator is the only one, handed on from game to game.
     Game game;
-    bool paused = false; ///< only means something while a game runs
+    bool paused = false;                     ///< only means something while a game runs
+    ShiftKind shiftKind = ShiftKind::scored; ///< of the game, or of the last one
 
     Window mainWindow;
     Button exec;
@@ -78,7 +81,8 @@ struct Shell {
     Strips strips;
     ControlPanel panel;
     RadarWindow radar;
-    SimulationPlayer events;
+    SimulationPlayer player;
+    EventRelay events; ///< what the simulation speaks to: the player first, then whoever listens, too
 
     Size windowSize() const { return pictures.console.size(); }
     /// Where everything stands in it.

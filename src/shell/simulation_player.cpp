@@ -25,7 +25,7 @@ void SimulationPlayer::lampChanged(LampLevel lit) {
     }
 }
 
-void SimulationPlayer::orderSent(FlightIndex) {
+void SimulationPlayer::orderSent(FlightIndex, const PanelOrder&) {
     CtrlResetTouch(shell_.panel);
     shell_.sounds.clickSet();
 }

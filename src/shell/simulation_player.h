@@ -15,7 +15,7 @@ public:
     void reported(const Report& report) override;
     void pilotSpoke(const RadioCall& call) override;
     void lampChanged(LampLevel lit) override;
-    void orderSent(FlightIndex flight) override;
+    void orderSent(FlightIndex flight, const PanelOrder& order) override;
     void panelChanged() override;
     void stripsChanged() override;
     void flightActivated(FlightIndex flight) override;

@@ -244,6 +244,7 @@ bool SimulationStep(Game& game, SimulationEvents& events) {
         return game.isRunning();
     }
     game.lastStepTime = game.clock;
+    events.stepBegun();
     if (const auto result = updateFlights(game, events)) {
         game.phase = *result == ShiftResult::collision ? Phase::rings : Phase::lastLine;
         events.shiftEnded(*result);

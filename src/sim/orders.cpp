@@ -124,7 +124,7 @@ OrderResult executeOrder(Game& game, FlightIndex index, const PanelOrder& order,
     if (isUnheard(judgeOrder(game, index, order))) {
         return OrderResult::acknowledged;
     }
-    events.orderSent(index);
+    events.orderSent(index, order);
     charge(game, index, events);
     Flight& flight = game.flight(index);
     switch (flight.groundState) {

@@ -11,6 +11,7 @@
 #include <optional>
 
 #include "sim/lamp_level.h"
+#include "sim/plan.h"
 #include "sim/table_index.h"
 
 namespace ventrel {
@@ -100,13 +101,16 @@ public:
     SimulationEvents& operator=(const SimulationEvents&) = delete;
     virtual ~SimulationEvents() = default;
 
+    /// A step acts at the game's clock; what it brings is told after this.
+    virtual void stepBegun() {}
     virtual void reported(const Report& /*report*/) {}
     virtual void pilotSpoke(const RadioCall& /*call*/) {}
     /// Another lamp is lit, or none. The lamp's alarm is to be sounded (see alarmSound).
     virtual void lampChanged(LampLevel /*lit*/) {}
     virtual void scoreChanged(const ScoreChange& /*change*/) {}
-    /// An order was sent: its click is to be heard, and the player counts as active.
-    virtual void orderSent(FlightIndex /*flight*/) {}
+    /// An order was sent, and has not been charged yet: its click is to be heard, and the player counts as
+    /// active.
+    virtual void orderSent(FlightIndex /*flight*/, const PanelOrder& /*order*/) {}
     /// The flight on the control panel has changed.
     virtual void panelChanged() {}
     /// The list of flight strips has changed.

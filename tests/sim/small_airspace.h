@@ -71,7 +71,9 @@ private:
         lines.push_back("score " + number(change.delta) + " = " + number(change.score));
     }
     void lampChanged(LampLevel lit) override { lines.push_back("lamp " + number(lit)); }
-    void orderSent(FlightIndex flight) override { lines.push_back("sent " + number(flight.number())); }
+    void orderSent(FlightIndex flight, const PanelOrder&) override {
+        lines.push_back("sent " + number(flight.number()));
+    }
     void panelChanged() override { lines.emplace_back("panel"); }
     void stripsChanged() override { lines.emplace_back("strips"); }
     void flightActivated(FlightIndex flight) override {

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cstdlib>
 
+#include "sim/event_relay.h"
 #include "small_airspace.h"
 
 namespace ventrel {
@@ -95,6 +96,25 @@ TEST(WholeShift, PlansStaySmoothAndScoresAddUpAndNeverFallBelowZero) {
         }
         expectSoundScore(shift);
     }
+}
+
+TEST(WholeShift, EveryReceiverOfARelayIsToldAllInOrder) {
+    WildShift alone{3};
+    WildShift relayed{3};
+    EventLog second{relayed.game};
+    EventLog dismissed{relayed.game};
+    EventRelay relay;
+    relay.add(relayed.events);
+    relay.add(dismissed);
+    relay.add(second);
+    relay.remove(dismissed);
+    while (alone.game.clock < 1800_s && step(alone.game, alone.events)) {
+        step(relayed.game, relay);
+    }
+    EXPECT_GT(alone.events.lines.size(), 100U);
+    EXPECT_EQ(relayed.events.lines, alone.events.lines);
+    EXPECT_EQ(second.lines, alone.events.lines);
+    EXPECT_EQ(dismissed.lines, Lines{});
 }
 
 TEST(WholeShift, TwoSimulationsInOneProcessDoNotDisturbEachOther) {
