@@ -102,7 +102,7 @@ struct Play {
                                     .showOrderMenu = [](Point) {}},
                       .layout = largeRadarLayout};
     Strips strips{.sources = {game, fonts, arrow}, .callbacks = {.press = [](int) {}}};
-    ControlPanel panel{.sources = {game, fonts, hand, arrow},
+    ControlPanel panel{.sources = {game, options, fonts, hand, arrow},
                        .callbacks = {.click = [] {}, .enableExec = [](bool) {}}};
 };
 

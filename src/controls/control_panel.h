@@ -9,6 +9,7 @@
 #include <functional>
 
 #include "controls/control_panel_state.h"
+#include "options/options.h"
 #include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 
@@ -23,6 +24,7 @@ struct ControlPanelCallbacks {
 
 struct ControlPanelSources {
     const Game& game;
+    const Options& options;
     FontSet& fonts;
     const CursorImage& hand;
     const CursorImage& arrow;

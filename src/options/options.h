@@ -35,6 +35,9 @@ struct Options {
     int musicVolume = 5;    ///< 1 to 5, the loudest; 0 is silent
     int soundVolume = 5;    ///< of effects and pilots, the same
 
+    // Aids, which show more than the game alone does.
+    int aidPauseAtRim = 0; ///< the word that tells of a pause leaves the middle of the scope
+
     friend bool operator==(const Options&, const Options&) = default;
 };
 

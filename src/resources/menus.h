@@ -44,7 +44,11 @@ inline constexpr auto optionsMenuItems = joined(std::to_array<MenuItemTemplate>(
                                                     {"So&unds", 0, soundMenuItems},
                                                     {"Screen &Resolution", 0, resolutionMenuItems},
                                                 }),
-                                                optionMenuItems<OptionMenu::top>());
+                                                optionMenuItems<OptionMenu::top>(),
+                                                std::to_array<MenuItemTemplate>({
+                                                    menuSeparator,
+                                                    {"A&ids...", command::aids},
+                                                }));
 
 inline constexpr std::array helpMenuItems{std::to_array<MenuItemTemplate>({
     {"&About Ventrel " VENTREL_VERSION "...", command::about},

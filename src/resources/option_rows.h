@@ -11,7 +11,9 @@
 
 #include "options/options.h"
 #include "platform/widgets/templates.h"
+#include "resources/aid_rows.h"
 #include "resources/command_ids.h"
+#include "resources/joined.h"
 
 namespace ventrel {
 
@@ -60,15 +62,14 @@ constexpr std::array<OptionItem, mostOptionItems> volumeItems(OptionMenu menu, i
 }
 
 struct OptionRow {
-    std::string_view key;
-    int Options::* value;
+    std::string_view key = {};
+    int Options::* value = nullptr;
     OptionEffect effect = OptionEffect::none;
     std::array<OptionItem, mostOptionItems> items = {}; ///< those without a menu are none: dialogs change it
     bool isWritten = true;
 };
 
-// In the order in which a new file lists them.
-inline constexpr std::array optionRows{std::to_array<OptionRow>({
+inline constexpr std::array ownOptionRows{std::to_array<OptionRow>({
     {"AutoSelect",
      &Options::autoSelect,
      OptionEffect::none,
@@ -125,6 +126,17 @@ inline constexpr std::array optionRows{std::to_array<OptionRow>({
      volumeItems(OptionMenu::soundVolume, command::soundVolume)},
     {.key = "SingleSound", .value = &Options::singleSound, .isWritten = false},
 })};
+
+/// Those of the aids, which their dialog changes.
+constexpr auto aidOptionRows() {
+    std::array<OptionRow, aidRows.size()> rows{};
+    std::ranges::transform(aidRows, rows.begin(),
+                           [](const AidRow& aid) { return OptionRow{.key = aid.key, .value = aid.value}; });
+    return rows;
+}
+
+// In the order in which a new file lists them.
+inline constexpr auto optionRows = joined(ownOptionRows, aidOptionRows());
 static_assert(sizeof(Options) == optionRows.size() * sizeof(int), "every option has its row");
 
 /// Calls `use(row, item)` for every menu item of an option.

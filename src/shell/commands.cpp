@@ -4,6 +4,7 @@
 #include <array>
 
 #include "shell/about_dialog.h"
+#include "shell/aids_dialog.h"
 #include "shell/game_flow.h"
 #include "shell/help_dialog.h"
 #include "shell/high_score_dialog.h"
@@ -95,6 +96,7 @@ constexpr std::array actions{std::to_array<Action>({
     {command::highScores, showHighScores},
     {command::about, runAboutDialog},
     {command::help, runHelpDialog},
+    {command::aids, runAidsDialog},
     {command::bossKey, hideFromBoss},
     {command::pause, [](Shell& shell) { SetPause(shell, !shell.paused); }},
     {command::toggleDirect, [](Shell& shell) { CtrlToggleDirect(shell.panel); }},

@@ -96,6 +96,16 @@ void switchFullScreen(Shell& shell) {
 
 } // namespace
 
+void chooseAids(Shell& shell, const Options& chosen) {
+    if (shell.options == chosen) {
+        return;
+    }
+    shell.options = chosen;
+    saveOptions(shell);
+    rebuildInGame(shell);
+    CtrlRepaint(shell.panel);
+}
+
 SoundChoices soundChoices(const Options& options) {
     return {.effects = options.effects != 0,
             .voices = options.voice != 0,

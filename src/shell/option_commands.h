@@ -13,4 +13,7 @@ SoundChoices soundChoices(const Options& options);
 /// which come with the next start. Nothing for any other command.
 void changeOption(Shell& shell, int id);
 
+/// Takes the options with aids as chosen, keeps them, and shows them at once.
+void chooseAids(Shell& shell, const Options& chosen);
+
 } // namespace ventrel

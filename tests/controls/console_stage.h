@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "console/window_size.h"
+#include "options/options.h"
 #include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 #include "platform/headless/script.h"
@@ -31,6 +32,7 @@ struct ConsoleStage {
     Script script{backend};
     FontSet fonts;
     Game game;
+    Options options;
     CursorImage hand;
     CursorImage arrow;
     Bitmap console;

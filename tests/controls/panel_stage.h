@@ -11,7 +11,7 @@ struct PanelStage : ConsoleStage {
     PanelStage() { CtrlCreate(panel, main, console); }
 
     ControlPanel panel{
-        .sources = {game, fonts, hand, arrow},
+        .sources = {game, options, fonts, hand, arrow},
         .callbacks = {.click = [this] { log.emplace_back("click"); },
                       .enableExec = [this](bool on) { log.emplace_back(on ? "exec on" : "exec off"); }}};
 

@@ -16,7 +16,6 @@ struct RadarStage : ConsoleStage {
     /// A running game without flights or map points, its map shown in a frame of one colour. No sweep.
     explicit RadarStage(const RadarLayout& layout = smallRadarLayout);
 
-    Options options;
     bool paused = false;
     bool touched = false;
     RadarWindow radar;

@@ -8,6 +8,7 @@
 #include "platform/widgets/menu.h"
 #include "platform/widgets/widget_place.h"
 #include "resources/accelerators.h"
+#include "resources/aids_dialog.h"
 #include "resources/dialogs.h"
 #include "resources/help.h"
 #include "shell/game_stage.h"
@@ -32,7 +33,9 @@ std::vector<NamedShape> allShapes() {
     std::vector<NamedShape> shapes{shapeOf("New Game", new_game::shape),
                                    shapeOf("Custom Skill", custom_skill::shape),
                                    shapeOf("Choose Airport", choose_airport::shape),
-                                   shapeOf("Schedule", schedule::shape), shapeOf("About", about::shape)};
+                                   shapeOf("Schedule", schedule::shape),
+                                   shapeOf("About", about::shape),
+                                   shapeOf("Aids", aids::shape)};
     for (std::size_t topic = 0; topic < help::topics.size(); ++topic) {
         NamedShape page{"Help, " + std::string(help::topics[topic]), help::shape.size, {}};
         const int first = help::pageControl(topic, 0);

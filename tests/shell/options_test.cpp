@@ -179,6 +179,31 @@ TEST(OptionMenus, WhatTheRadarShowsChangesAtOnce) {
     stage.play();
 }
 
+TEST(AidsDialog, KeepsAndShowsWhatIsTickedAtOkAlone) {
+    constexpr int Options::* pauseAtRim = &Options::aidPauseAtRim;
+    GameStage stage(800, "[Options]\nRadarSweep=0\nStormTrak=0\n[Game]\nName=mary\nSkill=1\n");
+    stage.startNewGame();
+    const auto tickAndPress = [&stage](Key key) {
+        stage.todo([key](Script& script) {
+            script.key(Key::o, withAlt).type("i").wait(1).key(Key::p, withAlt).key(key).wait(1);
+        });
+    };
+    const auto expectAid = [&stage, pauseAtRim](int value) {
+        stage.look([&stage, pauseAtRim, value] {
+            EXPECT_FALSE(stage.isDialogOpen());
+            EXPECT_EQ(stage.shell().options.*pauseAtRim, value);
+            EXPECT_EQ(ReadOptions(ProfileFile::read(stage.profile()).value()).*pauseAtRim, value);
+        });
+    };
+    tickAndPress(Key::escape);
+    expectAid(0);
+    tickAndPress(Key::enter);
+    expectAid(1);
+    tickAndPress(Key::enter);
+    expectAid(0);
+    stage.play();
+}
+
 TEST(OptionMenus, TickTheSizeTheScreenAndThePause) {
     GameStage stage(800);
     stage.look([&] {

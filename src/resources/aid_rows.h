@@ -1,0 +1,43 @@
+// The aids: what a player may have shown beyond the game itself. Each is off until it is chosen.
+//
+// An aid is a line of the options' record and a row here. Its key in the options file and its line in the
+// dialog follow; whoever draws it asks the options.
+
+#pragma once
+
+#include <array>
+#include <string_view>
+
+#include "options/options.h"
+
+namespace ventrel {
+
+/// The part of the dialog in which an aid stands.
+enum class AidGroup { scope, tags, orders, eyesAndEars };
+
+struct AidRow {
+    AidGroup group;
+    std::string_view key; ///< in the options file
+    int Options::* value;
+    std::string_view name; ///< with the letter that chooses it in the dialog
+    std::string_view explanation;
+};
+
+// Those of a group stand together.
+inline constexpr std::array aidRows{std::to_array<AidRow>({
+    {AidGroup::scope, "AidPauseAtRim", &Options::aidPauseAtRim, "&Pause at the rim",
+     "PAUSE stands at the top of the scope instead of in its middle"},
+})};
+
+struct AidGroupTitle {
+    AidGroup group;
+    std::string_view title;
+};
+inline constexpr std::array aidGroups{std::to_array<AidGroupTitle>({
+    {AidGroup::scope, "On the scope"},
+    {AidGroup::tags, "The tags of the flights"},
+    {AidGroup::orders, "The order on the panel"},
+    {AidGroup::eyesAndEars, "For eyes and ears"},
+})};
+
+} // namespace ventrel
