@@ -5,6 +5,7 @@
 
 #include <cstdlib>
 
+#include "controller/prediction.h"
 #include "sim/schedule.h"
 #include "tools/sim/shift_run.h"
 
@@ -59,6 +60,15 @@ void ActingStep(benchmark::State& benchmarked) {
     }
 }
 BENCHMARK(ActingStep)->Name("ActingStep/99flights")->Unit(benchmark::kMicrosecond);
+
+void Predict(benchmark::State& benchmarked) {
+    Game game = newGame({.skill = Skill::custom, .custom = {fullSky, 2100_s, 0}});
+    spreadOut(game);
+    for ([[maybe_unused]] auto _ : benchmarked) {
+        benchmark::DoNotOptimize(predictConflicts(game));
+    }
+}
+BENCHMARK(Predict)->Name("PredictConflicts/99flights")->Unit(benchmark::kMicrosecond);
 
 /// Writes nothing down but the orders.
 class OrderListener final : public Recorder {

@@ -69,7 +69,7 @@ Track trackOf(const Game& game, Flight flight, int steps) {
         return track;
     }
     track.spots[0] = spotOf(flight);
-    ClockSeconds time = game.clock;
+    ClockSeconds time = timeOfNextStep(game) - stepInterval; // of the last one, wherever the clock is by now
     for (int step = 1; step <= steps; ++step) {
         time += stepInterval;
         const bool due = isDue(flight, time);

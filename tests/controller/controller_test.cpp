@@ -1,10 +1,12 @@
-// The automatic controller: what it foresees, and how well it plays.
+// The automatic controller: what it foresees, and how well it plays; and the conflicts that a player is
+// warned of.
 
 #include "controller/controller.h"
 
 #include <gtest/gtest.h>
 
 #include "../sim/small_airspace.h"
+#include "controller/prediction.h"
 #include "controller/traffic.h"
 
 namespace ventrel {
@@ -56,6 +58,28 @@ TEST(Traffic, CountsACollisionMoreThanAnythingElse) {
     test.fly({28, 24}, 5, 270, PointIndex{1});
     test.step(30_s);
     EXPECT_GT(pointsForeseen(test.game), 20000);
+}
+
+TEST(Prediction, LooksThreeMovesAheadAndStaysTheSameBetweenSteps) {
+    using Conflicts = std::vector<PredictedConflict>;
+    constexpr FlightIndex first{0};
+    constexpr FlightIndex second{1};
+    const std::vector<std::pair<int, Conflicts>> cases{
+        {27, {}}, {26, {{second, first}}}, {25, {{first, second}, {second, first, true}}}};
+    for (const Speed speed : {Speed::slow, Speed::normal, Speed::fast}) {
+        for (const auto& [column, conflicts] : cases) {
+            TestGame test;
+            test.fly({20, 24}, 5, 90, PointIndex{1}).current().speed = speed;
+            test.fly({column, 24}, 5, 270, PointIndex{1}).current().speed = speed;
+            test.game.lastStepTime = 30_s;
+            // From the step until the next one has acted.
+            for (const ClockSeconds now : {30_s, 37_s, 45_s}) {
+                test.game.clock = now;
+                EXPECT_EQ(predictConflicts(test.game), conflicts)
+                    << "column " << column << " at " << now.count() << ", speed " << static_cast<int>(speed);
+            }
+        }
+    }
 }
 
 TEST(Controller, OrdersNothingTwiceAndAlwaysTheSame) {

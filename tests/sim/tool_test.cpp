@@ -9,8 +9,10 @@
 #include "../base/temp_folder.h"
 #include "small_airspace.h"
 #include "tools/sim/arguments.h"
+#include "tools/sim/careless.h"
 #include "tools/sim/interactive.h"
 #include "tools/sim/log_writer.h"
+#include "tools/sim/prediction_account.h"
 #include "tools/sim/shift_run.h"
 #include "tools/sim/trace_writer.h"
 
@@ -235,6 +237,24 @@ std::string playInteractively(Game game, const std::string& answers) {
     std::istringstream input{answers};
     runShift(game, writer, {{}, 45_s, [&](Game& now, Recorder&) { takeOrders(input, now, writer); }});
     return output.text();
+}
+
+TEST(Prediction, ShowsEveryConflictAMoveAheadAndNoneInVain) {
+    int ahead = 0;
+    int averted = 0;
+    for (std::uint32_t seed = 1; seed <= 40; ++seed) {
+        Game game = SmallAirspace::usual().game({.skill = Skill::hard}, seed);
+        Output output;
+        PredictionAccount account{output, game};
+        runShift(game, account,
+                 {.orders = {}, .until = 36000_s, .steering = carelessSteering(RandomGenerator{seed})});
+        EXPECT_EQ(account.counts().missed, 0) << "seed " << seed;
+        EXPECT_EQ(account.counts().falseAlarm, 0) << "seed " << seed;
+        ahead += account.counts().ahead;
+        averted += account.counts().averted;
+    }
+    EXPECT_GT(ahead, 100);
+    EXPECT_GT(averted, 10);
 }
 
 TEST(Interactive, TellsEveryStepAndTakesOrdersAfterIt) {

@@ -32,8 +32,10 @@ constexpr std::string_view help = R"(Plays one shift without a window and writes
   --until T          last clock second (default 36000)
   --controller       the automatic controller plays the shift
   --look-ahead N     steps of 15 clock seconds that it looks ahead, 1 to 40 (default 40)
+  --careless         orders are sent at random, also beside the controller's
   --interactive      another program plays: a JSON object for each step, orders read after it
   --log              a log for people instead of one JSON object a line
+  --prediction       how good the prediction of conflicts was, instead of everything that happens
   --help             this text
 
 Exit status: 0 the shift ended or --until was reached; 1 the airport file cannot be played;
@@ -131,9 +133,11 @@ constexpr std::array optionRules{
     OptionRule{"--controller", "", [](Arguments& a, std::string_view) { return a.controller = true; }},
     OptionRule{"--look-ahead", "a number from 1 to 40",
                [](Arguments& a, std::string_view v) { return readNumber(v, 1, stepsAhead, a.lookAhead); }},
+    OptionRule{"--careless", "", [](Arguments& a, std::string_view) { return a.careless = true; }},
     OptionRule{"--interactive", "", [](Arguments& a, std::string_view) { return a.interactive = true; }},
     OptionRule{"--speaking", "", [](Arguments& a, std::string_view) { return a.speaking = true; }},
     OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }},
+    OptionRule{"--prediction", "", [](Arguments& a, std::string_view) { return a.prediction = true; }},
     OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }},
 };
 

@@ -31,9 +31,11 @@ struct Arguments {
     ClockSeconds until{36000};
     bool controller = false;
     int lookAhead = 40;       ///< of the automatic controller, in steps
+    bool careless = false;    ///< orders are sent at random
     bool interactive = false; ///< another program plays
     bool speaking = false;    ///< the pilots are heard
     bool log = false;         ///< a log for people instead of the trace
+    bool prediction = false;  ///< an account of the prediction of conflicts instead of the trace
     bool help = false;
 };
 

@@ -8,8 +8,10 @@
 
 #include "base/windows1252.h"
 #include "tools/sim/arguments.h"
+#include "tools/sim/careless.h"
 #include "tools/sim/interactive.h"
 #include "tools/sim/log_writer.h"
+#include "tools/sim/prediction_account.h"
 #include "tools/sim/shift_run.h"
 #include "tools/sim/trace_writer.h"
 
@@ -24,19 +26,36 @@ void complain(std::string_view text) {
     std::fprintf(stderr, "ventrel-sim: %s\n", toTerminal(text).c_str());
 }
 
+/// The controller's, somebody careless, one after the other, or nobody's.
+Steering steeringOf(const Game& game, const Arguments& arguments) {
+    const Steering controller =
+        arguments.controller ? automaticSteering(game, arguments.lookAhead) : Steering{};
+    if (!arguments.careless) {
+        return controller;
+    }
+    return [controller, careless = carelessSteering(RandomGenerator{arguments.seed})](Game& now,
+                                                                                      Recorder& recorder) {
+        if (controller) {
+            controller(now, recorder);
+        }
+        careless(now, recorder);
+    };
+}
+
 void playShift(Game& game, Output& output, const Arguments& arguments,
                std::span<const ScriptedOrder> orders) {
     RunPlan plan{
         .orders = orders, .until = arguments.until, .steering = {}, .hearsPilots = arguments.speaking};
-    if (arguments.controller) {
-        plan.steering = automaticSteering(game, arguments.lookAhead);
-    }
+    plan.steering = steeringOf(game, arguments);
     if (arguments.interactive) {
         InteractiveWriter writer{output, game};
         if (!plan.steering) {
             plan.steering = [&writer](Game& now, Recorder&) { takeOrders(std::cin, now, writer); };
         }
         runShift(game, writer, plan);
+    } else if (arguments.prediction) {
+        PredictionAccount account{output, game};
+        runShift(game, account, plan);
     } else if (arguments.log) {
         LogWriter writer{output, game};
         runShift(game, writer, plan);
