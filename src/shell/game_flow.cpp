@@ -40,24 +40,38 @@ ShiftSetup shiftSetup(const Shell& shell, const GameSetup& setup, std::span<cons
             .controllerName = shell.game.controllerName};
 }
 
+/// A line for the ticker, written down before its queue may drop it.
+void postLine(Shell& shell, std::string_view words) {
+    shell.log.linePosted(words, MessageClass::information);
+    ScrollerPost(shell.scroller, words, MessageClass::information);
+}
+
+/// The end of a shift leaves no line of it on the ticker.
+void clearTicker(Shell& shell) {
+    shell.log.tickerCleared();
+    ScrollerClear(shell.scroller);
+}
+
 /// The next game takes the generator on, and the time of the last step, at which it does not act again.
 void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setup) {
     const auto sizes = cloudSizes(shell);
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
+    const std::uint32_t seed = shell.game.random.state;
     shell.game = Game{airspace, shiftSetup(shell, setup, sizes), shell.game.random};
     shell.game.lastStepTime = lastStepTime;
+    shell.log.shiftBegun(setup.skill, seed);
     shell.shiftKind = setup.kind;
     RadarDecodePicture(shell.radar);
     RadarBuildMap(shell.radar, shell.pictures.radarFrame);
     ClockReset(shell.topBar);
     LampsRepaint(shell.topBar);
     SetPause(shell, false);
-    ScrollerPost(shell.scroller, welcomeText(shell.game), MessageClass::information);
+    postLine(shell, welcomeText(shell.game));
 }
 
 void endWithCollision(Shell& shell) {
     shell.sounds.stopEffects();
-    ScrollerClear(shell.scroller);
+    clearTicker(shell);
     shell.tellLater(shell.sounds.playEffect(collisionSound));
     if (!RadarCollisionRings(shell.radar, shell.game.collisionFlights.front())) {
         return; // the program is quitting
@@ -77,9 +91,9 @@ void emptyStrips(Shell& shell) {
 }
 
 void endWithScore(Shell& shell) {
-    ScrollerClear(shell.scroller);
+    clearTicker(shell);
     emptyStrips(shell);
-    ScrollerPost(shell.scroller, gameOverText(shell.game), MessageClass::information);
+    postLine(shell, gameOverText(shell.game));
     ScrollerSetPostGameOver(shell.scroller, true);
 }
 
@@ -128,6 +142,7 @@ void EndGame(Shell& shell) {
 
 void abandonGame(Shell& shell) {
     shell.sounds.stopMusic();
+    shell.log.shiftGivenUp();
     EndGame(shell);
     shell.sounds.playMusic(idleMusic, false);
 }
@@ -180,7 +195,7 @@ std::optional<int> enterFinishedScore(Shell& shell) {
 }
 
 void reportScore(Shell& shell) {
-    ScrollerPost(shell.scroller, scoreSoFarText(shell.game), MessageClass::information);
+    postLine(shell, scoreSoFarText(shell.game));
 }
 
 } // namespace ventrel

@@ -52,7 +52,8 @@ Shell::Shell(ShellParts parts)
             .sources = {game, options, fonts, pictures.hand},
             .callbacks = radarCallbacks(*this),
             .layout = radarLayoutFor(windowSize().width)},
-      player(*this) {
+      player(*this), log(game) {
+    events.add(log);
     events.add(player);
     game.random = parts.random;
     game.lastStepTime = 0_s; // of the first game alone: its clock does not stand still at 0

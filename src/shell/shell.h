@@ -22,6 +22,7 @@
 #include "platform/widgets/button.h"
 #include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
+#include "replay/shift_log.h"
 #include "shell/game_setup.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
@@ -82,7 +83,10 @@ struct Shell {
     ControlPanel panel;
     RadarWindow radar;
     SimulationPlayer player;
-    EventRelay events; ///< what the simulation speaks to: the player first, then whoever listens, too
+    ShiftLog log; ///< of the shift that is played, or of the last one
+    /// What the simulation speaks to: the log, which must know what the ticker has room for; the player; then
+    /// whoever listens, too.
+    EventRelay events;
 
     Size windowSize() const { return pictures.console.size(); }
     /// Where everything stands in it.

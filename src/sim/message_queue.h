@@ -25,8 +25,10 @@ struct MessageQueue {
     bool idle = true; ///< the scroller has nothing to look for; cleared by a line that wants in
 };
 
-/// Queues a line in the first free slot. False when it is dropped: an emergency is in the queue, or it is
-/// full.
+/// Whether a line would be queued: no emergency is in the queue, and it is not full.
+bool hasRoom(const MessageQueue& queue);
+
+/// Queues a line in the first free slot. False when it is dropped, for want of room.
 bool postMessage(MessageQueue& queue, std::string_view text, MessageClass messageClass);
 
 /// Frees every slot.

@@ -1,0 +1,49 @@
+// Writes the story of a shift down while it is played.
+//
+// A receiver of the simulation's events. It is told of its game's beginning and of the lines that others than
+// the simulation put on the ticker; all else it hears by itself. It must hear of a line before the ticker's
+// queue does, and so knows whether that has room for it.
+
+#pragma once
+
+#include "replay/shift_story.h"
+#include "sim/simulation_events.h"
+
+namespace ventrel {
+
+class ShiftLog final : public SimulationEvents {
+public:
+    /// Of the shifts that are played in this record, which outlives the log.
+    explicit ShiftLog(const Game& game) : game_{game} {}
+
+    const ShiftStory& story() const { return story_; }
+    /// Another number whenever something was added; a story that is shown is looked at again then.
+    int revision() const { return revision_; }
+
+    /// The game has just been set up, from a generator of that state. The story before it is forgotten.
+    void shiftBegun(Skill skill, std::uint32_t seed);
+    /// A line that is not the simulation's own is about to be put on the ticker.
+    void linePosted(std::string_view words, MessageClass messageClass);
+    /// What still waits for the ticker is about to be thrown away.
+    void tickerCleared();
+    /// The player has given the shift up; nothing when it was over.
+    void shiftGivenUp();
+
+    void reported(const Report& report) override;
+    void pilotSpoke(const RadioCall& call) override;
+    void scoreChanged(const ScoreChange& change) override;
+    void orderSent(FlightIndex flight, const PanelOrder& order) override;
+    void flightActivated(FlightIndex flight) override;
+    void shiftEnded(ShiftResult result) override;
+
+private:
+    LogEntry& add(LogKind kind, std::optional<FlightIndex> flight, std::string words);
+    void addLine(std::optional<FlightIndex> flight, std::string words, MessageClass messageClass);
+    void noteEnd(FlightIndex flight, FlightEnd end);
+
+    const Game& game_;
+    ShiftStory story_;
+    int revision_ = 0;
+};
+
+} // namespace ventrel

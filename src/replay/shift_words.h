@@ -1,0 +1,38 @@
+// What happens in a shift, in words: those of the log, wherever it is read.
+//
+// All texts are Windows-1252.
+
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "sim/game.h"
+
+namespace ventrel {
+
+/// The shift that has just been set up: where, how many flights, how long, and what it is worth.
+std::string setUpWords(const Game& game);
+
+/// An order as it is given, before it is carried out.
+std::string orderWords(const Game& game, FlightIndex flight, const PanelOrder& order);
+
+/// A pilot's call as it is heard.
+std::string callWords(const Game& game, const RadioCall& call);
+
+std::string_view lampWords(LampLevel lit);
+
+/// The change of the score and what it comes to.
+std::string scoreWords(const ScoreChange& change);
+
+/// Why points came or went.
+std::string_view causeWords(ScoreCause cause);
+
+/// Which flights of the game collided.
+std::string collisionWords(const Game& game);
+
+/// A line of the log: the clock as minutes and seconds, the kind of the event (at most 6 characters, empty
+/// for a line of the ticker), and its words.
+std::string logLine(ClockSeconds clock, std::string_view kind, std::string_view words);
+
+} // namespace ventrel
