@@ -142,10 +142,10 @@ std::string_view bearingColour(int degrees) {
 
 /// On the bezel's face, in place of its marks.
 void drawBearingOnFace(Svg& svg, const Box& scope, int degrees, std::string_view figures) {
-    constexpr double faceMiddle = (bezelFace + bezelInner) / 2;
-    constexpr double halfWidth = 7.5;
-    constexpr double halfHeight = 2.6;
-    const Spot place = onScopeRim(scope, faceMiddle, degrees);
+    constexpr double clearOfLip = 6.6;
+    constexpr double halfWidth = 9;
+    constexpr double halfHeight = 3.6;
+    const Spot place = onScopeRim(scope, clearOfLip, degrees);
     svg.rect({place.x - halfWidth, place.y - halfHeight, 2 * halfWidth, 2 * halfHeight}, 2,
              "fill=\"#1d2225\"");
     drawSmallNumber(svg, place, figures, bearingColour(degrees));
