@@ -14,7 +14,7 @@ namespace ventrel::chart {
 namespace {
 
 constexpr Ink shoreInk = inkOf(Colour::rgb(0x86, 0xA3, 0x90));
-constexpr Ink riverInk = inkOf(Colour::rgb(0x58, 0x96, 0xAA));
+constexpr Ink riverInk = inkOf(Colour::rgb(0x40, 0x76, 0x8C));
 constexpr Ink borderInk = inkOf(Colour::rgb(0xC0, 0xA8, 0x98));
 constexpr Ink townInk = inkOf(Colour::rgb(0x7A, 0x6C, 0x5C));
 constexpr Ink snowInk = inkOf(Colour::rgb(0x74, 0x7E, 0x84));
