@@ -42,8 +42,8 @@ constexpr std::string_view usage =
     "    ventrel --version    tells its version\n"
     "    ventrel --help       tells this\n"
     "\n"
-    "Keys and rules: F1 in the game. The options are kept in ventrel.ini beside the program, or in the data\n"
-    "folder of the player where the program's folder cannot be written.\n"
+    "Keys and rules: F1 in the game. A copy whose folder you may write keeps options and scores beside the\n"
+    "program; installed, it keeps them in ~/.config/ventrel and ~/.local/share/ventrel.\n"
     "\n"
     "Exit status: 0 played, also when another copy runs already or a picture is missing; 1 there is no "
     "screen,\n"
@@ -104,11 +104,16 @@ std::uint32_t seedOfTheMoment() {
     return static_cast<std::uint32_t>(sinceStart.count()) & seedMask;
 }
 
-/// Empty where the player has no folder to keep it in.
-std::filesystem::path optionsFile(const std::filesystem::path& executable,
-                                  const std::filesystem::path& playerFolder) {
+/// Empty where the player has no folder to keep it in. Earlier versions kept it among the player's data.
+std::filesystem::path optionsFile(const std::filesystem::path& executable, const PlayerPlaces& player) {
+    if (player.options.empty()) {
+        return {};
+    }
     const std::string name = executable.stem().string() + ".ini";
-    return playerFolder.empty() ? std::filesystem::path() : playerFolder / name;
+    if (!player.data.empty()) {
+        bringFile(player.data / name, player.options / name);
+    }
+    return player.options / name;
 }
 
 /// Where the player's own airspaces lie, also beside a portable copy. Empty for nowhere.
@@ -130,9 +135,9 @@ void keepSettings(OptionsStore& store, const Options& options, Size window, cons
 
 /// From start-up to shutdown, within the program's own folder.
 int play(const std::filesystem::path& executable, FirstScene firstScene) {
-    const std::filesystem::path programFolder = executable.parent_path();
-    const std::filesystem::path playerFolder = playerDataFolder(programFolder, programName);
-    OptionsStore store(optionsFile(executable, playerFolder));
+    const std::filesystem::path programFolder = programDataFolder(executable, programName);
+    const PlayerPlaces player = playerPlaces(executable, programFolder, programName);
+    OptionsStore store(optionsFile(executable, player));
     const Screen screen;
     const Settings settings = readSettings(store.atStart(), screen);
 
@@ -150,7 +155,7 @@ int play(const std::filesystem::path& executable, FirstScene firstScene) {
     SdlBackend& backend = **screenBackend;
     SoundSystem sounds(*device, device->sequencer(), programFolder);
     Program program({backend, data.fonts, sounds, store, std::move(data.troubles), firstScene},
-                    {programFolder, playerFolder, playersAirports()}, settings.options,
+                    {programFolder, player.data, playersAirports()}, settings.options,
                     wantedSeed().value_or(seedOfTheMoment()));
     const auto keep = [&] { keepSettings(store, program.options(), settings.window, backend); };
     {

@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <array>
 #include <cstdlib>
 #include <system_error>
 
@@ -33,10 +34,30 @@ fs::path homeFolder() {
     return listed.is_absolute() ? listed : fs::path();
 }
 
-fs::path dataHome() {
-    const fs::path data = fromEnvironment("XDG_DATA_HOME");
-    const fs::path home = data.empty() ? homeFolder() : fs::path();
-    return home.empty() ? data : home / ".local/share";
+/// A base directory of the player's: as its variable says, or else below the home.
+fs::path baseDirectory(const char* variable, std::string_view belowHome) {
+    const fs::path wanted = fromEnvironment(variable);
+    const fs::path home = wanted.empty() ? homeFolder() : fs::path();
+    return home.empty() ? wanted : home / belowHome;
+}
+
+/// The folder of that name there, made when it is missing; empty when that cannot be.
+fs::path ownFolder(const fs::path& base, std::string_view program) {
+    if (base.empty()) {
+        return {};
+    }
+    const fs::path folder = base / program;
+    std::error_code error;
+    fs::create_directories(base, error);
+    ::mkdir(folder.c_str(), ownerOnlyFolder);
+    return fs::is_directory(folder, error) ? folder : fs::path();
+}
+
+/// Whether the program's data lie there.
+bool holdsData(const fs::path& folder) {
+    constexpr std::string_view pictures = "grf";
+    std::error_code error;
+    return fs::is_directory(folder / pictures, error);
 }
 
 } // namespace
@@ -47,21 +68,48 @@ fs::path executableFile(const char* invokedAs) {
     return error ? fs::absolute(invokedAs, error) : file;
 }
 
-fs::path userDataFolder(std::string_view program) {
-    const fs::path data = dataHome();
-    if (data.empty()) {
-        return {};
+fs::path programDataFolder(const fs::path& executable, std::string_view program) {
+    constexpr std::array shared{std::string_view("share"), std::string_view("share/games")};
+    const fs::path own = executable.parent_path();
+    if (!holdsData(own)) {
+        for (const std::string_view folder : shared) {
+            const fs::path installed = own.parent_path() / folder / program;
+            if (holdsData(installed)) {
+                return installed;
+            }
+        }
     }
-    const fs::path folder = data / program;
-    std::error_code error;
-    fs::create_directories(data, error);
-    ::mkdir(folder.c_str(), ownerOnlyFolder);
-    return fs::is_directory(folder, error) ? folder : fs::path();
+    return own;
 }
 
-fs::path playerDataFolder(const fs::path& programFolder, std::string_view program) {
-    const bool isPortable = ::access(programFolder.c_str(), W_OK) == 0;
-    return isPortable ? programFolder : userDataFolder(program);
+fs::path userDataFolder(std::string_view program) {
+    return ownFolder(baseDirectory("XDG_DATA_HOME", ".local/share"), program);
+}
+
+fs::path userConfigFolder(std::string_view program) {
+    return ownFolder(baseDirectory("XDG_CONFIG_HOME", ".config"), program);
+}
+
+PlayerPlaces playerPlaces(const fs::path& executable, const fs::path& programData, std::string_view program) {
+    const bool isTogether = executable.parent_path() == programData;
+    if (isTogether && ::access(programData.c_str(), W_OK) == 0) {
+        return {programData, programData};
+    }
+    return {userConfigFolder(program), userDataFolder(program)};
+}
+
+void bringFile(const fs::path& from, const fs::path& to) {
+    std::error_code error;
+    if (from == to || !fs::is_regular_file(from, error) || fs::exists(fs::symlink_status(to, error))) {
+        return;
+    }
+    fs::rename(from, to, error);
+    if (error) { // another disk
+        std::error_code fault;
+        if (fs::copy_file(from, to, fault)) {
+            fs::remove(from, fault);
+        }
+    }
 }
 
 } // namespace ventrel

@@ -22,21 +22,55 @@ protected:
     static void environment(const char* home, const char* data) {
         home == nullptr ? ::unsetenv("HOME") : ::setenv("HOME", home, 1);
         data == nullptr ? ::unsetenv("XDG_DATA_HOME") : ::setenv("XDG_DATA_HOME", data, 1);
+        ::unsetenv("XDG_CONFIG_HOME");
     }
 
-    const fs::path nowhere{"/no such folder"};
     TempFolder folder;
 };
 
-TEST_F(Places, ThePlayersFolderFollowsTheEnvironmentAndIsThePlayersAlone) {
+TEST_F(Places, ThePlayersFoldersFollowTheEnvironmentAndAreThePlayersAlone) {
     const fs::path home = folder / "home";
     environment(home.c_str(), nullptr);
-    EXPECT_EQ(playerDataFolder(nowhere, "game"), home / ".local/share/game");
+    EXPECT_EQ(userDataFolder("game"), home / ".local/share/game");
+    EXPECT_EQ(userConfigFolder("game"), home / ".config/game");
     EXPECT_EQ(fs::status(home / ".local/share/game").permissions(), fs::perms::owner_all);
+    EXPECT_EQ(fs::status(home / ".config/game").permissions(), fs::perms::owner_all);
     environment(home.c_str(), (folder / "data").c_str());
-    EXPECT_EQ(playerDataFolder(nowhere, "game"), folder / "data/game");
+    EXPECT_EQ(userDataFolder("game"), folder / "data/game");
     EXPECT_TRUE(fs::is_directory(folder / "data/game"));
-    EXPECT_EQ(playerDataFolder(folder.path(), "game"), folder.path()) << "beside the program";
+}
+
+TEST_F(Places, AnInstalledProgramFindsItsDataAndAPortableCopyKeepsAllWithIt) {
+    environment((folder / "home").c_str(), nullptr);
+    const fs::path installed = folder / "usr/bin/game";
+    EXPECT_EQ(programDataFolder(installed, "game"), folder / "usr/bin") << "nowhere";
+    fs::create_directories(folder / "usr/share/games/game/grf");
+    EXPECT_EQ(programDataFolder(installed, "game"), folder / "usr/share/games/game");
+    fs::create_directories(folder / "usr/share/game/grf");
+    EXPECT_EQ(programDataFolder(installed, "game"), folder / "usr/share/game");
+    const PlayerPlaces apart = playerPlaces(installed, folder / "usr/share/game", "game");
+    EXPECT_EQ(apart.options, folder / "home/.config/game");
+    EXPECT_EQ(apart.data, folder / "home/.local/share/game") << "even for one who may write below usr";
+
+    fs::create_directories(folder / "copy/grf");
+    EXPECT_EQ(programDataFolder(folder / "copy/game", "game"), folder / "copy");
+    const PlayerPlaces together = playerPlaces(folder / "copy/game", folder / "copy", "game");
+    EXPECT_EQ(together.options, folder / "copy");
+    EXPECT_EQ(together.data, folder / "copy");
+}
+
+TEST_F(Places, WhatAnEarlierVersionKeptElsewhereIsBroughtOnce) {
+    writeText(folder / "old", "first");
+    bringFile(folder / "old", folder / "new");
+    EXPECT_FALSE(fs::exists(folder / "old"));
+    EXPECT_EQ(fs::file_size(folder / "new"), 5U);
+    writeText(folder / "old", "another");
+    bringFile(folder / "old", folder / "new");
+    bringFile(folder / "none", folder / "newer");
+    bringFile(folder / "new", folder / "new");
+    EXPECT_EQ(fs::file_size(folder / "new"), 5U) << "the player's own is there already";
+    EXPECT_TRUE(fs::exists(folder / "old"));
+    EXPECT_FALSE(fs::exists(folder / "newer"));
 }
 
 TEST_F(Places, NothingIsEverKeptBelowTheCurrentFolder) {
