@@ -10,7 +10,7 @@
 
 namespace ventrel {
 
-/// The samples of a file. The failure names the file.
+/// The samples of a file. The failure names the file, or how much memory was missing (text 3).
 Result<std::vector<std::uint8_t>> readRecording(const std::filesystem::path& file);
 
 } // namespace ventrel

@@ -1,8 +1,10 @@
 #include "audio/voice.h"
 
+#include <new>
+
 #include "audio/recording_file.h"
 #include "base/data_path.h"
-#include "base/format.h"
+#include "base/string_table.h"
 #include "sim/phrase.h"
 
 namespace ventrel {
@@ -23,18 +25,7 @@ void append(Samples& samples, const Samples& more) {
     samples.insert(samples.end(), more.begin(), more.end());
 }
 
-} // namespace
-
-int countVoiceSets(const fs::path& programFolder) {
-    int count = 0;
-    std::error_code fault;
-    while (count < mostVoiceSets && fs::exists(DataPath(programFolder, folderName(count)), fault)) {
-        ++count;
-    }
-    return count;
-}
-
-Result<Samples> assembleCall(const fs::path& programFolder, const SpokenCall& call, RandomGenerator& random) {
+Result<Samples> joined(const fs::path& programFolder, const SpokenCall& call, RandomGenerator& random) {
     Samples samples;
     if (call.noise) {
         const auto noise = readRecording(DataPath(programFolder, noiseName));
@@ -59,6 +50,26 @@ Result<Samples> assembleCall(const fs::path& programFolder, const SpokenCall& ca
         append(samples, *snippet);
     }
     return samples;
+}
+
+} // namespace
+
+int countVoiceSets(const fs::path& programFolder) {
+    int count = 0;
+    std::error_code fault;
+    while (count < mostVoiceSets && fs::exists(DataPath(programFolder, folderName(count)), fault)) {
+        ++count;
+    }
+    return count;
+}
+
+Result<Samples> assembleCall(const fs::path& programFolder, const SpokenCall& call, RandomGenerator& random) {
+    try {
+        return joined(programFolder, call, random);
+    } catch (const std::bad_alloc&) {
+        return failed(
+            FormatStringId(TextId::notEnoughMemory, {0L})); // how much a call takes is not known before
+    }
 }
 
 } // namespace ventrel

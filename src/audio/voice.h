@@ -20,7 +20,7 @@ int countVoiceSets(const std::filesystem::path& programFolder);
 
 /// Reads the noise and the snippets anew at every call, so that another file is heard at once. The noise
 /// comes one to eight times, which is drawn when its file has been read. A file that cannot be read fails the
-/// whole call.
+/// whole call, and so does a lack of memory (text 3).
 Result<std::vector<std::uint8_t>> assembleCall(const std::filesystem::path& programFolder,
                                                const SpokenCall& call, RandomGenerator& random);
 

@@ -65,6 +65,8 @@ void Showing::open(Dialog& dialog) {
     dialog.window(high_scores::deleteAll).setBounds(Rect::at(corner() + deletePlace, buttonSize));
     dialog.window(okId).setBounds(Rect::at(corner() + okPlace, buttonSize));
     dialog.focus(okId);
+    shell.sounds.playMusic(tableMusic,
+                           false); // here, since an opening dialog pauses a game and ends its music
 }
 
 void Showing::readScores() {
@@ -148,7 +150,6 @@ void runTable(Shell& shell, std::optional<int> row) {
 
 void ShowHighScores(Shell& shell, std::optional<int> row) {
     shell.sounds.stopMusic();
-    shell.sounds.playMusic(tableMusic, false);
     runTable(shell, row);
     shell.sounds.stopMusic();
     if (!shell.game.isRunning()) {

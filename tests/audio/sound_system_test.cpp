@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include "base/shortage.h"
+#include "base/string_table.h"
 #include "base/temp_folder.h"
 #include "platform/headless/headless_sound.h"
 #include "sim/phrase.h"
@@ -12,6 +14,7 @@ namespace ventrel {
 namespace {
 
 constexpr std::size_t second = recordingRate;
+constexpr std::size_t megabyte = std::size_t{1} << 20;
 
 class SoundSystemTest : public ::testing::Test {
 protected:
@@ -116,6 +119,27 @@ TEST_F(SoundSystemTest, ACallWithAMissingSnippetIsNotSpokenAtAllAndNamesIt) {
     EXPECT_EQ(random.state, before);
     EXPECT_TRUE(device.starts.empty());
     EXPECT_FALSE(sounds.playEffect("snd\\nothing.snd"));
+}
+
+TEST_F(SoundSystemTest, WhatDoesNotFitIntoMemoryIsNotHeardAndSaysHowMuchWasWanted) {
+#ifdef __SANITIZE_ADDRESS__
+    GTEST_SKIP() << "the sanitizer takes memory of its own";
+#endif
+    std::filesystem::resize_file(folder.path() / "snd/pcm0/roger.snd", 8 * megabyte);
+    const LittleMemory little(100 * megabyte);
+    const auto textFor = [](std::size_t size) {
+        return FormatStringId(TextId::notEnoughMemory, {static_cast<long>(size)});
+    };
+    const std::string longCall(60, snippet::roger);
+    const auto spoken = sounds.speak({.phrase = longCall, .tag = 1, .noise = false}, random);
+    ASSERT_FALSE(spoken);
+    EXPECT_EQ(spoken.error().text, textFor(0)) << "how long a call becomes is not known before";
+    for (const std::size_t size : {60 * megabyte, 200 * megabyte}) { // the one can be read, but not copied
+        std::filesystem::resize_file(folder.path() / "snd/red.snd", size);
+        const auto played = sounds.playEffect("snd\\red.snd");
+        ASSERT_FALSE(played);
+        EXPECT_EQ(played.error().text, textFor(size));
+    }
 }
 
 TEST_F(SoundSystemTest, AClickThatSoundsGoesOnAndOneThatWasStoppedPlaysOn) {

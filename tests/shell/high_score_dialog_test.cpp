@@ -1,10 +1,7 @@
 // The table of high scores as a player meets it: at a shift's end, from the menu, and with a file that is no
 // table.
 
-#include <sys/resource.h>
-
-#include <csignal>
-
+#include "base/shortage.h"
 #include "base/whole_file.h"
 #include "golden.h"
 #include "shell/high_scores.h"
@@ -19,32 +16,6 @@ namespace fs = std::filesystem;
 constexpr Size pictureSize{689, 600};
 constexpr Point deleteButton{300, 584}; // in the picture
 constexpr Point okButton{400, 584};
-
-/// No file can grow while this lives: a full disk.
-class FullDisk {
-public:
-    FullDisk() : before_(limit()), handler_(std::signal(SIGXFSZ, SIG_IGN)) { set(1); }
-    ~FullDisk() {
-        set(before_.rlim_cur);
-        std::signal(SIGXFSZ, handler_);
-    }
-    FullDisk(const FullDisk&) = delete;
-    FullDisk& operator=(const FullDisk&) = delete;
-
-private:
-    static rlimit limit() {
-        rlimit now{};
-        ::getrlimit(RLIMIT_FSIZE, &now);
-        return now;
-    }
-    void set(rlim_t most) const {
-        const rlimit wanted{most, before_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &wanted);
-    }
-
-    rlimit before_;
-    void (*handler_)(int);
-};
 
 class HighScoreDialogTest : public ::testing::Test {
 protected:
@@ -278,7 +249,10 @@ TEST_F(HighScoreDialogTest, ARunningGameWaitsMeanwhileAndItsMusicComesBack) {
     stage().startNewGame();
     stage().look([this] { stage().sounds.heard.clear(); });
     openFromMenu();
-    stage().look([this] { EXPECT_EQ(stage().backend.title(), "Ventrel (Paused)"); });
+    stage().look([this] {
+        EXPECT_EQ(stage().backend.title(), "Ventrel (Paused)");
+        EXPECT_EQ(stage().sounds.heard.back(), "mci\\splash.mci") << "the pause has not silenced the table";
+    });
     press(Key::enter);
     stage().look([this] {
         EXPECT_EQ(stage().backend.title(), "Ventrel");
