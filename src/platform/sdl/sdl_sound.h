@@ -1,7 +1,8 @@
 // The machine's sound through SDL: one device that plays what the mixer sums up, recordings and music alike.
 //
 // The device is open only while something sounds, so a program that waits is not woken for silence. When it
-// is unplugged the sounds go on unheard by the clock, and another is opened as soon as there is one.
+// is unplugged the sounds go on unheard by the clock, and another is opened as soon as there is one. On a
+// machine that is too busy to fill it in time it is opened anew with longer blocks.
 
 #pragma once
 

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/sound/dropout_meter.h"
 #include "platform/sound/mixer.h"
 
 namespace ventrel {
@@ -180,6 +181,36 @@ TEST(Mixer, SilenceIsNoticedAfterAMomentAndEndsWithTheNextSound) {
     EXPECT_FALSE(mixer.isSilent());
     rendered(mixer, 1);
     EXPECT_TRUE(mixer.isSilent());
+}
+
+TEST(DropoutMeter, CountsTheTimeThatIsLostAndNotTheTimeBetweenBursts) {
+    DropoutMeter meter(rate);
+    double now = 100;
+    const auto ask = [&](int bursts) { // four blocks at once
+        for (int burst = 0; burst < bursts; ++burst) {
+            for (int call = 0; call < 4; ++call) {
+                meter.noteCall(now, blockFrames);
+            }
+            now += 4.0 * blockFrames / rate;
+        }
+    };
+    ask(10);
+    EXPECT_EQ(meter.takeLost(), 0) << "nothing to compare with";
+    ask(10);
+    EXPECT_NEAR(meter.takeLost(), 0, 1e-6);
+    ask(3);
+    now += 0.040;
+    ask(5);
+    EXPECT_NEAR(meter.takeLost(), 0, 1e-6) << "a stretch that has begun on time";
+    ask(10);
+    EXPECT_NEAR(meter.takeLost(), 0.040, 1e-4);
+    EXPECT_EQ(meter.takeLost(), 0) << "without a call";
+    ask(10);
+    EXPECT_NEAR(meter.takeLost(), 0, 1e-6) << "told once";
+    meter.reset();
+    now += 10;
+    ask(10);
+    EXPECT_EQ(meter.takeLost(), 0) << "another device";
 }
 
 /// A piece at a level of its own, written as far as there is room.
