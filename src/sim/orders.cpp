@@ -8,11 +8,6 @@ namespace ventrel {
 
 namespace {
 
-/// Verdicts with which nothing is sent.
-bool isUnheard(OrderVerdict verdict) {
-    return verdict != OrderVerdict::accepted && verdict < OrderVerdict::notActive;
-}
-
 bool isFlown(const Flight& flight, int heading) {
     return isHeading(heading) || heading == flight.current().heading;
 }
@@ -121,7 +116,7 @@ OrderVerdict judgeOrder(const Game& game, FlightIndex index, const PanelOrder& o
 }
 
 OrderResult executeOrder(Game& game, FlightIndex index, const PanelOrder& order, SimulationEvents& events) {
-    if (isUnheard(judgeOrder(game, index, order))) {
+    if (!isHeard(judgeOrder(game, index, order))) {
         return OrderResult::acknowledged;
     }
     events.orderSent(index, order);

@@ -31,6 +31,11 @@ enum class OrderVerdict {
     tooCloseForDirect,
 };
 
+/// Whether an order of that verdict is sent when it is executed, and charged.
+constexpr bool isHeard(OrderVerdict verdict) {
+    return verdict == OrderVerdict::accepted || verdict >= OrderVerdict::notActive;
+}
+
 /// Judges an order without sending it.
 OrderVerdict judgeOrder(const Game& game, FlightIndex index, const PanelOrder& order);
 

@@ -16,6 +16,7 @@ namespace {
 constexpr std::string_view help = R"(Plays one shift without a window and writes everything that happens.
 
     ventrel-sim FILE.apt [options]
+    ventrel-sim --replay FILE [FILE.apt] [--log | --score] [--until T]
 
   --width 800|1024   screen layout (default: that of the file)
   --skill 0..4       0 Easy, 1 Normal (default), 2 Moderate, 3 Hard, 4 Custom
@@ -36,10 +37,14 @@ constexpr std::string_view help = R"(Plays one shift without a window and writes
   --interactive      another program plays: a JSON object for each step, orders read after it
   --log              a log for people instead of one JSON object a line
   --prediction       how good the prediction of conflicts was, instead of everything that happens
+  --record FILE      keeps the shift as a replay, in a new file
+  --replay FILE      plays a replay, as the shift was played; without FILE.apt in the airspace of its name out
+                     of the folder apt beside this program, or of the player's own
+  --score            the outcome alone, in one line
   --help             this text
 
-Exit status: 0 the shift ended or --until was reached; 1 the airport file cannot be played;
-2 wrong usage or a wrong orders file.
+Exit status: 0 the shift ended or --until was reached; 1 the airport file or replay cannot be played;
+2 wrong usage or a wrong orders file; 3 the replay did not come out as it tells, or tells no end.
 )";
 
 template <typename Number>
@@ -99,6 +104,7 @@ struct OptionRule {
     std::string_view
         expected; ///< what its value must be, for the message; empty for an option without a value
     bool (*set)(Arguments& arguments, std::string_view value);
+    bool goesWithReplay = false; ///< it sets up no shift of its own
 };
 
 constexpr unsigned anyUnsigned = std::numeric_limits<unsigned>::max();
@@ -129,16 +135,28 @@ constexpr std::array optionRules{
                    a.orders = v;
                    return true;
                }},
-    OptionRule{"--until", "a clock second from 0 to 2000000000", setUntil},
+    OptionRule{"--until", "a clock second from 0 to 2000000000", setUntil, true},
     OptionRule{"--controller", "", [](Arguments& a, std::string_view) { return a.controller = true; }},
     OptionRule{"--look-ahead", "a number from 1 to 40",
                [](Arguments& a, std::string_view v) { return readNumber(v, 1, stepsAhead, a.lookAhead); }},
     OptionRule{"--careless", "", [](Arguments& a, std::string_view) { return a.careless = true; }},
     OptionRule{"--interactive", "", [](Arguments& a, std::string_view) { return a.interactive = true; }},
     OptionRule{"--speaking", "", [](Arguments& a, std::string_view) { return a.speaking = true; }},
-    OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }},
+    OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }, true},
     OptionRule{"--prediction", "", [](Arguments& a, std::string_view) { return a.prediction = true; }},
-    OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }},
+    OptionRule{"--record", "a file",
+               [](Arguments& a, std::string_view v) {
+                   a.record = v;
+                   return true;
+               }},
+    OptionRule{"--replay", "a file",
+               [](Arguments& a, std::string_view v) {
+                   a.replay = v;
+                   return true;
+               },
+               true},
+    OptionRule{"--score", "", [](Arguments& a, std::string_view) { return a.score = true; }, true},
+    OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }, true},
 };
 
 const OptionRule* ruleOf(std::string_view word) {
@@ -196,14 +214,21 @@ std::string takeFile(Arguments& arguments, std::span<const char* const>& words) 
 
 std::variant<Arguments, std::string> parseArguments(std::span<const char* const> words) {
     Arguments arguments;
+    std::string_view settingUp; // the first option that does not go with a replay
     while (!words.empty()) {
         const bool isOption = std::string_view{words.front()}.starts_with("-");
+        if (const OptionRule* const rule = ruleOf(words.front()); rule != nullptr && settingUp.empty()) {
+            settingUp = rule->goesWithReplay ? std::string_view{} : rule->name;
+        }
         std::string fault = isOption ? takeOption(arguments, words) : takeFile(arguments, words);
         if (!fault.empty()) {
             return fault;
         }
     }
-    if (arguments.airport.empty() && !arguments.help) {
+    if (arguments.replay && !settingUp.empty()) {
+        return std::string{settingUp} + " does not go with --replay, which tells all of the shift";
+    }
+    if (arguments.airport.empty() && !arguments.replay && !arguments.help) {
         return "an airport file is needed";
     }
     if (const auto fault = shiftFault(arguments)) {

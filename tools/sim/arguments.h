@@ -36,6 +36,9 @@ struct Arguments {
     bool speaking = false;    ///< the pilots are heard
     bool log = false;         ///< a log for people instead of the trace
     bool prediction = false;  ///< an account of the prediction of conflicts instead of the trace
+    std::optional<std::filesystem::path> record; ///< the replay that is made of the shift
+    std::optional<std::filesystem::path> replay; ///< the shift to play in place of one that is set up here
+    bool score = false;                          ///< the outcome alone
     bool help = false;
 };
 

@@ -1,17 +1,23 @@
 // ventrel-sim: one shift without a window, written to standard output.
 
 #include <array>
+#include <chrono>
 #include <cstdio>
 #include <exception>
+#include <functional>
 #include <iostream>
 #include <span>
 
 #include "base/windows1252.h"
+#include "platform/machine/places.h"
+#include "replay/replay_airspace.h"
+#include "replay/replay_reader.h"
 #include "tools/sim/arguments.h"
 #include "tools/sim/careless.h"
 #include "tools/sim/interactive.h"
 #include "tools/sim/log_writer.h"
 #include "tools/sim/prediction_account.h"
+#include "tools/sim/score_writer.h"
 #include "tools/sim/shift_run.h"
 #include "tools/sim/trace_writer.h"
 
@@ -19,7 +25,9 @@ namespace ventrel {
 
 namespace {
 
-enum ExitStatus { played = 0, scenarioRefused = 1, wrongUsage = 2 };
+enum ExitStatus { played = 0, scenarioRefused = 1, wrongUsage = 2, notAsTold = 3 };
+
+constexpr std::string_view airportFolder = "apt";
 
 /// `text` is Windows-1252, and may hold what a file holds.
 void complain(std::string_view text) {
@@ -42,27 +50,51 @@ Steering steeringOf(const Game& game, const Arguments& arguments) {
     };
 }
 
-void playShift(Game& game, Output& output, const Arguments& arguments,
-               std::span<const ScriptedOrder> orders) {
-    RunPlan plan{
-        .orders = orders, .until = arguments.until, .steering = {}, .hearsPilots = arguments.speaking};
+/// Runs with the writer that the arguments ask for.
+void runWritten(const Game& game, Output& output, const Arguments& arguments,
+                const std::function<void(Recorder&)>& run) {
+    if (arguments.score) {
+        ScoreWriter writer{output, game};
+        run(writer);
+    } else if (arguments.prediction) {
+        PredictionAccount account{output, game};
+        run(account);
+    } else if (arguments.log) {
+        LogWriter writer{output, game};
+        run(writer);
+    } else {
+        TraceWriter writer{output, game};
+        run(writer);
+    }
+}
+
+void playShift(Game& game, Output& output, const Arguments& arguments, RunPlan plan) {
     plan.steering = steeringOf(game, arguments);
+    const auto run = [&](Recorder& recorder) { runShift(game, recorder, plan); };
     if (arguments.interactive) {
         InteractiveWriter writer{output, game};
         if (!plan.steering) {
             plan.steering = [&writer](Game& now, Recorder&) { takeOrders(std::cin, now, writer); };
         }
-        runShift(game, writer, plan);
-    } else if (arguments.prediction) {
-        PredictionAccount account{output, game};
-        runShift(game, account, plan);
-    } else if (arguments.log) {
-        LogWriter writer{output, game};
-        runShift(game, writer, plan);
+        run(writer);
     } else {
-        TraceWriter writer{output, game};
-        runShift(game, writer, plan);
+        runWritten(game, output, arguments, run);
     }
+}
+
+ReplayHeader headerFor(const Game& game, const ShiftSetup& setup, const Arguments& arguments) {
+    ReplayHeader header = replayHeader(game, setup, arguments.seed);
+    header.begun = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    header.airspaceFile = arguments.airport.filename().string();
+    return header;
+}
+
+ExitStatus finish(Output& output) {
+    if (!output.finish()) {
+        complain("the output could not be written");
+        return scenarioRefused;
+    }
+    return played;
 }
 
 ExitStatus play(const Arguments& arguments) {
@@ -83,6 +115,13 @@ ExitStatus play(const Arguments& arguments) {
     setup.layout = *layout;
     Game game{*airspace, setup, RandomGenerator{arguments.seed}};
 
+    ReplayWriter replay{game};
+    if (arguments.record) {
+        if (const auto begun = replay.begin(*arguments.record, headerFor(game, setup, arguments)); !begun) {
+            complain(begun.error().text);
+            return scenarioRefused;
+        }
+    }
     std::vector<ScriptedOrder> orders;
     if (arguments.orders) {
         auto read = readOrderFile(*arguments.orders, game);
@@ -93,15 +132,52 @@ ExitStatus play(const Arguments& arguments) {
         orders = std::get<std::vector<ScriptedOrder>>(std::move(read));
     }
     Output output{stdout};
-    playShift(game, output, arguments, orders);
-    if (!output.finish()) {
-        complain("the output could not be written");
+    playShift(game, output, arguments,
+              {.orders = orders,
+               .until = arguments.until,
+               .steering = {},
+               .hearsPilots = arguments.speaking,
+               .replay = arguments.record ? &replay : nullptr});
+    return finish(output);
+}
+
+/// The airspace that is named, or else the one of the replay's name.
+Result<AirspacePtr> airspaceFor(const Arguments& arguments, const ReplayHeader& header,
+                                const std::filesystem::path& program) {
+    if (!arguments.airport.empty()) {
+        return loadAirport(arguments.airport);
+    }
+    const std::filesystem::path playersOwn = userDataFolder("ventrel");
+    const std::array folders{program.parent_path() / airportFolder,
+                             playersOwn.empty() ? playersOwn : playersOwn / airportFolder};
+    return findReplayAirspace(header, folders);
+}
+
+ExitStatus replayShift(const Arguments& arguments, const std::filesystem::path& program) {
+    auto replay = readReplay(*arguments.replay);
+    const auto airspace = replay ? airspaceFor(arguments, replay->header, program)
+                                 : Result<AirspacePtr>{tl::unexpected(replay.error())};
+    auto game = airspace ? replayedGame(*replay, *airspace) : Result<Game>{tl::unexpected(airspace.error())};
+    if (!game) {
+        complain(game.error().text);
         return scenarioRefused;
+    }
+    Playback playback{std::move(*replay)};
+    Output output{stdout};
+    runWritten(*game, output, arguments,
+               [&](Recorder& recorder) { runReplay(*game, recorder, playback, arguments.until); });
+    if (const auto status = finish(output); status != played) {
+        return status;
+    }
+    const auto proven = playback.next() == nullptr ? playback.proven(*game) : Result<>{};
+    if (!proven) {
+        complain(proven.error().text);
+        return notAsTold;
     }
     return played;
 }
 
-int runTool(std::span<const char* const> words) {
+int runTool(const char* program, std::span<const char* const> words) {
     std::ios::sync_with_stdio(false);
     const auto parsed = parseArguments(words);
     if (const auto* const fault = std::get_if<std::string>(&parsed)) {
@@ -113,7 +189,7 @@ int runTool(std::span<const char* const> words) {
         std::fwrite(helpText().data(), 1, helpText().size(), stdout);
         return played;
     }
-    return play(arguments);
+    return arguments.replay ? replayShift(arguments, executableFile(program)) : play(arguments);
 }
 
 } // namespace
@@ -123,7 +199,7 @@ int runTool(std::span<const char* const> words) {
 int main(int count, char** words) {
     using namespace ventrel;
     try {
-        return runTool({words + 1, words + count});
+        return runTool(words[0], {words + 1, words + count});
     } catch (const std::exception& error) { // such as memory that ran out
         std::fprintf(stderr, "ventrel-sim: %s\n", error.what());
         return scenarioRefused;

@@ -4,7 +4,10 @@
 
 #include <optional>
 
+#include "replay/replay_writer.h"
+#include "sim/event_relay.h"
 #include "sim/game.h"
+#include "sim/orders.h"
 
 namespace ventrel {
 
@@ -14,11 +17,17 @@ using RunResult = std::optional<ShiftResult>;
 class Recorder : public SimulationEvents {
 public:
     /// Writes down this game, which outlives the recorder.
-    explicit Recorder(const Game& game) : game_{game} {}
+    explicit Recorder(const Game& game) : game_{game} { relay_.add(*this); }
 
     /// From now on pilots are heard: each call with radio noise draws its length from there, as it does in
     /// the game with its voices on.
     void hearPilots(RandomGenerator& random) { noise_ = &random; }
+
+    /// From now on the shift is kept as a replay, too. The writer outlives the run.
+    void keepReplay(ReplayWriter& replay);
+
+    /// What the game is to tell: this recorder and whoever else keeps the shift.
+    SimulationEvents& events() { return relay_; }
 
     virtual void shiftSetUp() = 0;
     virtual void orderGiven(FlightIndex /*flight*/, const PanelOrder& /*order*/) {}
@@ -44,6 +53,8 @@ private:
     const Game& game_;
     RunResult result_;
     RandomGenerator* noise_ = nullptr; // none: nobody is heard
+    ReplayWriter* replay_ = nullptr;   // none: no replay is kept
+    EventRelay relay_;
 };
 
 } // namespace ventrel

@@ -22,6 +22,18 @@ void sendOrders(Game& game, Recorder& recorder, std::span<const ScriptedOrder>& 
     }
 }
 
+/// Orders are framed by what the recorder adds to them.
+void playEvent(Game& game, Recorder& recorder, Playback& playback, const ReplayEvent& event) {
+    const auto* const order = std::get_if<ReplayedOrder>(&event.what);
+    if (order != nullptr) {
+        game.clock = event.clock;
+        recorder.orderGiven(order->flight, panelOrderFrom(*order, game.vorCount()));
+    }
+    if (const auto result = playback.playNext(game, recorder.events())) {
+        recorder.orderExecuted(order->flight, *result);
+    }
+}
+
 } // namespace
 
 Steering automaticSteering(const Game& game, int lookAhead) {
@@ -38,14 +50,41 @@ void runShift(Game& game, Recorder& recorder, const RunPlan& plan) {
     if (plan.hearsPilots) {
         recorder.hearPilots(game.random);
     }
+    if (plan.replay != nullptr) {
+        recorder.keepReplay(*plan.replay);
+    }
     recorder.shiftSetUp();
-    while (timeOfNextStep(game) <= plan.until && step(game, recorder)) {
+    while (timeOfNextStep(game) <= plan.until && step(game, recorder.events())) {
         recorder.stepTaken();
         sendOrders(game, recorder, orders);
         if (plan.steering) {
             plan.steering(game, recorder);
         }
     }
+    if (plan.replay != nullptr && game.isRunning()) {
+        plan.replay->giveUp();
+    }
+    recorder.runEnded(recorder.result());
+}
+
+void runReplay(Game& game, Recorder& recorder, Playback& playback, ClockSeconds until) {
+    recorder.shiftSetUp();
+    bool isInStep = false; // its row is due once its lamps are lit
+    const auto endStep = [&] {
+        if (isInStep && game.isRunning()) {
+            recorder.stepTaken();
+        }
+        isInStep = false;
+    };
+    for (const auto* next = playback.next(); next != nullptr && next->clock <= until;
+         next = playback.next()) {
+        if (!std::holds_alternative<ReplayedLamp>(next->what)) {
+            endStep();
+        }
+        playEvent(game, recorder, playback, *next);
+        isInStep = isInStep || std::holds_alternative<ReplayedStep>(next->what);
+    }
+    endStep();
     recorder.runEnded(recorder.result());
 }
 

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "controller/track.h"
+#include "replay/playback.h"
 #include "tools/sim/order_text.h"
 #include "tools/sim/recorder.h"
 
@@ -22,10 +23,14 @@ struct RunPlan {
     ClockSeconds until;                    ///< no step later than this
     Steering steering;                     ///< may be empty
     bool hearsPilots = false;              ///< as in a game with its voices on (see Recorder::hearPilots)
+    ReplayWriter* replay = nullptr;        ///< keeps the shift, too; it has begun
 };
 
 /// The shift has just been set up; it is told to the recorder, run in steps of 15 clock seconds, and told to
 /// have ended.
 void runShift(Game& game, Recorder& recorder, const RunPlan& plan);
+
+/// The same for the game of a replay, from its set-up to the replay's end, and no event later than `until`.
+void runReplay(Game& game, Recorder& recorder, Playback& playback, ClockSeconds until);
 
 } // namespace ventrel
