@@ -36,7 +36,8 @@ struct PanelLayout {
     Rect targetUp;
     Rect targetDown;
 
-    Rect preview; ///< the line that tells what the flight is doing
+    Rect preview;     ///< the line that tells what the flight is doing, written from its very edge
+    Rect previewWell; ///< around it, with some air before the first letter
 
     /// The bar of an altitude in thousands of feet.
     constexpr Rect altitudeBar(int altitude) const {
@@ -81,6 +82,7 @@ constexpr PanelLayout panelLayoutAt(const PanelAnchors& at) {
         .targetUp = {79, 73, 90, 82},
         .targetDown = {79, 83, 90, 92},
         .preview = {2, 93, 167, 105},
+        .previewWell = {0, 93, 167, 105},
     };
 }
 

@@ -191,7 +191,7 @@ void addPanel(std::vector<Place>& places, Point corner) {
     places.push_back(straight("target box", at(panelLayout.targetBox), wellEdge));
     places.push_back(straight("target up", at(panelLayout.targetUp), arrowEdge));
     places.push_back(straight("target down", at(panelLayout.targetDown), arrowEdge));
-    places.push_back(straight("preview", at(panelLayout.preview), wellEdge));
+    places.push_back(straight("preview", at(panelLayout.previewWell), wellEdge));
 }
 
 std::vector<Place> placesOf(const ConsoleLayout& console) {

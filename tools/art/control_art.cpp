@@ -108,17 +108,10 @@ void drawSelector(Svg& svg, Point corner) {
     drawArrowKey(svg, at(corner, places.targetDown), false);
 }
 
-/// The program writes from the very edge of its place; the well leaves the letters some air.
-void drawPreview(Svg& svg, Point corner) {
-    constexpr double air = 2;
-    const Box place = at(corner, places.preview);
-    drawWell(svg, {place.x - air, place.y, place.width + air, place.height}, "#000", 1.5);
-}
-
 } // namespace
 
 void drawControls(Svg& svg, Point corner) {
-    drawPreview(svg, corner);
+    drawWell(svg, at(corner, places.previewWell), "#000", 1.5);
     drawDial(svg, corner);
     drawSpeedLamps(svg, corner);
     drawAltitudeScale(svg, corner);
