@@ -73,13 +73,18 @@ public:
     }
 
 private:
-    /// One pixel after the other until the sound ends.
+    /// One pixel after the other until the sound ends. A machine that is late passes some over: the way down
+    /// must not take longer than the sound.
     bool slide() {
         const Size screen = desktop_.size();
-        for (int y = 0; y < screen.height - leftHanging && sounds_.isAnyPlaying(); ++y) {
-            if (!pumpFor(slideInterval)) {
+        const int lowest = screen.height - leftHanging - 1;
+        const Millis start = desktop_.now();
+        for (int y = -1; y < lowest && sounds_.isAnyPlaying();) {
+            if (!pumpUntil(start + (y + 2) * slideInterval)) {
                 return false;
             }
+            const Millis due = (desktop_.now() - start) / slideInterval - 1;
+            y = static_cast<int>(std::min<Millis>(due, lowest));
             curtain_.setBounds({0, y, screen.width, screen.height});
             curtain_.invalidate();
         }

@@ -43,15 +43,6 @@ TEST_F(OpeningTest, ComesToTheConsoleByItself) {
     stage->play();
 }
 
-TEST_F(OpeningTest, AClickLeadsToTheConsole) {
-    begin();
-    stage->wait(5000);
-    stage->todo([](Script& script) { script.click({1, 1}).wait(50); });
-    expectConsole(true, "after a click");
-    stage->startNewGame();
-    stage->play();
-}
-
 TEST_F(OpeningTest, IsLeftOutWhereItsSoundDoesNotStart) {
     begin("[Options]\nEffects=0\n");
     stage->wait(50);
@@ -68,6 +59,7 @@ TEST_F(OpeningTest, ADamagedTitleIsToldOfAndMissed) {
     expectConsole(false, "it opens without");
     stage->todo([](Script& script) { script.key(Key::escape).wait(50); });
     expectConsole(true, "after Esc");
+    stage->startNewGame();
     stage->play();
 }
 
