@@ -244,12 +244,14 @@ TEST_F(GameEndTest, AGameThatIsBegunWhileRingsSpreadStartsCleanAndGoesOn) {
         script.window(WindowEvent::deactivated).window(WindowEvent::activated); // gives the mouse free
         script.key(Key::f, withAlt).click({57, 30}).type("n").key(Key::enter).wait(100);
     });
+    stage.look([this] {
+        EXPECT_EQ(stage.shell().panel.state.flight, std::nullopt) << "it is one of the lost game";
+        EXPECT_FALSE(stage.shell().exec.window.isEnabled());
+    });
     stage.wait(9000);
     stage.look([this] {
         EXPECT_TRUE(stage.game().isRunning());
         EXPECT_EQ(stage.sounds.count("mci\\faa.mci"), 0);
-        EXPECT_EQ(stage.shell().panel.state.flight, std::nullopt);
-        EXPECT_FALSE(stage.shell().exec.window.isEnabled());
     });
     stage.play();
 }
