@@ -28,6 +28,7 @@ FlightEnd endBy(ScoreCause cause) {
 } // namespace
 
 void ShiftLog::shiftBegun(Skill skill, std::uint32_t seed) {
+    ++edition_;
     story_ = {.airspace = game_.airspace->name,
               .controller = game_.controllerName,
               .skill = skill,
@@ -40,6 +41,7 @@ void ShiftLog::shiftBegun(Skill skill, std::uint32_t seed) {
               .entries = {},
               .changes = {},
               .nearMisses = {},
+              .collisionCell = {},
               .clock = game_.clock};
     for (const Vor& vor : game_.vors()) {
         story_.places.push_back({vor.ident, vor.cell, vor.isAirport});
@@ -51,7 +53,6 @@ void ShiftLog::shiftBegun(Skill skill, std::uint32_t seed) {
 }
 
 LogEntry& ShiftLog::add(LogKind kind, std::optional<FlightIndex> flight, std::string words) {
-    ++revision_;
     story_.clock = game_.clock;
     return story_.entries.emplace_back(
         LogEntry{.kind = kind, .clock = game_.clock, .flight = flight, .words = std::move(words)});
@@ -75,7 +76,7 @@ void ShiftLog::tickerCleared() {
         const auto last = std::ranges::find_if(story_.entries.rbegin(), story_.entries.rend(), isWaiting);
         if (slot.inUse && last != story_.entries.rend()) {
             last->wasDropped = true;
-            ++revision_;
+            ++edition_;
         }
     }
 }
@@ -137,6 +138,7 @@ void ShiftLog::shiftEnded(ShiftResult result) {
         return;
     }
     story_.end = ShiftEnd::collision;
+    story_.collisionCell = game_.flight(game_.collisionFlights.front()).current().cell;
     for (const FlightIndex flight : game_.collisionFlights) {
         noteEnd(flight, FlightEnd::collided);
     }

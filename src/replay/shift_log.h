@@ -17,8 +17,9 @@ public:
     explicit ShiftLog(const Game& game) : game_{game} {}
 
     const ShiftStory& story() const { return story_; }
-    /// Another number whenever something was added; a story that is shown is looked at again then.
-    int revision() const { return revision_; }
+    /// Another number whenever entries that stood there have changed or gone. With the same one there are
+    /// only more of them.
+    int edition() const { return edition_; }
 
     /// The game has just been set up, from a generator of that state. The story before it is forgotten.
     void shiftBegun(Skill skill, std::uint32_t seed);
@@ -43,7 +44,7 @@ private:
 
     const Game& game_;
     ShiftStory story_;
-    int revision_ = 0;
+    int edition_ = 0;
 };
 
 } // namespace ventrel

@@ -89,6 +89,7 @@ struct ShiftStory {
     std::vector<LogEntry> entries;
     std::vector<PointsChange> changes; ///< with the free orders, which change nothing
     std::vector<NearMiss> nearMisses;
+    std::optional<Cell> collisionCell{};
     ClockSeconds clock; ///< of what came last
     int score = 0;
     ShiftEnd end = ShiftEnd::running;

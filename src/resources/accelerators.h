@@ -23,6 +23,7 @@ inline constexpr std::array mainAccelerators{std::to_array<Accelerator>({
     {Key::o, altKey, command::optionsMenu},
     {Key::h, altKey, command::helpMenu},
     {Key::s, controlKey, command::schedule},
+    {Key::l, controlKey, command::shiftLog},
     {Key::f4, altKey, command::exitProgram},
     {Key::escape, noModifiers, command::bossKey},
     {Key::pause, noModifiers, command::pause},

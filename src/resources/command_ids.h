@@ -76,6 +76,8 @@ inline constexpr int musicLouder = 4231;
 inline constexpr int soundSofter = 4232;
 inline constexpr int soundLouder = 4233;
 
+inline constexpr int shiftLog = 4250; ///< the window of the log: opens, closes
+
 inline constexpr int aids = 4280; ///< the dialog of the aids
 
 inline constexpr int nextFlight = 4203; ///< that can be selected, wherever its strip is

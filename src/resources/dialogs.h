@@ -137,6 +137,38 @@ inline constexpr DialogTemplate shape{.title = "Schedule", .size = {271, 197}, .
 
 } // namespace schedule
 
+// Shift Log -------------------------------------------------------------------------------------------------
+
+namespace shift_log {
+
+inline constexpr int all = 1100;
+inline constexpr int flight = 1101;
+inline constexpr int points = 1102;
+inline constexpr int calls = 1103;
+inline constexpr int orders = 1104;
+inline constexpr int copy = 1105;
+
+/// Where the lines begin, in dialog units; they fill the rest.
+inline constexpr int viewTop = 19;
+/// Pixels of the inside in either size of the main window.
+inline constexpr Size smallInside{396, 136};
+inline constexpr Size largeInside{520, 190};
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::radioButton, all, "All", {4, 4, 28, 14}, groupStart},
+    {ControlKind::radioButton, flight, "Flight", {31, 4, 63, 14}},
+    {ControlKind::radioButton, points, "Points", {67, 4, 102, 14}},
+    {ControlKind::radioButton, calls, "Calls", {105, 4, 135, 14}},
+    {ControlKind::radioButton, orders, "Orders", {138, 4, 176, 14}},
+    {ControlKind::pushButton, copy, "Copy", {180, 2, 212, 16}},
+})};
+
+/// A window beside the game, of a size of its own.
+inline constexpr DialogTemplate shape{
+    .title = "Shift Log", .size = {264, 84}, .controls = controls, .activates = false};
+
+} // namespace shift_log
+
 // About -----------------------------------------------------------------------------------------------------
 
 namespace about {

@@ -55,7 +55,7 @@ inline constexpr std::array keyRows{std::to_array<KeyRow>({
     {"Space", "", "on to the next 15 seconds"},
     {"Pause", "", "pause and go on", {{{Key::p, "P"}}}},
     {"Esc", "", "boss key: hide the window"},
-    {"Ctrl+S", "", "schedule of the shift"},
+    {"Ctrl+S, Ctrl+L", "", "schedule, log of the shift"},
     {"Alt+F, Alt+O, Alt+H", "", "menus File, Options, Help"},
     {"F5 F6, F7 F8", "", "music down, up; the rest down, up"},
     {"F11, Alt+Enter", "", "full screen or a window"},

@@ -48,6 +48,7 @@ inline constexpr auto optionsMenuItems = joined(std::to_array<MenuItemTemplate>(
                                                 std::to_array<MenuItemTemplate>({
                                                     menuSeparator,
                                                     {"A&ids...", command::aids},
+                                                    {"Shift &Log...\tCtrl+L", command::shiftLog},
                                                 }));
 
 inline constexpr std::array helpMenuItems{std::to_array<MenuItemTemplate>({

@@ -97,6 +97,7 @@ constexpr std::array actions{std::to_array<Action>({
     {command::about, runAboutDialog},
     {command::help, runHelpDialog},
     {command::aids, runAidsDialog},
+    {command::shiftLog, LogWindowToggle},
     {command::bossKey, hideFromBoss},
     {command::pause, [](Shell& shell) { SetPause(shell, !shell.paused); }},
     {command::toggleDirect, [](Shell& shell) { CtrlToggleDirect(shell.panel); }},

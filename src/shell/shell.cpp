@@ -52,7 +52,7 @@ Shell::Shell(ShellParts parts)
             .sources = {game, options, fonts, pictures.hand},
             .callbacks = radarCallbacks(*this),
             .layout = radarLayoutFor(windowSize().width)},
-      player(*this), log(game) {
+      player(*this), log(game), logWindow{.view = {.log = log, .font = widgetFonts.text}} {
     events.add(log);
     events.add(player);
     game.random = parts.random;

@@ -24,6 +24,7 @@
 #include "radar/radar_window.h"
 #include "replay/shift_log.h"
 #include "shell/game_setup.h"
+#include "shell/log_window.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
 #include "shell/simulation_player.h"
@@ -84,6 +85,7 @@ struct Shell {
     RadarWindow radar;
     SimulationPlayer player;
     ShiftLog log; ///< of the shift that is played, or of the last one
+    LogWindow logWindow;
     /// What the simulation speaks to: the log, which must know what the ticker has room for; the player; then
     /// whoever listens, too.
     EventRelay events;

@@ -6,6 +6,7 @@
 namespace ventrel {
 
 std::optional<Millis> Tick(Shell& shell) {
+    LogWindowTick(shell);
     if (shell.paused && shell.game.isRunning()) {
         return std::nullopt;
     }

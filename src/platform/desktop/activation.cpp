@@ -64,6 +64,14 @@ void tellFocusGained(DesktopState& state) {
     }
 }
 
+/// Whether nothing lies over it but what it owns.
+bool isUppermost(const DesktopState& state, const WindowPtr& topLevel) {
+    const auto place = std::ranges::find(state.topLevels, topLevel);
+    return std::all_of(place, state.topLevels.end(), [&](const WindowPtr& above) {
+        return above == topLevel || isOwnedBy(*above, *topLevel);
+    });
+}
+
 /// A focus that was hidden or disabled does not come back by itself.
 void forgetUnfitFocus(WindowRecord& topLevel) {
     const WindowPtr focus = alive(topLevel.focus);
@@ -125,7 +133,7 @@ void raiseInSight(const WindowPtr& window) {
 }
 
 void activateTopLevel(DesktopState& state, const WindowPtr& topLevel) {
-    if (state.topLevels.back() != topLevel) {
+    if (!isUppermost(state, topLevel)) {
         raiseInSight(topLevel);
     }
     if (!canBeActive(state, *topLevel)) {

@@ -28,6 +28,11 @@ bool offer(WindowPtr window, Handler handler, const Arguments&... arguments) {
     return false;
 }
 
+bool takesNoInput(const DesktopState& state, const WindowPtr& window) {
+    WindowRecord& topLevel = topLevelOf(*window);
+    return !topLevel.enabled || isLocked(state, topLevel);
+}
+
 // Keys and text -------------------------------------------------------------------------------------------
 
 /// The menu while one is open; else the focus, unless a dialog locks the active window.
@@ -56,7 +61,20 @@ bool runAccelerator(const WindowPtr& target, const KeyEvent& key) {
     return true;
 }
 
+/// A window that never has the keyboard hears what is pressed over it.
+bool offerToHovered(DesktopState& state, const KeyEvent& key) {
+    const PointerState& pointer = state.pointer;
+    const bool isFree = pointer.position && alive(pointer.captured) == nullptr;
+    const WindowPtr hovered = isFree ? windowAt(state, *pointer.position) : nullptr;
+    return hovered != nullptr && !takesNoInput(state, hovered) &&
+           callHandler(topLevelOf(*hovered).shared_from_this(), &WindowHandlers::hoverKey, key);
+}
+
 void routeKey(DesktopState& state, const KeyEvent& key, bool accelerators) {
+    if (offerToHovered(state, key)) {
+        state.queue.textIsSpent = key.down;
+        return;
+    }
     const WindowPtr target = keyTarget(state);
     // Spent while it is being handled, too: a dialog that it opens must not receive its text.
     state.queue.textIsSpent = key.down;
@@ -83,11 +101,6 @@ WindowPtr mouseTarget(DesktopState& state, Point screen) {
         window = window->parent->shared_from_this();
     }
     return window;
-}
-
-bool takesNoInput(const DesktopState& state, const WindowPtr& window) {
-    WindowRecord& topLevel = topLevelOf(*window);
-    return !topLevel.enabled || isLocked(state, topLevel);
 }
 
 void refusePress(DesktopState& state) {

@@ -209,6 +209,9 @@ struct WindowHandlers {
     /// A key went down (again, when held) or up. Goes to the focus window, then, while the answer is false,
     /// to its ancestors. The text of a key press that was handled is not delivered.
     std::function<bool(const KeyEvent&)> key = nullptr;
+    /// Top-levels that do not activate: a key while the pointer is over them and nobody holds the mouse,
+    /// before anybody else is asked. True when it was meant for this one.
+    std::function<bool(const KeyEvent&)> hoverKey = nullptr;
     /// Typed characters in Windows-1252; passed on like keys.
     std::function<bool(std::string_view)> text = nullptr;
     /// The keyboard arrives at, or leaves, this very window.

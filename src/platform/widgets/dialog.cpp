@@ -18,8 +18,8 @@ Align alignOf(unsigned style) {
 Dialog::Dialog(Desktop& desktop, const WidgetFonts& fonts, const Window& owner, const DialogTemplate& shape,
                DialogHandlers handlers)
     : desktop_(desktop), fonts_(fonts), handlers_(std::move(handlers)), title_(shape.title),
-      hasFrame_(shape.hasFrame) {
-    createFrame(owner, shape.hasCloseBox);
+      hasFrame_(shape.hasFrame), isActive_(!shape.activates) {
+    createFrame(owner, shape);
     resizeInside({dialogUnitsAcross(shape.size.width), dialogUnitsDown(shape.size.height)});
     for (const ControlTemplate& control : shape.controls) {
         createControl(control);

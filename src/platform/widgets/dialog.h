@@ -30,6 +30,8 @@ struct DialogHandlers {
     std::function<void(Dialog&, const CommandInput&)> command = nullptr;
     /// Draws the ground inside the frame, under the controls. None: plain grey.
     std::function<void(Dialog&, Canvas&)> paint = nullptr;
+    /// Of one that does not activate: a key went down while the pointer is over it. True when it was for it.
+    std::function<bool(Dialog&, const KeyEvent&)> hoverKey = nullptr;
     /// Another number for Esc; `noEscape` makes it do nothing.
     int escapeCommand = cancelId;
 };
@@ -83,7 +85,7 @@ private:
         Window window;
     };
 
-    void createFrame(const Window& owner, bool hasCloseBox);
+    void createFrame(const Window& owner, const DialogTemplate& shape);
     void createControl(const ControlTemplate& shape);
     void chooseRadio(std::size_t index);
     struct Group {

@@ -24,8 +24,8 @@ int Dialog::frameTop() const {
     return border() + (title_.empty() ? 0 : captionHeight);
 }
 
-void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
-    hasCloseBox_ = hasCloseBox && !title_.empty();
+void Dialog::createFrame(const Window& owner, const DialogTemplate& shape) {
+    hasCloseBox_ = shape.hasCloseBox && !title_.empty();
     WindowHandlers handlers;
     handlers.key = [this](const KeyEvent& event) { return key(event); };
     handlers.text = [this](std::string_view words) { return type(words); };
@@ -42,8 +42,12 @@ void Dialog::createFrame(const Window& owner, bool hasCloseBox) {
         isActive_ = activation.active;
         frame_.invalidate();
     };
+    handlers.hoverKey = [this](const KeyEvent& event) {
+        return handlers_.hoverKey && handlers_.hoverKey(*this, event);
+    };
     handlers.close = [this] { cancel(); };
-    frame_ = desktop_.create({.owner = owner, .visible = false, .handlers = std::move(handlers)});
+    frame_ = desktop_.create(
+        {.owner = owner, .visible = false, .activates = shape.activates, .handlers = std::move(handlers)});
 
     WindowHandlers insideHandlers;
     insideHandlers.command = [this](const CommandInput& input) { command(input); };

@@ -3,26 +3,17 @@
 #include <algorithm>
 
 #include "base/letters.h"
+#include "platform/widgets/scroll_bar.h"
 
 namespace ventrel {
 
 namespace {
 
 constexpr int edge = 2;
-constexpr int barWidth = 16;
 constexpr int textIndent = 2;
-constexpr int shortestThumb = 8;
-constexpr int wheelLines = 3;
-
-// A part of the scroll bar that is held scrolls on.
-constexpr int repeatTimer = 1;
-constexpr Millis firstRepeat = 400;
-constexpr Millis nextRepeats = 60;
 
 // Letters that follow each other faster make one word to look for.
 constexpr Millis typingPause = 900;
-
-enum class BarPart { none, up, down, pageUp, pageDown };
 
 bool beginsWith(std::string_view line, std::string_view word) {
     return std::ranges::equal(line.substr(0, word.size()), word, {}, lowered, lowered);
@@ -39,13 +30,10 @@ struct ListBox::State {
     Window window;
     std::vector<std::string> lines;
     int selected = noListItem;
-    int top = 0;
     int tabWidth = 0;
-    bool isChoosing = false;      // the mouse is held over the lines
-    std::optional<int> thumbGrip; // pixels from the thumb's top to the mouse that holds it
-    BarPart held = BarPart::none; // of the scroll bar, by the mouse
-    Point heldAt;                 // where the mouse is meanwhile
-    std::string typed;            // letters of the word that is looked for
+    ScrollBar bar;
+    bool isChoosing = false; // the mouse is held over the lines
+    std::string typed;       // letters of the word that is looked for
     Millis typedAt = 0;
 
     int count() const { return static_cast<int>(lines.size()); }
@@ -53,30 +41,18 @@ struct ListBox::State {
     Rect inner() const { return window.area().grownBy(-edge); }
     Rect linesArea() const {
         const Rect area = inner();
-        return {area.left, area.top, area.right - barWidth, area.bottom};
+        return {area.left, area.top, area.right - ScrollBar::width, area.bottom};
     }
-    Rect bar() const {
+    Rect barArea() const {
         const Rect area = inner();
-        return {area.right - barWidth, area.top, area.right, area.bottom};
+        return {area.right - ScrollBar::width, area.top, area.right, area.bottom};
     }
-    Rect upArrow() const { return {bar().left, bar().top, bar().right, bar().top + barWidth}; }
-    Rect downArrow() const { return {bar().left, bar().bottom - barWidth, bar().right, bar().bottom}; }
-    Rect track() const { return {bar().left, upArrow().bottom, bar().right, downArrow().top}; }
     int page() const { return std::max(1, linesArea().height() / lineHeight()); }
-    int lastTop() const { return std::max(0, count() - page()); }
 
-    Rect thumb() const {
-        const Rect whole = track();
-        if (lastTop() == 0) {
-            return {};
-        }
-        const int height = std::max(shortestThumb, whole.height() * page() / count());
-        const int y = whole.top + (whole.height() - height) * top / lastTop();
-        return {whole.left, y, whole.right, y + height};
-    }
-
-    void scrollTo(int line) {
-        top = std::clamp(line, 0, lastTop());
+    /// After a change of the lines or of the size.
+    void layOut() {
+        bar.lie(window, barArea());
+        bar.setLines(count(), page());
         window.invalidate();
     }
 
@@ -85,10 +61,10 @@ struct ListBox::State {
             return;
         }
         selected = std::clamp(index, 0, count() - 1);
-        if (selected < top) {
-            top = selected;
-        } else if (selected >= top + page()) {
-            top = selected - page() + 1;
+        if (selected < bar.top()) {
+            bar.scrollTo(selected);
+        } else if (selected >= bar.top() + page()) {
+            bar.scrollTo(selected - page() + 1);
         }
         window.invalidate();
         if (tells) {
@@ -96,60 +72,15 @@ struct ListBox::State {
         }
     }
 
-    BarPart barPartAt(Point p) const {
-        if (lastTop() == 0 || !bar().contains(p) || thumb().contains(p)) {
-            return BarPart::none;
-        }
-        if (upArrow().contains(p)) {
-            return BarPart::up;
-        }
-        if (downArrow().contains(p)) {
-            return BarPart::down;
-        }
-        return p.y < thumb().top ? BarPart::pageUp : BarPart::pageDown;
-    }
-
-    void pressBar(Point p) {
-        window.capture();
-        if (thumb().contains(p)) {
-            thumbGrip = p.y - thumb().top;
-            return;
-        }
-        held = barPartAt(p);
-        heldAt = p;
-        if (held != BarPart::none) {
-            scrollHeld();
-            window.startTimer(repeatTimer, firstRepeat);
-        }
-    }
-
-    /// The held part scrolls on for as long as the mouse is over it.
-    void repeatHeld() {
-        window.startTimer(repeatTimer, nextRepeats);
-        if (barPartAt(heldAt) == held) {
-            scrollHeld();
-        }
-    }
-
-    void scrollHeld() {
-        switch (held) {
-        case BarPart::up: scrollTo(top - 1); break;
-        case BarPart::down: scrollTo(top + 1); break;
-        case BarPart::pageUp: scrollTo(top - page()); break;
-        case BarPart::pageDown: scrollTo(top + page()); break;
-        case BarPart::none: break;
-        }
-    }
-
-    int lineAt(Point p) const { return top + (p.y - linesArea().top) / lineHeight(); }
+    int lineAt(Point p) const { return bar.top() + (p.y - linesArea().top) / lineHeight(); }
 
     void press(const MouseInput& mouse) {
         if (mouse.button != MouseButton::left) {
             return;
         }
         window.focus();
-        if (bar().contains(mouse.position)) {
-            pressBar(mouse.position);
+        if (bar.place().contains(mouse.position)) {
+            bar.press(mouse.position);
             return;
         }
         const int line = lineAt(mouse.position);
@@ -166,13 +97,8 @@ struct ListBox::State {
     }
 
     void move(const MouseInput& mouse) {
-        if (thumbGrip) {
-            const int way = track().height() - thumb().height();
-            const int at = mouse.position.y - *thumbGrip - track().top;
-            scrollTo(way > 0 ? (at * lastTop() + way / 2) / way : 0);
-        } else if (held != BarPart::none) {
-            heldAt = mouse.position;
-            window.invalidate(bar());
+        if (bar.isHeld()) {
+            bar.move(mouse.position);
         } else if (isChoosing) {
             select(lineAt(mouse.position), true);
         }
@@ -180,12 +106,7 @@ struct ListBox::State {
 
     void letGo() {
         isChoosing = false;
-        thumbGrip.reset();
-        if (held != BarPart::none) {
-            held = BarPart::none;
-            window.stopTimer(repeatTimer);
-            window.invalidate(bar());
-        }
+        bar.letGo();
     }
 
     bool key(const KeyEvent& event) {
@@ -233,6 +154,7 @@ struct ListBox::State {
     void paintLines(Canvas& canvas) const {
         const Rect area = linesArea();
         canvas.setClip(area);
+        const int top = bar.top();
         for (int i = top; i < count() && (i - top) * lineHeight() < area.height(); ++i) {
             const int y = area.top + (i - top) * lineHeight();
             const Rect row{area.left, y, area.right, y + lineHeight()};
@@ -250,28 +172,10 @@ struct ListBox::State {
         canvas.clearClip();
     }
 
-    void paintBar(Canvas& canvas) const {
-        canvas.fill(bar(), look::softLight);
-        const bool canScroll = lastTop() > 0;
-        const Colour arrow = canScroll ? look::text : look::greyText;
-        const auto paintArrow = [&](const Rect& box, ArrowDirection direction, BarPart part) {
-            const bool isPressed = held == part && barPartAt(heldAt) == part;
-            canvas.fill(box, look::face);
-            isPressed ? drawButtonEdge(canvas, box, true) : drawRaisedEdge(canvas, box);
-            drawArrow(canvas, isPressed ? box.movedBy({1, 1}) : box, direction, arrow);
-        };
-        paintArrow(upArrow(), ArrowDirection::up, BarPart::up);
-        paintArrow(downArrow(), ArrowDirection::down, BarPart::down);
-        if (canScroll) {
-            canvas.fill(thumb(), look::face);
-            drawRaisedEdge(canvas, thumb());
-        }
-    }
-
     void paint(Canvas& canvas) const {
         canvas.fill(window.area(), look::field);
         paintLines(canvas);
-        paintBar(canvas);
+        bar.paint(canvas);
         drawSunkenEdge(canvas, window.area());
     }
 };
@@ -288,18 +192,20 @@ ListBox createListBox(Desktop& desktop, ListBoxSetup setup) {
         state->window.releaseCapture();
     };
     handlers.captureLost = [state] { state->letGo(); };
-    handlers.timer = [state](int) { state->repeatHeld(); };
+    handlers.timer = [state](int number) { state->bar.timer(number); };
     handlers.wheel = [state](int notches) {
-        state->scrollTo(state->top - notches * wheelLines);
+        state->bar.scrollBy(-notches * ScrollBar::wheelLines);
         return true;
     };
     handlers.key = [state](const KeyEvent& event) { return state->key(event); };
     handlers.text = [state](std::string_view words) { return state->type(words); };
     handlers.focus = [state](bool) { state->window.invalidate(); };
+    handlers.resized = [state](Size) { state->layOut(); };
     state->window = desktop.create({.parent = state->setup.parent,
                                     .id = state->setup.id,
                                     .bounds = state->setup.bounds,
                                     .handlers = std::move(handlers)});
+    state->layOut();
     ListBox list;
     list.window = state->window;
     list.state_ = std::move(state);
@@ -309,7 +215,7 @@ ListBox createListBox(Desktop& desktop, ListBoxSetup setup) {
 void ListBox::clear() const {
     state_->lines.clear();
     state_->selected = noListItem;
-    state_->scrollTo(0);
+    state_->layOut();
 }
 
 void ListBox::add(std::string line) const {
@@ -317,7 +223,7 @@ void ListBox::add(std::string line) const {
     const auto place =
         state_->setup.sorted ? std::upper_bound(lines.begin(), lines.end(), line, comesFirst) : lines.end();
     lines.insert(place, std::move(line));
-    window.invalidate();
+    state_->layOut();
 }
 
 int ListBox::count() const {

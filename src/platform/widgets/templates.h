@@ -61,6 +61,9 @@ struct DialogTemplate {
     std::span<const ControlTemplate> controls;
     bool hasCloseBox = true;
     bool hasFrame = true; ///< false: nothing but the inside
+    /// False: a window beside the work, which never takes the keyboard from the active one. It is not run but
+    /// shown and hidden by its frame, and hears keys only while the pointer is over it.
+    bool activates = true;
 };
 
 /// The numbers that every dialog uses.
