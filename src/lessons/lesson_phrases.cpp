@@ -1,0 +1,285 @@
+#include "lessons/lesson_phrases.h"
+
+#include <array>
+#include <charconv>
+
+#include "lessons/lesson_words.h"
+#include "sim/grid.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view blanks = " \t\r";
+constexpr int secondsPerMinute = 60;
+constexpr int mostMinutesAhead = 60;
+constexpr int mostCount = 99;
+
+std::string quoted(std::string_view word) {
+    return "'" + std::string(word) + "'";
+}
+
+/// Takes `words` off the front of the text, where whole words stand there.
+bool takeWords(std::string_view& text, std::string_view words) {
+    std::string_view rest = text;
+    std::string_view wanted = words;
+    while (!wanted.empty()) {
+        if (takeLessonWord(rest) != takeLessonWord(wanted)) {
+            return false;
+        }
+    }
+    text = rest;
+    return true;
+}
+
+/// The longest row of the table whose words the text begins with.
+template <typename Table>
+const auto* takeRow(std::string_view& text, const Table& table) {
+    const typename Table::value_type* best = nullptr;
+    std::string_view rest = text;
+    for (const auto& row : table) {
+        std::string_view after = text;
+        if (takeWords(after, row.words) && (best == nullptr || row.words.size() > best->words.size())) {
+            best = &row;
+            rest = after;
+        }
+    }
+    text = rest;
+    return best;
+}
+
+/// "0:30": minutes and seconds of the clock at which a step acts.
+std::optional<ClockSeconds> clockTime(std::string_view word) {
+    const auto colon = word.find(':');
+    if (colon == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const auto minutes = lessonNumber(word.substr(0, colon));
+    const auto seconds = lessonNumber(word.substr(colon + 1));
+    if (!minutes || !seconds || *minutes < 0 || *minutes >= mostMinutesAhead || *seconds < 0 ||
+        *seconds >= secondsPerMinute || *seconds % stepInterval.count() != 0) {
+        return std::nullopt;
+    }
+    const ClockSeconds time{*minutes * secondsPerMinute + *seconds};
+    return time > 0_s ? std::optional(time) : std::nullopt;
+}
+
+/// "2,24"
+std::optional<Cell> cellOf(std::string_view word) {
+    const auto comma = word.find(',');
+    if (comma == std::string_view::npos) {
+        return std::nullopt;
+    }
+    const auto x = lessonNumber(word.substr(0, comma));
+    const auto y = lessonNumber(word.substr(comma + 1));
+    if (!x || !y || *x < 0 || *x >= gridSize || *y < 0 || *y >= gridSize) {
+        return std::nullopt;
+    }
+    const Cell cell{*x, *y};
+    return isOutsideScope(cell) ? std::nullopt : std::optional(cell);
+}
+
+std::optional<int> altitudeOf(std::string_view word) {
+    const auto number = lessonNumber(word);
+    return number && *number >= approachAltitude && *number <= exitAltitude ? number : std::nullopt;
+}
+
+std::optional<int> headingOf(std::string_view word) {
+    const auto number = lessonNumber(word);
+    return number && isHeading(*number) ? number : std::nullopt;
+}
+
+std::optional<Speed> speedOf(std::string_view word) {
+    if (word == "slow") {
+        return Speed::slow;
+    }
+    if (word == "normal") {
+        return Speed::normal;
+    }
+    return word == "fast" ? std::optional(Speed::fast) : std::nullopt;
+}
+
+std::optional<std::size_t> flightOf(std::string_view word, std::size_t flights) {
+    if (word.size() != 1 || word.front() < 'A' || word.front() > 'Z') {
+        return std::nullopt;
+    }
+    const auto place = static_cast<std::size_t>(word.front() - 'A');
+    return place < flights ? std::optional(place) : std::nullopt;
+}
+
+/// What the operands of a phrase fill in.
+struct Operands {
+    int number = 0;
+    std::string point{};
+    Speed speed = Speed::normal;
+    std::optional<std::size_t> flight{};
+};
+
+bool takeCount(std::string_view& text, Operands& into) {
+    const auto number = lessonNumber(takeLessonWord(text));
+    into.number = number.value_or(0);
+    return into.number >= 1 && into.number <= mostCount;
+}
+
+bool takeNumber(std::string_view& text, Operands& into, std::optional<int> (*numberOf)(std::string_view)) {
+    const auto number = numberOf(takeLessonWord(text));
+    into.number = number.value_or(0);
+    return number.has_value();
+}
+
+bool takePoint(std::string_view& text, Operands& into) {
+    into.point = takeLessonWord(text);
+    return !into.point.empty();
+}
+
+bool takeAnyPoint(std::string_view& text, Operands& into) {
+    if (!takePoint(text, into)) {
+        return false;
+    }
+    if (into.point == "any") {
+        into.point.clear();
+    }
+    return true;
+}
+
+bool takeSpeed(std::string_view& text, Operands& into) {
+    const auto speed = speedOf(takeLessonWord(text));
+    into.speed = speed.value_or(Speed::normal);
+    return speed.has_value();
+}
+
+/// Takes an operand of that kind off the text; false where there is none.
+bool takeOperand(std::string_view& text, Operand operand, std::size_t flights, Operands& into) {
+    std::string_view ahead = text;
+    switch (operand) {
+    case Operand::none: return true;
+    case Operand::altitude: return takeNumber(text, into, altitudeOf);
+    case Operand::heading: return takeNumber(text, into, headingOf);
+    case Operand::speed: return takeSpeed(text, into);
+    case Operand::count: return takeCount(text, into);
+    case Operand::point: return takePoint(text, into);
+    case Operand::anyPoint: return takeAnyPoint(text, into);
+    case Operand::distance: return takeCount(text, into) && takeWords(text, "of") && takePoint(text, into);
+    case Operand::flight:
+        into.flight = flightOf(takeLessonWord(text), flights);
+        return into.flight.has_value();
+    case Operand::perhapsAltitude: return takeLessonWord(ahead).empty() || takeNumber(text, into, altitudeOf);
+    }
+    return false;
+}
+
+Result<FactTerm> takeTerm(std::string_view& text, std::size_t flights) {
+    FactTerm term;
+    term.isNegated = takeWords(text, "not");
+    const std::string_view whole = text;
+    std::string_view ahead = text;
+    term.flight = flightOf(takeLessonWord(ahead), flights);
+    if (term.flight) {
+        text = ahead;
+    }
+    const auto* row = takeRow(text, factWords);
+    if (row == nullptr || row->ofFlight != term.flight.has_value()) {
+        return failed(quoted(whole) +
+                      " begins with no fact that there is of a flight of the lesson, or of none");
+    }
+    term.fact = row->fact;
+    Operands operands;
+    if (!takeOperand(text, row->operand, flights, operands)) {
+        return failed("after '" + std::string(row->words) + "' something else must follow");
+    }
+    term.number = operands.number;
+    term.point = std::move(operands.point);
+    term.speed = operands.speed;
+    return term;
+}
+
+bool readOrigin(std::string_view& text, LessonFlight& flight) {
+    const std::string_view from = takeLessonWord(text);
+    const auto cell = cellOf(from);
+    if (!cell) {
+        flight.from = from;
+        return !from.empty() && from.find(',') == std::string_view::npos;
+    }
+    flight.cell = *cell;
+    const bool hasHeading = takeWords(text, "heading");
+    const auto heading = headingOf(takeLessonWord(text));
+    const bool hasAltitude = takeWords(text, "altitude");
+    const auto altitude = altitudeOf(takeLessonWord(text));
+    flight.heading = heading.value_or(0);
+    flight.altitude = altitude.value_or(0);
+    return hasHeading && heading && hasAltitude && altitude;
+}
+
+} // namespace
+
+std::string_view takeLessonWord(std::string_view& text) {
+    text.remove_prefix(std::min(text.find_first_not_of(blanks), text.size()));
+    const std::string_view word = text.substr(0, text.find_first_of(blanks));
+    text.remove_prefix(word.size());
+    return word;
+}
+
+std::optional<int> lessonNumber(std::string_view word) {
+    int value = 0;
+    const auto [end, fault] = std::from_chars(word.data(), word.data() + word.size(), value);
+    const bool isWhole = fault == std::errc{} && end == word.data() + word.size();
+    return isWhole ? std::optional(value) : std::nullopt;
+}
+
+Result<LessonFlight> readLessonFlight(std::string_view text, char letter) {
+    LessonFlight flight;
+    flight.letter = letter;
+    if (takeLessonWord(text) != std::string(1, letter)) {
+        return failed("flights go by letters in their order; this one is " + std::string(1, letter));
+    }
+    if (!takeWords(text, "at")) {
+        return failed("after its letter a flight needs 'at' and its time, such as 0:30");
+    }
+    const auto at = clockTime(takeLessonWord(text));
+    if (!at) {
+        return failed("a flight comes at 0:15 to 59:45, a multiple of 15 seconds");
+    }
+    flight.at = *at;
+    if (!takeWords(text, "from") || !readOrigin(text, flight)) {
+        return failed(
+            "a flight comes 'from' an airport, or from a cell of the scope with heading and altitude, "
+            "such as 2,24 heading 90 altitude 6");
+    }
+    if (!takeWords(text, "to")) {
+        return failed("a flight needs 'to' and a point");
+    }
+    flight.to = takeLessonWord(text);
+    flight.isHeavy = takeWords(text, "heavy");
+    if (flight.to.empty() || !takeLessonWord(text).empty()) {
+        return failed("a flight ends with 'to', a point, and perhaps 'heavy'");
+    }
+    return flight;
+}
+
+Result<Condition> readCondition(std::string_view text, std::size_t flights) {
+    Condition condition;
+    do {
+        auto term = takeTerm(text, flights);
+        if (!term) {
+            return tl::unexpected(std::move(term.error()));
+        }
+        condition.push_back(std::move(*term));
+    } while (takeWords(text, "and"));
+    if (const std::string_view rest = takeLessonWord(text); !rest.empty()) {
+        return failed(quoted(rest) + " stands where only 'and' may");
+    }
+    return condition;
+}
+
+Result<LessonSpot> readLessonSpot(std::string_view text, std::size_t flights) {
+    const std::string_view whole = text;
+    const auto* row = takeRow(text, spotWords);
+    Operands operands;
+    if (row == nullptr || !takeOperand(text, row->operand, flights, operands) ||
+        !takeLessonWord(text).empty()) {
+        return failed(quoted(whole) + " is nothing that can be shown");
+    }
+    return LessonSpot{row->spot, operands.flight, std::move(operands.point), operands.number};
+}
+
+} // namespace ventrel
