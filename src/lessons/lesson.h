@@ -16,12 +16,13 @@ namespace ventrel {
 
 /// A flight of the lesson: where it appears, when, and where it must go.
 struct LessonFlight {
-    char letter = 'A'; ///< A, B, C ... in the order of the text
-    ClockSeconds at;
-    std::string from; ///< the airport of a departure; empty for one that comes in from the edge
-    Cell cell{};      ///< of one from the edge, and how it flies there
+    char letter = 'A';              ///< A, B, C ... in the order of the text
+    std::optional<ClockSeconds> at; ///< none: when a step brings it
+    std::string from;               ///< the airport of a departure; empty for one that comes in from the edge
+    Cell cell{};                    ///< of one from the edge, and how it flies there
     int heading = 0;
     int altitude = 0;
+    bool isDirect = false; ///< it comes in on a direct course to its end
     std::string to;
     bool isHeavy = false;
 };
@@ -47,12 +48,14 @@ enum class Fact {
     airborne,
     atAltitude,
     atHeading,
+    inLine,  ///< on the line that leads through the approach cone of an airport
     within,  ///< at most so many cells from a point, as a king moves
     onFinal, ///< in line with the runway in use of an airport, on its heading
     moved,   ///< at least so many moves since the step began, or its latest order
     landed,
     left,
     lost,
+    gone, ///< one of these three
     // What befell it in this step, until its next order.
     missedHeading,  ///< over its airport, not on the runway's heading
     missedAltitude, ///< over its airport, too high
@@ -79,7 +82,9 @@ struct FactTerm {
 };
 
 /// Holds when all of its terms do.
-using Condition = std::vector<FactTerm>;
+using FactTerms = std::vector<FactTerm>;
+/// Holds when one of these does; never without any.
+using Condition = std::vector<FactTerms>;
 
 /// What the player is shown while a condition holds, in place of the step's own words.
 struct LessonAnswer {
@@ -124,6 +129,7 @@ struct LessonStep {
     LessonSpot spot{};
     Condition until{};
     std::vector<LessonAnswer> answers{};
+    std::vector<std::size_t> brought{}; ///< flights that come in, or ask for take-off, when it begins
 };
 
 struct Lesson {

@@ -1,6 +1,7 @@
 #include "lessons/lesson_file.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 
 #include "base/bytes.h"
@@ -78,6 +79,7 @@ private:
             {"say", &LessonReader::readSay},
             {"show", &LessonReader::readShow},
             {"until", &LessonReader::readUntil},
+            {"bring", &LessonReader::readBring},
             {"but", &LessonReader::readBut},
             {"stop", &LessonReader::readStop},
         })};
@@ -156,6 +158,12 @@ private:
         });
     }
 
+    Result<> readBring(std::string_view rest) {
+        return onStep([&](LessonStep& step) -> Result<> {
+            return take(readFlights(rest, lesson_.flights.size()), step.brought);
+        });
+    }
+
     Result<> readBut(std::string_view rest) { return readAnswer(rest, false); }
     Result<> readStop(std::string_view rest) { return readAnswer(rest, true); }
 
@@ -165,7 +173,8 @@ private:
         if (colon == std::string_view::npos) {
             return failed("between a mistake and its answer a colon must stand");
         }
-        LessonAnswer answer{.stops = stops};
+        LessonAnswer answer;
+        answer.stops = stops;
         if (auto when = take(readCondition(rest.substr(0, colon), lesson_.flights.size()), answer.when);
             !when) {
             return when;

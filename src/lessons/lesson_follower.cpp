@@ -1,6 +1,8 @@
 #include "lessons/lesson_follower.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <utility>
 
 #include "lessons/lesson_shift.h"
 #include "sim/grid.h"
@@ -24,18 +26,19 @@ int distanceBetween(Cell a, Cell b) {
     return std::max(std::abs(a.x - b.x), std::abs(a.y - b.y));
 }
 
-/// Whether a flight that flies straight on comes over the airport on its runway's heading.
-bool isOnFinal(const PlanStep& now, const Vor& airport) {
-    Cell cell = now.cell;
+/// Whether a flight that flies on the runway's heading comes over the airport.
+bool isInLine(Cell cell, const Vor& airport) {
     for (int move = 0; move < gridSize && cell != airport.cell; ++move) {
-        cell = stepCell(cell, now.heading);
+        cell = stepCell(cell, airport.runwayHeading);
     }
-    return now.heading == airport.runwayHeading && cell == airport.cell;
+    return cell == airport.cell;
 }
 
 } // namespace
 
-LessonFollower::LessonFollower(Lesson lesson) : lesson_(std::move(lesson)), fates_(lesson_.flights.size()) {}
+LessonFollower::LessonFollower(Lesson lesson) : lesson_(std::move(lesson)), fates_(lesson_.flights.size()) {
+    beginStep(0);
+}
 
 void LessonFollower::reported(const Report& report) {
     Fate& fate = fates_.at(report.flight.place());
@@ -110,11 +113,18 @@ void LessonFollower::countMoves(const Game& game) {
 
 void LessonFollower::beginStep(std::size_t step) {
     step_ = step;
+    for (const std::size_t flight : lesson_.steps[step].brought) {
+        brought_.emplace_back(static_cast<int>(flight));
+    }
     skipped_ = false;
     read_ = false;
     for (Fate& fate : fates_) {
         fate = {.landed = fate.landed, .left = fate.left, .lost = fate.lost, .lastCell = fate.lastCell};
     }
+}
+
+std::vector<FlightIndex> LessonFollower::takeBrought() {
+    return std::exchange(brought_, {});
 }
 
 const LessonAnswer* LessonFollower::answerFor(const LessonFacts& facts) const {
@@ -133,7 +143,10 @@ const LessonAnswer* LessonFollower::answerFor(const LessonFacts& facts) const {
 
 void LessonFollower::show(NoteKind kind, const std::string& text, const Game& game) {
     const LessonStep& step = lesson_.steps[step_];
-    const bool isRead = step.until.size() == 1 && step.until.front().fact == Fact::read;
+    const auto asksToRead = [](const FactTerms& terms) {
+        return std::ranges::any_of(terms, [](const FactTerm& term) { return term.fact == Fact::read; });
+    };
+    const bool isRead = std::ranges::any_of(step.until, asksToRead);
     note_ = {.kind = kind,
              .text = lessonText(game, text),
              .spot = kind == NoteKind::stop ? LessonSpot{} : step.spot,
@@ -143,7 +156,9 @@ void LessonFollower::show(NoteKind kind, const std::string& text, const Game& ga
 }
 
 bool LessonFollower::holds(const Condition& condition, const LessonFacts& facts) const {
-    return std::ranges::all_of(condition, [&](const FactTerm& term) { return holds(term, facts); });
+    return std::ranges::any_of(condition, [&](const FactTerms& terms) {
+        return std::ranges::all_of(terms, [&](const FactTerm& term) { return holds(term, facts); });
+    });
 }
 
 bool LessonFollower::holds(const FactTerm& term, const LessonFacts& facts) const {
@@ -197,11 +212,15 @@ bool LessonFollower::isSoOfFlight(const FactTerm& term, const LessonFacts& facts
     case Fact::atAltitude: return now.altitude == term.number;
     case Fact::atHeading: return now.heading == term.number;
     case Fact::within: return point && distanceBetween(now.cell, facts.game.vor(*point).cell) <= term.number;
-    case Fact::onFinal: return point && flight.isOnScope() && isOnFinal(now, facts.game.vor(*point));
+    case Fact::inLine: return point && flight.isOnScope() && isInLine(now.cell, facts.game.vor(*point));
+    case Fact::onFinal:
+        return point && flight.isOnScope() && now.heading == facts.game.vor(*point).runwayHeading &&
+               isInLine(now.cell, facts.game.vor(*point));
     case Fact::moved: return fate.moves >= term.number;
     case Fact::landed: return fate.landed;
     case Fact::left: return fate.left;
     case Fact::lost: return fate.lost;
+    case Fact::gone: return fate.landed || fate.left || fate.lost;
     case Fact::missedHeading: return fate.missedHeading;
     case Fact::missedAltitude: return fate.missedAltitude;
     case Fact::missedExit: return fate.missedExit;

@@ -58,6 +58,8 @@ public:
     /// Moves on as far as the facts allow, and gives the note for them.
     const LessonNote& follow(const LessonFacts& facts);
     const LessonNote& note() const { return note_; }
+    /// The flights that steps have brought since this was asked last (see bringFlight).
+    std::vector<FlightIndex> takeBrought();
 
 private:
     /// What has befallen a flight.
@@ -91,6 +93,7 @@ private:
     std::vector<Fate> fates_; ///< one for each flight
     LessonNote note_;
     std::size_t step_ = 0;
+    std::vector<FlightIndex> brought_;
     bool skipped_ = false;
     bool read_ = false;
     std::optional<ShiftResult> result_;

@@ -207,6 +207,7 @@ bool readOrigin(std::string_view& text, LessonFlight& flight) {
     const auto altitude = altitudeOf(takeLessonWord(text));
     flight.heading = heading.value_or(0);
     flight.altitude = altitude.value_or(0);
+    flight.isDirect = takeWords(text, "direct");
     return hasHeading && heading && hasAltitude && altitude;
 }
 
@@ -232,14 +233,12 @@ Result<LessonFlight> readLessonFlight(std::string_view text, char letter) {
     if (takeLessonWord(text) != std::string(1, letter)) {
         return failed("flights go by letters in their order; this one is " + std::string(1, letter));
     }
-    if (!takeWords(text, "at")) {
-        return failed("after its letter a flight needs 'at' and its time, such as 0:30");
+    if (!takeWords(text, "later")) {
+        flight.at = takeWords(text, "at") ? clockTime(takeLessonWord(text)) : std::nullopt;
+        if (!flight.at) {
+            return failed("a flight comes 'later', or at 0:15 to 59:45, a multiple of 15 seconds");
+        }
     }
-    const auto at = clockTime(takeLessonWord(text));
-    if (!at) {
-        return failed("a flight comes at 0:15 to 59:45, a multiple of 15 seconds");
-    }
-    flight.at = *at;
     if (!takeWords(text, "from") || !readOrigin(text, flight)) {
         return failed(
             "a flight comes 'from' an airport, or from a cell of the scope with heading and altitude, "
@@ -257,18 +256,36 @@ Result<LessonFlight> readLessonFlight(std::string_view text, char letter) {
 }
 
 Result<Condition> readCondition(std::string_view text, std::size_t flights) {
-    Condition condition;
+    Condition condition{{}};
     do {
         auto term = takeTerm(text, flights);
         if (!term) {
             return tl::unexpected(std::move(term.error()));
         }
-        condition.push_back(std::move(*term));
-    } while (takeWords(text, "and"));
+        condition.back().push_back(std::move(*term));
+        if (takeWords(text, "or")) {
+            condition.emplace_back();
+        } else if (!takeWords(text, "and")) {
+            break;
+        }
+    } while (true);
     if (const std::string_view rest = takeLessonWord(text); !rest.empty()) {
-        return failed(quoted(rest) + " stands where only 'and' may");
+        return failed(quoted(rest) + " stands where only 'and' or 'or' may");
     }
     return condition;
+}
+
+Result<std::vector<std::size_t>> readFlights(std::string_view text, std::size_t flights) {
+    std::vector<std::size_t> found;
+    do {
+        const std::string_view word = takeLessonWord(text);
+        const auto flight = flightOf(word, flights);
+        if (!flight) {
+            return failed(quoted(word) + " is no flight of the lesson");
+        }
+        found.push_back(*flight);
+    } while (!text.empty());
+    return found;
 }
 
 Result<LessonSpot> readLessonSpot(std::string_view text, std::size_t flights) {

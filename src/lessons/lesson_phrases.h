@@ -19,12 +19,15 @@ std::string_view takeLessonWord(std::string_view& text);
 /// A whole number that is all of the word.
 std::optional<int> lessonNumber(std::string_view word);
 
-/// "A at 0:30 from 2,24 heading 90 altitude 6 to AHN", "B at 1:00 from ATL to MCN heavy"; `letter` is the one
+/// "A at 0:30 from 2,24 heading 90 altitude 6 to AHN", "B later from ATL to MCN heavy"; `letter` is the one
 /// that must come now.
 Result<LessonFlight> readLessonFlight(std::string_view text, char letter);
 
-/// "A selected and not A told altitude 10", of so many flights.
+/// "A selected and not A told altitude 10 or A gone", of so many flights; "and" binds closer.
 Result<Condition> readCondition(std::string_view text, std::size_t flights);
+
+/// "B C"
+Result<std::vector<std::size_t>> readFlights(std::string_view text, std::size_t flights);
 
 /// "flight A", "altitude 10", "cone ATL".
 Result<LessonSpot> readLessonSpot(std::string_view text, std::size_t flights);

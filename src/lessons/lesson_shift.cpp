@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "sim/course_planner.h"
 #include "sim/schedule.h"
 #include "sim/scoring.h"
 
@@ -10,6 +11,7 @@ namespace ventrel {
 namespace {
 
 constexpr ClockSeconds lessonLength = 900_s;
+constexpr ClockSeconds notYet = 5985_s; // for flights that a step brings: nobody waits that long
 
 /// Calls `use` with what stands between each pair of braces of the text.
 void forEachPlaceholder(std::string_view text, const auto& use) {
@@ -87,14 +89,21 @@ private:
     }
 
     void checkCondition(const Condition& condition) {
-        for (const FactTerm& term : condition) {
-            if (term.point.empty()) {
-                continue;
+        for (const FactTerms& terms : condition) {
+            for (const FactTerm& term : terms) {
+                checkTerm(term);
             }
-            const Vor* point = pointOf(term.point);
-            if (term.fact == Fact::onFinal && point != nullptr && !point->isAirport) {
-                note(term.point + " has no runway");
-            }
+        }
+    }
+
+    void checkTerm(const FactTerm& term) {
+        if (term.point.empty()) {
+            return;
+        }
+        const Vor* point = pointOf(term.point);
+        const bool needsRunway = term.fact == Fact::onFinal || term.fact == Fact::inLine;
+        if (needsRunway && point != nullptr && !point->isAirport) {
+            note(term.point + " has no runway");
         }
     }
 
@@ -132,13 +141,16 @@ void writeFlight(Game& game, FlightIndex index, const LessonFlight& written) {
     const int voice = flight.pilotVoice;
     flight = Flight{};
     flight.inPlay = true;
-    flight.scheduledAt = written.at;
+    flight.scheduledAt = written.at.value_or(notYet);
     flight.pilotVoice = voice;
     flight.destination = point(written.to).value_or(PointIndex{0});
     flight.destinationKind =
         game.vor(flight.destination).isAirport ? DestinationKind::airport : DestinationKind::exit;
     if (written.from.empty()) {
         flight.plan = Plan{{.cell = written.cell, .altitude = written.altitude, .heading = written.heading}};
+        if (written.isDirect) {
+            buildCourse(flight, game.vors(), flight.destination, written.altitude);
+        }
     } else {
         flight.origin = point(written.from);
         flight.originKind = OriginKind::airport;
@@ -191,6 +203,13 @@ Game makeLessonGame(const Lesson& lesson, AirspacePtr airspace, const ShiftSetup
             flight.destinationKind == DestinationKind::airport ? points::landing : points::exit;
     }
     return game;
+}
+
+void bringFlight(Game& game, FlightIndex index) {
+    Flight& flight = game.flight(index);
+    if (!flight.isActive()) {
+        flight.scheduledAt = std::min(flight.scheduledAt, timeOfNextStep(game));
+    }
 }
 
 std::optional<PointIndex> pointOfIdent(std::span<const Vor> points, std::string_view ident) {

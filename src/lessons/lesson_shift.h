@@ -20,6 +20,9 @@ Result<> checkLesson(const Lesson& lesson, const Airspace& airspace);
 /// voices and without, at both sizes.
 Game makeLessonGame(const Lesson& lesson, AirspacePtr airspace, const ShiftSetup& setup);
 
+/// The flight comes in, or asks for take-off, in the next step; nothing when it has already.
+void bringFlight(Game& game, FlightIndex index);
+
 /// The point of that ident; none where there is no such point.
 std::optional<PointIndex> pointOfIdent(std::span<const Vor> points, std::string_view ident);
 
