@@ -61,6 +61,9 @@ public:
     /// The flights that steps have brought since this was asked last (see bringFlight).
     std::vector<FlightIndex> takeBrought();
 
+    bool holds(const Condition& condition, const LessonFacts& facts) const;
+    bool holds(const FactTerm& term, const LessonFacts& facts) const;
+
 private:
     /// What has befallen a flight.
     struct Fate {
@@ -78,8 +81,6 @@ private:
         Cell lastCell{};
     };
 
-    bool holds(const Condition& condition, const LessonFacts& facts) const;
-    bool holds(const FactTerm& term, const LessonFacts& facts) const;
     bool isSo(const FactTerm& term, const LessonFacts& facts) const;
     bool isSoOfPanel(const FactTerm& term, const LessonFacts& facts) const;
     bool isSoOfFlight(const FactTerm& term, const LessonFacts& facts) const;
