@@ -94,7 +94,7 @@ struct LessonAnswer {
 };
 
 /// Where the player shall look.
-enum class Spot {
+enum class DeskPart {
     nothing,
     flight, ///< on the scope
     strip,  ///< with its button
@@ -117,7 +117,7 @@ enum class Spot {
 };
 
 struct LessonSpot {
-    Spot spot = Spot::nothing;
+    DeskPart part = DeskPart::nothing;
     std::optional<std::size_t> flight{};
     std::string point{};
     int number = 0; ///< the altitude of a bar; 0: the whole scale

@@ -296,7 +296,7 @@ Result<LessonSpot> readLessonSpot(std::string_view text, std::size_t flights) {
         !takeLessonWord(text).empty()) {
         return failed(quoted(whole) + " is nothing that can be shown");
     }
-    return LessonSpot{row->spot, operands.flight, std::move(operands.point), operands.number};
+    return LessonSpot{row->part, operands.flight, std::move(operands.point), operands.number};
 }
 
 } // namespace ventrel

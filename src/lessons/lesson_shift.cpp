@@ -112,7 +112,7 @@ private:
             return;
         }
         const Vor* point = pointOf(spot.point);
-        if (spot.spot == Spot::cone && point != nullptr && !point->isAirport) {
+        if (spot.part == DeskPart::cone && point != nullptr && !point->isAirport) {
             note(spot.point + " has no approach cone");
         }
     }

@@ -71,30 +71,30 @@ inline constexpr std::array factWords{std::to_array<FactWords>({
 
 struct SpotWords {
     std::string_view words;
-    Spot spot;
+    DeskPart part;
     Operand operand = Operand::none;
 };
 
 inline constexpr std::array spotWords{std::to_array<SpotWords>({
-    {"nothing", Spot::nothing},
-    {"flight", Spot::flight, Operand::flight},
-    {"strip", Spot::strip, Operand::flight},
-    {"point", Spot::point, Operand::point},
-    {"cone", Spot::cone, Operand::point},
-    {"scope", Spot::scope},
-    {"strips", Spot::strips},
-    {"panel", Spot::panel},
-    {"dial", Spot::dial},
-    {"altitude", Spot::altitude, Operand::perhapsAltitude},
-    {"speed", Spot::speed},
-    {"direct", Spot::direct},
-    {"target", Spot::target},
-    {"preview", Spot::preview},
-    {"exec", Spot::exec},
-    {"clock", Spot::clock},
-    {"ticker", Spot::ticker},
-    {"lamps", Spot::lamps},
-    {"score", Spot::score},
+    {"nothing", DeskPart::nothing},
+    {"flight", DeskPart::flight, Operand::flight},
+    {"strip", DeskPart::strip, Operand::flight},
+    {"point", DeskPart::point, Operand::point},
+    {"cone", DeskPart::cone, Operand::point},
+    {"scope", DeskPart::scope},
+    {"strips", DeskPart::strips},
+    {"panel", DeskPart::panel},
+    {"dial", DeskPart::dial},
+    {"altitude", DeskPart::altitude, Operand::perhapsAltitude},
+    {"speed", DeskPart::speed},
+    {"direct", DeskPart::direct},
+    {"target", DeskPart::target},
+    {"preview", DeskPart::preview},
+    {"exec", DeskPart::exec},
+    {"clock", DeskPart::clock},
+    {"ticker", DeskPart::ticker},
+    {"lamps", DeskPart::lamps},
+    {"score", DeskPart::score},
 })};
 
 } // namespace ventrel

@@ -78,6 +78,13 @@ void Pupil::select(FlightIndex flight) {
     }
 }
 
+void Pupil::awaitAndSelect(FlightIndex flight) {
+    while (!game.flight(flight).isActive()) {
+        takeStep();
+    }
+    select(flight);
+}
+
 void Pupil::send(FlightIndex flight) {
     executeOrder(game, flight, pending_, follower);
 }
@@ -99,7 +106,9 @@ void Pupil::fulfil(const FactTerm& term) {
         isAtHand&& term.fact != Fact::selected ? set(term) : select(flight);
         game.flight(flight).isActive() ? void() : takeStep();
     } else if (term.fact == Fact::panelDirect) {
-        select(flight); // anew: a departure's panel still stands on the ground
+        if (!isAtHand || game.flight(flight).current().directTarget.isOn()) {
+            select(flight); // anew: a departure's panel still stands on the ground
+        }
         set(term);
     } else if (isOrder(term.fact)) {
         isAtHand ? void() : select(flight);
@@ -149,7 +158,7 @@ void Pupil::set(const FactTerm& term) {
 void Pupil::spoil(const FactTerm& term) {
     switch (term.fact) {
     case Fact::panelAltitude:
-    case Fact::toldAltitude: pending_.altitude = term.number == 5 ? 6 : 5; break;
+    case Fact::toldAltitude: pending_.altitude = term.number == 8 ? 9 : 8; break;
     case Fact::panelSpeed:
     case Fact::toldSpeed: pending_.speed = Speed::slow; break;
     default:
@@ -165,13 +174,13 @@ void Pupil::bringAbout(const FactTerms& terms) {
     for (const FactTerm& term : terms) {
         const FlightIndex flight = flightOf(term);
         if (isSetting(term.fact) || isOrder(term.fact)) {
-            panelFlight_ == flight ? void() : select(flight);
+            panelFlight_ == flight ? void() : awaitAndSelect(flight);
             term.isNegated ? spoil(term) : set(term);
             isSending = isSending || isOrder(term.fact);
         } else if (term.fact == Fact::selected && term.isNegated) {
             panelFlight_.reset();
         } else if (term.fact == Fact::selected) {
-            select(flight);
+            awaitAndSelect(flight);
         }
     }
     if (isSending) {

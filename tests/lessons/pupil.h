@@ -30,6 +30,7 @@ private:
     void spoil(const FactTerm& term);
     void befall(const FactTerm& term);
     void select(FlightIndex flight);
+    void awaitAndSelect(FlightIndex flight);
     void send(FlightIndex flight);
     void takeStep();
 
