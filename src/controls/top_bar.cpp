@@ -28,7 +28,7 @@ void createClock(TopBar& bar, const Window& parent, const Rect& place) {
     };
     handlers.press = [&bar](const MouseInput& mouse) {
         if (mouse.button == MouseButton::left) {
-            ClockSkip(bar);
+            bar.skip();
         }
     };
     handlers.cursor = [&bar](Point) {
@@ -89,7 +89,8 @@ std::optional<Millis> ClockTick(TopBar& bar) {
     if (!result.running) {
         return std::nullopt;
     }
-    return std::min(bar.clock.lastClockTick + clockSecondLength, bar.clock.lastSweepTick + sweepStepLength) +
+    return std::min(bar.clock.lastClockTick + secondLength(bar.clock.pace),
+                    bar.clock.lastSweepTick + sweepStepLength) +
            1;
 }
 

@@ -33,6 +33,7 @@ struct TopBarSources {
 
 struct TopBar {
     TopBarSources sources;
+    std::function<void()> skip = nullptr; ///< the clock was pressed
 
     GameClock clock = {};
     LampBlink blink = {};

@@ -9,7 +9,7 @@ ClockTickResult ClockTick(GameClock& clock, Game& game, Millis now) {
         return {};
     }
     ClockTickResult result{.running = true};
-    if (now > clock.lastClockTick + clockSecondLength && !isStepDue(game)) {
+    if (now > clock.lastClockTick + secondLength(clock.pace) && !isStepDue(game)) {
         game.clock += 1_s;
         clock.lastClockTick = now;
         result.clockPaintDue = game.clock % clockPaintInterval == 0_s;

@@ -6,6 +6,9 @@
 
 #pragma once
 
+#include <array>
+#include <cstddef>
+
 #include "base/millis.h"
 #include "sim/clock_seconds.h"
 
@@ -13,14 +16,34 @@ namespace ventrel {
 
 struct Game;
 
-/// Real time that must be exceeded for the next clock second, and for the sweep's next position.
+/// Real time that must be exceeded for the next clock second at the normal pace, and for the sweep's next
+/// position at any.
 inline constexpr Millis clockSecondLength = 400;
 inline constexpr Millis sweepStepLength = 80;
 inline constexpr int sweepPositions = 120; ///< of one turn
 inline constexpr int sweepStraightUp = 15;
 inline constexpr ClockSeconds clockPaintInterval = 5_s;
 
+/// How fast the clock runs, the slowest first; `unlimited` is as fast as the program can follow.
+enum class ClockPace { half, normal, twice, fourTimes, eightTimes, sixteenTimes, unlimited };
+inline constexpr std::array clockPaces{ClockPace::half,      ClockPace::normal,     ClockPace::twice,
+                                       ClockPace::fourTimes, ClockPace::eightTimes, ClockPace::sixteenTimes,
+                                       ClockPace::unlimited};
+
+/// Real time that must be exceeded for the next clock second.
+constexpr Millis secondLength(ClockPace pace) {
+    constexpr std::array<Millis, clockPaces.size()> lengths{2 * clockSecondLength,
+                                                            clockSecondLength,
+                                                            clockSecondLength / 2,
+                                                            clockSecondLength / 4,
+                                                            clockSecondLength / 8,
+                                                            clockSecondLength / 16,
+                                                            0};
+    return lengths[static_cast<std::size_t>(pace)];
+}
+
 struct GameClock {
+    ClockPace pace = ClockPace::normal;
     Millis lastClockTick = -clockSecondLength - 1; ///< so that the first tick advances at once
     int sweepIndex = sweepStraightUp;              ///< 0 to 119, clockwise from the upper left corner
     Millis lastSweepTick = -sweepStepLength - 1;
