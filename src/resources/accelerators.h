@@ -30,6 +30,7 @@ inline constexpr std::array mainAccelerators{std::to_array<Accelerator>({
     {Key::enter, noModifiers, command::executeOrder},
     {Key::keypadEnter, noModifiers, command::executeOrder},
     {Key::space, noModifiers, command::skipClock},
+    {Key::space, shiftKey, command::skipToEvent},
     {Key::down, noModifiers, command::nextStrip},
     {Key::up, noModifiers, command::previousStrip},
     {Key::tab, noModifiers, command::nextFlight},
@@ -77,6 +78,9 @@ inline constexpr std::array mainAccelerators{std::to_array<Accelerator>({
     {Key::f6, noModifiers, command::musicLouder},
     {Key::f7, noModifiers, command::soundSofter},
     {Key::f8, noModifiers, command::soundLouder},
+    {Key::left, controlKey, command::slowDown},
+    {Key::right, controlKey, command::speedUp},
+    {Key::t, controlKey, command::takeOver},
     {Key::f11, noModifiers, command::switchFullScreen},
     {Key::enter, altKey, command::switchFullScreen},
 })};

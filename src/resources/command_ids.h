@@ -83,4 +83,13 @@ inline constexpr int aids = 4280; ///< the dialog of the aids
 inline constexpr int nextFlight = 4203; ///< that can be selected, wherever its strip is
 inline constexpr int previousFlight = 4204;
 
+// A game that is watched, and practice.
+inline constexpr int watchShift = 4270;
+inline constexpr int slowDown = 4271;
+inline constexpr int speedUp = 4272;
+inline constexpr int takeOver = 4273;
+inline constexpr int stopWatching = 4274;
+inline constexpr int halfSpeed = 4275;
+inline constexpr int skipToEvent = 4276;
+
 } // namespace ventrel::command

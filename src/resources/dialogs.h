@@ -45,7 +45,51 @@ inline constexpr std::array controls{std::to_array<ControlTemplate>({
 
 inline constexpr DialogTemplate shape{.title = "New Game", .size = {202, 172}, .controls = controls};
 
+inline constexpr std::string_view halfSpeedTitle = "New Game (Practice at Half Speed)";
+
 } // namespace new_game
+
+// Watch a Shift ---------------------------------------------------------------------------------------------
+
+namespace watch_shift {
+
+inline constexpr int firstSkill = new_game::firstSkill;
+inline constexpr int skillCount = new_game::skillCount;
+inline constexpr int choose = new_game::choose;
+inline constexpr int airport = new_game::airport;
+inline constexpr int firstPace = 1020; ///< half; the other paces follow
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::groupBox, 0, "Skill", {7, 4, 85, 97}},
+    {ControlKind::radioButton, firstSkill, "Easy", {15, 19, 77, 29}, groupStart},
+    {ControlKind::radioButton, firstSkill + 1, "Normal", {15, 34, 77, 44}},
+    {ControlKind::radioButton, firstSkill + 2, "Moderate", {15, 49, 77, 59}},
+    {ControlKind::radioButton, firstSkill + 3, "Hard", {15, 64, 77, 74}},
+    {ControlKind::radioButton, firstSkill + 4, "Custom...", {15, 79, 77, 89}},
+    {ControlKind::groupBox, 0, "Speed", {91, 4, 195, 97}},
+    {ControlKind::radioButton, firstPace, "Half", {99, 19, 139, 29}, groupStart},
+    {ControlKind::radioButton, firstPace + 1, "Normal", {99, 34, 139, 44}},
+    {ControlKind::radioButton, firstPace + 2, "2 times", {99, 49, 139, 59}},
+    {ControlKind::radioButton, firstPace + 3, "4 times", {99, 64, 139, 74}},
+    {ControlKind::radioButton, firstPace + 4, "8 times", {145, 19, 190, 29}},
+    {ControlKind::radioButton, firstPace + 5, "16 times", {145, 34, 190, 44}},
+    {ControlKind::radioButton, firstPace + 6, "Fastest", {145, 49, 190, 59}},
+    {ControlKind::groupBox, 0, "Airport", {7, 101, 195, 127}},
+    {ControlKind::staticText, airport, "None Selected", {14, 111, 131, 122}, sunkenStatic},
+    {ControlKind::pushButton, choose, "&Choose...", {138, 109, 188, 123}},
+    {ControlKind::staticText,
+     0,
+     "The program plays as you would, by the same panel. You can change the speed, and take over at any "
+     "moment. The shift enters no high scores.",
+     {7, 133, 195, 160},
+     multiLine},
+    {ControlKind::defaultButton, okId, "&Watch", {46, 164, 96, 178}},
+    {ControlKind::pushButton, cancelId, "Cancel", {106, 164, 156, 178}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Watch a Shift", .size = {202, 184}, .controls = controls};
+
+} // namespace watch_shift
 
 // Custom Skill ----------------------------------------------------------------------------------------------
 

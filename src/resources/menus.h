@@ -19,6 +19,8 @@ inline constexpr std::array fileMenuItems{std::to_array<MenuItemTemplate>({
     {"&End Game", command::endGame},
     menuSeparator,
     {"Exit\tAlt+F4", command::exitProgram},
+    menuSeparator,
+    {"Practice at &Half Speed", command::halfSpeed},
 })};
 
 inline constexpr auto displayMenuItems = optionMenuItems<OptionMenu::display>();
@@ -53,6 +55,8 @@ inline constexpr auto optionsMenuItems = joined(std::to_array<MenuItemTemplate>(
 
 inline constexpr std::array helpMenuItems{std::to_array<MenuItemTemplate>({
     {"&About Ventrel " VENTREL_VERSION "...", command::about},
+    menuSeparator,
+    {"&Watch a Shift...", command::watchShift},
 })};
 
 inline constexpr std::array systemMenuItems{std::to_array<MenuItemTemplate>({

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "controller/controller_stand_in.h"
 #include "shell/about_dialog.h"
 #include "shell/aids_dialog.h"
 #include "shell/game_flow.h"
@@ -11,8 +12,10 @@
 #include "shell/new_game_dialog.h"
 #include "shell/option_commands.h"
 #include "shell/popup_menus.h"
+#include "shell/practice.h"
 #include "shell/schedule_dialog.h"
 #include "shell/selection.h"
+#include "shell/watch_dialog.h"
 #include "sim/grid.h"
 #include "sim/orders.h"
 
@@ -20,28 +23,56 @@ namespace ventrel {
 
 namespace {
 
-/// Whether a running game may be thrown away; the player is asked. Without one there is nothing to ask.
+/// Whether a running game may be thrown away; the player is asked, but for one that is watched. Without one
+/// there is nothing to ask.
 bool mayQuitGame(Shell& shell) {
-    return !shell.game.isRunning() ||
+    return !shell.game.isRunning() || isSteered(shell) ||
            shell.ask(TextId::confirmQuitGame, MessageButtons::okCancel) == MessageAnswer::ok;
 }
 
-void newGame(Shell& shell) {
+/// Gives a running game up, if the player agrees. Whether none runs any more.
+bool clearDesk(Shell& shell) {
     if (!mayQuitGame(shell)) {
-        return;
+        return false;
     }
     if (shell.game.isRunning()) {
         abandonGame(shell);
     }
-    if (const auto setup = runNewGameDialog(shell)) {
-        if (isShiftEnding(shell)) {
-            if (const auto row = enterFinishedScore(shell)) {
-                ShowHighScores(shell, row);
-            }
-        } else {
-            EndGame(shell); // the rings of a collision may still spread, with all that belongs to its game
+    return true;
+}
+
+/// Puts away what a game that is over still shows.
+void putLastGameAway(Shell& shell) {
+    if (isShiftEnding(shell)) {
+        if (const auto row = enterFinishedScore(shell)) {
+            ShowHighScores(shell, row);
         }
+    } else {
+        EndGame(shell); // the rings of a collision may still spread, with all that belongs to its game
+    }
+}
+
+void newGame(Shell& shell) {
+    if (!clearDesk(shell)) {
+        return;
+    }
+    if (const auto setup = runNewGameDialog(shell)) {
+        putLastGameAway(shell);
         startGame(shell, *setup);
+    }
+}
+
+void watchShift(Shell& shell) {
+    if (!clearDesk(shell)) {
+        return;
+    }
+    if (const auto wish = runWatchDialog(shell)) {
+        putLastGameAway(shell);
+        startGame(shell, wish->setup);
+        if (shell.game.isRunning()) {
+            beginSteering(shell, std::make_unique<ControllerStandIn>(shell.game),
+                          {.title = "Watching", .pace = wish->pace});
+        }
     }
 }
 
@@ -54,6 +85,12 @@ void askToEndGame(Shell& shell) {
 void exitProgram(Shell& shell) {
     if (mayQuitGame(shell)) {
         shell.mainWindow.destroy();
+    }
+}
+
+void stopWatching(Shell& shell) {
+    if (isSteered(shell)) {
+        abandonGame(shell);
     }
 }
 
@@ -109,7 +146,14 @@ constexpr std::array actions{std::to_array<Action>({
     {command::directDown, [](Shell& shell) { CtrlStepDirect(shell.panel, false); }},
     {command::altitudeUp, [](Shell& shell) { CtrlStepAltitude(shell.panel, true); }},
     {command::altitudeDown, [](Shell& shell) { CtrlStepAltitude(shell.panel, false); }},
-    {command::skipClock, [](Shell& shell) { ClockSkip(shell.topBar); }},
+    {command::skipClock, skipClock},
+    {command::skipToEvent, skipToEvent},
+    {command::watchShift, watchShift},
+    {command::halfSpeed, switchHalfSpeed},
+    {command::slowDown, slowDown},
+    {command::speedUp, speedUp},
+    {command::takeOver, takeOver},
+    {command::stopWatching, stopWatching},
 })};
 
 /// Commands that give the panel one value.
@@ -165,10 +209,25 @@ bool giveOrder(Shell& shell, int id) {
     return true;
 }
 
+constexpr std::array panelCommands{
+    command::executeOrder, command::toggleDirect, command::directUp,
+    command::directDown,   command::altitudeUp,   command::altitudeDown,
+};
+
+/// Whether the command sets the panel or sends what is on it.
+bool isOfPanel(int id) {
+    return std::ranges::find(panelCommands, id) != panelCommands.end() ||
+           findCommand(headings, id) != nullptr || findCommand(speeds, id) != nullptr ||
+           (id >= command::planeHeading && id <= command::planeHold);
+}
+
 } // namespace
 
 void onCommand(Shell& shell, int id) {
-    if (const auto* action = findCommand(actions, id)) {
+    endEventSkip(shell);
+    if (isSteered(shell) && isOfPanel(id)) {
+        askToTakeOver(shell);
+    } else if (const auto* action = findCommand(actions, id)) {
         action->run(shell);
     } else if (const auto* heading = findCommand(headings, id)) {
         CtrlSetHeading(shell.panel, heading->value);

@@ -3,6 +3,7 @@
 #include "console/window_size.h"
 #include "shell/high_score_dialog.h"
 #include "shell/high_scores.h"
+#include "shell/practice.h"
 #include "shell/presentations.h"
 #include "sim/shift_texts.h"
 
@@ -12,8 +13,6 @@ namespace {
 
 constexpr std::string_view collisionMusic = "mci\\faa.mci";
 constexpr std::string_view collisionSound = "snd\\collide.snd";
-
-constexpr std::string_view pausedTitle = "Ventrel (Paused)";
 
 const ScopeLayout& scopeLayout(const Shell& shell) {
     return isLarge(shell.windowSize()) ? largeLayout : smallLayout;
@@ -30,10 +29,11 @@ std::vector<Size> cloudSizes(const Shell& shell) {
 
 ShiftSetup shiftSetup(const Shell& shell, const GameSetup& setup, std::span<const Size> sizes) {
     const Options& options = shell.options;
+    const bool isEasy = setup.skill == Skill::easy;
     return {.skill = setup.skill,
             .custom = {options.customPlanes, ClockSeconds{options.customSched}, options.customBonus},
-            .cloudCover = options.stormTrak != 0,
-            .directEntry = options.directEntry != 0,
+            .cloudCover = options.stormTrak != 0 && !isEasy,
+            .directEntry = options.directEntry != 0 || isEasy,
             .voiceSetCount = shell.sounds.voiceSetCount(),
             .cloudSizes = sizes,
             .layout = scopeLayout(shell),
@@ -60,12 +60,14 @@ void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setu
     shell.game = Game{airspace, shiftSetup(shell, setup, sizes), shell.game.random};
     shell.game.lastStepTime = lastStepTime;
     shell.log.shiftBegun(setup.skill, seed);
-    shell.shiftKind = setup.kind;
+    shell.shiftKind = kindOfShift(shell, setup.kind);
+    shell.topBar.clock.pace = paceOfShift(shell);
     RadarDecodePicture(shell.radar);
     RadarBuildMap(shell.radar, shell.pictures.radarFrame);
     ClockReset(shell.topBar);
     LampsRepaint(shell.topBar);
     SetPause(shell, false);
+    showKindOfPlay(shell);
     postLine(shell, welcomeText(shell.game));
 }
 
@@ -83,6 +85,21 @@ void endWithCollision(Shell& shell) {
     shell.mainWindow.releaseCapture();
     EndGame(shell);
     reportCollision(shell);
+}
+
+/// Nobody's feat and nobody's fault: no line, no page and no table.
+void endSteered(Shell& shell, ShiftResult result) {
+    if (result == ShiftResult::collision) {
+        shell.sounds.stopEffects();
+        shell.tellLater(shell.sounds.playEffect(collisionSound));
+        if (!RadarCollisionRings(shell.radar, shell.game.collisionFlights.front()) ||
+            shell.game.phase != Phase::rings) {
+            return; // the program is quitting, or something else has begun
+        }
+    }
+    shell.mainWindow.releaseCapture();
+    EndGame(shell);
+    tellOfSteeredEnd(shell, result);
 }
 
 void emptyStrips(Shell& shell) {
@@ -118,13 +135,14 @@ void SetPause(Shell& shell, bool on) {
     if (!shell.game.isRunning() || shell.paused == on) {
         return;
     }
+    endEventSkip(shell);
     if (on) {
         shell.sounds.stopMusic();
     } else {
         shell.sounds.playMusic(gameMusic, false);
     }
     shell.paused = on;
-    shell.desktop.setTitle(on ? pausedTitle : programTitle);
+    showKindOfPlay(shell);
     RadarRepaint(shell.radar);
 }
 
@@ -138,6 +156,8 @@ void EndGame(Shell& shell) {
     CtrlResetTouch(shell.panel);
     LampsReset(shell.topBar);
     RadarHide(shell.radar);
+    endSteering(shell);
+    showKindOfPlay(shell);
 }
 
 void abandonGame(Shell& shell) {
@@ -152,7 +172,9 @@ void endShift(Shell& shell, ShiftResult result) {
     shell.sounds.stopMusic();
     RadarRepaint(shell.radar);
     shell.radar.window.update(); // the sweep has stopped: nothing would take its line away later
-    if (result == ShiftResult::collision) {
+    if (isSteered(shell)) {
+        endSteered(shell, result);
+    } else if (result == ShiftResult::collision) {
         endWithCollision(shell);
     } else {
         endWithScore(shell);

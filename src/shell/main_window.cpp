@@ -48,6 +48,10 @@ void onPress(Shell& shell, const MouseInput& mouse) {
         showSystemMenu(shell);
         return;
     }
+    if (isSteered(shell) && shell.console().controlPanel.contains(p)) {
+        askToTakeOver(shell);
+        return;
+    }
     const int slot = StripsButtonAt(shell, p);
     if (StripsSlotSelectable(shell.strips, slot)) {
         SelectStripFlight(shell, slot);

@@ -2,20 +2,15 @@
 
 #include "platform/widgets/dialog.h"
 #include "resources/dialogs.h"
-#include "shell/airport_catalogue.h"
-#include "shell/airport_dialog.h"
 #include "shell/controller_name.h"
 #include "shell/custom_skill_dialog.h"
-#include "shell/trouble_text.h"
+#include "shell/shift_choice.h"
 
 namespace ventrel {
 
 namespace {
 
-constexpr std::string_view gameSection = "Game";
-constexpr std::string_view skillKey = "Skill";
 constexpr std::string_view nameKey = "Name";
-constexpr int defaultSkill = 1;
 constexpr int easySkill = 0;
 constexpr int customSkill = 4;
 
@@ -28,12 +23,6 @@ struct NewGame {
     bool wantsClouds = false;
     bool wantsDirectEntry = false;
 };
-
-/// The entry that the player has chosen; an empty one when the number names none.
-CatalogueEntry chosenAirport(const NewGame& game) {
-    const auto index = static_cast<std::size_t>(game.shell.options.airportSelect);
-    return index < game.catalogue.size() ? game.catalogue[index] : CatalogueEntry{};
-}
 
 void setBonusBoxes(Dialog& dialog, bool clouds, bool directEntry, bool enabled) {
     dialog.setChecked(new_game::clouds, clouds);
@@ -51,14 +40,11 @@ void showSkill(const NewGame& game, Dialog& dialog, int skill) {
 }
 
 void open(NewGame& game, Dialog& dialog) {
+    const int skill = checkLastSkill(game.shell, dialog);
     const ProfileFile profile = game.shell.store.now();
-    const int skill = profile.integer(gameSection, skillKey, defaultSkill);
-    if (skill >= 0 && skill < new_game::skillCount) {
-        dialog.setChecked(new_game::firstSkill + skill, true);
-    }
     const std::string lastName = profile.text(gameSection, nameKey, "").substr(0, new_game::nameLimit);
     dialog.setText(new_game::name, properName(lastName));
-    dialog.setText(new_game::airport, chosenAirport(game).name);
+    dialog.setText(new_game::airport, chosenAirport(game.shell, game.catalogue).name);
     game.wantsClouds = game.shell.options.stormTrak != 0;
     game.wantsDirectEntry = game.shell.options.directEntry != 0;
     showSkill(game, dialog, skill);
@@ -72,23 +58,6 @@ void chooseSkill(NewGame& game, Dialog& dialog, int skill) {
         game.wantsDirectEntry = dialog.isChecked(new_game::directEntry);
     }
     showSkill(game, dialog, skill);
-}
-
-void chooseAirport(NewGame& game, Dialog& dialog) {
-    if (const auto chosen = runAirportDialog(game.shell, game.catalogue)) {
-        game.shell.options.airportSelect = *chosen;
-        saveOptions(game.shell);
-        dialog.setText(new_game::airport, chosenAirport(game).name);
-    }
-}
-
-/// The level that is checked; Custom also when none is.
-int checkedSkill(const Dialog& dialog) {
-    int skill = easySkill;
-    while (skill < customSkill && !dialog.isChecked(new_game::firstSkill + skill)) {
-        ++skill;
-    }
-    return skill;
 }
 
 /// The name and the level are kept for the next time.
@@ -112,12 +81,12 @@ void accept(NewGame& game, Dialog& dialog) {
         return;
     }
     shell.game.controllerName = game.setup.controllerName;
-    game.setup.skill = static_cast<Skill>(checkedSkill(dialog));
+    game.setup.skill = checkedSkill(dialog);
     remember(game.setup, shell);
     shell.options.stormTrak = dialog.isChecked(new_game::clouds) ? 1 : 0;
     shell.options.directEntry = dialog.isChecked(new_game::directEntry) ? 1 : 0;
     saveOptions(shell);
-    const CatalogueEntry airport = chosenAirport(game);
+    const CatalogueEntry airport = chosenAirport(game.shell, game.catalogue);
     if (airport.name.empty()) {
         shell.report(StringTableText(TextId::chooseAirport), MessageIcon::information);
         return;
@@ -132,7 +101,7 @@ void onCommand(NewGame& game, Dialog& dialog, int id) {
     if (skill >= 0 && skill < new_game::skillCount) {
         chooseSkill(game, dialog, skill);
     } else if (id == new_game::choose) {
-        chooseAirport(game, dialog);
+        chooseAirport(game.shell, game.catalogue, dialog, new_game::airport);
     } else if (id == okId) {
         accept(game, dialog);
     } else if (id == cancelId) {
@@ -140,29 +109,20 @@ void onCommand(NewGame& game, Dialog& dialog, int id) {
     }
 }
 
-/// Damaged files are told of in one box, and each only once.
-std::vector<CatalogueEntry> openCatalogue(Shell& shell) {
-    AirportCatalogue catalogue = BuildAirportCatalogue(airportFolder(shell.programFolder),
-                                                       shell.playersAirports, shell.windowSize().width);
-    std::erase_if(catalogue.troubles, [&shell](const std::string& trouble) {
-        return !shell.toldAirportTroubles.insert(trouble).second;
-    });
-    if (!catalogue.troubles.empty()) {
-        shell.report(troubleText(catalogue.troubles), MessageIcon::stop);
-    }
-    return std::move(catalogue.entries);
-}
-
 } // namespace
 
 std::optional<GameSetup> runNewGameDialog(Shell& shell) {
-    NewGame game{.shell = shell, .catalogue = openCatalogue(shell)};
+    NewGame game{.shell = shell, .catalogue = openAirportCatalogue(shell)};
     if (game.catalogue.empty()) {
         shell.report(StringTableText(TextId::noAirports), MessageIcon::information);
         return std::nullopt;
     }
+    DialogTemplate shape = new_game::shape;
+    if (shell.isHalfSpeedOn) {
+        shape.title = new_game::halfSpeedTitle;
+    }
     const int result =
-        runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, new_game::shape,
+        runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, shape,
                   {.init = [&game](Dialog& dialog) { open(game, dialog); },
                    .command = [&game](Dialog& dialog,
                                       const CommandInput& input) { onCommand(game, dialog, input.id); }});

@@ -47,6 +47,7 @@ void tickOrders(Menu& menu, const CurrentSettings& current) {
 Menu fileMenu(const Shell& shell) {
     Menu menu = makeMenu(fileMenuItems);
     greyMenuItem(menu, command::endGame, !shell.game.isRunning());
+    checkMenuItem(menu, command::halfSpeed, shell.isHalfSpeedOn);
     return menu;
 }
 

@@ -58,8 +58,7 @@ void selectNeighbour(Shell& shell, std::ptrdiff_t step) {
     const auto present = std::ranges::find_if(
         choices, [&shell](FlightIndex flight) { return shell.game.flight(flight).selected; });
     const std::ptrdiff_t from = present != choices.end() ? present - choices.begin() : step > 0 ? -1 : count;
-    const FlightIndex chosen = choices[static_cast<std::size_t>((from + step + count) % count)];
-    selectFlight(shell, chosen, listPlaceOf(shell, chosen));
+    selectListedFlight(shell, choices[static_cast<std::size_t>((from + step + count) % count)]);
 }
 
 } // namespace
@@ -109,6 +108,10 @@ void SelectStripFlight(Shell& shell, int slot) {
 
 void selectRadarFlight(Shell& shell, const FlightHit& hit) {
     selectFlight(shell, hit.flight, hit.listPlace);
+}
+
+void selectListedFlight(Shell& shell, FlightIndex flight) {
+    selectFlight(shell, flight, listPlaceOf(shell, flight));
 }
 
 bool isPanelTouched(const Shell& shell) {

@@ -25,6 +25,9 @@ void SelectStripFlight(Shell& shell, int slot);
 /// Selects a flight found on the radar, which was not selected before, and brings its strip into view.
 void selectRadarFlight(Shell& shell, const FlightHit& hit);
 
+/// Selects that flight, which can be chosen, as a click on its strip does, and brings its strip into view.
+void selectListedFlight(Shell& shell, FlightIndex flight);
+
 /// Whether the player is busy on the panel, so that a new flight does not take it away.
 bool isPanelTouched(const Shell& shell);
 

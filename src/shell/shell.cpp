@@ -42,7 +42,8 @@ Shell::Shell(ShellParts parts)
       playerFolder(std::move(parts.playerFolder)),
       highScorePath(DataPath(playerFolder.empty() ? programFolder : playerFolder, highScoreFileName)),
       playersAirports(std::move(parts.playersAirports)), pictures(std::move(parts.pictures)),
-      options(parts.options), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow}},
+      options(parts.options), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow},
+                                     .skip = [this] { skipClock(*this); }},
       scroller{.sources = scrollerSources(*this)},
       strips{.sources = {game, fonts, pictures.arrow},
              .callbacks = {.press = [this](int slot) { StripsPress(*this, slot); }}},
@@ -55,6 +56,7 @@ Shell::Shell(ShellParts parts)
       player(*this), log(game), logWindow{.view = {.log = log, .font = widgetFonts.text}} {
     events.add(log);
     events.add(player);
+    events.add(eventSkip.watch);
     game.random = parts.random;
     game.lastStepTime = 0_s; // of the first game alone: its clock does not stand still at 0
     scroller.gameOverShown = [this] { mainWindow.post([this] { onGameOver(*this); }); };

@@ -23,11 +23,14 @@
 #include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
 #include "replay/shift_log.h"
+#include "shell/event_skip.h"
 #include "shell/game_setup.h"
 #include "shell/log_window.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
 #include "shell/simulation_player.h"
+#include "shell/steered_play.h"
+#include "shell/steering_bar.h"
 #include "sim/event_relay.h"
 #include "sim/game.h"
 
@@ -72,6 +75,7 @@ struct Shell {
     Game game;
     bool paused = false;                     ///< only means something while a game runs
     ShiftKind shiftKind = ShiftKind::scored; ///< of the game, or of the last one
+    bool isHalfSpeedOn = false; ///< shifts that the player begins are practice, at half the clock's pace
 
     Window mainWindow;
     Button exec;
@@ -83,6 +87,9 @@ struct Shell {
     Strips strips;
     ControlPanel panel;
     RadarWindow radar;
+    SteeredPlay steered;
+    SteeringBar steeringBar;
+    EventSkip eventSkip;
     SimulationPlayer player;
     ShiftLog log; ///< of the shift that is played, or of the last one
     LogWindow logWindow;

@@ -10,13 +10,16 @@ std::optional<Millis> Tick(Shell& shell) {
     if (shell.paused && shell.game.isRunning()) {
         return std::nullopt;
     }
+    const bool isSkipping = followEventSkip(shell);
     std::optional<Millis> next = ClockTick(shell.topBar);
     next = earlier(next, ScrollerTick(shell.scroller));
+    steerBeforeStep(shell);
     SimulationStep(shell.game, shell.events);
+    steerAfterStep(shell);
     next = earlier(next, LampsTick(shell.topBar));
     next = earlier(next, RadarTick(shell.radar));
     CtrlTick(shell.panel);
-    return next;
+    return isSkipping ? std::optional(shell.desktop.now()) : next;
 }
 
 } // namespace ventrel

@@ -35,7 +35,8 @@ std::vector<NamedShape> allShapes() {
                                    shapeOf("Choose Airport", choose_airport::shape),
                                    shapeOf("Schedule", schedule::shape),
                                    shapeOf("About", about::shape),
-                                   shapeOf("Aids", aids::shape)};
+                                   shapeOf("Aids", aids::shape),
+                                   shapeOf("Watch a Shift", watch_shift::shape)};
     for (std::size_t topic = 0; topic < help::topics.size(); ++topic) {
         NamedShape page{"Help, " + std::string(help::topics[topic]), help::shape.size, {}};
         const int first = help::pageControl(topic, 0);

@@ -151,6 +151,12 @@ void Button::enable(bool enabled) const {
     window.invalidate();
 }
 
+void Button::showPressed(bool pressed) const {
+    if (!state_->isHeld) {
+        state_->setPressed(pressed);
+    }
+}
+
 void Button::press() const {
     if (window.isEnabled()) {
         window.sendCommand(state_->setup.id, 0, window);

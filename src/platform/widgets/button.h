@@ -37,6 +37,8 @@ public:
     void enable(bool enabled) const;
     /// Presses it as a person would; nothing when it is disabled.
     void press() const;
+    /// Draws it pressed, or not, while nobody holds it: somebody else has pressed it.
+    void showPressed(bool pressed) const;
 
 private:
     struct State;
