@@ -25,7 +25,7 @@ LampPictures plainLamps() {
 struct TopBarStage : ConsoleStage {
     explicit TopBarStage() { TopBarCreate(bar, main, console, plainLamps()); }
 
-    TopBar bar{.sources = {desktop, game, fonts, hand, arrow}};
+    TopBar bar{.sources = {desktop, game, fonts, hand, arrow}, .skip = [this] { ClockSkip(bar); }};
 
     /// How a lamp shows: in its middle, since its rim lies outside the circle.
     Colour lamp(std::size_t number) const { return toColour(picture(bar.lampWindows[number]).at(14, 14)); }
