@@ -3,6 +3,7 @@
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <array>
 #include <string>
 
 #include "controls/control_panel.h"
@@ -118,7 +119,48 @@ void RadarFrame(benchmark::State& state) {
 }
 BENCHMARK(RadarFrame)->Name("RadarFrame/99flights");
 
-/// The same until it is on the screen of a machine in memory.
+/// The same with one aid, or with all of them; every flight has moved since the frame before.
+struct Aid {
+    const char* name;
+    int Options::* option; ///< null: all
+};
+constexpr std::array aids{std::to_array<Aid>({
+    {"none", nullptr},
+    {"headingLines", &Options::aidHeadingLines},
+    {"runways", &Options::aidRunways},
+    {"history", &Options::aidHistory},
+    {"fullTags", &Options::aidFullTags},
+    {"tidyTags", &Options::aidTidyTags},
+    {"largeTags", &Options::aidLargeTags},
+    {"orderLine", &Options::aidOrderLine},
+    {"all", nullptr},
+})};
+
+void RadarFrameWithAid(benchmark::State& state) {
+    const auto number = static_cast<std::size_t>(state.range(0));
+    state.SetLabel(aids[number].name);
+    Play play;
+    for (std::size_t i = 1; i + 1 < aids.size(); ++i) {
+        play.options.*aids[i].option = i == number || number + 1 == aids.size() ? 1 : 0;
+    }
+    PanelOrder order = play.game.flight(FlightIndex{0}).current();
+    order.heading = turned(order.heading, fullCircle / 2);
+    order.directTarget = {};
+    play.radar.callbacks.unsentOrder = [order] { return UnsentOrder{FlightIndex{0}, order}; };
+    int step = 0;
+    for (auto _ : state) {
+        play.refillClouds();
+        for (Flight& flight : play.game.flights) {
+            flight.planIndex = step % routeSteps;
+        }
+        ++step;
+        RadarRepaint(play.radar);
+        play.radar.window.update();
+    }
+}
+BENCHMARK(RadarFrameWithAid)->DenseRange(0, static_cast<int>(aids.size()) - 1);
+
+/// The plain frame until it is on the screen of a machine in memory.
 void RadarFrameUntilSent(benchmark::State& state) {
     Play play;
     for (auto _ : state) {

@@ -72,6 +72,9 @@ WindowHandlers handlersOf(ControlPanel& panel) {
     handlers.paint = [&panel](Canvas& canvas, const Rect&) {
         paintControlPanel(canvas, panel.background, panel.state, panel.sources.game,
                           panel.sources.fonts.font(panelFont));
+        if (panel.sources.options.aidUnsentMarks != 0) {
+            markUnsentSettings(canvas, panel.state.pending, unsentSettings(panel.state, panel.sources.game));
+        }
     };
     handlers.press = [&panel](const MouseInput& mouse) { onPress(panel, mouse); };
     handlers.cursor = [&panel](Point p) { return std::optional(cursorAt(panel, p)); };
@@ -101,6 +104,7 @@ void CtrlClearFlight(ControlPanel& panel) {
 
 void CtrlRepaint(ControlPanel& panel) {
     panel.window.invalidate();
+    panel.callbacks.changed();
 }
 
 void CtrlSetHeading(ControlPanel& panel, int heading) {

@@ -20,6 +20,7 @@ inline constexpr int controlPanelId = 507;
 struct ControlPanelCallbacks {
     std::function<void()> click; ///< the sound of a setting
     std::function<void(bool)> enableExec;
+    std::function<void()> changed = [] {}; ///< the order, the flight or what it flies may be another
 };
 
 struct ControlPanelSources {

@@ -18,6 +18,8 @@ constexpr Colour holdColour = Colour::rgb(81, 220, 255);
 constexpr Colour airportColour = Colour::rgb(220, 220, 0);
 constexpr Colour barredColour = Colour::rgb(200, 0, 0); // a speed that a heavy flight cannot choose
 
+constexpr Colour unsentColour = Colour::rgb(120, 235, 255);
+
 constexpr std::string_view holdText = "hold";
 
 constexpr const PanelLayout& places = panelLayout;
@@ -79,18 +81,45 @@ void drawAltitudeBar(Canvas& canvas, int altitude) {
     canvas.fill(places.altitudeBar(altitude), amber);
 }
 
+const SpeedLampPlace& speedLamp(Speed speed) {
+    return speed == Speed::slow ? places.slow : speed == Speed::fast ? places.fast : places.normal;
+}
+
 void drawSpeedLamps(Canvas& canvas, Speed speed, bool isHeavy) {
-    const SpeedLampPlace& lit = speed == Speed::slow   ? places.slow
-                                : speed == Speed::fast ? places.fast
-                                                       : places.normal;
-    canvas.fill(lit.lens, amber);
+    canvas.fill(speedLamp(speed).lens, amber);
     if (isHeavy) {
         canvas.fill(places.slow.lens, barredColour);
         canvas.fill(places.fast.lens, barredColour);
     }
 }
 
+/// A ring around the tip of the needle.
+void markHeading(Canvas& canvas, int heading) {
+    constexpr int straight = 25; // pixels from the middle of the dial
+    constexpr int slanting = 18; // on either axis
+    constexpr Rect ring{-4, -4, 5, 5};
+    const Cell ahead = stepCell({0, 0}, heading);
+    const int distance = ahead.x != 0 && ahead.y != 0 ? slanting : straight;
+    canvas.ellipse(ring.movedBy(places.dialMiddle + Point{ahead.x * distance, ahead.y * distance}),
+                   unsentColour);
+}
+
 } // namespace
+
+void markUnsentSettings(Canvas& canvas, const PanelOrder& pending, const UnsentSettings& unsent) {
+    if (unsent.heading) {
+        markHeading(canvas, pending.heading);
+    }
+    if (unsent.direct) {
+        canvas.frame(places.targetBox, unsentColour);
+    }
+    if (unsent.altitude) {
+        canvas.frame(places.altitudeBar(pending.altitude).grownBy(1), unsentColour);
+    }
+    if (unsent.speed) {
+        canvas.frame(speedLamp(pending.speed).lens.grownBy(1), unsentColour);
+    }
+}
 
 void paintControlPanel(Canvas& canvas, const Bitmap& background, const ControlPanelState& panel,
                        const Game& game, const Font& font) {

@@ -12,4 +12,7 @@ namespace ventrel {
 void paintControlPanel(Canvas& canvas, const Bitmap& background, const ControlPanelState& panel,
                        const Game& game, const Font& font);
 
+/// A mark at each setting that EXEC would change.
+void markUnsentSettings(Canvas& canvas, const PanelOrder& pending, const UnsentSettings& unsent);
+
 } // namespace ventrel

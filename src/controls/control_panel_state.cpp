@@ -169,6 +169,23 @@ CurrentSettings currentSettings(const ControlPanelState& panel, const Game& game
             now.hold ? std::nullopt : now.directTarget.point(), now.hold};
 }
 
+UnsentSettings unsentSettings(const ControlPanelState& panel, const Game& game) {
+    const Flight* flight = panelFlight(panel, game);
+    if (flight == nullptr || !flight->isOnScope() || changesNothing(game, *flight, panel.pending)) {
+        return {};
+    }
+    const PlanStep& now = flight->current();
+    const PlanStep& goal = flight->lastStep();
+    const PanelOrder& order = panel.pending;
+    const bool wasDirect = now.directTarget.isOn();
+    const bool isSameTarget =
+        order.hold == now.hold && (order.hold || order.directTarget == now.directTarget);
+    return {.heading = !order.directTarget.isOn() && (wasDirect || order.heading != goal.heading),
+            .altitude = order.altitude != goal.altitude,
+            .speed = order.speed != now.speed,
+            .direct = order.directTarget.isOn() && !(wasDirect && isSameTarget)};
+}
+
 std::string previewLine(const ControlPanelState& panel, const Game& game) {
     const Flight* flight = panelFlight(panel, game);
     if (flight == nullptr) {

@@ -48,6 +48,15 @@ struct CurrentSettings {
 };
 CurrentSettings currentSettings(const ControlPanelState& panel, const Game& game);
 
+/// What EXEC would change of what the flight on the panel has been told.
+struct UnsentSettings {
+    bool heading = false; ///< also when it leaves a direct course or a hold for one
+    bool altitude = false;
+    bool speed = false;
+    bool direct = false;
+};
+UnsentSettings unsentSettings(const ControlPanelState& panel, const Game& game);
+
 /// The line that describes what the flight on the panel is doing; empty without a flight.
 std::string previewLine(const ControlPanelState& panel, const Game& game);
 

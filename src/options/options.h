@@ -36,7 +36,15 @@ struct Options {
     int soundVolume = 5;    ///< of effects and pilots, the same
 
     // Aids, which show more than the game alone does.
-    int aidPauseAtRim = 0; ///< the word that tells of a pause leaves the middle of the scope
+    int aidHeadingLines = 0; ///< where flights on headings will be
+    int aidRunways = 0;      ///< numbers and centrelines of runways
+    int aidHistory = 0;      ///< dots where flights were
+    int aidPauseAtRim = 0;   ///< the word that tells of a pause leaves the middle of the scope
+    int aidFullTags = 0;     ///< speed and destination in the tags
+    int aidTidyTags = 0;     ///< tags give way to each other
+    int aidLargeTags = 0;    ///< larger letters in the tags
+    int aidOrderLine = 0;    ///< where the order on the panel would lead
+    int aidUnsentMarks = 0;  ///< what EXEC would change is marked on the panel
 
     friend bool operator==(const Options&, const Options&) = default;
 };

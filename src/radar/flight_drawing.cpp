@@ -1,9 +1,5 @@
 #include "radar/flight_drawing.h"
 
-#include <string>
-
-#include "base/format.h"
-#include "platform/canvas/text.h"
 #include "radar/aircraft_symbol.h"
 
 namespace ventrel {
@@ -20,8 +16,6 @@ constexpr int alertPenWidth = 2;
 
 // All relative to the flight's radar point.
 constexpr Point symbolOffset{-4, -4};
-constexpr Point callsignOffset{-4, -13};
-constexpr Point altitudeOffset{6, -4};
 constexpr Rect alertCircleBox{-14, -28, 34, 20};
 constexpr Rect blinkBoxAround{-8, -16, 32, 16};
 constexpr Rect hitBoxAround{-4, -10, 14, 8};
@@ -61,14 +55,17 @@ Rect hitBox(Point radarPoint) {
 }
 
 void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight, const FlightColours& colours,
-                const Font& tagFont) {
+                const TagLook& look) {
     const PlanStep& step = flight.current();
     const Point at = radarPoint(layout, step.cell);
     const Colour colour = tagColour(flight, colours);
+    const TagTexts texts = tagTexts(flight, look.vors, look.contents);
+    const TagStand stand = tagStand(measureTag(texts, look.font, look.letters), at, look.place);
+    if (look.place != usualTagPlace) {
+        drawTagLeader(canvas, at, stand.box, colour);
+    }
     DrawAircraftSymbol(canvas, at + symbolOffset, colour, step.heading);
-    drawText(canvas, tagFont, at + callsignOffset, flight.callsign, {colour, {}});
-    const std::string altitude = FormatText("%dK", {long{step.altitude}});
-    drawText(canvas, tagFont, at + altitudeOffset, altitude, {colour, {}});
+    drawTag(canvas, look.font, texts, stand, colour);
 }
 
 void drawAlertCircle(Canvas& canvas, const RadarLayout& layout, const Flight& flight) {

@@ -7,6 +7,7 @@
 
 #include "platform/canvas/canvas.h"
 #include "platform/canvas/font.h"
+#include "radar/flight_tags.h"
 #include "radar/radar_layout.h"
 #include "sim/flight.h"
 
@@ -31,9 +32,18 @@ Rect blinkBox(Point radarPoint);
 /// Where a click hits the flight.
 Rect hitBox(Point radarPoint);
 
-/// Symbol, callsign and altitude.
+/// How a flight's tag is drawn.
+struct TagLook {
+    const Font& font;
+    TagFont letters = usualTagFont; ///< those of the font
+    TagContents contents = TagContents::altitude;
+    std::span<const Vor> vors = {}; ///< among which its destination is, where the contents ask for it
+    std::size_t place = usualTagPlace;
+};
+
+/// Symbol and tag.
 void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight, const FlightColours& colours,
-                const Font& tagFont);
+                const TagLook& look);
 
 /// The ring around a flight to which something has just happened; nothing without an alert.
 void drawAlertCircle(Canvas& canvas, const RadarLayout& layout, const Flight& flight);

@@ -56,6 +56,11 @@ Bitmap composeMap(const RadarLayout& layout, const MapParts& parts, const Font& 
         canvas.draw({0, 0}, *parts.airport);
     }
     for (const Vor& vor : parts.vors) {
+        if (vor.isAirport && parts.showCentrelines) {
+            drawCentreline(canvas, layout, vor, labelFont);
+        }
+    }
+    for (const Vor& vor : parts.vors) {
         if (vor.isAirport) {
             DrawAirport(canvas, layout, vor, labelFont);
         } else {

@@ -21,7 +21,13 @@ struct MapParts {
     std::span<const Vor> vors;       ///< later points are drawn over earlier ones
     bool showPicture = true;         ///< off: black inside the scope, whatever there is
     bool showGrid = false;
+    bool showCentrelines = false;
 };
+
+/// The letters of the points' labels.
+constexpr FontRequest mapLabelFont(const RadarLayout& layout) {
+    return {Face::smallFonts, -layout.labelHeight, false};
+}
 
 /// Makes the map of that layout.
 Bitmap composeMap(const RadarLayout& layout, const MapParts& parts, const Font& labelFont);

@@ -94,6 +94,23 @@ Point airportLabelCorner(const RadarLayout& layout, const Vor& airport, Size lab
     }
 }
 
+/// Where a runway's number stands: cells backwards along its line, and to the side.
+constexpr std::array<Point, 3> numberPlaces{{{4, 0}, {2, 2}, {2, -2}}};
+
+/// The first of them that is on the scope.
+Rect numberBox(const RadarLayout& layout, Point airport, Cell behind, Size size) {
+    Rect box;
+    for (const Point& place : numberPlaces) {
+        const Point cells{behind.x * place.x - behind.y * place.y, behind.y * place.x + behind.x * place.y};
+        const Point middle = airport + Point{cells.x * layout.cellSize, cells.y * layout.cellSize};
+        box = Rect::at(middle - Point{size.width / 2, size.height / 2}, size);
+        if (cornersOutside(layout.scopeEllipse, box) == 0) {
+            break;
+        }
+    }
+    return box;
+}
+
 } // namespace
 
 std::optional<std::size_t> headingNumber(int heading) {
@@ -124,6 +141,41 @@ std::optional<std::array<MapLine, 2>> approachCone(const RadarLayout& layout, Po
     const Cone& cone = cones[*number];
     const Point apex = pixels(cone.apex);
     return std::array<MapLine, 2>{{{apex, pixels(cone.ends[0])}, {apex, pixels(cone.ends[1])}}};
+}
+
+std::optional<Centreline> centreline(const RadarLayout& layout, Point pixel, int runwayHeading, Size number) {
+    constexpr std::array dashCells{1, 2, 5, 6, 7}; // from the airport to where a dash's cell begins
+    constexpr int dashPart = 4;                    // of a cell is clear at either end
+    if (!headingNumber(runwayHeading)) {
+        return std::nullopt;
+    }
+    const Cell behind = stepCell({0, 0}, turned(runwayHeading, fullCircle / 2));
+    const auto along = [&](int cells) {
+        return Point{behind.x * layout.cellSize * cells, behind.y * layout.cellSize * cells};
+    };
+    const Point gap{along(1).x / dashPart, along(1).y / dashPart};
+    Centreline line{.number = numberBox(layout, pixel, behind, number)};
+    for (std::size_t i = 0; i < dashCells.size(); ++i) {
+        line.dashes[i] = {pixel + along(dashCells[i]) + gap, pixel + along(dashCells[i] + 1) - gap};
+    }
+    return line;
+}
+
+int cornersOutside(const Rect& ellipse, const Rect& box) {
+    const auto width = static_cast<long long>(ellipse.width());
+    const auto height = static_cast<long long>(ellipse.height());
+    const auto isOutside = [&](int cornerX, int cornerY) {
+        const long long x = (2LL * cornerX - ellipse.left - ellipse.right) * height;
+        const long long y = (2LL * cornerY - ellipse.top - ellipse.bottom) * width;
+        return x * x + y * y > width * width * height * height;
+    };
+    int count = 0;
+    for (const int x : {box.left, box.right}) {
+        for (const int y : {box.top, box.bottom}) {
+            count += isOutside(x, y) ? 1 : 0;
+        }
+    }
+    return count;
 }
 
 std::optional<std::array<MapLine, 2>> runwayLines(const RadarLayout& layout, Point pixel, int runwayHeading) {

@@ -31,6 +31,18 @@ std::optional<std::array<MapLine, 2>> approachCone(const RadarLayout& layout, Po
 /// The runway's two lines through the circle.
 std::optional<std::array<MapLine, 2>> runwayLines(const RadarLayout& layout, Point pixel, int runwayHeading);
 
+/// The middle line of the approach, a dash for each cell from the cone's apex outward; none where the
+/// runway's number stands, beyond the mouth of the cone or, at the rim of the scope, beside it.
+struct Centreline {
+    std::array<MapLine, 5> dashes = {};
+    Rect number = {};
+};
+/// With the size of the number's text. Nothing for a number that is none of the eight headings.
+std::optional<Centreline> centreline(const RadarLayout& layout, Point pixel, int runwayHeading, Size number);
+
+/// How many of a box's corners lie outside the ellipse in that rectangle.
+int cornersOutside(const Rect& ellipse, const Rect& box);
+
 /// 0 to 7 for the eight headings.
 std::optional<std::size_t> headingNumber(int heading);
 

@@ -13,7 +13,6 @@ namespace {
 constexpr Colour scoreColour = Colour::rgb(0, 0xD0, 0);
 constexpr Colour pauseColour = Colour::rgb(0xFF, 0xFF, 0xFF);
 constexpr Size pauseBox{200, 50};
-constexpr FontRequest tagFont{Face::smallFonts, 10, false};
 constexpr FontRequest pauseFont{Face::arial, -40, true};
 constexpr FontRequest rimPauseFont{Face::arial, -20, true};
 constexpr int rimPauseDrop = 6; // pixels below the scope's upper edge
@@ -22,24 +21,41 @@ constexpr ClockSeconds blinkPeriod = 2_s;
 /// The last clock second, after it became active, in which a flight blinks.
 constexpr ClockSeconds blinkTime = 14_s;
 
+bool isBlinking(const Flight& flight, ClockSeconds now) {
+    return flight.isOnScope() && now <= flight.activatedAt + blinkTime;
+}
+
 FlightColours coloursOf(const Game& game) {
     return {game.airspace->flightColour, game.airspace->selectedFlightColour, game.airspace->routeColour};
 }
 
-void drawFlights(RadarWindow& radar, Canvas& canvas) {
+/// Whether a flight that has just become active is not to be seen this second.
+bool isBlinkedOff(const Flight& flight, ClockSeconds now) {
+    return isBlinking(flight, now) && now % blinkPeriod != 0_s;
+}
+
+enum class NewFlights { shown, blinking };
+
+void drawFlights(RadarWindow& radar, Canvas& canvas, NewFlights look) {
     const Game& game = radar.sources.game;
-    const Font& font = radar.sources.fonts.font(tagFont);
-    for (const Flight& flight : game.flights) {
-        if (flight.isOnScope()) {
-            drawFlight(canvas, radar.layout, flight, coloursOf(game), font);
-            drawAlertCircle(canvas, radar.layout, flight);
+    TagLook tag = tagLook(aidScene(radar));
+    for (const FlightIndex i : game.flightPlaces()) {
+        const Flight& flight = game.flight(i);
+        if (!flight.isOnScope()) {
+            continue;
         }
+        if (look == NewFlights::shown || !isBlinkedOff(flight, game.clock)) {
+            tag.place = tagPlaceOf(radar.aids.tags, i);
+            drawFlight(canvas, radar.layout, flight, coloursOf(game), tag);
+        }
+        drawAlertCircle(canvas, radar.layout, flight);
     }
 }
 
 void drawScore(RadarWindow& radar, Canvas& canvas) {
     const std::string text = FormatText("SCORE: %d", {long{radar.sources.game.score}});
-    drawText(canvas, radar.sources.fonts.font(tagFont), radar.layout.scorePosition, text, {scoreColour, {}});
+    drawText(canvas, radar.sources.fonts.font(usualTagFont.request), radar.layout.scorePosition, text,
+             {scoreColour, {}});
 }
 
 void drawPause(RadarWindow& radar, Canvas& canvas) {
@@ -56,9 +72,11 @@ void drawPause(RadarWindow& radar, Canvas& canvas) {
     drawTextBox(canvas, radar.sources.fonts.font(rimPauseFont), rim, "PAUSE", {pauseColour, {}}, layout);
 }
 
-} // namespace
+std::optional<UnsentOrder> unsentOrder(const RadarWindow& radar) {
+    return radar.sources.options.aidOrderLine != 0 ? radar.callbacks.unsentOrder() : std::nullopt;
+}
 
-void paintRadarFrame(RadarWindow& radar) {
+void paintFrame(RadarWindow& radar, NewFlights look) {
     const Game& game = radar.sources.game;
     assert(radar.map);
     Canvas canvas(radar.backBuffer);
@@ -67,7 +85,8 @@ void paintRadarFrame(RadarWindow& radar) {
     if (radar.sources.options.showRoutes != 0) {
         drawRoutes(canvas, radar.layout, game.flights, game.airspace->routeColour);
     }
-    drawFlights(radar, canvas);
+    drawUnderFlights(canvas, radar.aids, aidScene(radar), unsentOrder(radar));
+    drawFlights(radar, canvas, look);
     drawScore(radar, canvas);
     drawClouds(canvas, game.clouds, radar.clouds);
     if (radar.callbacks.isPaused()) {
@@ -75,25 +94,54 @@ void paintRadarFrame(RadarWindow& radar) {
     }
 }
 
-void blinkNewFlights(RadarWindow& radar, ClockSeconds now) {
+/// Hides or shows the flight by its own little box.
+void blinkFlight(RadarWindow& radar, const Flight& flight, ClockSeconds now) {
     const Game& game = radar.sources.game;
+    Canvas buffer(radar.backBuffer);
+    buffer.setClip(radar.scope);
+    const Rect box = blinkBox(radarPoint(radar.layout, flight.current().cell));
+    buffer.draw(box, *radar.map, box);
+    if (!isBlinkedOff(flight, now)) {
+        drawFlight(buffer, radar.layout, flight, coloursOf(game),
+                   {.font = radar.sources.fonts.font(usualTagFont.request)});
+    }
+    Canvas screen = radar.window.canvas();
+    screen.draw(box, radar.backBuffer, box);
+    mendSweep(radar.sweep, screen, box);
+}
+
+} // namespace
+
+void paintRadarFrame(RadarWindow& radar) {
+    paintFrame(radar, NewFlights::shown);
+}
+
+AidScene aidScene(const RadarWindow& radar) {
+    const RadarSources& sources = radar.sources;
+    return {sources.game, sources.options, sources.fonts, radar.layout};
+}
+
+void refreshRadar(RadarWindow& radar) {
+    paintFrame(radar, NewFlights::blinking);
+    Canvas screen = radar.window.canvas();
+    screen.draw({0, 0}, radar.backBuffer);
+    mendSweep(radar.sweep, screen, scopeSquare(radar.layout));
+}
+
+void blinkNewFlights(RadarWindow& radar, ClockSeconds now) {
     if (!radar.map) {
         return;
     }
-    Canvas buffer(radar.backBuffer);
-    buffer.setClip(radar.scope);
-    for (const Flight& flight : game.flights) {
-        if (!flight.isOnScope() || now > flight.activatedAt + blinkTime) {
+    const bool isWhole = hasScopeAids(radar.sources.options); // no little box holds all of a flight then
+    for (const Flight& flight : radar.sources.game.flights) {
+        if (!isBlinking(flight, now)) {
             continue;
         }
-        const Rect box = blinkBox(radarPoint(radar.layout, flight.current().cell));
-        buffer.draw(box, *radar.map, box);
-        if (now % blinkPeriod == 0_s) {
-            drawFlight(buffer, radar.layout, flight, coloursOf(game), radar.sources.fonts.font(tagFont));
+        if (isWhole) {
+            refreshRadar(radar);
+            return;
         }
-        Canvas screen = radar.window.canvas();
-        screen.draw(box, radar.backBuffer, box);
-        mendSweep(radar.sweep, screen, box);
+        blinkFlight(radar, flight, now);
     }
 }
 

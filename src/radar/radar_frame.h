@@ -11,6 +11,12 @@ namespace ventrel {
 /// level to the lamps and moves the clouds on. There is a map.
 void paintRadarFrame(RadarWindow& radar);
 
+/// What the aids read of the radar.
+AidScene aidScene(const RadarWindow& radar);
+
+/// Paints the scope anew as it stands, new flights blinking, and puts it on the screen under the sweep.
+void refreshRadar(RadarWindow& radar);
+
 /// Shows flights that became active within the last 15 clock seconds on even seconds, and hides them on odd
 /// ones, touching only their own little boxes.
 void blinkNewFlights(RadarWindow& radar, ClockSeconds now);

@@ -73,7 +73,10 @@ void paint(RadarWindow& radar) {
 
 WindowHandlers handlersOf(RadarWindow& radar) {
     WindowHandlers handlers;
-    handlers.prepare = [&radar] { radar.callbacks.makeFrame(); };
+    handlers.prepare = [&radar] {
+        radar.callbacks.makeFrame();
+        followFlights(radar.aids, aidScene(radar));
+    };
     handlers.paint = [&radar](Canvas&, const Rect&) { paint(radar); };
     handlers.press = [&radar](const MouseInput& mouse) { onPress(radar, mouse); };
     handlers.cursor = [&radar](Point) { return std::optional<Cursor>(&radar.sources.hand); };
@@ -135,8 +138,9 @@ void RadarBuildMap(RadarWindow& radar, const Bitmap& frame) {
                          .airport = radar.airportImage ? &*radar.airportImage : nullptr,
                          .vors = radar.sources.game.vors(),
                          .showPicture = options.mapDetails != 0,
-                         .showGrid = options.showGrid != 0};
-    const Font& labels = radar.sources.fonts.font({Face::smallFonts, -radar.layout.labelHeight, false});
+                         .showGrid = options.showGrid != 0,
+                         .showCentrelines = options.aidRunways != 0};
+    const Font& labels = radar.sources.fonts.font(mapLabelFont(radar.layout));
     radar.map = composeMap(radar.layout, parts, labels);
     radar.window.show();
 }
@@ -144,11 +148,18 @@ void RadarBuildMap(RadarWindow& radar, const Bitmap& frame) {
 void RadarHide(RadarWindow& radar) {
     radar.window.hide();
     coverSweep(radar.sweep);
+    radar.aids = {};
     radar.lastClockSeen = {}; // the next game begins at 0, which brings nothing yet
 }
 
 void RadarRepaint(RadarWindow& radar) {
     radar.window.invalidate();
+}
+
+void RadarRefresh(RadarWindow& radar) {
+    if (radar.map && radar.window.isVisible() && radar.sources.game.isRunning()) {
+        refreshRadar(radar);
+    }
 }
 
 std::optional<Millis> RadarTick(RadarWindow& radar) {

@@ -16,7 +16,9 @@
 #include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 #include "radar/flight_drawing.h"
+#include "radar/flight_ways.h"
 #include "radar/radar_layout.h"
+#include "radar/scope_aids.h"
 #include "radar/sweep.h"
 #include "sim/game.h"
 
@@ -42,6 +44,8 @@ struct RadarCallbacks {
     std::function<void(const FlightHit&)> select;
     /// The order menu is wanted there, for the selected flight.
     std::function<void(Point screen)> showOrderMenu;
+    /// The order being composed for a flight on the scope, if it could be flown.
+    std::function<std::optional<UnsentOrder>()> unsentOrder = [] { return std::nullopt; };
 };
 
 /// What the radar reads, owned by others for as long as it lives.
@@ -65,6 +69,7 @@ struct RadarWindow {
     std::optional<Bitmap> airportImage = {}; ///< the airport's own picture, at most of the scope's size
     std::vector<Bitmap> clouds = {};
     Sweep sweep = {};
+    ScopeAids aids = {};
     ClockSeconds lastClockSeen = {};
 };
 
@@ -82,6 +87,9 @@ void RadarHide(RadarWindow& radar);
 
 /// Marks the whole window to be painted.
 void RadarRepaint(RadarWindow& radar);
+
+/// Shows at once what the aids have to show anew, without a frame of the game.
+void RadarRefresh(RadarWindow& radar);
 
 /// Moves the sweep and does what a new clock value asks for. Returns when it wants its next call: none while
 /// the window is hidden or nothing of it moves by itself.

@@ -3,6 +3,8 @@
 #include <array>
 #include <cstddef>
 
+#include "base/format.h"
+#include "platform/canvas/text.h"
 #include "radar/map_geometry.h"
 
 namespace ventrel {
@@ -77,6 +79,22 @@ void drawApproachCone(Canvas& canvas, const RadarLayout& layout, const Vor& airp
     for (const MapLine& line : *cone) {
         canvas.line(line.from, line.to, approachConeColour(airport.runwayColour));
     }
+}
+
+void drawCentreline(Canvas& canvas, const RadarLayout& layout, const Vor& airport, const Font& font) {
+    constexpr int north = 36;
+    constexpr int degrees = 10; // of one number
+    const int number = airport.runwayHeading == 0 ? north : airport.runwayHeading / degrees;
+    const std::string text = FormatText("%02d", {long{number}});
+    const auto line =
+        centreline(layout, airport.pixel, airport.runwayHeading, {font.width(text), font.lineHeight()});
+    if (!line) {
+        return;
+    }
+    for (const MapLine& dash : line->dashes) {
+        canvas.line(dash.from, dash.to, approachConeColour(airport.runwayColour));
+    }
+    drawText(canvas, font, line->number.topLeft(), text, {airport.runwayColour, {}});
 }
 
 void drawRunway(Canvas& canvas, const RadarLayout& layout, const Vor& airport) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include "platform/canvas/canvas.h"
+#include "platform/canvas/font.h"
 #include "radar/radar_layout.h"
 #include "sim/vor.h"
 
@@ -13,6 +14,10 @@ void drawApproachCone(Canvas& canvas, const RadarLayout& layout, const Vor& airp
 
 /// The runway's two lines and the arrow that points in the landing direction.
 void drawRunway(Canvas& canvas, const RadarLayout& layout, const Vor& airport);
+
+/// The line on which to come in, a dash for each cell, and at its end the runway's number: tens of degrees,
+/// 01 to 36.
+void drawCentreline(Canvas& canvas, const RadarLayout& layout, const Vor& airport, const Font& font);
 
 /// Two thirds of each channel, in whole numbers.
 Colour approachConeColour(Colour runwayColour);

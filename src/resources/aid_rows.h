@@ -25,8 +25,24 @@ struct AidRow {
 
 // Those of a group stand together.
 inline constexpr std::array aidRows{std::to_array<AidRow>({
+    {AidGroup::scope, "AidHeadingLines", &Options::aidHeadingLines, "&Heading lines",
+     "Where flights on headings will be in three minutes"},
+    {AidGroup::scope, "AidRunways", &Options::aidRunways, "&Runways",
+     "The number of each runway, and the line to come in on"},
+    {AidGroup::scope, "AidHistory", &Options::aidHistory, "H&istory",
+     "Dots in the last cells through which a flight came"},
     {AidGroup::scope, "AidPauseAtRim", &Options::aidPauseAtRim, "&Pause at the rim",
      "PAUSE stands at the top of the scope instead of in its middle"},
+    {AidGroup::tags, "AidFullTags", &Options::aidFullTags, "&Full tags",
+     "Speed (F, N, S) and destination beside the altitude"},
+    {AidGroup::tags, "AidTidyTags", &Options::aidTidyTags, "&Tidy tags",
+     "Tags give way to each other and stay inside the rim"},
+    {AidGroup::tags, "AidLargeTags", &Options::aidLargeTags, "&Large letters",
+     "Tags in letters that are easier to read"},
+    {AidGroup::orders, "AidOrderLine", &Options::aidOrderLine, "Line of the &order",
+     "On the scope: the way on which EXEC would send the flight"},
+    {AidGroup::orders, "AidUnsentMarks", &Options::aidUnsentMarks, "&Unsent settings",
+     "On the panel: a mark at all that EXEC would change"},
 })};
 
 struct AidGroupTitle {

@@ -5,6 +5,7 @@
 #include "shell/high_scores.h"
 #include "shell/popup_menus.h"
 #include "shell/selection.h"
+#include "sim/orders.h"
 
 namespace ventrel {
 
@@ -12,6 +13,15 @@ namespace {
 
 ScrollerSources scrollerSources(Shell& shell) {
     return {shell.desktop, shell.fonts, shell.pictures.arrow, shell.game.messages};
+}
+
+/// What is composed on the panel, if its flight could fly it.
+std::optional<UnsentOrder> unsentOrder(const Shell& shell) {
+    const ControlPanelState& panel = shell.panel.state;
+    const Flight* flight = panelFlight(panel, shell.game);
+    const bool canBeFlown = flight != nullptr && flight->isOnScope() &&
+                            judgeOrder(shell.game, *panel.flight, panel.pending) == OrderVerdict::accepted;
+    return canBeFlown ? std::optional(UnsentOrder{*panel.flight, panel.pending}) : std::nullopt;
 }
 
 RadarCallbacks radarCallbacks(Shell& shell) {
@@ -24,13 +34,21 @@ RadarCallbacks radarCallbacks(Shell& shell) {
         .isTouched = [&shell] { return isPanelTouched(shell); },
         .select = [&shell](const FlightHit& hit) { selectRadarFlight(shell, hit); },
         .showOrderMenu = [&shell](Point screen) { showOrderMenu(shell, screen); },
+        .unsentOrder = [&shell] { return unsentOrder(shell); },
     };
+}
+
+void showOrderLine(Shell& shell) {
+    if (shell.options.aidOrderLine != 0) {
+        RadarRefresh(shell.radar);
+    }
 }
 
 ControlPanelCallbacks panelCallbacks(Shell& shell) {
     return {
         .click = [&shell] { shell.sounds.clickControl(); },
         .enableExec = [&shell](bool enabled) { shell.exec.enable(enabled); },
+        .changed = [&shell] { showOrderLine(shell); },
     };
 }
 
