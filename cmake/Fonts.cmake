@@ -26,6 +26,7 @@ function(ask_font_list name result)
 endfunction()
 
 set(staged_fonts)
+set(found_fonts)
 foreach(name ${font_files})
     find_file(VENTREL_FONT_${name} ${name} PATHS ${font_folders} NO_DEFAULT_PATH)
     set(font ${VENTREL_FONT_${name}})
@@ -44,6 +45,7 @@ foreach(name ${font_files})
         COMMENT "Staging ${name}"
         VERBATIM)
     list(APPEND staged_fonts ${staged})
+    list(APPEND found_fonts ${font})
 endforeach()
 
 # Their licence travels with them.
@@ -59,3 +61,4 @@ if(VENTREL_FONT_LICENCE)
 endif()
 
 add_custom_target(fonts ALL DEPENDS ${staged_fonts})
+set(VENTREL_FONTS ${found_fonts} CACHE INTERNAL "The system's faces that stand in for the program's own")
