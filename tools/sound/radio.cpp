@@ -17,6 +17,9 @@ constexpr double workLevel = -23; // RMS, at which the trimming and the compress
 // Cut off is what lies below this level over 10 ms: of the full band, for a hiss has little below 3.4 kHz.
 constexpr double trimLevel = 0.003;
 constexpr double trimBlock = 0.010;
+// And again what of the radio's band lies below half a step of the file: a murmur before "good" or "eight" is
+// long.
+constexpr double inaudible = 1.0 / 256;
 constexpr double trimRise = 0.006;
 constexpr double trimFall = 0.012;
 
@@ -82,12 +85,12 @@ void compress(Signal& signal) {
 }
 
 /// What lies between the first and the last block in which somebody speaks, and a block to either side.
-Signal trimmed(SignalView signal) {
-    const std::size_t block = samplesIn(trimBlock, radioRate);
+Signal trimmed(SignalView signal, double rate, double least) {
+    const std::size_t block = samplesIn(trimBlock, rate);
     std::size_t first = signal.size();
     std::size_t last = 0;
     for (std::size_t at = 0; at + block <= signal.size(); at += block) {
-        if (rootMeanSquare(signal.subspan(at, block)) > trimLevel) {
+        if (rootMeanSquare(signal.subspan(at, block)) > least) {
             first = std::min(first, std::max(at, block) - block);
             last = std::min(at + 2 * block, signal.size());
         }
@@ -125,17 +128,18 @@ Result<Signal> overRadio(SignalView speech, const RadioSettings& settings) {
         return failed("nobody speaks");
     }
     amplify(signal, fromDecibels(workLevel) / level);
-    signal = trimmed(signal);
+    signal = trimmed(signal, radioRate, trimLevel);
     fadeEnds(signal, samplesIn(trimRise, radioRate), samplesIn(trimFall, radioRate));
     Biquad::highShelf(radioRate, emphasisFrequency, emphasisQuality, emphasis).run(signal);
     signal = bandPass(signal, radioRate, bandLow, bandHigh, bandTaps);
     compress(signal);
     signal = bandPass(signal, radioRate, cleanLow, cleanHigh, cleanTaps);
-    signal = resampled(signal, radioRate, fileRate);
+    signal =
+        trimmed(levelled(resampled(signal, radioRate, fileRate), settings.loudness), fileRate, inaudible);
     fadeEnds(signal, samplesIn(trimRise, fileRate), samplesIn(trimFall, fileRate));
     signal.insert(signal.begin(), samplesIn(silenceBefore, fileRate), 0);
     signal.insert(signal.end(), samplesIn(silenceAfter, fileRate), 0);
-    return levelled(signal, settings.loudness);
+    return signal;
 }
 
 } // namespace ventrel::sound
