@@ -8,7 +8,7 @@
 //                       isMusicPlaying; stopEffects and stopMusic as its windows close
 //     a collision       stopMusic, stopEffects, its sound; its piece once the rings have spread; the report
 //                       that is closed starts the idle piece
-//     the movie         plays its sound and stops it with stopEffects
+//     the movie         plays its sound, which goes on into the table
 //     the high scores   stopMusic, their piece; stopMusic, and the piece of the game or the idle one
 
 #pragma once

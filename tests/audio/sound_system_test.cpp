@@ -86,6 +86,9 @@ TEST_F(SoundSystemTest, AFlightNeverTalksOverItselfButOthersDo) {
     now += 10;
     EXPECT_TRUE(speak(call, 7));
     EXPECT_EQ(device.starts.size(), 3U);
+    while (sounds.playEffect("snd\\red.snd").value()) {
+    }
+    EXPECT_FALSE(speak(call, 7)) << "nobody looks who speaks where there is no place";
 }
 
 TEST_F(SoundSystemTest, ACallIsNoiseAndTheSnippetsOfItsVoiceInOrder) {
@@ -175,6 +178,7 @@ TEST_F(SoundSystemTest, OptionsSilenceTheirOwnKindAlone) {
     sounds.choose({.music = false});
     EXPECT_FALSE(sounds.playMusic("mci\\game.mci", true));
     EXPECT_EQ(sequencer.starts.size(), 1U);
+    EXPECT_TRUE(sounds.isMusicPlaying()) << "what is not wanted ends nothing";
     EXPECT_EQ(device.starts.size(), 2U);
 }
 

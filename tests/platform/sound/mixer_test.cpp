@@ -94,7 +94,7 @@ TEST(Mixer, ARecordingOfNSamplesPlaysForNOver8001SecondsAndNoneOfItIsLost) {
 
 TEST(Mixer, ToneKeepsItsLevelAndHasNoImages) {
     Mixer mixer(rate);
-    mixer.play(mixer.add(tone(1000, 2), 1).value());
+    mixer.play(mixer.add(tone(1000, 2, 1), 0.5F).value());
     rendered(mixer, 0.2);
     const auto samples = rendered(mixer, 1);
     EXPECT_NEAR(decibels(amplitudeAt(samples, 1000)), decibels(0.5 * std::numbers::sqrt2 / 2), 0.1);
@@ -128,6 +128,8 @@ TEST(Mixer, StoppedAndPlayedOnItGoesOnFromThereWithoutAClick) {
     const auto again = rendered(mixer, 0.5);
     EXPECT_TRUE(mixer.isPlaying(id));
     EXPECT_GT(loudest(again), 0.3F);
+    mixer.release(id);
+    EXPECT_LT(largestStep(rendered(mixer, 0.1)), 1.5F * steepest);
 }
 
 TEST(Mixer, ReleasingWhatSoundsFadesItAndMakesRoomAgain) {
@@ -163,6 +165,8 @@ TEST(Mixer, ManyLoudSoundsAreTurnedDownSmoothlyAndComeUpAgain) {
     const auto crowd = rendered(mixer, 0.6);
     EXPECT_LE(loudest(crowd), 0.971F);
     EXPECT_GT(loudest(crowd), 0.8F);
+    const auto justAfter = std::span(crowd).subspan(rate * 52 / 100, rate / 50);
+    EXPECT_LT(loudest(justAfter), 0.8F * loudest(before)) << "not at once";
     rendered(mixer, 0.5);
     const auto after = rendered(mixer, 0.5);
     EXPECT_NEAR(loudest(after), loudest(std::span(before).subspan(before.size() / 2)), 0.01);
@@ -257,6 +261,40 @@ TEST(Music, AnotherPieceFadesTheFirstOutAndBeginsAtItsOwnStart) {
     EXPECT_FLOAT_EQ(loudest(rendered(mixer, 0.1)), 0);
     EXPECT_EQ(music.room(), static_cast<std::size_t>(rate * 0.4))
         << "nothing of the dropped pieces takes room";
+}
+
+TEST(Music, AnEndedPieceTakesNothingOfTheNext) {
+    Mixer mixer(rate);
+    MusicStream& music = mixer.music();
+    music.want(1);
+    music.begin(1);
+    write(music, rate / 50, 0);
+    rendered(mixer, 0.015);
+    music.want(2);
+    music.begin(2);
+    write(music, rate / 10, 0.5F);
+    auto heard = rendered(mixer, 0.08);
+    std::erase(heard, 0.0F);
+    EXPECT_FLOAT_EQ(std::ranges::min(heard), 0.5F) << "it was taken for the fading rest of the first";
+}
+
+TEST(Music, IsWaitedForAndHasAVolumeOfItsOwn) {
+    Mixer mixer(rate);
+    MusicStream& music = mixer.music();
+    mixer.play(mixer.add(tone(100, 1, 0.4), 1).value());
+    music.want(1);
+    rendered(mixer, 2);
+    EXPECT_FALSE(mixer.isSilent()) << "its instruments may still be on their way";
+    music.begin(1);
+    write(music, rate / 2, 0.25F);
+    mixer.play(mixer.add(tone(100, 1, 0.4), 1).value());
+    rendered(mixer, 0.1);
+    mixer.setSoundVolume(0);
+    EXPECT_LT(largestStep(rendered(mixer, 0.05)), 0.02F);
+    EXPECT_FLOAT_EQ(loudest(rendered(mixer, 0.02)), 0.25F);
+    mixer.setMusicVolume(0);
+    EXPECT_LT(largestStep(rendered(mixer, 0.05)), 0.02F);
+    EXPECT_FLOAT_EQ(loudest(rendered(mixer, 0.02)), 0);
 }
 
 } // namespace
