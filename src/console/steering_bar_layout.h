@@ -9,7 +9,7 @@ namespace ventrel {
 
 struct SteeringBarLayout {
     Rect whole; ///< in the main window, as is
-    Rect plate; ///< the place of the title alone, where nothing is steered
+    Rect plate; ///< of the title alone, where nothing is steered: over the engraved word under the knob
 
     // In the bar's own pixels.
     Rect title;
@@ -23,7 +23,7 @@ struct SteeringBarLayout {
     Rect stop;
 };
 
-constexpr SteeringBarLayout steeringBarAt(Point corner) {
+constexpr SteeringBarLayout steeringBarAt(Point corner, int plateTop) {
     constexpr Size whole{105, 84};
     constexpr int plateHeight = 19;
     constexpr Size button{47, 19};
@@ -37,7 +37,7 @@ constexpr SteeringBarLayout steeringBarAt(Point corner) {
     constexpr int takeOverWidth = 59;
     return {
         .whole = Rect::at(corner, whole),
-        .plate = Rect::at(corner + Point{0, whole.height - plateHeight}, {whole.width, plateHeight}),
+        .plate = Rect::at({corner.x, plateTop}, {whole.width, plateHeight}),
         .title = {2, 2, whole.width - 2, 16},
         .slower = Rect::at({left, paceTop}, arrow),
         .pace = {left + arrow.width + gap, paceTop, right - arrow.width - gap, paceTop + arrow.height},
@@ -50,8 +50,8 @@ constexpr SteeringBarLayout steeringBarAt(Point corner) {
     };
 }
 
-inline constexpr SteeringBarLayout smallSteeringBar = steeringBarAt({3, 513});
-inline constexpr SteeringBarLayout largeSteeringBar = steeringBarAt({52, 671});
+inline constexpr SteeringBarLayout smallSteeringBar = steeringBarAt({3, 513}, 566);
+inline constexpr SteeringBarLayout largeSteeringBar = steeringBarAt({52, 671}, 731);
 
 constexpr const SteeringBarLayout& steeringBarFor(int windowWidth) {
     return windowWidth == largeConsole.size.width ? largeSteeringBar : smallSteeringBar;

@@ -52,7 +52,7 @@ inline constexpr std::array keyRows{std::to_array<KeyRow>({
     {"F, N, S", "", "speed fast, normal, slow"},
     {"Up, Down", "", "select the strip above or below"},
     {"Tab, Shift+Tab", "", "select the next or previous flight"},
-    {"Space", "", "on to the next 15 seconds"},
+    {"Space, Shift+Space", "", "on to the next 15 seconds, or event"},
     {"Pause", "", "pause and go on", {{{Key::p, "P"}}}},
     {"Esc", "", "boss key: hide the window"},
     {"Ctrl+S, Ctrl+L", "", "schedule, log of the shift"},
@@ -77,7 +77,10 @@ inline constexpr std::string_view deskText =
     "one keeps its speed: the lamps of the others are dark red.\n"
     "\n"
     "The wheel and the arrows scroll the strips. Those in view are always sorted anew, the latest flight on "
-    "top, so a strip may change its place. Grey strips are announced and cannot be selected yet.";
+    "top, so a strip may change its place. Grey strips are announced and cannot be selected yet.\n"
+    "\n"
+    "To learn: Help > Watch a Shift has the program play on your desk until you take over, and File > "
+    "Practice at Half Speed gives you twice the time. Neither enters high scores.";
 
 inline constexpr std::string_view arrivalText =
     "Flights to an airport (*) land when they come over it on the heading of its runway, at 1,000 ft. They "

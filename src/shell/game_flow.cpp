@@ -92,12 +92,14 @@ void endSteered(Shell& shell, ShiftResult result) {
     if (result == ShiftResult::collision) {
         shell.sounds.stopEffects();
         shell.tellLater(shell.sounds.playEffect(collisionSound));
-        if (!RadarCollisionRings(shell.radar, shell.game.collisionFlights.front()) ||
-            shell.game.phase != Phase::rings) {
-            return; // the program is quitting, or something else has begun
+        if (!RadarCollisionRings(shell.radar, shell.game.collisionFlights.front())) {
+            return; // the program is quitting
         }
     }
     shell.mainWindow.releaseCapture();
+    if (!isSteered(shell) || shell.game.isRunning()) {
+        return; // the player has gone on to something else meanwhile
+    }
     EndGame(shell);
     tellOfSteeredEnd(shell, result);
 }

@@ -11,7 +11,8 @@ constexpr std::string_view question =
 
 bool agrees(Shell& shell) {
     return !shell.game.isRunning() || isPractice(shell) ||
-           shell.showMessage(question, MessageIcon::exclamation, MessageButtons::yesNo) == MessageAnswer::yes;
+           shell.showMessage(question, MessageIcon::exclamation, MessageButtons::okCancel) ==
+               MessageAnswer::ok;
 }
 
 } // namespace

@@ -193,7 +193,7 @@ void takeOver(Shell& shell) {
 
 void askToTakeOver(Shell& shell) {
     if (isPlaying(shell) && shell.showMessage(takeOverQuestion, MessageIcon::exclamation,
-                                              MessageButtons::yesNo) == MessageAnswer::yes) {
+                                              MessageButtons::okCancel) == MessageAnswer::ok) {
         takeOver(shell);
     }
 }

@@ -2,6 +2,7 @@
 
 #include "console/steering_bar_layout.h"
 #include "controller/controller.h"
+#include "golden.h"
 #include "shell/plain_program.h"
 #include "shell/quiet_shift.h"
 #include "shell/steered_play.h"
@@ -106,12 +107,16 @@ TEST_F(WatchTest, EachOrderIsSeenOnThePanelBeforeItIsSent) {
 TEST_F(WatchTest, WhoSetsThePanelIsAskedToTakeOverAndPlaysOnAsPractice) {
     watch();
     expectTitle("Ventrel (Watching)");
+    stage.look([this] {
+        expectGolden(pictureOf(stage.backend.screen(), stage.shell().steeringBar.window.bounds()),
+                     "steering_bar");
+    });
     stage.todo([this](Script& script) { script.click(stage.onPanel({130, 20})).wait(1); });
     expectTitle("Ventrel (Watching, Paused)");
     press(Key::escape);
     stage.look([this] { EXPECT_TRUE(isSteered(stage.shell())) << "the player did not mean it"; });
     press(Key::enter);
-    stage.todo([](Script& script) { script.type("y").wait(1); });
+    press(Key::enter);
     expectTitle("Ventrel (Practice)");
     stage.look([this] {
         EXPECT_FALSE(isSteered(stage.shell()));
@@ -155,6 +160,17 @@ TEST_F(WatchTest, TheBarSetsThePacePausesAndStops) {
         EXPECT_FALSE(stage.shell().steeringBar.window.exists());
         EXPECT_FALSE(stage.game().isRunning());
     });
+    stage.play();
+}
+
+TEST_F(WatchTest, ItsDialogLeavesTheShiftAloneWhenItIsCancelled) {
+    choose(Key::h, "w");
+    stage.look([this] {
+        expectGolden(pictureOf(stage.backend.screen(), stage.desktop().activeWindow().bounds()),
+                     "dialog_watch_a_shift");
+    });
+    press(Key::escape);
+    stage.look([this] { EXPECT_FALSE(stage.game().isRunning()); });
     stage.play();
 }
 
