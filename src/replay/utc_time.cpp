@@ -40,6 +40,10 @@ int digitsAt(std::string_view text, std::size_t start, std::size_t count) {
 
 } // namespace
 
+UtcMoment systemUtcNow() {
+    return floor<seconds>(system_clock::now());
+}
+
 std::string dateText(UtcDate date) {
     const year_month_day day{date};
     return padded(int{day.year()}, 4) + '-' + padded(long{unsigned{day.month()}}, 2) + '-' +

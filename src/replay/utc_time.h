@@ -3,6 +3,7 @@
 #pragma once
 
 #include <chrono>
+#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -11,6 +12,10 @@ namespace ventrel {
 
 using UtcDate = std::chrono::sys_days;
 using UtcMoment = std::chrono::sys_seconds;
+
+/// What tells the present moment.
+using UtcClock = std::function<UtcMoment()>;
+UtcMoment systemUtcNow();
 
 std::string dateText(UtcDate date);
 std::string momentText(UtcMoment moment);

@@ -5,6 +5,7 @@
 #include "shell/high_scores.h"
 #include "shell/practice.h"
 #include "shell/presentations.h"
+#include "shell/replay_keeping.h"
 #include "sim/shift_texts.h"
 
 namespace ventrel {
@@ -57,11 +58,13 @@ void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setu
     const auto sizes = cloudSizes(shell);
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
     const std::uint32_t seed = shell.game.random.state;
-    shell.game = Game{airspace, shiftSetup(shell, setup, sizes), shell.game.random};
+    const ShiftSetup shift = shiftSetup(shell, setup, sizes);
+    shell.game = Game{airspace, shift, shell.game.random};
     shell.game.lastStepTime = lastStepTime;
     shell.log.shiftBegun(setup.skill, seed);
     shell.shiftKind = kindOfShift(shell, setup.kind);
     shell.topBar.clock.pace = paceOfShift(shell);
+    keepReplay(shell, setup, shift, seed);
     RadarDecodePicture(shell.radar);
     RadarBuildMap(shell.radar, shell.pictures.radarFrame);
     ClockReset(shell.topBar);
@@ -149,6 +152,7 @@ void SetPause(Shell& shell, bool on) {
 }
 
 void EndGame(Shell& shell) {
+    shell.replayWriter.giveUp();
     shell.game.phase = Phase::idle;
     shell.mainWindow.invalidate();
     ScrollerClear(shell.scroller);

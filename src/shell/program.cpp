@@ -71,7 +71,8 @@ Result<> Program::startUp() {
                                                 .playersAirports = places_.playersAirports,
                                                 .pictures = std::move(loaded->pictures),
                                                 .options = options_,
-                                                .random = {seed_}});
+                                                .random = {seed_},
+                                                .utcNow = parts_.utcNow});
     if (auto made = makeHighScoreFile(shell_->highScorePath); !made) {
         parts_.troubles.push_back(std::move(made.error().text));
     }

@@ -36,6 +36,7 @@ struct ProgramParts {
     OptionsStore& store;
     std::vector<std::string> troubles = {}; ///< what is missing but not needed; told once the console stands
     FirstScene firstScene = FirstScene::console;
+    UtcClock utcNow = systemUtcNow;
 };
 
 class Program {

@@ -60,8 +60,9 @@ Shell::Shell(ShellParts parts)
       playerFolder(std::move(parts.playerFolder)),
       highScorePath(DataPath(playerFolder.empty() ? programFolder : playerFolder, highScoreFileName)),
       playersAirports(std::move(parts.playersAirports)), pictures(std::move(parts.pictures)),
-      options(parts.options), topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow},
-                                     .skip = [this] { skipClock(*this); }},
+      options(parts.options), utcNow(std::move(parts.utcNow)),
+      topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow},
+             .skip = [this] { skipClock(*this); }},
       scroller{.sources = scrollerSources(*this)},
       strips{.sources = {game, fonts, pictures.arrow},
              .callbacks = {.press = [this](int slot) { StripsPress(*this, slot); }}},
@@ -71,9 +72,10 @@ Shell::Shell(ShellParts parts)
             .sources = {game, options, fonts, pictures.hand},
             .callbacks = radarCallbacks(*this),
             .layout = radarLayoutFor(windowSize().width)},
-      player(*this), log(game), logWindow{.view = {.log = log, .font = widgetFonts.text}} {
+      player(*this), log(game), logWindow{.view = {.log = log, .font = widgetFonts.text}}, replayWriter(game) {
     events.add(log);
     events.add(player);
+    events.add(replayWriter);
     events.add(eventSkip.watch);
     game.random = parts.random;
     game.lastStepTime = 0_s; // of the first game alone: its clock does not stand still at 0

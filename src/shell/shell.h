@@ -22,6 +22,7 @@
 #include "platform/widgets/button.h"
 #include "platform/widgets/message_box.h"
 #include "radar/radar_window.h"
+#include "replay/replay_writer.h"
 #include "replay/shift_log.h"
 #include "shell/event_skip.h"
 #include "shell/game_setup.h"
@@ -50,6 +51,7 @@ struct ShellParts {
     Pictures pictures;
     Options options;
     RandomGenerator random;
+    UtcClock utcNow = systemUtcNow;
 };
 
 struct Shell {
@@ -70,6 +72,7 @@ struct Shell {
     const std::filesystem::path playersAirports;
     Pictures pictures;
     Options options;
+    const UtcClock utcNow;
 
     /// Also while none is played: its generator is the only one, handed on from game to game.
     Game game;
@@ -93,6 +96,8 @@ struct Shell {
     SimulationPlayer player;
     ShiftLog log; ///< of the shift that is played, or of the last one
     LogWindow logWindow;
+    ReplayWriter replayWriter;        ///< keeps the shift that is played
+    bool isReplayTroubleTold = false; ///< in this run, that no replays can be kept
     /// What the simulation speaks to: the log, which must know what the ticker has room for; the player; then
     /// whoever listens, too.
     EventRelay events;

@@ -1,7 +1,6 @@
 // ventrel-sim: one shift without a window, written to standard output.
 
 #include <array>
-#include <chrono>
 #include <cstdio>
 #include <exception>
 #include <functional>
@@ -84,7 +83,7 @@ void playShift(Game& game, Output& output, const Arguments& arguments, RunPlan p
 
 ReplayHeader headerFor(const Game& game, const ShiftSetup& setup, const Arguments& arguments) {
     ReplayHeader header = replayHeader(game, setup, arguments.seed);
-    header.begun = std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::now());
+    header.begun = systemUtcNow();
     header.airspaceFile = arguments.airport.filename().string();
     return header;
 }
