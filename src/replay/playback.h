@@ -11,6 +11,8 @@
 
 #pragma once
 
+#include <span>
+
 #include "base/result.h"
 #include "replay/replay.h"
 #include "sim/game.h"
@@ -29,6 +31,9 @@ public:
 
     /// What will be played next; none at the end.
     const ReplayEvent* next() const;
+
+    /// All that is still to be played.
+    std::span<const ReplayEvent> coming() const { return std::span{replay_.events}.subspan(next_); }
 
     /// Plays it: the clock stands at its time, and what happens is told to `events`. Calls draw after they
     /// were told, as they did in the shift. Returns what an order came to; none for anything else.

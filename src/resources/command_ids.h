@@ -76,6 +76,9 @@ inline constexpr int musicLouder = 4231;
 inline constexpr int soundSofter = 4232;
 inline constexpr int soundLouder = 4233;
 
+inline constexpr int replays = 4240; ///< the dialog of the replays
+inline constexpr int jumpInReplay = 4241;
+
 inline constexpr int shiftLog = 4250; ///< the window of the log: opens, closes
 
 inline constexpr int aids = 4280; ///< the dialog of the aids

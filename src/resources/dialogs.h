@@ -133,6 +133,74 @@ inline constexpr DialogTemplate shape{.title = "Choose Airport", .size = {147, 1
 
 } // namespace choose_airport
 
+// Replays ---------------------------------------------------------------------------------------------------
+
+namespace replay_list {
+
+inline constexpr int list = 1007;
+inline constexpr int keep = 1030;
+inline constexpr int remove = 1031;
+
+/// Between two columns of the list. Date and airspace take two.
+inline constexpr int tabStop = 42;
+/// Where the list's text begins; the heads of its columns stand over their stops.
+inline constexpr int textLeft = 10;
+constexpr Rect headAt(int stop) {
+    return {textLeft + stop * tabStop, 6, textLeft + (stop + 1) * tabStop, 14};
+}
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::staticText, 0, "DATE", headAt(0)},
+    {ControlKind::staticText, 0, "AIRSPACE", headAt(2)},
+    {ControlKind::staticText, 0, "LEVEL", headAt(4)},
+    {ControlKind::staticText, 0, "SCORE", headAt(5)},
+    {ControlKind::staticText, 0, "OUTCOME", headAt(6)},
+    {ControlKind::staticText, 0, "KEPT AS", headAt(7)},
+    {ControlKind::listBox, list, "", {7, 16, 413, 132}},
+    {ControlKind::defaultButton, okId, "&Watch", {97, 139, 147, 153}},
+    {ControlKind::pushButton, keep, "&Keep As...", {157, 139, 207, 153}},
+    {ControlKind::pushButton, remove, "&Delete", {217, 139, 267, 153}},
+    {ControlKind::pushButton, cancelId, "Close", {277, 139, 327, 153}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Replays", .size = {420, 159}, .controls = controls};
+
+} // namespace replay_list
+
+namespace keep_replay {
+
+inline constexpr int name = 1010;
+inline constexpr std::size_t nameLimit = 40;
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::staticText, 0, "Name:", {7, 10, 29, 18}},
+    {ControlKind::edit, name, "", {32, 7, 160, 20}, plainStyle, nameLimit},
+    {ControlKind::defaultButton, okId, "OK", {29, 28, 79, 42}},
+    {ControlKind::pushButton, cancelId, "Cancel", {88, 28, 138, 42}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Keep Replay As", .size = {167, 49}, .controls = controls};
+
+} // namespace keep_replay
+
+namespace jump_to {
+
+inline constexpr int clock = 1010;
+inline constexpr int end = 1011;
+inline constexpr std::size_t clockLimit = 9;
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::staticText, 0, "Time of the clock:", {7, 10, 72, 18}},
+    {ControlKind::edit, clock, "", {75, 7, 125, 20}, plainStyle, clockLimit},
+    {ControlKind::staticText, end, "", {7, 25, 125, 33}},
+    {ControlKind::defaultButton, okId, "&Jump", {11, 39, 61, 53}},
+    {ControlKind::pushButton, cancelId, "Cancel", {70, 39, 120, 53}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Jump", .size = {132, 60}, .controls = controls};
+
+} // namespace jump_to
+
 // Schedule --------------------------------------------------------------------------------------------------
 
 namespace schedule {

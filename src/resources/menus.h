@@ -20,6 +20,7 @@ inline constexpr std::array fileMenuItems{std::to_array<MenuItemTemplate>({
     menuSeparator,
     {"Exit\tAlt+F4", command::exitProgram},
     menuSeparator,
+    {"&Replays...", command::replays},
     {"Practice at &Half Speed", command::halfSpeed},
 })};
 

@@ -13,6 +13,7 @@
 #include "shell/option_commands.h"
 #include "shell/popup_menus.h"
 #include "shell/practice.h"
+#include "shell/replay_dialog.h"
 #include "shell/schedule_dialog.h"
 #include "shell/selection.h"
 #include "shell/watch_dialog.h"
@@ -76,6 +77,15 @@ void watchShift(Shell& shell) {
     }
 }
 
+void showReplays(Shell& shell) {
+    if (!clearDesk(shell)) {
+        return;
+    }
+    if (auto replay = runReplayDialog(shell)) {
+        watchReplay(shell, std::move(*replay));
+    }
+}
+
 void askToEndGame(Shell& shell) {
     if (mayQuitGame(shell)) {
         abandonGame(shell);
@@ -127,6 +137,8 @@ constexpr std::array actions{std::to_array<Action>({
     {command::executeOrder, execute},
     {command::newGame, newGame},
     {command::endGame, askToEndGame},
+    {command::replays, showReplays},
+    {command::jumpInReplay, askWhereToJump},
     {command::exitProgram, exitProgram},
     {command::minimise, [](Shell& shell) { shell.desktop.minimise(); }},
     {command::schedule, runScheduleDialog},

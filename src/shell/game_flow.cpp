@@ -53,6 +53,23 @@ void clearTicker(Shell& shell) {
     ScrollerClear(shell.scroller);
 }
 
+/// The game that has been set up appears on the console.
+void showSetUp(Shell& shell) {
+    RadarDecodePicture(shell.radar);
+    RadarBuildMap(shell.radar, shell.pictures.radarFrame);
+    ClockReset(shell.topBar);
+    LampsRepaint(shell.topBar);
+    SetPause(shell, false);
+    showKindOfPlay(shell);
+    postLine(shell, welcomeText(shell.game));
+}
+
+void beginSounds(Shell& shell) {
+    shell.sounds.stopEffects();
+    shell.sounds.playMusic(gameMusic, true);
+    shell.mainWindow.releaseCapture();
+}
+
 /// The next game takes the generator on, and the time of the last step, at which it does not act again.
 void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setup) {
     const auto sizes = cloudSizes(shell);
@@ -65,13 +82,7 @@ void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setu
     shell.shiftKind = kindOfShift(shell, setup.kind);
     shell.topBar.clock.pace = paceOfShift(shell);
     keepReplay(shell, setup, shift, seed);
-    RadarDecodePicture(shell.radar);
-    RadarBuildMap(shell.radar, shell.pictures.radarFrame);
-    ClockReset(shell.topBar);
-    LampsRepaint(shell.topBar);
-    SetPause(shell, false);
-    showKindOfPlay(shell);
-    postLine(shell, welcomeText(shell.game));
+    showSetUp(shell);
 }
 
 void endWithCollision(Shell& shell) {
@@ -131,9 +142,12 @@ void startGame(Shell& shell, const GameSetup& setup) {
     } else {
         shell.report(airspace.error().text, airspace.error().icon);
     }
-    shell.sounds.stopEffects();
-    shell.sounds.playMusic(gameMusic, true);
-    shell.mainWindow.releaseCapture();
+    beginSounds(shell);
+}
+
+void showShift(Shell& shell) {
+    showSetUp(shell);
+    beginSounds(shell);
 }
 
 void SetPause(Shell& shell, bool on) {
@@ -163,6 +177,7 @@ void EndGame(Shell& shell) {
     LampsReset(shell.topBar);
     RadarHide(shell.radar);
     endSteering(shell);
+    forgetReplay(shell);
     showKindOfPlay(shell);
 }
 

@@ -15,6 +15,9 @@ inline constexpr std::string_view tableMusic = "mci\\splash.mci";
 /// music starts all the same.
 void startGame(Shell& shell, const GameSetup& setup);
 
+/// The same for a game that has been set up already, which is no shift of the player's own.
+void showShift(Shell& shell);
+
 /// Pauses or resumes the running game; nothing while none runs, or when it is so already.
 void SetPause(Shell& shell, bool on);
 

@@ -13,6 +13,16 @@ void tellOnce(Shell& shell, const Failure& failure) {
     }
 }
 
+/// Begins to write into a new file of the folder.
+void begin(Shell& shell, const std::filesystem::path& folder, UtcMoment begun,
+           const std::function<Result<>(const std::filesystem::path&)>& write) {
+    makeRoomForReplay(folder);
+    shell.replayWriter.onFailure = [&shell](const Failure& failure) { tellOnce(shell, failure); };
+    if (const auto written = write(freshReplayFile(folder, begun)); !written) {
+        tellOnce(shell, written.error());
+    }
+}
+
 } // namespace
 
 std::filesystem::path replayFolder(const Shell& shell) {
@@ -28,11 +38,19 @@ void keepReplay(Shell& shell, const GameSetup& game, const ShiftSetup& setup, st
     header.begun = shell.utcNow();
     header.kind = shell.shiftKind == ShiftKind::practice ? ReplayKind::practice : ReplayKind::scored;
     header.airspaceFile = game.airportFile.filename().string();
-    makeRoomForReplay(folder);
-    shell.replayWriter.onFailure = [&shell](const Failure& failure) { tellOnce(shell, failure); };
-    if (const auto begun = shell.replayWriter.begin(freshReplayFile(folder, header.begun), header); !begun) {
-        tellOnce(shell, begun.error());
+    begin(shell, folder, header.begun,
+          [&](const std::filesystem::path& file) { return shell.replayWriter.begin(file, header); });
+}
+
+void resumeReplay(Shell& shell, Replay past, int calls) {
+    const std::filesystem::path folder = replayFolder(shell);
+    if (folder.empty()) {
+        return;
     }
+    past.header.begun = shell.utcNow();
+    past.header.kind = ReplayKind::practice;
+    begin(shell, folder, past.header.begun,
+          [&](const std::filesystem::path& file) { return shell.replayWriter.resume(file, past, calls); });
 }
 
 } // namespace ventrel

@@ -15,4 +15,8 @@ std::filesystem::path replayFolder(const Shell& shell);
 /// working is told once in a run of the program, and disturbs nothing.
 void keepReplay(Shell& shell, const GameSetup& game, const ShiftSetup& setup, std::uint32_t seed);
 
+/// The same for a practice shift that goes on from another one's replay, of which the game has been played
+/// through `past` with so many calls with radio noise.
+void resumeReplay(Shell& shell, Replay past, int calls);
+
 } // namespace ventrel

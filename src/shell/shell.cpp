@@ -5,6 +5,7 @@
 #include "shell/high_scores.h"
 #include "shell/popup_menus.h"
 #include "shell/selection.h"
+#include "sim/cloud_cover.h"
 #include "sim/orders.h"
 
 namespace ventrel {
@@ -27,7 +28,14 @@ std::optional<UnsentOrder> unsentOrder(const Shell& shell) {
 RadarCallbacks radarCallbacks(Shell& shell) {
     return {
         .isPaused = [&shell] { return shell.paused; },
-        .makeFrame = [&shell] { makeFrame(shell.game, shell.events); },
+        .makeFrame =
+            [&shell] {
+                if (isReplaying(shell)) {
+                    showClouds(shell.game); // its lamps are lit as they were
+                } else {
+                    makeFrame(shell.game, shell.events);
+                }
+            },
         .updateBlips = [&shell] { ScopeUpdateBlips(shell.topBar); },
         .reportScore = [&shell] { reportScore(shell); },
         .resetTouch = [&shell] { CtrlResetTouch(shell.panel); },
@@ -72,7 +80,8 @@ Shell::Shell(ShellParts parts)
             .sources = {game, options, fonts, pictures.hand},
             .callbacks = radarCallbacks(*this),
             .layout = radarLayoutFor(windowSize().width)},
-      player(*this), log(game), logWindow{.view = {.log = log, .font = widgetFonts.text}}, replayWriter(game) {
+      player(*this), log(game), logWindow{.view = {.log = log, .font = widgetFonts.text}},
+      replayWriter(game) {
     events.add(log);
     events.add(player);
     events.add(replayWriter);

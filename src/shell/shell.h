@@ -29,6 +29,7 @@
 #include "shell/log_window.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
+#include "shell/replay_watching.h"
 #include "shell/simulation_player.h"
 #include "shell/steered_play.h"
 #include "shell/steering_bar.h"
@@ -91,6 +92,7 @@ struct Shell {
     ControlPanel panel;
     RadarWindow radar;
     SteeredPlay steered;
+    ReplayWatch replayWatch;
     SteeringBar steeringBar;
     EventSkip eventSkip;
     SimulationPlayer player;

@@ -13,12 +13,15 @@ void SimulationPlayer::reported(const Report& report) {
 void SimulationPlayer::pilotSpoke(const RadioCall& call) {
     const Flight& flight = shell_.game.flight(call.flight);
     const std::string phrase = radioPhrase(shell_.game, call);
-    const RandomGenerator before = shell_.game.random;
+    RandomGenerator& random = shell_.game.random;
+    const RandomGenerator before = random;
     shell_.tellLater(shell_.sounds.speak(
         {.phrase = phrase, .voice = flight.pilotVoice, .tag = flight.radioId, .noise = call.hasNoise()},
-        shell_.game.random));
-    if (call.hasNoise()) {
-        shell_.replayWriter.callMade(shell_.game.random.state != before.state);
+        random));
+    if (isReplaying(shell_)) {
+        random = before; // a replay draws as its shift did
+    } else if (call.hasNoise()) {
+        shell_.replayWriter.callMade(random.state != before.state);
     }
 }
 

@@ -111,8 +111,8 @@ void letGoOfExec(Shell& shell) {
     }
 }
 
-void send(Shell& shell, const SteeredOrder& order) {
-    shell.steered.standIn->nextIsDone();
+/// As it is sent: on the panel, with EXEC down.
+void showSent(Shell& shell, const SteeredOrder& order) {
     shell.steered.shown.reset();
     putOnPanel(shell, order.flight);
     if (shell.panel.state.flight == order.flight) {
@@ -120,6 +120,11 @@ void send(Shell& shell, const SteeredOrder& order) {
         CtrlRepaint(shell.panel);
         pressExec(shell);
     }
+}
+
+void send(Shell& shell, const SteeredOrder& order) {
+    shell.steered.standIn->nextIsDone();
+    showSent(shell, order);
     executeOrder(shell.game, order.flight, order.order, shell.events);
 }
 
@@ -185,6 +190,7 @@ void takeOver(Shell& shell) {
     if (!isPlaying(shell)) {
         return;
     }
+    keepTakenOver(shell);
     endSteering(shell);
     if (const auto flight = shell.panel.state.flight) {
         CtrlSetFlight(shell.panel, *flight); // nothing half set is left
@@ -227,8 +233,20 @@ void steerAfterStep(Shell& shell) {
     showNext(shell);
 }
 
+bool steerWhole(Shell& shell) {
+    if (!isReplaying(shell)) {
+        return false;
+    }
+    if (shell.game.isRunning()) {
+        shell.steered.standIn->play(shell.game, shell.events,
+                                    [&shell](const SteeredOrder& order) { showSent(shell, order); });
+        followReplayEnd(shell);
+    }
+    return true;
+}
+
 void skipClock(Shell& shell) {
-    if (isPlaying(shell)) {
+    if (isPlaying(shell) && !isReplaying(shell)) {
         const ClockSeconds goal = nextStepTime(shell.game.clock);
         for (auto next = shell.steered.standIn->next(); next && next->at < goal;
              next = shell.steered.standIn->next()) {

@@ -57,6 +57,10 @@ void endSteering(Shell& shell);
 void steerBeforeStep(Shell& shell);
 void steerAfterStep(Shell& shell);
 
+/// In place of both and of the step between: a record of a whole game plays on, showing its orders. False
+/// where none does.
+bool steerWhole(Shell& shell);
+
 /// The Space key: on to the next multiple of 15, with every order that is due before it.
 void skipClock(Shell& shell);
 

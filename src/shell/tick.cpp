@@ -13,8 +13,10 @@ std::optional<Millis> Tick(Shell& shell) {
     const bool isSkipping = followEventSkip(shell);
     std::optional<Millis> next = ClockTick(shell.topBar);
     next = earlier(next, ScrollerTick(shell.scroller));
-    steerBeforeStep(shell);
-    SimulationStep(shell.game, shell.events);
+    if (!steerWhole(shell)) {
+        steerBeforeStep(shell);
+        SimulationStep(shell.game, shell.events);
+    }
     steerAfterStep(shell);
     next = earlier(next, LampsTick(shell.topBar));
     next = earlier(next, RadarTick(shell.radar));

@@ -3,6 +3,7 @@
 
 #pragma once
 
+#include <functional>
 #include <optional>
 
 #include "sim/clock_seconds.h"
@@ -12,6 +13,7 @@
 namespace ventrel {
 
 struct Game;
+class SimulationEvents;
 
 /// At a time at which a step acts, which of the two comes first.
 enum class OrderMoment { afterStep, beforeStep };
@@ -25,6 +27,9 @@ struct SteeredOrder {
 
     friend bool operator==(const SteeredOrder&, const SteeredOrder&) = default;
 };
+
+/// Told of an order that is about to be sent.
+using OrderSight = std::function<void(const SteeredOrder&)>;
 
 class StandIn {
 public:
@@ -40,6 +45,12 @@ public:
     virtual std::optional<SteeredOrder> next() const = 0;
     /// That order has been sent, or its flight is gone.
     virtual void nextIsDone() = 0;
+
+    /// Whether it plays the whole game, from a record of it: then steps, orders, lamps and draws come from
+    /// `play` alone.
+    virtual bool isWhole() const { return false; }
+    /// Of one that does: plays all that has come by the game's clock, and tells of each order first.
+    virtual void play(Game& /*game*/, SimulationEvents& /*events*/, const OrderSight& /*sending*/) {}
 };
 
 } // namespace ventrel

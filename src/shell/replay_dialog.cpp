@@ -1,0 +1,182 @@
+#include "shell/replay_dialog.h"
+
+#include <ctime>
+
+#include "base/format.h"
+#include "base/windows1252.h"
+#include "platform/widgets/dialog.h"
+#include "platform/widgets/widget_place.h"
+#include "replay/replay_folder.h"
+#include "resources/dialogs.h"
+#include "shell/replay_keeping.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::array<std::string_view, 5> skillNames{"Easy", "Normal", "Moderate", "Hard", "Custom"};
+constexpr std::array<std::string_view, 3> kindNames{"", "Practice", "Shift of the Day"};
+constexpr std::string_view noFolderText = "There is no folder to keep your replays in.";
+constexpr std::string_view noneText = "There are no replays yet: each shift that you play becomes one.";
+constexpr std::string_view deleteText = "Delete this replay?";
+constexpr std::string_view chooseText = "Please choose a replay.";
+
+/// The dialog while it is open.
+struct Replays {
+    Shell& shell;
+    std::vector<KeptReplay> kept = {};
+    std::optional<Replay> chosen = {};
+};
+
+/// Where the player is.
+std::string localTime(UtcMoment moment) {
+    const std::time_t time = std::chrono::system_clock::to_time_t(moment);
+    std::tm day{};
+    localtime_r(&time, &day);
+    constexpr int firstYear = 1900; // from which `std::tm` counts
+    return FormatText("%04d-%02d-%02d %02d:%02d", {long{firstYear + day.tm_year}, long{1 + day.tm_mon},
+                                                   long{day.tm_mday}, long{day.tm_hour}, long{day.tm_min}});
+}
+
+std::string outcomeOf(const Replay& replay) {
+    if (!replay.end) {
+        return "cut off";
+    }
+    switch (replay.end->outcome) {
+    case ReplayOutcome::handled: break;
+    case ReplayOutcome::collision: return "collision";
+    case ReplayOutcome::givenUp: return "given up";
+    }
+    return {};
+}
+
+/// Date, airspace, level, score, outcome and what it is, between tab characters.
+std::string rowOf(const KeptReplay& kept) {
+    const std::string name = pathText(kept.file.stem());
+    if (!kept.replay) {
+        return name + "\t\t\t(cannot be read)";
+    }
+    const ReplayHeader& header = kept.replay->header;
+    const std::string_view kind = kindNames.at(static_cast<std::size_t>(header.kind));
+    return FormatText("%s\t\t%s\t\t%s\t%d of %d\t%s\t%s",
+                      {localTime(header.begun), header.airspaceName,
+                       skillNames.at(static_cast<std::size_t>(header.skill)), long{kept.replay->lastScore},
+                       long{header.possibleScore}, outcomeOf(*kept.replay),
+                       kept.isKeptByName ? std::string_view(name) : kind});
+}
+
+/// Lists them, and chooses the one at that place.
+void list(Replays& replays, Dialog& dialog, int chosen) {
+    replays.kept = listReplays(replayFolder(replays.shell));
+    const ListBox box = dialog.list(replay_list::list);
+    box.clear();
+    box.setTabWidth(dialogUnitsAcross(replay_list::tabStop));
+    for (const KeptReplay& kept : replays.kept) {
+        box.add(rowOf(kept));
+    }
+    const bool isAny = !replays.kept.empty();
+    box.select(isAny ? std::min(chosen, static_cast<int>(replays.kept.size()) - 1) : noListItem);
+    for (const int button : {okId, replay_list::keep, replay_list::remove}) {
+        dialog.enable(button, isAny);
+    }
+    dialog.focus(isAny ? replay_list::list : cancelId);
+}
+
+/// None, after the player was told, where none is chosen.
+const KeptReplay* chosenOf(const Replays& replays, const Dialog& dialog) {
+    const int chosen = dialog.list(replay_list::list).selected();
+    if (chosen == noListItem) {
+        replays.shell.report(chooseText, MessageIcon::information);
+        return nullptr;
+    }
+    return &replays.kept[static_cast<std::size_t>(chosen)];
+}
+
+void watch(Replays& replays, Dialog& dialog) {
+    const KeptReplay* const kept = chosenOf(replays, dialog);
+    if (kept == nullptr) {
+        return;
+    }
+    if (kept->replay) {
+        replays.chosen = *kept->replay;
+        dialog.end(okId);
+    } else {
+        replays.shell.report(kept->replay.error());
+    }
+}
+
+/// Keeps it under the name that is typed. Whether the dialog is done.
+bool keepAs(Shell& shell, const KeptReplay& kept, const Dialog& dialog) {
+    const auto renamed = keepReplayAs(kept.file, toUtf8(dialog.text(keep_replay::name)));
+    if (!renamed) {
+        shell.report(renamed.error());
+    }
+    return renamed.has_value();
+}
+
+void askForName(Replays& replays, const Dialog& owner, const KeptReplay& kept) {
+    const auto onCommand = [&](Dialog& dialog, const CommandInput& input) {
+        if (input.id == cancelId) {
+            dialog.end(cancelId);
+        } else if (input.id == okId && keepAs(replays.shell, kept, dialog)) {
+            dialog.end(okId);
+        }
+    };
+    runDialog(replays.shell.desktop, replays.shell.widgetFonts, owner.frame(), keep_replay::shape,
+              {.init = [](Dialog& dialog) { dialog.focus(keep_replay::name); }, .command = onCommand});
+}
+
+void remove(const Replays& replays, const KeptReplay& kept) {
+    Shell& shell = replays.shell;
+    if (shell.showMessage(deleteText, MessageIcon::exclamation, MessageButtons::yesNo) !=
+        MessageAnswer::yes) {
+        return;
+    }
+    if (const auto deleted = deleteReplay(kept.file); !deleted) {
+        shell.report(deleted.error());
+    }
+}
+
+void change(Replays& replays, Dialog& dialog, int id) {
+    if (const KeptReplay* const kept = chosenOf(replays, dialog)) {
+        const int place = dialog.list(replay_list::list).selected();
+        if (id == replay_list::keep) {
+            askForName(replays, dialog, *kept);
+        } else {
+            remove(replays, *kept);
+        }
+        list(replays, dialog, place);
+    }
+}
+
+void onCommand(Replays& replays, Dialog& dialog, const CommandInput& input) {
+    const bool isDoubleClick = input.id == replay_list::list && input.notification == listDoubleClicked;
+    if (isDoubleClick || input.id == okId) {
+        watch(replays, dialog);
+    } else if (input.id == replay_list::keep || input.id == replay_list::remove) {
+        change(replays, dialog, input.id);
+    } else if (input.id == cancelId) {
+        dialog.end(cancelId);
+    }
+}
+
+} // namespace
+
+std::optional<Replay> runReplayDialog(Shell& shell) {
+    Replays replays{.shell = shell};
+    if (replayFolder(shell).empty()) {
+        shell.report(noFolderText, MessageIcon::information);
+        return std::nullopt;
+    }
+    if (listReplays(replayFolder(shell)).empty()) {
+        shell.report(noneText, MessageIcon::information);
+        return std::nullopt;
+    }
+    runDialog(
+        shell.desktop, shell.widgetFonts, shell.mainWindow, replay_list::shape,
+        {.init = [&](Dialog& dialog) { list(replays, dialog, 0); },
+         .command = [&](Dialog& dialog, const CommandInput& input) { onCommand(replays, dialog, input); }});
+    return std::move(replays.chosen);
+}
+
+} // namespace ventrel

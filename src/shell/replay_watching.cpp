@@ -1,0 +1,236 @@
+#include "shell/replay_watching.h"
+
+#include "base/format.h"
+#include "platform/widgets/dialog.h"
+#include "replay/replay_airspace.h"
+#include "replay/replay_folder.h"
+#include "replay/replay_stand_in.h"
+#include "resources/command_ids.h"
+#include "resources/dialogs.h"
+#include "shell/airport_catalogue.h"
+#include "shell/game_flow.h"
+#include "shell/replay_keeping.h"
+#include "shell/selection.h"
+#include "shell/shell.h"
+#include "sim/cloud_cover.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr std::string_view barTitle = "Replay";
+constexpr std::string_view jumpText = "Jump...";
+
+constexpr std::string_view otherSizeText =
+    "This replay was made on a screen %d pixels wide. Choose that Screen Resolution in the Options menu to "
+    "watch it.";
+constexpr std::string_view givenUpText = "Here the shift was given up.\n\nScore: %d of %d possible.";
+constexpr std::string_view cutText =
+    "Here the program ended, and the replay with it.\n\nScore: %d of %d possible.";
+
+/// A frame of the radar is painted that often, which moves clouds on.
+constexpr ClockSeconds frameInterval = 5_s;
+
+void report(Shell& shell, const Failure& failure) {
+    shell.report(failure);
+}
+
+Result<AirspacePtr> airspaceOf(const Shell& shell, const ReplayHeader& header) {
+    const std::array folders{shell.playersAirports, airportFolder(shell.programFolder)};
+    return findReplayAirspace(header, folders);
+}
+
+/// Sets the game up as it was at the beginning, with a log of its own.
+Result<> setGameUp(Shell& shell, const Replay& replay, const AirspacePtr& airspace) {
+    auto game = replayedGame(replay, airspace);
+    if (!game) {
+        return tl::unexpected(std::move(game.error()));
+    }
+    shell.game = std::move(*game);
+    shell.log.shiftBegun(replay.header.skill, replay.header.seed);
+    return {};
+}
+
+/// Makes way for it, as a new game would.
+void putAside(Shell& shell) {
+    if (isShiftEnding(shell)) {
+        enterFinishedScore(shell);
+    } else {
+        EndGame(shell);
+    }
+}
+
+std::unique_ptr<StandIn> standInFor(const Shell& shell) {
+    return std::make_unique<ReplayStandIn>(shell.replayWatch.playback, shell.game);
+}
+
+void letCloudsDrift(Game& game, ClockSeconds from, ClockSeconds to) {
+    const ClockSeconds now = game.clock;
+    for (game.clock = from; game.clock < to; game.clock += frameInterval) {
+        showClouds(game);
+    }
+    game.clock = now;
+}
+
+/// Everything on the console tells of another moment.
+void showAnew(Shell& shell) {
+    ScrollerClear(shell.scroller);
+    CtrlClearFlight(shell.panel);
+    StripsPress(shell, noSlot);
+    StripsReset(shell.strips);
+    StripsRebuild(shell.strips);
+    ScopeUpdateBlips(shell.topBar);
+    LampsRepaint(shell.topBar);
+    RadarRepaint(shell.radar);
+    shell.mainWindow.invalidate();
+    shell.steered.shown.reset();
+}
+
+void endHere(Shell& shell) {
+    if (!isReplaying(shell) || !shell.game.isRunning()) {
+        return;
+    }
+    const bool isGivenUp = shell.replayWatch.playback->replay().end.has_value();
+    const Game& game = shell.game;
+    const std::string text =
+        FormatText(isGivenUp ? givenUpText : cutText, {long{game.score}, long{game.possibleScore}});
+    abandonGame(shell);
+    shell.report(text, MessageIcon::information);
+}
+
+/// "12:30" or "12" as minutes and seconds of the clock; none for anything else.
+std::optional<ClockSeconds> readClock(std::string_view text) {
+    constexpr int mostMinutes = 99'999;
+    const auto colon = text.find(':');
+    const auto digits = [](std::string_view word, int most) -> std::optional<int> {
+        int number = 0;
+        for (const char c : word) {
+            if (c < '0' || c > '9' || number > most) {
+                return std::nullopt;
+            }
+            number = number * 10 + (c - '0');
+        }
+        return word.empty() || number > most ? std::nullopt : std::optional{number};
+    };
+    const auto minutes = digits(text.substr(0, colon), mostMinutes);
+    const auto seconds = colon == std::string_view::npos
+                             ? std::optional{0}
+                             : digits(text.substr(colon + 1), clockMinute.count() - 1);
+    if (!minutes || !seconds) {
+        return std::nullopt;
+    }
+    return *minutes * clockMinute + ClockSeconds{*seconds};
+}
+
+} // namespace
+
+bool isReplaying(const Shell& shell) {
+    return isSteered(shell) && shell.steered.standIn->isWhole();
+}
+
+bool watchReplay(Shell& shell, Replay replay) {
+    if (replay.header.width != shell.windowSize().width) {
+        shell.report(FormatText(otherSizeText, {long{replay.header.width}}), MessageIcon::information);
+        return false;
+    }
+    auto airspace = airspaceOf(shell, replay.header);
+    if (!airspace) {
+        report(shell, airspace.error());
+        return false;
+    }
+    putAside(shell);
+    const ReplayWatch before{.random = shell.game.random, .lastStepTime = shell.game.lastStepTime};
+    if (const auto setUp = setGameUp(shell, replay, *airspace); !setUp) {
+        report(shell, setUp.error());
+        return false;
+    }
+    shell.replayWatch = before;
+    shell.replayWatch.playback = std::make_shared<Playback>(std::move(replay));
+    shell.replayWatch.airspace = std::move(*airspace);
+    shell.shiftKind = ShiftKind::practice;
+    showShift(shell);
+    beginSteering(shell, standInFor(shell),
+                  {.title = std::string(barTitle),
+                   .extra = {.text = std::string(jumpText), .command = command::jumpInReplay}});
+    return true;
+}
+
+void jumpInReplay(Shell& shell, ClockSeconds clock) {
+    if (!isReplaying(shell)) {
+        return;
+    }
+    ReplayWatch& watch = shell.replayWatch;
+    Replay replay = watch.playback->replay();
+    const ClockSeconds goal = std::clamp(clock, 0_s, std::max(replay.until - 1_s, 0_s));
+    if (const auto setUp = setGameUp(shell, replay, watch.airspace); !setUp) {
+        report(shell, setUp.error());
+        return;
+    }
+    watch.playback = std::make_shared<Playback>(std::move(replay));
+    watch.playback->playUntil(shell.game, goal, shell.log);
+    letCloudsDrift(shell.game, 0_s, goal);
+    if (isStepDue(shell.game)) {
+        shell.game.lastStepTime = goal;
+    }
+    shell.steered.standIn = standInFor(shell);
+    showAnew(shell);
+}
+
+void askWhereToJump(Shell& shell) {
+    if (!isReplaying(shell)) {
+        return;
+    }
+    std::optional<ClockSeconds> goal;
+    const auto onCommand = [&](Dialog& dialog, const CommandInput& input) {
+        if (input.id == cancelId) {
+            dialog.end(cancelId);
+        } else if (input.id == okId) {
+            goal = readClock(dialog.text(jump_to::clock));
+            if (goal) {
+                dialog.end(okId);
+            } else {
+                shell.report("Please type a time of the clock, such as 12:30.", MessageIcon::information);
+            }
+        }
+    };
+    const auto open = [&](Dialog& dialog) {
+        const Replay& replay = shell.replayWatch.playback->replay();
+        dialog.setText(jump_to::clock, FormatMinutesSeconds(shell.game.clock.count()));
+        dialog.setText(jump_to::end,
+                       FormatText("The replay ends at %s.", {FormatMinutesSeconds(replay.until.count())}));
+        dialog.focus(jump_to::clock);
+        dialog.edit(jump_to::clock).selectAll();
+    };
+    runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, jump_to::shape,
+              {.init = open, .command = onCommand});
+    if (goal) {
+        jumpInReplay(shell, *goal);
+    }
+}
+
+void followReplayEnd(Shell& shell) {
+    if (!isReplaying(shell) || !shell.game.isRunning()) {
+        return;
+    }
+    const Playback& playback = *shell.replayWatch.playback;
+    if (playback.next() == nullptr && shell.game.clock > playback.replay().until) {
+        shell.mainWindow.post([&shell] { endHere(shell); });
+    }
+}
+
+void keepTakenOver(Shell& shell) {
+    const auto playback = std::exchange(shell.replayWatch, {}).playback;
+    if (playback != nullptr) {
+        resumeReplay(shell, playback->past(), playback->calls());
+    }
+}
+
+void forgetReplay(Shell& shell) {
+    if (shell.replayWatch.playback != nullptr) {
+        shell.game.random = shell.replayWatch.random;
+        shell.game.lastStepTime = shell.replayWatch.lastStepTime;
+        shell.replayWatch = {};
+    }
+}
+
+} // namespace ventrel

@@ -1,0 +1,43 @@
+// A replay that is watched on the console: it plays by itself, jumps, and is taken over by the player.
+
+#pragma once
+
+#include <memory>
+
+#include "replay/playback.h"
+
+namespace ventrel {
+
+struct Shell;
+
+/// The replay that is being watched, and what goes on as before when it has been.
+struct ReplayWatch {
+    std::shared_ptr<Playback> playback = nullptr; ///< none while none is watched
+    AirspacePtr airspace = nullptr;
+    RandomGenerator random = {};    ///< of the program's next game
+    ClockSeconds lastStepTime = {}; ///< likewise
+};
+
+/// Whether the game is a replay's, and nothing but it may light a lamp or draw.
+bool isReplaying(const Shell& shell);
+
+/// Begins it, in place of what was on the console. False, after the player was told, when it cannot be
+/// played here.
+bool watchReplay(Shell& shell, Replay replay);
+
+/// Asks for a time of the clock and shows the shift as it stood then.
+void askWhereToJump(Shell& shell);
+
+/// Shows it as it stood at that time of the clock, or just before its last line.
+void jumpInReplay(Shell& shell, ClockSeconds clock);
+
+/// After each turn of the replay: at its last line, where the shift itself goes on, it is put away.
+void followReplayEnd(Shell& shell);
+
+/// The player takes over: a new replay is kept, which goes on from this one.
+void keepTakenOver(Shell& shell);
+
+/// The replay, if there is one, is not watched any more; the next game draws as if it had not been.
+void forgetReplay(Shell& shell);
+
+} // namespace ventrel
