@@ -5,9 +5,13 @@
 
 #include <unistd.h>
 
+#include <filesystem>
 #include <string>
 #include <system_error>
 #include <utility>
+
+#include "base/result.h"
+#include "base/windows1252.h"
 
 namespace ventrel {
 
@@ -38,6 +42,11 @@ private:
 /// The system's words for one of its error numbers, such as "Permission denied".
 inline std::string systemWords(int error) {
     return std::generic_category().message(error);
+}
+
+/// The words for a file that took no more, with the system's number of the reason.
+inline tl::unexpected<Failure> cannotWrite(const std::filesystem::path& file, int error) {
+    return failed("The file " + pathText(file) + " cannot be written: " + systemWords(error) + ".");
 }
 
 } // namespace ventrel

@@ -10,8 +10,6 @@
 #include <optional>
 #include <random>
 
-#include "base/windows1252.h"
-
 namespace ventrel {
 
 namespace fs = std::filesystem;
@@ -23,10 +21,6 @@ constexpr mode_t permissionBits = 0777;
 constexpr mode_t groupBits = 0070;
 constexpr int mostLinks = 40;
 constexpr int mostNames = 100;
-
-tl::unexpected<Failure> cannotWrite(const fs::path& file, int error) {
-    return failed("The file " + pathText(file) + " cannot be written: " + systemWords(error) + ".");
-}
 
 /// What the name stands for in the end, whether it is there or not; none for links in a circle.
 std::optional<fs::path> withoutLinks(fs::path file) {

@@ -4,17 +4,11 @@
 
 #include <cerrno>
 
-#include "base/windows1252.h"
-
 namespace ventrel {
 
 namespace {
 
 constexpr mode_t ordinaryFile = 0666; // less what the user's mask takes away
-
-tl::unexpected<Failure> cannotWrite(const std::filesystem::path& file, int error) {
-    return failed("The file " + pathText(file) + " cannot be written: " + systemWords(error) + ".");
-}
 
 } // namespace
 

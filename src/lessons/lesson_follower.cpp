@@ -172,12 +172,14 @@ bool LessonFollower::isSo(const FactTerm& term, const LessonFacts& facts) const 
     case Fact::read: return read_;
     case Fact::collided: return result_ == ShiftResult::collision;
     case Fact::ended: return result_ == ShiftResult::everyFlightHandled;
-    default: return term.flight && (isSoOfPanel(term, facts) || isSoOfFlight(term, facts));
+    default:
+        return term.flight &&
+               (isSoOfPanel(term, *term.flight, facts) || isSoOfFlight(term, *term.flight, facts));
     }
 }
 
-bool LessonFollower::isSoOfPanel(const FactTerm& term, const LessonFacts& facts) const {
-    if (!facts.panelFlight || facts.panelFlight->place() != *term.flight) {
+bool LessonFollower::isSoOfPanel(const FactTerm& term, std::size_t flight, const LessonFacts& facts) const {
+    if (!facts.panelFlight || facts.panelFlight->place() != flight) {
         return false;
     }
     const PanelOrder& order = facts.pending;
@@ -192,9 +194,9 @@ bool LessonFollower::isSoOfPanel(const FactTerm& term, const LessonFacts& facts)
     }
 }
 
-bool LessonFollower::isSoOfFlight(const FactTerm& term, const LessonFacts& facts) const {
-    const Flight& flight = facts.game.flights.at(*term.flight);
-    const Fate& fate = fates_.at(*term.flight);
+bool LessonFollower::isSoOfFlight(const FactTerm& term, std::size_t place, const LessonFacts& facts) const {
+    const Flight& flight = facts.game.flights.at(place);
+    const Fate& fate = fates_.at(place);
     const PlanStep& now = flight.current();
     const auto point = pointOfIdent(facts.game.vors(), term.point);
     switch (term.fact) {

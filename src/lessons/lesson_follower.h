@@ -82,8 +82,8 @@ private:
     };
 
     bool isSo(const FactTerm& term, const LessonFacts& facts) const;
-    bool isSoOfPanel(const FactTerm& term, const LessonFacts& facts) const;
-    bool isSoOfFlight(const FactTerm& term, const LessonFacts& facts) const;
+    bool isSoOfPanel(const FactTerm& term, std::size_t flight, const LessonFacts& facts) const;
+    bool isSoOfFlight(const FactTerm& term, std::size_t place, const LessonFacts& facts) const;
 
     void countMoves(const Game& game);
     void beginStep(std::size_t step);

@@ -70,10 +70,10 @@ fs::path executableFile(const char* invokedAs) {
 
 fs::path programDataFolder(const fs::path& executable, std::string_view program) {
     constexpr std::array shared{std::string_view("share"), std::string_view("share/games")};
-    const fs::path own = executable.parent_path();
+    fs::path own = executable.parent_path();
     if (!holdsData(own)) {
         for (const std::string_view folder : shared) {
-            const fs::path installed = own.parent_path() / folder / program;
+            fs::path installed = own.parent_path() / folder / program;
             if (holdsData(installed)) {
                 return installed;
             }
