@@ -106,16 +106,17 @@ PastShift pastShiftOf(const ShiftStory& story, std::string date) {
 }
 
 Result<std::vector<PastShift>> readShiftHistory(const fs::path& file) {
-    const auto bytes = readWholeFileIfThere(file, sizeLimit);
-    if (!bytes) {
-        return tl::unexpected(bytes.error());
+    const auto read = readWholeFileIfThere(file, sizeLimit);
+    if (!read) {
+        return tl::unexpected(read.error());
     }
     std::vector<PastShift> shifts;
-    if (!*bytes) {
+    const std::optional<Bytes>& bytes = *read;
+    if (!bytes) {
         return shifts;
     }
     std::string text;
-    std::ranges::transform(**bytes, std::back_inserter(text),
+    std::ranges::transform(*bytes, std::back_inserter(text),
                            [](std::byte byte) { return static_cast<char>(byte); });
     std::string_view rest = text;
     if (takeUntil(rest, '\n') != firstLine) {

@@ -99,6 +99,7 @@ std::string_view skillName(Skill skill) {
 
 std::vector<CauseRow> pointsByCause(const ShiftStory& story) {
     std::vector<CauseRow> rows;
+    rows.reserve(causeNames.size() + 1);
     for (const CauseName& name : causeNames) {
         rows.push_back(rowFor(story, name));
     }

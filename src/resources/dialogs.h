@@ -212,6 +212,7 @@ inline constexpr int shiftLength = 1012;
 inline constexpr int landings = 1013;
 inline constexpr int takeoffs = 1014;
 inline constexpr int passThroughs = 1015;
+inline constexpr int report = 1016; ///< shown of a shift that is over
 
 /// Between two columns of the list. The callsign takes two.
 inline constexpr int tabStop = 32;
@@ -243,6 +244,7 @@ inline constexpr std::array controls{std::to_array<ControlTemplate>({
     {ControlKind::staticText, possibleScore, "", {205, 147, 256, 155}, rightAligned},
     {ControlKind::staticText, shiftLength, "", {205, 157, 256, 165}, rightAligned},
     {ControlKind::defaultButton, okId, "OK", {110, 177, 160, 191}},
+    {ControlKind::pushButton, report, "&Report...", {214, 177, 264, 191}},
 })};
 
 inline constexpr DialogTemplate shape{.title = "Schedule", .size = {271, 197}, .controls = controls};
@@ -259,6 +261,7 @@ inline constexpr int points = 1102;
 inline constexpr int calls = 1103;
 inline constexpr int orders = 1104;
 inline constexpr int copy = 1105;
+inline constexpr int report = 1106;
 
 /// Where the lines begin, in dialog units; they fill the rest.
 inline constexpr int viewTop = 19;
@@ -273,6 +276,7 @@ inline constexpr std::array controls{std::to_array<ControlTemplate>({
     {ControlKind::radioButton, calls, "Calls", {105, 4, 135, 14}},
     {ControlKind::radioButton, orders, "Orders", {138, 4, 176, 14}},
     {ControlKind::pushButton, copy, "Copy", {180, 2, 212, 16}},
+    {ControlKind::pushButton, report, "Report...", {214, 2, 260, 16}},
 })};
 
 /// A window beside the game, of a size of its own.
@@ -280,6 +284,22 @@ inline constexpr DialogTemplate shape{
     .title = "Shift Log", .size = {264, 84}, .controls = controls, .activates = false};
 
 } // namespace shift_log
+
+// Shift Report ----------------------------------------------------------------------------------------------
+
+namespace shift_report {
+
+inline constexpr int save = 1100;
+
+/// The page stands above the buttons.
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::pushButton, save, "&Save Picture", {5, 333, 77, 347}},
+    {ControlKind::defaultButton, okId, "OK", {473, 333, 523, 347}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Shift Report", .size = {528, 351}, .controls = controls};
+
+} // namespace shift_report
 
 // About -----------------------------------------------------------------------------------------------------
 

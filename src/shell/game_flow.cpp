@@ -55,6 +55,7 @@ void clearTicker(Shell& shell) {
 
 /// The game that has been set up appears on the console.
 void showSetUp(Shell& shell) {
+    shell.keeping = {};
     RadarDecodePicture(shell.radar);
     RadarBuildMap(shell.radar, shell.pictures.radarFrame);
     ClockReset(shell.topBar);
@@ -189,6 +190,7 @@ void abandonGame(Shell& shell) {
 }
 
 void endShift(Shell& shell, ShiftResult result) {
+    keepFinishedShift(shell);
     shell.mainWindow.capture();
     shell.sounds.stopMusic();
     RadarRepaint(shell.radar);

@@ -5,7 +5,7 @@
 #include "console/window_size.h"
 #include "platform/widgets/widget_place.h"
 #include "resources/dialogs.h"
-#include "shell/shell.h"
+#include "shell/report_dialog.h"
 
 namespace ventrel {
 
@@ -58,6 +58,7 @@ void onLogCommand(Shell& shell, const CommandInput& input) {
     switch (input.id) {
     case cancelId: shell.logWindow.dialog->frame().hide(); break;
     case shift_log::copy: copyLog(shell); break;
+    case shift_log::report: runReportDialog(shell); break;
     default: applyFilter(shell.logWindow); break;
     }
 }
@@ -131,6 +132,7 @@ void LogWindowTick(Shell& shell) {
     }
     if (log.view.edition != shell.log.edition()) {
         log.clicked.reset(); // a flight of the shift before
+        log.dialog->enable(shift_log::report, canReportShift(shell));
     }
     followSelection(log, shell.panel.state.flight);
     LogViewRefresh(log.view);

@@ -4,6 +4,7 @@
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/widget_place.h"
 #include "resources/dialogs.h"
+#include "shell/report_dialog.h"
 
 namespace ventrel {
 
@@ -53,7 +54,8 @@ Counts listFlights(const Game& game, const ListBox& list) {
     return counts;
 }
 
-void open(const Game& game, Dialog& dialog) {
+void open(const Shell& shell, Dialog& dialog) {
+    const Game& game = shell.game;
     const Counts counts = listFlights(game, dialog.list(schedule::list));
     dialog.setNumber(schedule::possibleScore, static_cast<unsigned>(game.possibleScore));
     dialog.setNumber(schedule::currentScore, static_cast<unsigned>(game.score));
@@ -61,19 +63,22 @@ void open(const Game& game, Dialog& dialog) {
     dialog.setNumber(schedule::landings, counts.landings);
     dialog.setNumber(schedule::takeoffs, counts.takeoffs);
     dialog.setNumber(schedule::passThroughs, counts.passThroughs);
+    dialog.window(schedule::report).show(canReportFinishedShift(shell));
 }
 
 } // namespace
 
 void runScheduleDialog(Shell& shell) {
-    const auto onCommand = [](Dialog& dialog, const CommandInput& input) {
+    const auto onCommand = [&shell](Dialog& dialog, const CommandInput& input) {
         const bool isClosed = input.id == okId || input.id == cancelId; // the latter by the close box
         if (isClosed) {
             dialog.end(okId);
+        } else if (input.id == schedule::report) {
+            runReportDialog(shell);
         }
     };
     runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, schedule::shape,
-              {.init = [&shell](Dialog& dialog) { open(shell.game, dialog); },
+              {.init = [&shell](Dialog& dialog) { open(shell, dialog); },
                .command = onCommand,
                .escapeCommand = noEscape});
 }

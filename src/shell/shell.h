@@ -30,6 +30,7 @@
 #include "shell/options_store.h"
 #include "shell/pictures.h"
 #include "shell/replay_watching.h"
+#include "shell/shift_keeping.h"
 #include "shell/simulation_player.h"
 #include "shell/steered_play.h"
 #include "shell/steering_bar.h"
@@ -100,6 +101,7 @@ struct Shell {
     LogWindow logWindow;
     ReplayWriter replayWriter;        ///< keeps the shift that is played
     bool isReplayTroubleTold = false; ///< in this run, that no replays can be kept
+    ShiftKeeping keeping;
     /// What the simulation speaks to: the log, which must know what the ticker has room for; the player; then
     /// whoever listens, too.
     EventRelay events;

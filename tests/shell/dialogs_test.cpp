@@ -34,6 +34,7 @@ std::vector<NamedShape> allShapes() {
                                    shapeOf("Custom Skill", custom_skill::shape),
                                    shapeOf("Choose Airport", choose_airport::shape),
                                    shapeOf("Schedule", schedule::shape),
+                                   shapeOf("Shift Report", shift_report::shape),
                                    shapeOf("About", about::shape),
                                    shapeOf("Aids", aids::shape),
                                    shapeOf("Watch a Shift", watch_shift::shape)};
