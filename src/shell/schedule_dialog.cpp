@@ -54,7 +54,7 @@ Counts listFlights(const Game& game, const ListBox& list) {
     return counts;
 }
 
-void open(const Shell& shell, Dialog& dialog) {
+void openSchedule(const Shell& shell, Dialog& dialog) {
     const Game& game = shell.game;
     const Counts counts = listFlights(game, dialog.list(schedule::list));
     dialog.setNumber(schedule::possibleScore, static_cast<unsigned>(game.possibleScore));
@@ -78,7 +78,7 @@ void runScheduleDialog(Shell& shell) {
         }
     };
     runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, schedule::shape,
-              {.init = [&shell](Dialog& dialog) { open(shell, dialog); },
+              {.init = [&shell](Dialog& dialog) { openSchedule(shell, dialog); },
                .command = onCommand,
                .escapeCommand = noEscape});
 }
