@@ -102,7 +102,7 @@ struct Play {
                                     .select = [](const FlightHit&) {},
                                     .showOrderMenu = [](Point) {}},
                       .layout = largeRadarLayout};
-    Strips strips{.sources = {game, fonts, arrow}, .callbacks = {.press = [](int) {}}};
+    Strips strips{.sources = {game, options, fonts, arrow}, .callbacks = {.press = [](int) {}}};
     ControlPanel panel{.sources = {game, options, fonts, hand, arrow},
                        .callbacks = {.click = [] {}, .enableExec = [](bool) {}}};
 };

@@ -57,6 +57,7 @@ struct ConsoleLayout {
     StripsLayout strips;
     Rect controlPanel; ///< its window; `panelLayout` tells what stands in it
     Rect execButton;
+    Rect captions; ///< what the pilots say, when the player wants to read it
     RadarLayout radar;
 };
 
@@ -115,6 +116,7 @@ constexpr ConsoleLayout consoleOf(const ConsoleSizes& sizes, const RadarLayout& 
         .strips = stripsOf(sizes),
         .controlPanel = Rect::at(lowerRight - Point{200, 128}, panelLayout.size),
         .execButton = Rect::at(lowerRight - Point{32, 112}, {14, 68}),
+        .captions = Rect::at({443, 41}, {sizes.tickerWidth, 15}),
         .radar = radar,
     };
 }
@@ -157,7 +159,9 @@ constexpr bool partsStandApart(const ConsoleLayout& console) {
            !radar.intersects(strips.button(0)) && !strips.button(0).intersects(strips.column) &&
            !strips.button(0).intersects(strips.scrollUp) && !strips.scrollUp.intersects(strips.well()) &&
            !strips.column.intersects(console.controlPanel) &&
-           !console.controlPanel.intersects(console.execButton);
+           !console.controlPanel.intersects(console.execButton) && window.contains(console.captions) &&
+           !console.captions.intersects(console.topBar.ticker) && !console.captions.intersects(radar) &&
+           !console.captions.intersects(strips.column);
 }
 static_assert(partsStandApart(smallConsole) && partsStandApart(largeConsole));
 

@@ -23,7 +23,8 @@ void makeLinePicture(Scroller& scroller) {
     scroller.state.lineWidth = font.width(slot.text) + widthMargin;
     scroller.line = Bitmap(Size{scroller.state.lineWidth, scroller.window.size().height});
     Canvas canvas(scroller.line);
-    drawText(canvas, font, {0, 0}, slot.text, {messageColour(slot.messageClass), tickerGround});
+    const SignalColours& signals = signalColours(scroller.sources.options.aidColours);
+    drawText(canvas, font, {0, 0}, slot.text, {messageColour(slot.messageClass, signals), tickerGround});
 }
 
 } // namespace

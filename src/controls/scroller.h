@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "controls/scroller_state.h"
+#include "options/options.h"
 #include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 
@@ -17,6 +18,7 @@ inline constexpr int scrollerId = 503;
 
 struct ScrollerSources {
     Desktop& desktop;
+    const Options& options;
     FontSet& fonts;
     const CursorImage& arrow;
     MessageQueue& queue; ///< of the game

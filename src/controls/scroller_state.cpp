@@ -6,11 +6,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr Colour successLine = Colour::rgb(0, 200, 0);
-constexpr Colour troubleLine = Colour::rgb(220, 220, 0);
-constexpr Colour emergencyLine = Colour::rgb(220, 0, 0);
-constexpr Colour informationLine = Colour::rgb(36, 190, 188);
-
 ScrollerTickResult startNextLine(ScrollerState& scroller, MessageQueue& queue, Millis now) {
     const auto next = std::ranges::find_if(queue.slots, &MessageSlot::inUse);
     if (next == queue.slots.end()) {
@@ -51,14 +46,14 @@ void clearScroller(ScrollerState& scroller, MessageQueue& queue) {
     queue.idle = false;
 }
 
-Colour messageColour(MessageClass messageClass) {
+Colour messageColour(MessageClass messageClass, const SignalColours& signals) {
     switch (messageClass) {
-    case MessageClass::success: return successLine;
-    case MessageClass::trouble: return troubleLine;
-    case MessageClass::emergency: return emergencyLine;
+    case MessageClass::success: return signals.successLine;
+    case MessageClass::trouble: return signals.troubleLine;
+    case MessageClass::emergency: return signals.emergencyLine;
     case MessageClass::information: break;
     }
-    return informationLine;
+    return signals.informationLine;
 }
 
 } // namespace ventrel

@@ -5,6 +5,7 @@
 
 #pragma once
 
+#include "console/signal_colours.h"
 #include "platform/devices/backend.h"
 #include "sim/message_queue.h"
 
@@ -42,6 +43,6 @@ ScrollerTickResult tickScroller(ScrollerState& scroller, MessageQueue& queue, Mi
 /// Drops every line, the one under way included.
 void clearScroller(ScrollerState& scroller, MessageQueue& queue);
 
-Colour messageColour(MessageClass messageClass);
+Colour messageColour(MessageClass messageClass, const SignalColours& signals);
 
 } // namespace ventrel

@@ -10,10 +10,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr Colour nearMissColour = Colour::rgb(255, 0, 0);
-constexpr Colour successColour = Colour::rgb(0, 220, 0);
-constexpr Colour announcedColour = Colour::rgb(164, 164, 164);
-
 constexpr long feetPerAltitude = 1000;
 
 int slotCount(const StripList& list) {
@@ -150,17 +146,17 @@ std::string stripStateLine(const Flight& flight) {
     return FormatText("%d\xB0 %s  %d ft", {long{now.heading}, course, now.altitude * feetPerAltitude});
 }
 
-Colour stripColour(const Flight& flight, const Game& game) {
+Colour stripColour(const Flight& flight, const Game& game, const SignalColours& signals) {
     if (flight.alert == Alert::nearMiss) {
-        return nearMissColour;
+        return signals.nearMiss;
     }
     if (flight.alert == Alert::success) {
-        return successColour;
+        return signals.success;
     }
     if (flight.selected) {
-        return game.airspace->selectedFlightColour;
+        return signals.selected.value_or(game.airspace->selectedFlightColour);
     }
-    return flight.announced ? announcedColour : game.airspace->flightColour;
+    return flight.announced ? signals.announced : signals.flight.value_or(game.airspace->flightColour);
 }
 
 } // namespace ventrel

@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "console/signal_colours.h"
 #include "controls/control_panel_state.h"
 
 namespace ventrel {
@@ -54,6 +55,6 @@ std::string stripRouteLine(const Flight& flight, const Game& game);
 /// When it comes, what it waits for, or how it flies.
 std::string stripStateLine(const Flight& flight);
 
-Colour stripColour(const Flight& flight, const Game& game);
+Colour stripColour(const Flight& flight, const Game& game, const SignalColours& signals);
 
 } // namespace ventrel

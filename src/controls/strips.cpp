@@ -20,7 +20,8 @@ static_assert(columnPlaces.pitch == largeConsole.strips.pitch &&
 
 void paintStrip(Canvas& canvas, const Strips& strips, int slot, const Flight& flight, const Font& font) {
     const Game& game = strips.sources.game;
-    const TextStyle style{stripColour(flight, game), columnColour};
+    const TextStyle style{stripColour(flight, game, signalColours(strips.sources.options.aidColours)),
+                          columnColour};
     const int top = slot * columnPlaces.pitch;
     drawText(canvas, font, {0, top + columnPlaces.routeLine}, stripRouteLine(flight, game), style);
     drawText(canvas, font, {0, top + columnPlaces.stateLine}, stripStateLine(flight), style);

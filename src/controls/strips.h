@@ -8,6 +8,7 @@
 #include <functional>
 
 #include "controls/strip_list.h"
+#include "options/options.h"
 #include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 
@@ -23,6 +24,7 @@ struct StripsCallbacks {
 
 struct StripsSources {
     const Game& game;
+    const Options& options;
     FontSet& fonts;
     const CursorImage& arrow;
 };

@@ -45,6 +45,9 @@ struct Options {
     int aidLargeTags = 0;    ///< larger letters in the tags
     int aidOrderLine = 0;    ///< where the order on the panel would lead
     int aidUnsentMarks = 0;  ///< what EXEC would change is marked on the panel
+    int aidConflicts = 0;    ///< rings around flights that will come too close
+    int aidColours = 0;      ///< colours and shapes for all eyes
+    int aidCaptions = 0;     ///< what the pilots say can be read
 
     friend bool operator==(const Options&, const Options&) = default;
 };

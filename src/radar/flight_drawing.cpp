@@ -6,44 +6,27 @@ namespace ventrel {
 
 namespace {
 
-constexpr Colour nearMissTag = Colour::rgb(0xFF, 0, 0);
-constexpr Colour successTag = Colour::rgb(0, 0xDC, 0);
-
-constexpr Colour failureCircle = Colour::rgb(0xFF, 0xFF, 0);
-constexpr Colour successCircle = Colour::rgb(0, 0xFF, 0);
-constexpr Colour nearMissCircle = Colour::rgb(0xFF, 0, 0);
-constexpr int alertPenWidth = 2;
-
 // All relative to the flight's radar point.
 constexpr Point symbolOffset{-4, -4};
-constexpr Rect alertCircleBox{-14, -28, 34, 20};
 constexpr Rect blinkBoxAround{-8, -16, 32, 16};
 constexpr Rect hitBoxAround{-4, -10, 14, 8};
 
-std::optional<Colour> alertColour(Alert alert) {
-    switch (alert) {
-    case Alert::failure: return failureCircle;
-    case Alert::success: return successCircle;
-    case Alert::nearMiss: return nearMissCircle;
-    case Alert::none: break;
-    }
-    return std::nullopt;
-}
-
 } // namespace
+
+FlightColours flightColours(const Airspace& airspace, const Options& options) {
+    const SignalColours& signals = signalColours(options.aidColours);
+    return {signals.flight.value_or(airspace.flightColour),
+            signals.selected.value_or(airspace.selectedFlightColour), airspace.routeColour, signals};
+}
 
 Colour tagColour(const Flight& flight, const FlightColours& colours) {
     if (flight.alert == Alert::nearMiss) {
-        return nearMissTag;
+        return colours.signals.nearMiss;
     }
     if (flight.alert == Alert::success) {
-        return successTag;
+        return colours.signals.success;
     }
     return flight.selected ? colours.selected : colours.flight;
-}
-
-Rect alertCircle(Point radarPoint) {
-    return alertCircleBox.movedBy(radarPoint);
 }
 
 Rect blinkBox(Point radarPoint) {
@@ -66,12 +49,6 @@ void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight,
     }
     DrawAircraftSymbol(canvas, at + symbolOffset, colour, step.heading);
     drawTag(canvas, look.font, texts, stand, colour);
-}
-
-void drawAlertCircle(Canvas& canvas, const RadarLayout& layout, const Flight& flight) {
-    if (const auto colour = alertColour(flight.alert)) {
-        canvas.ellipse(alertCircle(radarPoint(layout, flight.current().cell)), *colour, alertPenWidth);
-    }
 }
 
 void drawRoutes(Canvas& canvas, const RadarLayout& layout, std::span<const Flight> flights, Colour colour) {

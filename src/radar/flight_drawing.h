@@ -5,26 +5,29 @@
 #include <optional>
 #include <span>
 
+#include "console/signal_colours.h"
+#include "options/options.h"
 #include "platform/canvas/canvas.h"
 #include "platform/canvas/font.h"
 #include "radar/flight_tags.h"
 #include "radar/radar_layout.h"
+#include "sim/airspace.h"
 #include "sim/flight.h"
 
 namespace ventrel {
 
-/// The colours that the airport file chooses.
 struct FlightColours {
     Colour flight;
     Colour selected;
     Colour route;
+    const SignalColours& signals;
 };
+
+/// Those that the airport file chooses, or the player.
+FlightColours flightColours(const Airspace& airspace, const Options& options);
 
 /// The colour of a flight's symbol and tags: an alert's before the selection's.
 Colour tagColour(const Flight& flight, const FlightColours& colours);
-
-/// The box around a flight's alert circle; also the first ring of a collision.
-Rect alertCircle(Point radarPoint);
 
 /// The box that holds a flight's symbol and tags, redrawn while a new flight blinks.
 Rect blinkBox(Point radarPoint);
@@ -44,9 +47,6 @@ struct TagLook {
 /// Symbol and tag.
 void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight, const FlightColours& colours,
                 const TagLook& look);
-
-/// The ring around a flight to which something has just happened; nothing without an alert.
-void drawAlertCircle(Canvas& canvas, const RadarLayout& layout, const Flight& flight);
 
 /// The whole queued path of every flight on the scope that steers for a map point.
 void drawRoutes(Canvas& canvas, const RadarLayout& layout, std::span<const Flight> flights, Colour colour);

@@ -5,6 +5,7 @@
 #include "base/format.h"
 #include "platform/canvas/text.h"
 #include "radar/clouds.h"
+#include "radar/flight_marks.h"
 
 namespace ventrel {
 
@@ -25,8 +26,27 @@ bool isBlinking(const Flight& flight, ClockSeconds now) {
     return flight.isOnScope() && now <= flight.activatedAt + blinkTime;
 }
 
-FlightColours coloursOf(const Game& game) {
-    return {game.airspace->flightColour, game.airspace->selectedFlightColour, game.airspace->routeColour};
+FlightColours coloursOf(const RadarWindow& radar) {
+    return flightColours(*radar.sources.game.airspace, radar.sources.options);
+}
+
+/// What stands around a flight, under it and over it.
+void drawMarksUnder(RadarWindow& radar, Canvas& canvas, FlightIndex index) {
+    const Flight& flight = radar.sources.game.flight(index);
+    const Options& options = radar.sources.options;
+    const FlightColours colours = coloursOf(radar);
+    if (options.aidConflicts != 0 && radar.callbacks.isEndangered(index)) {
+        drawConflictRing(canvas, radar.layout, flight, colours.signals.conflictRing);
+    }
+    if (options.aidColours != 0 && flight.selected) {
+        drawCorners(canvas, radar.layout, flight, tagColour(flight, colours));
+    }
+}
+
+void drawMarkOver(RadarWindow& radar, Canvas& canvas, const Flight& flight) {
+    const int aid = radar.sources.options.aidColours;
+    drawAlertMark(canvas, radar.layout, flight, signalColours(aid),
+                  aid != 0 ? MarkShapes::distinct : MarkShapes::alike);
 }
 
 /// Whether a flight that has just become active is not to be seen this second.
@@ -44,11 +64,12 @@ void drawFlights(RadarWindow& radar, Canvas& canvas, NewFlights look) {
         if (!flight.isOnScope()) {
             continue;
         }
+        drawMarksUnder(radar, canvas, i);
         if (look == NewFlights::shown || !isBlinkedOff(flight, game.clock)) {
             tag.place = tagPlaceOf(radar.aids.tags, i);
-            drawFlight(canvas, radar.layout, flight, coloursOf(game), tag);
+            drawFlight(canvas, radar.layout, flight, coloursOf(radar), tag);
         }
-        drawAlertCircle(canvas, radar.layout, flight);
+        drawMarkOver(radar, canvas, flight);
     }
 }
 
@@ -96,13 +117,12 @@ void paintFrame(RadarWindow& radar, NewFlights look) {
 
 /// Hides or shows the flight by its own little box.
 void blinkFlight(RadarWindow& radar, const Flight& flight, ClockSeconds now) {
-    const Game& game = radar.sources.game;
     Canvas buffer(radar.backBuffer);
     buffer.setClip(radar.scope);
     const Rect box = blinkBox(radarPoint(radar.layout, flight.current().cell));
     buffer.draw(box, *radar.map, box);
     if (!isBlinkedOff(flight, now)) {
-        drawFlight(buffer, radar.layout, flight, coloursOf(game),
+        drawFlight(buffer, radar.layout, flight, coloursOf(radar),
                    {.font = radar.sources.fonts.font(usualTagFont.request)});
     }
     Canvas screen = radar.window.canvas();

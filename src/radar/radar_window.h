@@ -46,6 +46,8 @@ struct RadarCallbacks {
     std::function<void(Point screen)> showOrderMenu;
     /// The order being composed for a flight on the scope, if it could be flown.
     std::function<std::optional<UnsentOrder>()> unsentOrder = [] { return std::nullopt; };
+    /// Whether the flight will come too close to another one, unless one of them is told something.
+    std::function<bool(FlightIndex)> isEndangered = [](FlightIndex) { return false; };
 };
 
 /// What the radar reads, owned by others for as long as it lives.

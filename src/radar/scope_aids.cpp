@@ -11,15 +11,12 @@ namespace ventrel {
 namespace {
 
 /// What they change moves or changes with the flights, so that a part of the scope cannot be mended alone.
-constexpr std::array scopeAids{&Options::aidHeadingLines, &Options::aidHistory,   &Options::aidFullTags,
-                               &Options::aidTidyTags,     &Options::aidLargeTags, &Options::aidOrderLine};
+constexpr std::array scopeAids{&Options::aidConflicts, &Options::aidColours,  &Options::aidHeadingLines,
+                               &Options::aidHistory,   &Options::aidFullTags, &Options::aidTidyTags,
+                               &Options::aidLargeTags, &Options::aidOrderLine};
 
 /// The room of "SCORE: 12345".
 constexpr Size scoreSize{70, 10};
-
-FlightColours coloursOf(const Game& game) {
-    return {game.airspace->flightColour, game.airspace->selectedFlightColour, game.airspace->routeColour};
-}
 
 const TagFont& lettersOf(const Options& options) {
     return options.aidLargeTags != 0 ? largeTagFont : usualTagFont;
@@ -78,7 +75,8 @@ void drawUnderFlights(Canvas& canvas, const ScopeAids& aids, const AidScene& sce
                       const std::optional<UnsentOrder>& unsent) {
     const Game& game = scene.game;
     if (scene.options.aidHistory != 0) {
-        drawHistory(canvas, scene.layout, game.flights, aids.history, coloursOf(game));
+        drawHistory(canvas, scene.layout, game.flights, aids.history,
+                    flightColours(*game.airspace, scene.options));
     }
     if (scene.options.aidHeadingLines != 0) {
         drawHeadingLines(canvas, scene.layout, game.flights, game.airspace->routeColour);

@@ -31,6 +31,8 @@ inline constexpr std::array aidRows{std::to_array<AidRow>({
      "The number of each runway, and the line to come in on"},
     {AidGroup::scope, "AidHistory", &Options::aidHistory, "H&istory",
      "Dots in the last cells through which a flight came"},
+    {AidGroup::scope, "AidConflicts", &Options::aidConflicts, "Co&nflicts ahead",
+     "A thin ring when a near miss is three moves away or less"},
     {AidGroup::scope, "AidPauseAtRim", &Options::aidPauseAtRim, "&Pause at the rim",
      "PAUSE stands at the top of the scope instead of in its middle"},
     {AidGroup::tags, "AidFullTags", &Options::aidFullTags, "&Full tags",
@@ -43,6 +45,10 @@ inline constexpr std::array aidRows{std::to_array<AidRow>({
      "On the scope: the way on which EXEC would send the flight"},
     {AidGroup::orders, "AidUnsentMarks", &Options::aidUnsentMarks, "&Unsent settings",
      "On the panel: a mark at all that EXEC would change"},
+    {AidGroup::eyesAndEars, "AidColours", &Options::aidColours, "Cl&ear colours",
+     "For eyes without a sense of red, green or blue; shapes, too"},
+    {AidGroup::eyesAndEars, "AidCaptions", &Options::aidCaptions, "&Captions",
+     "What the pilots say can be read under the messages"},
 })};
 
 struct AidGroupTitle {

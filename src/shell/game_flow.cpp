@@ -171,6 +171,7 @@ void EndGame(Shell& shell) {
     shell.game.phase = Phase::idle;
     shell.mainWindow.invalidate();
     ScrollerClear(shell.scroller);
+    CaptionsClear(shell.captions);
     emptyStrips(shell);
     ClockReset(shell.topBar);
     CtrlClearFlight(shell.panel);

@@ -134,6 +134,7 @@ void createInstruments(Shell& shell) {
     const Bitmap& console = shell.pictures.console;
     const Size window = shell.windowSize();
     ScrollerCreate(shell.scroller, shell.mainWindow, window.width);
+    CaptionsCreate(shell.captions, shell.mainWindow, window.width);
     TopBarCreate(shell.topBar, shell.mainWindow, console, shell.pictures.lamps);
     StripsCreate(shell.strips, shell.mainWindow, window);
     CtrlCreate(shell.panel, shell.mainWindow, console);

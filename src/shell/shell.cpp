@@ -13,7 +13,7 @@ namespace ventrel {
 namespace {
 
 ScrollerSources scrollerSources(Shell& shell) {
-    return {shell.desktop, shell.fonts, shell.pictures.arrow, shell.game.messages};
+    return {shell.desktop, shell.options, shell.fonts, shell.pictures.arrow, shell.game.messages};
 }
 
 /// What is composed on the panel, if its flight could fly it.
@@ -35,6 +35,7 @@ RadarCallbacks radarCallbacks(Shell& shell) {
                 } else {
                     makeFrame(shell.game, shell.events);
                 }
+                shell.conflicts.follow();
             },
         .updateBlips = [&shell] { ScopeUpdateBlips(shell.topBar); },
         .reportScore = [&shell] { reportScore(shell); },
@@ -43,6 +44,7 @@ RadarCallbacks radarCallbacks(Shell& shell) {
         .select = [&shell](const FlightHit& hit) { selectRadarFlight(shell, hit); },
         .showOrderMenu = [&shell](Point screen) { showOrderMenu(shell, screen); },
         .unsentOrder = [&shell] { return unsentOrder(shell); },
+        .isEndangered = [&shell](FlightIndex flight) { return shell.conflicts.isEndangered(flight); },
     };
 }
 
@@ -71,8 +73,8 @@ Shell::Shell(ShellParts parts)
       options(parts.options), utcNow(std::move(parts.utcNow)),
       topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow},
              .skip = [this] { skipClock(*this); }},
-      scroller{.sources = scrollerSources(*this)},
-      strips{.sources = {game, fonts, pictures.arrow},
+      scroller{.sources = scrollerSources(*this)}, captions{.sources = {desktop, fonts, pictures.arrow}},
+      strips{.sources = {game, options, fonts, pictures.arrow},
              .callbacks = {.press = [this](int slot) { StripsPress(*this, slot); }}},
       panel{.sources = {game, options, fonts, pictures.hand, pictures.arrow},
             .callbacks = panelCallbacks(*this)},
@@ -80,10 +82,11 @@ Shell::Shell(ShellParts parts)
             .sources = {game, options, fonts, pictures.hand},
             .callbacks = radarCallbacks(*this),
             .layout = radarLayoutFor(windowSize().width)},
-      player(*this), log(game), logWindow{.view = {.log = log, .font = widgetFonts.text}},
+      player(*this), conflicts(*this), log(game), logWindow{.view = {.log = log, .font = widgetFonts.text}},
       replayWriter(game) {
     events.add(log);
     events.add(player);
+    events.add(conflicts);
     events.add(replayWriter);
     events.add(eventSkip.watch);
     game.random = parts.random;

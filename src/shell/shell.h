@@ -13,6 +13,7 @@
 #include "base/random.h"
 #include "base/string_table.h"
 #include "console/console_layout.h"
+#include "controls/captions.h"
 #include "controls/control_panel.h"
 #include "controls/scroller.h"
 #include "controls/strips.h"
@@ -24,6 +25,7 @@
 #include "radar/radar_window.h"
 #include "replay/replay_writer.h"
 #include "replay/shift_log.h"
+#include "shell/conflict_watch.h"
 #include "shell/event_skip.h"
 #include "shell/game_setup.h"
 #include "shell/log_window.h"
@@ -89,6 +91,7 @@ struct Shell {
 
     TopBar topBar;
     Scroller scroller;
+    Captions captions;
     Strips strips;
     ControlPanel panel;
     RadarWindow radar;
@@ -97,6 +100,7 @@ struct Shell {
     SteeringBar steeringBar;
     EventSkip eventSkip;
     SimulationPlayer player;
+    ConflictWatch conflicts;
     ShiftLog log; ///< of the shift that is played, or of the last one
     LogWindow logWindow;
     ReplayWriter replayWriter;        ///< keeps the shift that is played

@@ -2,6 +2,7 @@
 
 #include "shell/game_flow.h"
 #include "shell/shell.h"
+#include "sim/phrase.h"
 #include "sim/reports.h"
 
 namespace ventrel {
@@ -13,6 +14,9 @@ void SimulationPlayer::reported(const Report& report) {
 void SimulationPlayer::pilotSpoke(const RadioCall& call) {
     const Flight& flight = shell_.game.flight(call.flight);
     const std::string phrase = radioPhrase(shell_.game, call);
+    if (shell_.options.aidCaptions != 0) {
+        CaptionsAdd(shell_.captions, phraseInFigures(phrase));
+    }
     RandomGenerator& random = shell_.game.random;
     const RandomGenerator before = random;
     shell_.tellLater(shell_.sounds.speak(

@@ -8,11 +8,12 @@ namespace ventrel {
 std::optional<Millis> Tick(Shell& shell) {
     LogWindowTick(shell);
     if (shell.paused && shell.game.isRunning()) {
-        return std::nullopt;
+        return CaptionsTick(shell.captions);
     }
     const bool isSkipping = followEventSkip(shell);
     std::optional<Millis> next = ClockTick(shell.topBar);
     next = earlier(next, ScrollerTick(shell.scroller));
+    next = earlier(next, CaptionsTick(shell.captions));
     if (!steerWhole(shell)) {
         steerBeforeStep(shell);
         SimulationStep(shell.game, shell.events);

@@ -97,4 +97,7 @@ char VoiceAirlineCode(int row);
 /// The whole phrase as written words with blanks between them.
 std::string phraseAsWords(std::string_view phrase);
 
+/// The same for reading at a glance, with figures: "Delta 186 climbing to 10,000".
+std::string phraseInFigures(std::string_view phrase);
+
 } // namespace ventrel

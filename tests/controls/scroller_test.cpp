@@ -16,7 +16,7 @@ struct ScrollerStage : ConsoleStage {
         scroller.window.update();
     }
 
-    Scroller scroller{.sources = {desktop, fonts, arrow, game.messages},
+    Scroller scroller{.sources = {desktop, options, fonts, arrow, game.messages},
                       .gameOverShown = [this] { log.emplace_back("game over"); }};
 
     bool post(std::string_view text, MessageClass messageClass = MessageClass::information) {
@@ -81,7 +81,7 @@ TEST(ScrollerTest, LinesFollowEachOtherInSlotOrderEachInItsColour) {
     EXPECT_TRUE(stage.scroller.sources.queue.slots[1].inUse) << "a line in a lower slot overtakes";
     stage.runUntilFree(0);
     expectOnly(yellow);
-    EXPECT_EQ(messageColour(MessageClass::emergency), Colour::rgb(220, 0, 0));
+    EXPECT_EQ(messageColour(MessageClass::emergency, usualSignals), Colour::rgb(220, 0, 0));
 }
 
 TEST(ScrollerTest, ALateTickMovesOnePixelAndTheNextLineStartsAtOnce) {

@@ -12,9 +12,9 @@ namespace {
 struct StripsStage : ConsoleStage {
     StripsStage() { StripsCreate(strips, main, smallWindow); }
 
-    Strips strips{.sources = {game, fonts, arrow}, .callbacks = {.press = [this](int slot) {
-                                                       log.push_back("press " + std::to_string(slot));
-                                                   }}};
+    Strips strips{
+        .sources = {game, options, fonts, arrow},
+        .callbacks = {.press = [this](int slot) { log.push_back("press " + std::to_string(slot)); }}};
 
     /// So many flights, each scheduled a quarter of a minute after the one before.
     void flyMany(int number) {
@@ -116,7 +116,7 @@ TEST(StripsTest, ColoursAndPressedButtonFollowTheFlight) {
         stage.take();
         stage.rebuild();
         EXPECT_EQ(stage.take(), Lines{selected ? "press 0" : "press -1"});
-        return stripColour(flight, stage.game);
+        return stripColour(flight, stage.game, usualSignals);
     };
     EXPECT_EQ(colourOf(Alert::nearMiss, true, false), Colour::rgb(255, 0, 0));
     EXPECT_EQ(colourOf(Alert::success, true, false), Colour::rgb(0, 220, 0));

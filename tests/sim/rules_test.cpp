@@ -50,6 +50,7 @@ TEST(Phrases, EveryCharacterHasItsOwnSnippetFile) {
     EXPECT_EQ(snippetNumber('\x5D'), -1);
     EXPECT_EQ(snippetNumber('\xE4'), -1);
     EXPECT_EQ(phraseAsWords("R=B1"), "American two seven heavy");
+    EXPECT_EQ(phraseInFigures("R=B1G\"'"), "American 27 heavy turn heading 090 descending to 1,000");
 }
 
 TEST(MessageQueues, DropTheNinthLineAndFillTheLowestFreeSlot) {

@@ -1,0 +1,40 @@
+// The prediction of conflicts as the player sees it: which flights have the thin ring now.
+//
+// Looks ahead after a step and after an order, when the scope is shown next, and not at all while the aid is
+// off.
+
+#pragma once
+
+#include <vector>
+
+#include "sim/clock_seconds.h"
+#include "sim/simulation_events.h"
+
+namespace ventrel {
+
+struct Shell;
+
+class ConflictWatch final : public SimulationEvents {
+public:
+    explicit ConflictWatch(Shell& shell) : shell_(shell) {}
+
+    /// Looks ahead, if anything has changed since it did.
+    void follow();
+
+    /// Whether the flight will come too close to another one, as of the last look.
+    bool isEndangered(FlightIndex flight) const {
+        return flight.place() < endangered_.size() && endangered_[flight.place()];
+    }
+
+    void stepBegun() override { isStale_ = true; }
+    /// The plan is made after this, so the scope follows when the order is through.
+    void orderSent(FlightIndex flight, const PanelOrder& order) override;
+
+private:
+    Shell& shell_;
+    std::vector<bool> endangered_; ///< by flight
+    ClockSeconds seenStep_;        ///< of the game's last step when it looked
+    bool isStale_ = true;
+};
+
+} // namespace ventrel
