@@ -135,8 +135,10 @@ TEST(WholeGame, WithItsPilotsHeardIsWhatTheSimulationAlonePlaysWhenItHearsThem) 
     runShift(alone, recorded,
              {.orders = {}, .until = 36000_s, .steering = automaticSteering(alone), .hearsPilots = true});
     Machine machine;
-    GameStage stage(1024, "[Options]\nAirportSelect=1\n[Game]\nName=mary\nSkill=0\n", PROGRAM_FOLDER,
-                    FirstScene::console, &machine.sounds);
+    GameStage stage(1024,
+                    "[Options]\nAirportSelect=1\nAidConflicts=1\nAidColours=1\nAidCaptions=1\n[Game]\nName="
+                    "mary\nSkill=0\n",
+                    PROGRAM_FOLDER, FirstScene::console, &machine.sounds);
     machine.stage = &stage;
     Replay replay(stage, recorded);
     stage.startNewGame(seed);
@@ -156,7 +158,10 @@ TEST(WholeGame, PlayedByMouseAndKeysIsWhatTheSimulationAlonePlays) {
     StepRecorder recorded{alone};
     runShift(alone, recorded, {.orders = {}, .until = 36000_s, .steering = automaticSteering(alone)});
     const PlainProgram program;
-    GameStage stage(1024, "[Options]\nAirportSelect=1\n[Game]\nName=mary\nSkill=0\n", program.folder());
+    GameStage stage(1024,
+                    "[Options]\nAirportSelect=1\nAidConflicts=1\nAidColours=1\nAidCaptions=1\n[Game]\nName="
+                    "mary\nSkill=0\n",
+                    program.folder());
     Replay replay(stage, recorded);
     stage.startNewGame(seed);
     stage.look([&] { ScrollerClear(stage.shell().scroller); }); // the welcome

@@ -5,8 +5,10 @@
 #include <array>
 #include <cmath>
 #include <string>
+#include <vector>
 
 #include "airspace_stage.h"
+#include "console/signal_colours.h"
 #include "platform/canvas/image.h"
 #include "radar/radar_layout.h"
 #include "tools/apt/colour_sight.h"
@@ -252,6 +254,29 @@ TEST(ColourSight, GreenAndYellowAreOneToAnEyeWithoutRed) {
     const Colour white = Colour::rgb(255, 255, 255);
     EXPECT_NEAR(distanceSeen(white, Colour{}, Sight::withoutRed), 100, 0.5);
     EXPECT_NEAR(contrast(luminanceOf(white), luminanceOf(Colour{})), 21, 0.01);
+}
+
+TEST(ColourSight, TheClearColoursAreToldApartByAllEyes) {
+    using namespace apt;
+    constexpr double atAGlance = 20;
+    constexpr double readable = 3;
+    const SignalColours& colours = clearSignals;
+    const auto expectApart = [](const std::vector<Colour>& together) {
+        for (const Colour a : together) {
+            EXPECT_GT(contrast(luminanceOf(a), luminanceOf(Colour::rgb(64, 8, 0))), readable) << a.value;
+            for (const Colour b : together) {
+                for (const Sight sight :
+                     {Sight::full, Sight::withoutRed, Sight::withoutGreen, Sight::withoutBlue}) {
+                    EXPECT_TRUE(a == b || distanceSeen(a, b, sight) >= atAGlance)
+                        << std::hex << a.value << " and " << b.value << ", sight " << static_cast<int>(sight)
+                        << ": " << distanceSeen(a, b, sight);
+                }
+            }
+        }
+    };
+    expectApart({*colours.flight, *colours.selected, colours.nearMiss, colours.success, colours.announced});
+    expectApart({colours.nearMissRing, colours.successRing, colours.failureRing, colours.conflictRing});
+    expectApart({colours.successLine, colours.troubleLine, colours.emergencyLine, colours.informationLine});
 }
 
 } // namespace

@@ -18,6 +18,8 @@ constexpr Matrix noRed{
     {{0.152286, 1.052583, -0.204868}, {0.114503, 0.786281, 0.099216}, {-0.003882, -0.048116, 1.051998}}};
 constexpr Matrix noGreen{
     {{0.367322, 0.860646, -0.227968}, {0.280085, 0.672501, 0.047413}, {-0.011820, 0.042940, 0.968881}}};
+constexpr Matrix noBlue{
+    {{1.255528, -0.076749, -0.178779}, {-0.078411, 0.930809, 0.147602}, {0.004733, 0.691367, 0.303900}}};
 
 /// From light of red, green and blue to X, Y and Z, parts of those of white.
 constexpr Matrix toXyz{{{0.43388, 0.37622, 0.18990}, {0.2126, 0.7152, 0.0722}, {0.01774, 0.10946, 0.87280}}};
@@ -41,7 +43,13 @@ Triple product(const Matrix& matrix, const Triple& light) {
 }
 
 const Matrix& seenBy(Sight sight) {
-    return sight == Sight::full ? everything : sight == Sight::withoutRed ? noRed : noGreen;
+    switch (sight) {
+    case Sight::withoutRed: return noRed;
+    case Sight::withoutGreen: return noGreen;
+    case Sight::withoutBlue: return noBlue;
+    case Sight::full: break;
+    }
+    return everything;
 }
 
 /// The place in the space of colours (CIE L*a*b*) in which equal steps look equal.
