@@ -36,7 +36,8 @@ std::string entryWords(const LogEntry& entry) {
 }
 
 std::string whomItConcerns(const ShiftStory& story, const LogEntry& entry) {
-    return entry.flight ? story.flight(*entry.flight).callsign : std::string();
+    const bool isKnown = entry.flight && entry.flight->place() < story.flights.size();
+    return isKnown ? story.flight(*entry.flight).callsign : std::string();
 }
 
 std::string logText(const ShiftStory& story, LogFilter filter, std::optional<FlightIndex> flight) {

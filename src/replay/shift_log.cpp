@@ -108,7 +108,7 @@ void ShiftLog::scoreChanged(const ScoreChange& change) {
         std::string words = scoreWords(change) + " (" + std::string(causeWords(change.cause)) + ")";
         add(LogKind::points, change.flight, std::move(words)).points = change.delta;
     }
-    if (change.flight) {
+    if (change.flight && isKnown(*change.flight)) {
         story_.flights[change.flight->place()].points += change.delta;
         if (const FlightEnd end = endBy(change.cause); end != FlightEnd::none) {
             noteEnd(*change.flight, end);
@@ -117,18 +117,23 @@ void ShiftLog::scoreChanged(const ScoreChange& change) {
 }
 
 void ShiftLog::orderSent(FlightIndex flight, const PanelOrder& order) {
-    ++story_.flights[flight.place()].orders;
+    if (isKnown(flight)) {
+        ++story_.flights[flight.place()].orders;
+    }
     add(LogKind::order, flight, orderWords(game_, flight, order));
 }
 
 void ShiftLog::flightActivated(FlightIndex flight) {
-    story_.flights[flight.place()].appeared = game_.clock;
+    if (isKnown(flight)) {
+        story_.flights[flight.place()].appeared = game_.clock;
+    }
 }
 
 void ShiftLog::noteEnd(FlightIndex flight, FlightEnd end) {
-    FlightStory& ended = story_.flights[flight.place()];
-    ended.end = end;
-    ended.ended = game_.clock;
+    if (isKnown(flight)) {
+        story_.flights[flight.place()].end = end;
+        story_.flights[flight.place()].ended = game_.clock;
+    }
 }
 
 void ShiftLog::shiftEnded(ShiftResult result) {

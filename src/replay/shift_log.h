@@ -41,6 +41,8 @@ private:
     LogEntry& add(LogKind kind, std::optional<FlightIndex> flight, std::string words);
     void addLine(std::optional<FlightIndex> flight, std::string words, MessageClass messageClass);
     void noteEnd(FlightIndex flight, FlightEnd end);
+    /// Whether it belongs to the shift of which the log was told: of another game only the lines are kept.
+    bool isKnown(FlightIndex flight) const { return flight.place() < story_.flights.size(); }
 
     const Game& game_;
     ShiftStory story_;
