@@ -143,7 +143,7 @@ TEST_F(OpeningTest, AClickAndThreeKeysEndItAtEveryStage) {
         for (const Key key : {Key::unknown, Key::escape, Key::enter, Key::space}) {
             SCOPED_TRACE(std::to_string(when) + " key " + std::to_string(static_cast<int>(key)));
             Script person(backend);
-            person.wait(when).key(Key::a).click({300, 740}, MouseButton::right);
+            person.wait(when - 200).key(Key::a).click({300, 740}, MouseButton::right).wait(200);
             key == Key::unknown ? person.press({300, 740}) : person.key(key);
             play();
             EXPECT_NEAR(static_cast<double>(last().second), static_cast<double>(when), 30);
@@ -225,7 +225,7 @@ TEST_F(MovieWindowTest, AfterFiveSecondsAnyKeyOrClickClosesIt) {
         EXPECT_EQ(log.size(), 1U);
         EXPECT_NE(backend.cursor(), nullptr);
     });
-    script.wait(100).click({100, 100}, MouseButton::right).key(Key::x);
+    script.click({100, 100}, MouseButton::right).wait(100).key(Key::x);
     show(movie(400, 66667));
     EXPECT_NEAR(std::stod(log.back().substr(7)), 5200, 30);
 }
