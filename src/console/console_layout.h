@@ -66,6 +66,7 @@ struct ConsoleSizes {
     Size window;
     int tickerWidth;
     int tickerStep;
+    int captionsLeft; ///< clear of the bearings on the rim
     int strips;
     int stripColumnHeight;
     int scrollDownTop;
@@ -116,7 +117,7 @@ constexpr ConsoleLayout consoleOf(const ConsoleSizes& sizes, const RadarLayout& 
         .strips = stripsOf(sizes),
         .controlPanel = Rect::at(lowerRight - Point{200, 128}, panelLayout.size),
         .execButton = Rect::at(lowerRight - Point{32, 112}, {14, 68}),
-        .captions = Rect::at({443, 41}, {sizes.tickerWidth, 15}),
+        .captions = Rect{sizes.captionsLeft, 41, topBarOf(sizes).ticker.right, 56},
         .radar = radar,
     };
 }
@@ -124,6 +125,7 @@ constexpr ConsoleLayout consoleOf(const ConsoleSizes& sizes, const RadarLayout& 
 inline constexpr ConsoleLayout smallConsole = consoleOf({.window = smallWindow,
                                                          .tickerWidth = 340,
                                                          .tickerStep = 13,
+                                                         .captionsLeft = 443,
                                                          .strips = 10,
                                                          .stripColumnHeight = 371,
                                                          .scrollDownTop = 436},
@@ -131,6 +133,7 @@ inline constexpr ConsoleLayout smallConsole = consoleOf({.window = smallWindow,
 inline constexpr ConsoleLayout largeConsole = consoleOf({.window = largeWindow,
                                                          .tickerWidth = 562,
                                                          .tickerStep = 10,
+                                                         .captionsLeft = 490,
                                                          .strips = 14,
                                                          .stripColumnHeight = 541,
                                                          .scrollDownTop = 604},

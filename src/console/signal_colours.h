@@ -42,7 +42,7 @@ inline constexpr SignalColours usualSignals{
     .nearMissRing = Colour::rgb(255, 0, 0),
     .successRing = Colour::rgb(0, 255, 0),
     .failureRing = Colour::rgb(255, 255, 0),
-    .conflictRing = Colour::rgb(255, 150, 60),
+    .conflictRing = Colour::rgb(0xE0, 0xFB, 0xFF),
     .successLine = Colour::rgb(0, 200, 0),
     .troubleLine = Colour::rgb(220, 220, 0),
     .emergencyLine = Colour::rgb(220, 0, 0),

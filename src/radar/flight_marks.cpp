@@ -1,5 +1,7 @@
 #include "radar/flight_marks.h"
 
+#include <array>
+
 namespace ventrel {
 
 namespace {
@@ -9,8 +11,7 @@ constexpr int innerRing = -5; // pixels from the outer one, on every side
 
 // All relative to the flight's radar point.
 constexpr Rect alertCircleBox{-14, -28, 34, 20};
-constexpr Rect cornerBox{-8, -8, 8, 8};
-constexpr int cornerLength = 4;
+constexpr Rect bracketBox{-7, 4, 6, 8};
 
 void drawSquare(Canvas& canvas, const Rect& box, Colour colour) {
     for (int pen = 0; pen < alertPenWidth; ++pen) {
@@ -52,16 +53,11 @@ void drawConflictRing(Canvas& canvas, const RadarLayout& layout, const Flight& f
     canvas.ellipse(Rect{-reach, -reach, reach, reach}.movedBy(at), colour);
 }
 
-void drawCorners(Canvas& canvas, const RadarLayout& layout, const Flight& flight, Colour colour) {
-    const Rect box = cornerBox.movedBy(radarPoint(layout, flight.current().cell));
-    for (const int x : {box.left, box.right}) {
-        for (const int y : {box.top, box.bottom}) {
-            const int inX = x == box.left ? 1 : -1;
-            const int inY = y == box.top ? 1 : -1;
-            canvas.line({x, y}, {x + inX * cornerLength, y}, colour);
-            canvas.line({x, y}, {x, y + inY * cornerLength}, colour);
-        }
-    }
+void drawBracket(Canvas& canvas, const RadarLayout& layout, const Flight& flight, Colour colour) {
+    const Rect box = bracketBox.movedBy(radarPoint(layout, flight.current().cell));
+    const std::array<Point, 4> bracket{
+        {box.topLeft(), {box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top - 1}}};
+    canvas.polyline(bracket, colour);
 }
 
 } // namespace ventrel

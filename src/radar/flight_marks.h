@@ -13,7 +13,7 @@ namespace ventrel {
 /// Whether colours alone have to tell things apart.
 enum class MarkShapes {
     alike,    ///< every mark is a ring
-    distinct, ///< a near miss has two rings, a failure a square; the selected flight has corners around it
+    distinct, ///< a near miss has two rings, a failure a square; the selected flight stands on a bracket
 };
 
 /// The box around a flight's alert mark; also the first ring of a collision.
@@ -26,7 +26,7 @@ void drawAlertMark(Canvas& canvas, const RadarLayout& layout, const Flight& flig
 /// The thin ring around a flight that will come too close to another one: as far as a near miss reaches.
 void drawConflictRing(Canvas& canvas, const RadarLayout& layout, const Flight& flight, Colour colour);
 
-/// The corners of a box around the flight's symbol.
-void drawCorners(Canvas& canvas, const RadarLayout& layout, const Flight& flight, Colour colour);
+/// A bracket under the flight's symbol, clear of its tag.
+void drawBracket(Canvas& canvas, const RadarLayout& layout, const Flight& flight, Colour colour);
 
 } // namespace ventrel

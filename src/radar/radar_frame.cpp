@@ -39,7 +39,7 @@ void drawMarksUnder(RadarWindow& radar, Canvas& canvas, FlightIndex index) {
         drawConflictRing(canvas, radar.layout, flight, colours.signals.conflictRing);
     }
     if (options.aidColours != 0 && flight.selected) {
-        drawCorners(canvas, radar.layout, flight, tagColour(flight, colours));
+        drawBracket(canvas, radar.layout, flight, tagColour(flight, colours));
     }
 }
 
