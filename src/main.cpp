@@ -154,7 +154,8 @@ int play(const std::filesystem::path& executable, FirstScene firstScene) {
     }
     SdlBackend& backend = **screenBackend;
     SoundSystem sounds(*device, device->sequencer(), programFolder);
-    Program program({backend, data.fonts, sounds, store, std::move(data.troubles), firstScene},
+    const Player who = store.isFirstStart() ? Player::newcomer : Player::known;
+    Program program({backend, data.fonts, sounds, store, std::move(data.troubles), firstScene, who},
                     {programFolder, player.data, playersAirports()}, settings.options,
                     wantedSeed().value_or(seedOfTheMoment()));
     const auto keep = [&] { keepSettings(store, program.options(), settings.window, backend); };

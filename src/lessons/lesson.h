@@ -100,7 +100,6 @@ enum class DeskPart {
     strip,  ///< with its button
     point,
     cone, ///< of an airport
-    scope,
     strips,
     panel,
     dial,

@@ -81,7 +81,6 @@ inline constexpr std::array spotWords{std::to_array<SpotWords>({
     {"strip", DeskPart::strip, Operand::flight},
     {"point", DeskPart::point, Operand::point},
     {"cone", DeskPart::cone, Operand::point},
-    {"scope", DeskPart::scope},
     {"strips", DeskPart::strips},
     {"panel", DeskPart::panel},
     {"dial", DeskPart::dial},

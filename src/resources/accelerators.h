@@ -74,6 +74,7 @@ inline constexpr std::array mainAccelerators{std::to_array<Accelerator>({
     {Key::s, noModifiers, command::slow, KeyBy::place},
     {Key::p, noModifiers, command::pause},
     {Key::f1, noModifiers, command::help},
+    {Key::f2, noModifiers, command::lessonGoOn},
     {Key::f5, noModifiers, command::musicSofter},
     {Key::f6, noModifiers, command::musicLouder},
     {Key::f7, noModifiers, command::soundSofter},

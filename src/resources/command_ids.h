@@ -80,6 +80,10 @@ inline constexpr int replays = 4240; ///< the dialog of the replays
 inline constexpr int jumpInReplay = 4241;
 
 inline constexpr int shiftLog = 4250; ///< the window of the log: opens, closes
+// Lessons.
+inline constexpr int lessons = 4260;    ///< the list of them
+inline constexpr int lessonGoOn = 4261; ///< what the second button of a lesson's note says
+inline constexpr int leaveLesson = 4262;
 
 inline constexpr int aids = 4280; ///< the dialog of the aids
 

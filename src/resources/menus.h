@@ -57,6 +57,7 @@ inline constexpr auto optionsMenuItems = joined(std::to_array<MenuItemTemplate>(
 inline constexpr std::array helpMenuItems{std::to_array<MenuItemTemplate>({
     {"&About Ventrel " VENTREL_VERSION "...", command::about},
     menuSeparator,
+    {"&Lessons...", command::lessons},
     {"&Watch a Shift...", command::watchShift},
 })};
 

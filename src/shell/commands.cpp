@@ -9,6 +9,7 @@
 #include "shell/game_flow.h"
 #include "shell/help_dialog.h"
 #include "shell/high_score_dialog.h"
+#include "shell/lesson_dialogs.h"
 #include "shell/new_game_dialog.h"
 #include "shell/option_commands.h"
 #include "shell/popup_menus.h"
@@ -24,10 +25,10 @@ namespace ventrel {
 
 namespace {
 
-/// Whether a running game may be thrown away; the player is asked, but for one that is watched. Without one
-/// there is nothing to ask.
+/// Whether a running game may be thrown away; the player is asked, but for one that is watched, or a lesson.
+/// Without one there is nothing to ask.
 bool mayQuitGame(Shell& shell) {
-    return !shell.game.isRunning() || isSteered(shell) ||
+    return !shell.game.isRunning() || isSteered(shell) || shell.lesson ||
            shell.ask(TextId::confirmQuitGame, MessageButtons::okCancel) == MessageAnswer::ok;
 }
 
@@ -36,7 +37,7 @@ bool clearDesk(Shell& shell) {
     if (!mayQuitGame(shell)) {
         return false;
     }
-    if (shell.game.isRunning()) {
+    if (shell.game.isRunning() || shell.lesson) {
         abandonGame(shell);
     }
     return true;
@@ -83,6 +84,14 @@ void showReplays(Shell& shell) {
     }
     if (auto replay = runReplayDialog(shell)) {
         watchReplay(shell, std::move(*replay));
+    }
+}
+
+void takeLesson(Shell& shell) {
+    const auto number = runLessonsDialog(shell);
+    if (number && clearDesk(shell)) {
+        putLastGameAway(shell);
+        startLesson(shell, *number);
     }
 }
 
@@ -145,6 +154,9 @@ constexpr std::array actions{std::to_array<Action>({
     {command::highScores, showHighScores},
     {command::about, runAboutDialog},
     {command::help, runHelpDialog},
+    {command::lessons, takeLesson},
+    {command::lessonGoOn, goOnInLesson},
+    {command::leaveLesson, leaveLesson},
     {command::aids, runAidsDialog},
     {command::shiftLog, LogWindowToggle},
     {command::bossKey, hideFromBoss},

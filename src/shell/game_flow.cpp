@@ -15,6 +15,8 @@ namespace {
 constexpr std::string_view collisionMusic = "mci\\faa.mci";
 constexpr std::string_view collisionSound = "snd\\collide.snd";
 
+constexpr std::string_view nameless = "Controller"; // who has not yet given a name
+
 const ScopeLayout& scopeLayout(const Shell& shell) {
     return isLarge(shell.windowSize()) ? largeLayout : smallLayout;
 }
@@ -73,6 +75,7 @@ void beginSounds(Shell& shell) {
 
 /// The next game takes the generator on, and the time of the last step, at which it does not act again.
 void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setup) {
+    closeLesson(shell);
     const auto sizes = cloudSizes(shell);
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
     const std::uint32_t seed = shell.game.random.state;
@@ -119,6 +122,16 @@ void endSteered(Shell& shell, ShiftResult result) {
     tellOfSteeredEnd(shell, result);
 }
 
+/// Its note tells the rest, and stays until the player has read it.
+void endLessonShift(Shell& shell, ShiftResult result) {
+    if (result == ShiftResult::collision) {
+        shell.sounds.stopEffects();
+        clearTicker(shell);
+        shell.tellLater(shell.sounds.playEffect(collisionSound));
+        RadarCollisionRings(shell.radar, shell.game.collisionFlights.front());
+    }
+}
+
 void emptyStrips(Shell& shell) {
     shell.game.listedCount = 0;
     StripsReset(shell.strips);
@@ -151,6 +164,23 @@ void showShift(Shell& shell) {
     beginSounds(shell);
 }
 
+void startPreparedGame(Shell& shell, const std::function<Game(const ShiftSetup&)>& make) {
+    GameSetup setup;
+    setup.kind = ShiftKind::practice;
+    setup.skill = Skill::custom;
+    ShiftSetup wanted = shiftSetup(shell, setup, {});
+    if (wanted.controllerName.empty()) {
+        wanted.controllerName = nameless;
+    }
+    const ClockSeconds lastStepTime = shell.game.lastStepTime;
+    shell.game = make(wanted);
+    shell.game.lastStepTime = lastStepTime;
+    shell.log.shiftBegun(setup.skill, shell.game.random.state);
+    shell.shiftKind = kindOfShift(shell, setup.kind);
+    shell.topBar.clock.pace = paceOfShift(shell);
+    showShift(shell);
+}
+
 void SetPause(Shell& shell, bool on) {
     if (!shell.game.isRunning() || shell.paused == on) {
         return;
@@ -168,6 +198,7 @@ void SetPause(Shell& shell, bool on) {
 
 void EndGame(Shell& shell) {
     shell.replayWriter.giveUp();
+    closeLesson(shell);
     shell.game.phase = Phase::idle;
     shell.mainWindow.invalidate();
     ScrollerClear(shell.scroller);
@@ -192,12 +223,16 @@ void abandonGame(Shell& shell) {
 
 void endShift(Shell& shell, ShiftResult result) {
     keepFinishedShift(shell);
-    shell.mainWindow.capture();
+    if (!shell.lesson) {
+        shell.mainWindow.capture();
+    }
     shell.sounds.stopMusic();
     RadarRepaint(shell.radar);
     shell.radar.window.update(); // the sweep has stopped: nothing would take its line away later
     if (isSteered(shell)) {
         endSteered(shell, result);
+    } else if (shell.lesson) {
+        endLessonShift(shell, result);
     } else if (result == ShiftResult::collision) {
         endWithCollision(shell);
     } else {

@@ -2,6 +2,8 @@
 
 #pragma once
 
+#include <functional>
+
 #include "shell/game_setup.h"
 #include "shell/shell.h"
 
@@ -17,6 +19,9 @@ void startGame(Shell& shell, const GameSetup& setup);
 
 /// The same for a game that has been set up already, which is no shift of the player's own.
 void showShift(Shell& shell);
+
+/// The same with a shift that `make` sets up, of its own generator: a practice shift.
+void startPreparedGame(Shell& shell, const std::function<Game(const ShiftSetup&)>& make);
 
 /// Pauses or resumes the running game; nothing while none runs, or when it is so already.
 void SetPause(Shell& shell, bool on);

@@ -20,6 +20,8 @@ OptionsStore::OptionsStore(std::filesystem::path file)
     auto profile = ProfileFile::read(file_);
     if (profile) {
         atStart_ = std::move(*profile);
+        std::error_code fault;
+        isFirstStart_ = !file_.empty() && !std::filesystem::exists(file_, fault) && !fault;
     } else {
         mayWrite_ = false;
         note(cannotRead, profile.error());

@@ -23,6 +23,9 @@ public:
     /// As the file stood at the start; empty where it could not be read.
     const ProfileFile& atStart() const { return atStart_; }
 
+    /// Whether there was no file at the start, but a place for one: nobody has played here yet.
+    bool isFirstStart() const { return isFirstStart_; }
+
     /// As it stands now; empty where it cannot be read.
     ProfileFile now() const;
 
@@ -38,6 +41,7 @@ private:
 
     std::filesystem::path file_;
     ProfileFile atStart_;
+    bool isFirstStart_ = false;
     bool mayWrite_ = true;
     std::optional<Failure> failure_;
     bool wasTold_ = false;

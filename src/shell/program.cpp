@@ -7,6 +7,7 @@
 #include "platform/widgets/message_box.h"
 #include "shell/game_flow.h"
 #include "shell/high_scores.h"
+#include "shell/lesson_dialogs.h"
 #include "shell/main_window.h"
 #include "shell/option_commands.h"
 #include "shell/presentations.h"
@@ -108,6 +109,9 @@ void Program::showConsole() {
     shell_->sounds.playMusic(idleMusic, true);
     if (!parts_.troubles.empty()) {
         shell_->report(troubleText(parts_.troubles), MessageIcon::stop);
+    }
+    if (parts_.player == Player::newcomer) {
+        shell_->mainWindow.post([this] { welcomeNewcomer(*shell_); });
     }
 }
 

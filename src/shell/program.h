@@ -28,6 +28,9 @@ Size chooseWindowSize(Options& options, Size screen);
 /// What a start shows first.
 enum class FirstScene { opening, console };
 
+/// Whether somebody starts the program for the first time, and is asked what to begin with.
+enum class Player { known, newcomer };
+
 /// The machine and what was opened on it before there is a window. All of it outlives the program.
 struct ProgramParts {
     Backend& backend;
@@ -36,6 +39,7 @@ struct ProgramParts {
     OptionsStore& store;
     std::vector<std::string> troubles = {}; ///< what is missing but not needed; told once the console stands
     FirstScene firstScene = FirstScene::console;
+    Player player = Player::known;
     UtcClock utcNow = systemUtcNow;
 };
 

@@ -7,6 +7,7 @@
 
 #include <array>
 #include <filesystem>
+#include <memory>
 #include <set>
 
 #include "audio/game_sounds.h"
@@ -28,6 +29,7 @@
 #include "shell/conflict_watch.h"
 #include "shell/event_skip.h"
 #include "shell/game_setup.h"
+#include "shell/lesson_run.h"
 #include "shell/log_window.h"
 #include "shell/options_store.h"
 #include "shell/pictures.h"
@@ -109,6 +111,7 @@ struct Shell {
     /// What the simulation speaks to: the log, which must know what the ticker has room for; the player; then
     /// whoever listens, too.
     EventRelay events;
+    std::unique_ptr<LessonRun> lesson; ///< that is being taken
 
     Size windowSize() const { return pictures.console.size(); }
     /// Where everything stands in it.

@@ -7,6 +7,7 @@ namespace ventrel {
 
 std::optional<Millis> Tick(Shell& shell) {
     LogWindowTick(shell);
+    followLesson(shell);
     if (shell.paused && shell.game.isRunning()) {
         return CaptionsTick(shell.captions);
     }

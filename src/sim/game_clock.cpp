@@ -26,6 +26,7 @@ void ClockSkip(GameClock& clock, Game& game, Millis now) {
     game.clock = nextStepTime(game.clock);
     clock.lastClockTick = now;
     clock.sweepIndex = sweepStraightUp;
+    ++clock.skips;
 }
 
 } // namespace ventrel

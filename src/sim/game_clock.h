@@ -47,6 +47,7 @@ struct GameClock {
     Millis lastClockTick = -clockSecondLength - 1; ///< so that the first tick advances at once
     int sweepIndex = sweepStraightUp;              ///< 0 to 119, clockwise from the upper left corner
     Millis lastSweepTick = -sweepStepLength - 1;
+    int skips = 0; ///< how often it has jumped
 };
 
 /// What a tick has made due for painting.

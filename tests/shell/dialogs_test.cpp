@@ -11,6 +11,7 @@
 #include "resources/aids_dialog.h"
 #include "resources/dialogs.h"
 #include "resources/help.h"
+#include "resources/lesson_dialogs.h"
 #include "shell/game_stage.h"
 #include "shell/help_dialog.h"
 #include "shell/plain_program.h"
@@ -37,7 +38,9 @@ std::vector<NamedShape> allShapes() {
                                    shapeOf("Shift Report", shift_report::shape),
                                    shapeOf("About", about::shape),
                                    shapeOf("Aids", aids::shape),
-                                   shapeOf("Watch a Shift", watch_shift::shape)};
+                                   shapeOf("Watch a Shift", watch_shift::shape),
+                                   shapeOf("Lessons", lesson_list::shape),
+                                   shapeOf("First start", first_start::shape)};
     for (std::size_t topic = 0; topic < help::topics.size(); ++topic) {
         NamedShape page{"Help, " + std::string(help::topics[topic]), help::shape.size, {}};
         const int first = help::pageControl(topic, 0);

@@ -11,7 +11,7 @@ folder=$HOME/game
 if [ ! -d "$folder" ]; then
     mkdir "$folder"
     cp "$program" "$folder/ventrel"
-    for data in apt fonts grf mci; do
+    for data in apt fonts grf lessons mci; do
         ln -s "$(dirname "$program")/$data" "$folder/$data"
     done
     mkdir "$folder/snd" # no voices: the shift is that of a silent machine

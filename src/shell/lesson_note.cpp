@@ -1,0 +1,173 @@
+#include "shell/lesson_note.h"
+
+#include "platform/canvas/text.h"
+#include "resources/command_ids.h"
+#include "shell/lesson_places.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr FontRequest titleFont{Face::arial, -12, true};
+constexpr FontRequest textFont{Face::arial, -12, false};
+constexpr FontRequest smallFont{Face::arial, -11, false};
+
+constexpr Colour ink = Colour::rgb(0x2B, 0x27, 0x20);
+constexpr Colour softInk = Colour::rgb(0x7A, 0x70, 0x5C);
+constexpr Colour ruling = Colour::rgb(0xC9, 0xBC, 0x98);
+constexpr Colour edge = Colour::rgb(0x8C, 0x80, 0x62);
+constexpr Colour shadow = Colour::rgb(0x14, 0x14, 0x12);
+constexpr Colour frameColour = Colour::rgb(0xFF, 0xB8, 0x5C);
+
+/// The paper tells at a glance what kind of note it is; the words do so, too.
+constexpr Colour paperOf(NoteKind kind) {
+    switch (kind) {
+    case NoteKind::task: break;
+    case NoteKind::answer: return Colour::rgb(0xFB, 0xDF, 0xB4);
+    case NoteKind::stop: return Colour::rgb(0xF6, 0xCF, 0xBE);
+    case NoteKind::done: return Colour::rgb(0xDD, 0xEC, 0xC6);
+    }
+    return Colour::rgb(0xF7, 0xEF, 0xD4);
+}
+
+// Pixels of the note.
+constexpr int shadowWidth = 2;
+constexpr int margin = 11;
+constexpr int titleTop = 12;
+constexpr int ruleTop = 29;
+constexpr int textTop = 35;
+constexpr int buttonGap = 8; // above and below the buttons
+constexpr Size leaveSize{70, 18};
+constexpr Size goSize{96, 18};
+constexpr int lineWidth = 2; // of the frame
+
+// The pin, from the middle of the upper edge.
+constexpr Rect pinShadow{-3, 3, 7, 11};
+constexpr Rect pinHead{-5, 1, 5, 11};
+constexpr Rect pinShine{-3, 3, 0, 6};
+constexpr Colour pinDark = Colour::rgb(0x7A, 0x1C, 0x16);
+constexpr Colour pinRed = Colour::rgb(0xC8, 0x36, 0x2A);
+constexpr Colour pinLight = Colour::rgb(0xF2, 0x9A, 0x8C);
+
+constexpr int textWidth = lessonNoteWidth - shadowWidth - 2 * margin;
+constexpr TextLayout wrapped{.wrap = true};
+
+/// What its second button says; empty without one.
+std::string goText(const LessonNote& note, const NoteHead& head) {
+    switch (note.kind) {
+    case NoteKind::task:
+    case NoteKind::answer: return note.needsButton ? "Go on   F2" : "";
+    case NoteKind::stop: return "Begin again   F2";
+    case NoteKind::done: return head.hasNextLesson ? "Next lesson   F2" : "";
+    }
+    return {};
+}
+
+} // namespace
+
+LessonNoteWindow::LessonNoteWindow(Shell& shell, NoteHead head) : shell_(shell), head_(std::move(head)) {
+    WindowHandlers handlers;
+    handlers.paint = [this](Canvas& canvas, const Rect&) { paint(canvas); };
+    handlers.cursor = [&shell](Point) { return std::optional<Cursor>(&shell.pictures.arrow); };
+    sheet_ = shell.desktop.create({.parent = shell.mainWindow, .visible = false, .handlers = handlers});
+    const auto button = [&](int id, std::string text) {
+        return createButton(shell.desktop, {.parent = sheet_,
+                                            .id = id,
+                                            .bounds = {},
+                                            .text = std::move(text),
+                                            .font = &shell.fonts.font(smallFont),
+                                            .takesFocus = false,
+                                            .cursor = &shell.pictures.arrow});
+    };
+    leave_ = button(command::leaveLesson, "Leave lesson");
+    go_ = button(command::lessonGoOn, "");
+    createFrame();
+}
+
+LessonNoteWindow::~LessonNoteWindow() {
+    sheet_.destroy();
+    for (const Window& line : frame_) {
+        line.destroy();
+    }
+}
+
+void LessonNoteWindow::createFrame() {
+    for (Window& line : frame_) {
+        line =
+            shell_.desktop.create({.parent = shell_.mainWindow, .visible = false, .background = frameColour});
+    }
+}
+
+int LessonNoteWindow::heightFor(const std::string& text) const {
+    const Font& font = shell_.fonts.font(textFont);
+    return textTop + measureText(font, text, textWidth, wrapped).height + 2 * buttonGap + leaveSize.height +
+           shadowWidth;
+}
+
+void LessonNoteWindow::show(const LessonNote& note) {
+    const auto shown = lessonSpotArea(shell_, note.spot);
+    const Rect place = lessonNotePlace(shell_, heightFor(note.text), shown);
+    const bool isNew = !(note == note_) || !sheet_.isVisible();
+    note_ = note;
+    if (place != sheet_.bounds()) {
+        sheet_.setBounds(place);
+        fitButtons();
+    }
+    if (isNew) {
+        const std::string text = goText(note_, head_);
+        go_.setText(text);
+        go_.window.show(!text.empty());
+        sheet_.show();
+        sheet_.raise();
+        sheet_.invalidateAll();
+    }
+    if (shown != framed_) {
+        moveFrame(shown);
+    }
+}
+
+void LessonNoteWindow::fitButtons() {
+    const int top = sheet_.size().height - shadowWidth - buttonGap - leaveSize.height;
+    const int right = sheet_.size().width - shadowWidth - margin;
+    leave_.window.setBounds(Rect::at({margin, top}, leaveSize));
+    go_.window.setBounds(Rect::at({right - goSize.width, top}, goSize));
+}
+
+void LessonNoteWindow::moveFrame(const std::optional<Rect>& area) {
+    framed_ = area;
+    const Rect box = area.value_or(Rect{});
+    const std::array<Rect, 4> lines{
+        Rect{box.left, box.top, box.right, box.top + lineWidth},
+        Rect{box.left, box.bottom - lineWidth, box.right, box.bottom},
+        Rect{box.left, box.top + lineWidth, box.left + lineWidth, box.bottom - lineWidth},
+        Rect{box.right - lineWidth, box.top + lineWidth, box.right, box.bottom - lineWidth}};
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+        if (area) {
+            frame_[i].setBounds(lines[i]);
+        }
+        frame_[i].show(area.has_value());
+        frame_[i].raise();
+    }
+}
+
+void LessonNoteWindow::paint(Canvas& canvas) const {
+    const Rect all = sheet_.area();
+    const Rect paper{0, 0, all.right - shadowWidth, all.bottom - shadowWidth};
+    canvas.fill(all, shadow);
+    canvas.fill(paper, paperOf(note_.kind));
+    canvas.frame(paper, edge);
+    const Font& title = shell_.fonts.font(titleFont);
+    const Font& small = shell_.fonts.font(smallFont);
+    const std::string count = std::to_string(note_.step + 1) + " / " + std::to_string(head_.steps);
+    drawText(canvas, title, {margin, titleTop}, head_.title, {ink, {}});
+    drawText(canvas, small, {paper.right - margin - small.width(count), titleTop + 1}, count, {softInk, {}});
+    canvas.fill(Rect{margin, ruleTop, paper.right - margin, ruleTop + 1}, ruling);
+    drawTextBox(canvas, shell_.fonts.font(textFont), {margin, textTop, margin + textWidth, paper.bottom},
+                note_.text, {ink, {}}, wrapped);
+    const Point pin{paper.width() / 2, 0};
+    canvas.filledEllipse(pinShadow.movedBy(pin), ruling, ruling);
+    canvas.filledEllipse(pinHead.movedBy(pin), pinDark, pinRed);
+    canvas.filledEllipse(pinShine.movedBy(pin), pinLight, pinLight);
+}
+
+} // namespace ventrel

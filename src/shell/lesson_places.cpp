@@ -1,0 +1,157 @@
+#include "shell/lesson_places.h"
+
+#include <algorithm>
+#include <array>
+
+#include "lessons/lesson_shift.h"
+#include "radar/flight_drawing.h"
+#include "radar/map_geometry.h"
+
+namespace ventrel {
+
+namespace {
+
+constexpr int noteFromEdge = 12;
+constexpr int gap = 3;                       // from what is pointed at to the frame
+constexpr Rect flightArea{-10, -17, 42, 14}; // around an aircraft with its tag
+constexpr Rect scoreSize{0, 0, 100, 14};
+
+std::optional<PointIndex> pointOf(const Shell& shell, const LessonSpot& spot) {
+    return pointOfIdent(shell.game.vors(), spot.point);
+}
+
+std::optional<Rect> flightSpot(const Shell& shell, FlightIndex index) {
+    const Flight& flight = shell.game.flight(index);
+    if (!flight.isOnScope()) {
+        return std::nullopt;
+    }
+    const RadarLayout& layout = shell.radar.layout;
+    return flightArea.movedBy(layout.corner + radarPoint(layout, flight.current().cell));
+}
+
+/// The strips that show a flight, or are about to.
+int stripsInUse(const Shell& shell) {
+    const auto used = std::ranges::count_if(shell.game.flights, isListed);
+    return std::min(static_cast<int>(used), shell.stripSlots());
+}
+
+Rect stripRows(const Shell& shell, int first, int count) {
+    const StripsLayout& strips = shell.console().strips;
+    const int top = strips.column.top + strips.pitch * first;
+    const int bottom = std::min(top + strips.pitch * count, strips.column.bottom);
+    return {strips.firstButton.left, top, strips.column.right, bottom};
+}
+
+Rect stripSpot(const Shell& shell, FlightIndex flight) {
+    const int slot = StripsFlightSlot(shell.strips, flight);
+    return slot == noSlot ? stripRows(shell, 0, std::max(stripsInUse(shell), 1)) : stripRows(shell, slot, 1);
+}
+
+std::optional<Rect> pointSpot(const Shell& shell, const LessonSpot& spot) {
+    const auto point = pointOf(shell, spot);
+    if (!point) {
+        return std::nullopt;
+    }
+    const RadarLayout& layout = shell.radar.layout;
+    return markerBox(layout, shell.game.vor(*point).pixel).grownBy(gap).movedBy(layout.corner);
+}
+
+std::optional<Rect> coneSpot(const Shell& shell, const LessonSpot& spot) {
+    const auto point = pointOf(shell, spot);
+    const auto marker = pointSpot(shell, spot);
+    if (!point || !marker) {
+        return std::nullopt;
+    }
+    const RadarLayout& layout = shell.radar.layout;
+    const Vor& vor = shell.game.vor(*point);
+    Rect area = *marker;
+    if (const auto cone = approachCone(layout, vor.pixel, vor.runwayHeading)) {
+        for (const MapLine& line : *cone) {
+            const Point end = layout.corner + line.to;
+            area = area.unitedWith(Rect::at(end, {1, 1}));
+        }
+    }
+    return area;
+}
+
+/// An area of the control panel.
+Rect onPanel(const Shell& shell, const Rect& part) {
+    return part.movedBy(shell.console().controlPanel.topLeft());
+}
+
+Rect speedLamps() {
+    return panelLayout.fast.press.unitedWith(panelLayout.normal.press).unitedWith(panelLayout.slow.press);
+}
+
+Rect targetSelector() {
+    return panelLayout.targetBox.unitedWith(panelLayout.targetUp).unitedWith(panelLayout.targetDown);
+}
+
+std::optional<Rect> areaOf(const Shell& shell, const LessonSpot& spot) {
+    const ConsoleLayout& console = shell.console();
+    const FlightIndex flight{static_cast<int>(spot.flight.value_or(0))};
+    switch (spot.part) {
+    case DeskPart::nothing: return std::nullopt;
+    case DeskPart::flight: return flightSpot(shell, flight);
+    case DeskPart::strip: return stripSpot(shell, flight);
+    case DeskPart::point: return pointSpot(shell, spot);
+    case DeskPart::cone: return coneSpot(shell, spot);
+    case DeskPart::strips: return stripRows(shell, 0, std::max(stripsInUse(shell), 1));
+    case DeskPart::panel: return console.controlPanel.unitedWith(console.execButton);
+    case DeskPart::dial: return onPanel(shell, panelLayout.dialPress);
+    case DeskPart::altitude:
+        return onPanel(shell, spot.number == 0 ? panelLayout.altitudeWell
+                                               : panelLayout.altitudeBar(spot.number).grownBy(gap));
+    case DeskPart::speed: return onPanel(shell, speedLamps());
+    case DeskPart::direct: return onPanel(shell, panelLayout.directButton);
+    case DeskPart::target: return onPanel(shell, targetSelector());
+    case DeskPart::preview: return onPanel(shell, panelLayout.preview);
+    case DeskPart::exec: return console.execButton;
+    case DeskPart::clock: return console.topBar.clock;
+    case DeskPart::ticker: return console.topBar.ticker;
+    case DeskPart::lamps: return console.topBar.lamps.front().unitedWith(console.topBar.lamps.back());
+    case DeskPart::score: return scoreSize.movedBy(console.radar.corner + console.radar.scorePosition);
+    }
+    return std::nullopt;
+}
+
+bool hidesAnAircraft(const Shell& shell, const Rect& place) {
+    for (const FlightIndex i : shell.game.flightPlaces()) {
+        const auto area = flightSpot(shell, i);
+        if (area && area->intersects(place)) {
+            return true;
+        }
+    }
+    return false;
+}
+
+} // namespace
+
+std::optional<Rect> lessonSpotArea(const Shell& shell, const LessonSpot& spot) {
+    const auto area = areaOf(shell, spot);
+    const Rect window = Rect::at({}, shell.windowSize());
+    return area ? std::optional(area->grownBy(gap).intersectedWith(window)) : std::nullopt;
+}
+
+Rect lessonNotePlace(const Shell& shell, int height, const std::optional<Rect>& shown) {
+    const Size window = shell.windowSize();
+    const Rect radar = radarWindowRect(shell.console().radar);
+    const int right = window.width - noteFromEdge;
+    const int bottom = shell.console().strips.column.bottom + gap;
+    const Size size{lessonNoteWidth, height};
+    const std::array places{
+        Rect::at({right - size.width, bottom - size.height}, size),
+        Rect::at({noteFromEdge, window.height - noteFromEdge - size.height}, size),
+        Rect::at({noteFromEdge, radar.top}, size),
+        Rect::at({right - size.width, shell.console().strips.column.top}, size),
+    };
+    const Rect strips = stripRows(shell, 0, stripsInUse(shell));
+    const auto isFree = [&](const Rect& place) {
+        return !(shown && shown->intersects(place)) && !strips.intersects(place) &&
+               !hidesAnAircraft(shell, place);
+    };
+    const auto* const free = std::ranges::find_if(places, isFree);
+    return free == places.end() ? places.front() : *free;
+}
+
+} // namespace ventrel
