@@ -11,7 +11,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr FontRequest buttonFont{Face::arial, -11, false};
+constexpr FontRequest barButtonFont{Face::arial, -11, false};
 constexpr FontRequest titleFont{Face::arial, -10, true};
 constexpr FontRequest paceFont{Face::arial, -12, true};
 
@@ -22,8 +22,8 @@ constexpr Colour metalDark = Colour::rgb(0x20, 0x24, 0x26);
 constexpr Colour wellGround = Colour::rgb(0, 0, 0);
 constexpr Colour amber = Colour::rgb(255, 159, 82);
 
-constexpr std::string_view practiceTitle = "PRACTICE";
-constexpr std::string_view halfSpeedTitle = "PRACTICE  \xBD \xD7";
+constexpr std::string_view practicePlate = "PRACTICE";
+constexpr std::string_view halfSpeedPlate = "PRACTICE  \xBD \xD7";
 
 constexpr std::array<std::string_view, clockPaces.size()> paceTexts{
     "\xBD \xD7", "1 \xD7", "2 \xD7", "4 \xD7", "8 \xD7", "16 \xD7", "Fastest"};
@@ -81,7 +81,7 @@ void addButton(Shell& shell, int command, std::string text, const Rect& place) {
                                                                      .id = command,
                                                                      .bounds = place,
                                                                      .text = std::move(text),
-                                                                     .font = &shell.fonts.font(buttonFont),
+                                                                     .font = &shell.fonts.font(barButtonFont),
                                                                      .takesFocus = false,
                                                                      .cursor = &shell.pictures.arrow}));
 }
@@ -156,7 +156,7 @@ void SteeringBarFollow(Shell& shell) {
         showPause(shell);
     } else if (isPractice(shell)) {
         const bool isHalf = shell.topBar.clock.pace == ClockPace::half;
-        show(shell, layout.plate, std::string(isHalf ? halfSpeedTitle : practiceTitle), {});
+        show(shell, layout.plate, std::string(isHalf ? halfSpeedPlate : practicePlate), {});
     } else {
         shell.steeringBar.window.destroy();
     }

@@ -1,5 +1,7 @@
 // A shift that the automatic controller plays in the window, practice, and the skip to the next event.
 
+#include <array>
+
 #include "console/steering_bar_layout.h"
 #include "controller/controller.h"
 #include "golden.h"
@@ -80,27 +82,30 @@ TEST_F(WatchTest, AtAnyPaceTheSameShiftIsPlayedAsWithoutAWindow) {
     stage.play();
 }
 
-TEST_F(WatchTest, EachOrderIsSeenOnThePanelBeforeItIsSent) {
+TEST_F(WatchTest, EachOrderIsSeenOnThePanelAndExecGoesDown) {
     watch();
-    auto free = std::make_shared<int>();
-    auto isSent = std::make_shared<bool>();
+    auto orders = std::make_shared<int>();
+    auto edges = std::make_shared<std::array<Pixel, 2>>(); // of EXEC as it stands, and as it is pressed
     for (int moment = 0; moment < 3000; ++moment) {
-        stage.look([this, free, isSent] {
-            const auto& shown = stage.shell().steered.shown;
+        stage.look([this, orders, edges] {
+            const SteeredPlay& play = stage.shell().steered;
             const ControlPanelState& panel = stage.shell().panel.state;
-            if (shown && stage.shell().steered.shownParts == 3) {
-                EXPECT_EQ(panel.flight, shown->flight);
-                EXPECT_TRUE(stage.game().flight(shown->flight).selected);
-                EXPECT_EQ(panel.pending.altitude, shown->order.altitude);
-                EXPECT_EQ(panel.pending.directTarget, shown->order.directTarget);
-                *free = stage.game().freeOrders;
-            } else if (*free != 0 && stage.game().freeOrders < *free) {
-                *isSent = true;
+            const Point edge = stage.shell().console().execButton.topLeft();
+            (*edges)[play.execDown ? 1 : 0] = stage.desktop().picture().at(edge.x, edge.y);
+            if (play.shown && play.shownParts == 3) {
+                ++*orders;
+                EXPECT_EQ(panel.flight, play.shown->flight);
+                EXPECT_TRUE(stage.game().flight(play.shown->flight).selected);
+                EXPECT_EQ(panel.pending.altitude, play.shown->order.altitude);
+                EXPECT_EQ(panel.pending.directTarget, play.shown->order.directTarget);
             }
         });
         stage.wait(20);
     }
-    stage.look([isSent] { EXPECT_TRUE(*isSent); });
+    stage.look([orders, edges] {
+        EXPECT_GT(*orders, 10);
+        EXPECT_NE((*edges)[0], (*edges)[1]);
+    });
     stage.play();
 }
 
