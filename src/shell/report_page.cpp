@@ -2,8 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
-#include <numeric>
 
 #include "base/format.h"
 #include "shell/report_drawings.h"
@@ -80,10 +78,10 @@ void paintHead(Canvas& canvas, const ReportFonts& fonts, const ReportFacts& fact
 
 void paintVerdict(Canvas& canvas, const ReportFonts& fonts, const ShiftStory& story) {
     drawText(canvas, fonts.heading, {side, verdictTop}, verdictOf(story), reportInk(colours::ink));
-    const auto remarks = remarksOn(story);
-    const std::string text = std::accumulate(
-        remarks.begin(), remarks.end(), std::string(),
-        [](std::string all, const std::string& next) { return all.empty() ? next : all + "  " + next; });
+    std::string text;
+    for (const std::string& remark : remarksOn(story)) {
+        text += (text.empty() ? "" : "  ") + remark;
+    }
     drawText(canvas, fonts.text, {side, remarksTop}, text, reportInk(colours::ink));
 }
 
@@ -192,10 +190,12 @@ void paintFlight(Canvas& canvas, const ReportFonts& fonts, const FlightStory& fl
 /// In the order in which they come.
 std::vector<const FlightStory*> flightsByTime(const ShiftStory& story) {
     std::vector<const FlightStory*> flights;
+    flights.reserve(story.flights.size());
     for (const FlightStory& flight : story.flights) {
         flights.push_back(&flight);
     }
-    std::ranges::stable_sort(flights, {}, [](const FlightStory* flight) { return flight->scheduled; });
+    std::ranges::sort(flights, {},
+                      [](const FlightStory* flight) { return std::pair(flight->scheduled, flight); });
     return flights;
 }
 
