@@ -261,7 +261,7 @@ TEST(ColourSight, TheClearColoursAreToldApartByAllEyes) {
     constexpr double atAGlance = 20;
     constexpr double readable = 3;
     const SignalColours& colours = clearSignals;
-    const auto expectApart = [](const std::vector<Colour>& together) {
+    const auto expectApart = [&](const std::vector<Colour>& together) {
         for (const Colour a : together) {
             EXPECT_GT(contrast(luminanceOf(a), luminanceOf(Colour::rgb(64, 8, 0))), readable) << a.value;
             for (const Colour b : together) {
