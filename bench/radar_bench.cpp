@@ -11,6 +11,7 @@
 #include "platform/canvas/image.h"
 #include "platform/headless/headless_backend.h"
 #include "radar/radar_window.h"
+#include "sim/airspace.h"
 
 namespace {
 
@@ -118,6 +119,21 @@ void RadarFrame(benchmark::State& state) {
     }
 }
 BENCHMARK(RadarFrame)->Name("RadarFrame/99flights");
+
+/// The same over the map of an airspace, with its picture (1) or the plain scope (0).
+void RadarFrameOnMap(benchmark::State& state) {
+    Play play;
+    play.game.airspace = loadAirport(PROGRAM_FOLDER "/apt/new_york10.apt").value();
+    play.options.mapDetails = static_cast<int>(state.range(0));
+    RadarDecodePicture(play.radar);
+    RadarBuildMap(play.radar, Bitmap(scopeSquare(play.radar.layout).size()));
+    for (auto _ : state) {
+        play.refillClouds();
+        RadarRepaint(play.radar);
+        play.radar.window.update();
+    }
+}
+BENCHMARK(RadarFrameOnMap)->ArgName("picture")->Arg(0)->Arg(1);
 
 /// The same with one aid, or with all of them; every flight has moved since the frame before.
 struct Aid {
