@@ -52,6 +52,15 @@ TEST_P(EveryLesson, HasAnAnswerToEveryMistake) {
     }
 }
 
+TEST(KeepingApart, EndsInACollisionForWhoDoesNothing) {
+    Pupil pupil(4);
+    while (step(pupil.game, pupil.follower)) {
+        pupil.look();
+    }
+    EXPECT_EQ(pupil.game.phase, Phase::rings);
+    EXPECT_EQ(pupil.look().kind, NoteKind::stop);
+}
+
 TEST(LessonTexts, AreFilledInWithCallsignsAndRunways) {
     const Pupil pupil(0);
     const std::string callsign(std::string_view(pupil.game.flights[0].callsign));
