@@ -166,7 +166,7 @@ protected:
     }
 };
 
-TEST_F(FirstStart, IsOneWithoutAnOptionsFile) {
+TEST(FirstStartOfAll, IsOneWithoutAnOptionsFile) {
     const TempFolder folder;
     EXPECT_TRUE(OptionsStore(folder / "ventrel.ini").isFirstStart());
     writeText(folder / "ventrel.ini", "");
