@@ -23,7 +23,7 @@
 namespace ventrel {
 
 /// Writes down what is to be heard.
-class HeardSounds final : public GameSounds {
+class HeardSounds : public GameSounds {
 public:
     std::vector<std::string> heard; ///< "click", "set", "select", "stop", and names of effects and music
 

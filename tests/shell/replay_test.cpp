@@ -1,0 +1,190 @@
+// Replays in the window: every shift becomes one, is watched as it was played, and taken over.
+
+#include "replay/playback.h"
+#include "replay/replay_folder.h"
+#include "replay/replay_reader.h"
+#include "shell/game_flow.h"
+#include "shell/plain_program.h"
+#include "shell/quiet_shift.h"
+#include "shell/replay_keeping.h"
+#include "shell/steered_play.h"
+
+namespace ventrel {
+namespace {
+
+/// A pilot's call with radio noise draws, as on a machine that is heard.
+class SpeakingSounds final : public HeardSounds {
+public:
+    Result<bool> speak(const SpokenCall& call, RandomGenerator& random) override {
+        if (call.noise && choices().voices) {
+            random.next();
+        }
+        return HeardSounds::speak(call, random);
+    }
+    int voiceSetCount() const override { return 5; }
+};
+
+class ReplayWindowTest : public ::testing::Test {
+protected:
+    PlainProgram program;
+    SpeakingSounds sounds;
+    GameStage stage{800, "[Game]\nName=mary\nSkill=3\n", program.folder(), FirstScene::console, &sounds};
+
+    void choose(Key menu, std::string_view letters) {
+        stage.todo([=](Script& script) { script.key(menu, withAlt).type(letters).wait(20); });
+    }
+    void press(Key key, Modifiers modifiers = {}, int times = 1) {
+        stage.todo([=](Script& script) {
+            for (int i = 0; i < times; ++i) {
+                script.key(key, modifiers).wait(1);
+            }
+        });
+    }
+    /// Has the controller play Hard until that time, or to its end, voices being turned off and on.
+    void playShift(ClockSeconds until) {
+        stage.look([this] { stage.game().random.state = 7; });
+        choose(Key::h, "w");
+        press(Key::enter);
+        press(Key::right, withControl, 4);
+        stage.wait(2000);
+        stage.look([this] { toggleVoices(); });
+        press(Key::space, {}, 2); // some steps are passed over
+        stage.wait(500);
+        stage.look([this] { toggleVoices(); });
+        press(Key::right, withControl, 4);
+        waitFor([this, until] { return !stage.game().isRunning() || stage.game().clock >= until; });
+    }
+    void toggleVoices() {
+        SoundChoices choices = sounds.choices();
+        choices.voices = !choices.voices;
+        sounds.choose(choices);
+    }
+    void waitFor(std::function<bool()> isSo) {
+        stage.todo([this, isSo](Script& script) {
+            if (!isSo()) {
+                script.wait(200);
+                waitFor(isSo);
+            }
+        });
+    }
+    std::vector<KeptReplay> replays() { return listReplays(replayFolder(stage.shell())); }
+    Replay latest() { return replays().at(0).replay.value(); }
+};
+
+/// What the log tells of a story, a line each.
+std::vector<std::string> wordsOf(const ShiftStory& story) {
+    std::vector<std::string> words;
+    for (const LogEntry& entry : story.entries) {
+        words.push_back(std::to_string(entry.clock.count()) + " " + entry.words);
+    }
+    return words;
+}
+
+TEST_F(ReplayWindowTest, AHardShiftIsWatchedAsItWasPlayed) {
+    auto played = std::make_shared<ShiftStory>();
+    auto state = std::make_shared<std::pair<int, std::uint32_t>>();
+    playShift(36000_s);
+    waitFor([this] { return stage.isDialogOpen(); });
+    stage.look([=, this] {
+        *played = stage.shell().log.story();
+        *state = {stage.game().score, stage.game().random.state};
+        ASSERT_EQ(latest().end.value().outcome, ReplayOutcome::handled);
+        // The same without a window.
+        Playback playback{latest()};
+        Game game = replayedGame(playback.replay(), stage.game().airspace).value();
+        SimulationEvents nobody;
+        playback.playUntil(game, 36000_s, nobody);
+        const auto proven = playback.proven(game);
+        EXPECT_TRUE(proven.has_value()) << proven.error().text;
+        EXPECT_EQ(game.random.state, state->second);
+        stage.game().random.state = 4711; // of the next game
+    });
+    press(Key::enter);
+    choose(Key::f, "r");
+    stage.look([this] { ASSERT_TRUE(stage.isDialogOpen()); });
+    press(Key::enter);
+    stage.look([this] { ASSERT_TRUE(isReplaying(stage.shell())); });
+    stage.wait(5000);
+    press(Key::space);
+    press(Key::right, withControl, 9);
+    waitFor([this] { return stage.isDialogOpen(); });
+    stage.look([=, this] {
+        EXPECT_EQ(stage.game().score, state->first);
+        EXPECT_EQ(wordsOf(stage.shell().log.story()), wordsOf(*played));
+        EXPECT_EQ(stage.game().random.state, 4711U) << "the next game draws as if nothing had been watched";
+        EXPECT_EQ(replays().size(), 1U) << "watching keeps nothing";
+    });
+    press(Key::enter);
+    stage.play();
+}
+
+TEST_F(ReplayWindowTest, OneThatWasCutOffIsJumpedInAndTakenOver) {
+    playShift(900_s);
+    auto events = std::make_shared<std::size_t>();
+    stage.look([=, this] {
+        // As the file of a program that was killed here.
+        const std::filesystem::path folder = replayFolder(stage.shell());
+        std::filesystem::copy_file(stage.shell().replayWriter.file(), folder / "killed.replay");
+        *events = readReplay(folder / "killed.replay").value().events.size();
+        abandonGame(stage.shell());
+        EXPECT_TRUE(watchReplay(stage.shell(), readReplay(folder / "killed.replay").value()));
+    });
+    stage.look([this] { jumpInReplay(stage.shell(), 600_s); });
+    stage.wait(3000);
+    stage.look([this] {
+        EXPECT_GE(stage.game().clock, 600_s);
+        EXPECT_FALSE(stage.shell().replayWatch.playback->deviation().has_value());
+        jumpInReplay(stage.shell(), 300_s);
+        EXPECT_EQ(stage.game().clock, 300_s);
+        takeOver(stage.shell());
+    });
+    stage.skipTo(450_s);
+    stage.look([=, this] {
+        EXPECT_FALSE(isSteered(stage.shell()));
+        EXPECT_EQ(stage.shell().shiftKind, ShiftKind::practice);
+        const auto gone = readReplay(stage.shell().replayWriter.file()).value();
+        EXPECT_EQ(gone.header.kind, ReplayKind::practice);
+        EXPECT_LT(gone.events.size(), *events);
+        Playback playback{gone};
+        Game game = replayedGame(gone, stage.game().airspace).value();
+        SimulationEvents nobody;
+        playback.playUntil(game, stage.game().clock, nobody);
+        EXPECT_FALSE(playback.deviation().has_value());
+        EXPECT_EQ(game.random.state, stage.game().random.state);
+        EXPECT_EQ(game.score, stage.game().score);
+    });
+    stage.play();
+}
+
+TEST_F(ReplayWindowTest, OnlyTheLatestTwentyStayButThoseWithAName) {
+    stage.look([this] {
+        const std::filesystem::path folder = replayFolder(stage.shell());
+        std::filesystem::create_directories(folder);
+        for (int i = 10; i < 40; ++i) {
+            writeText(folder / ("shift 2001-01-01 10-00-" + std::to_string(i) + ".replay"), "");
+        }
+        ASSERT_TRUE(keepReplayAs(folder / "shift 2001-01-01 10-00-10.replay", "mine").has_value());
+        EXPECT_FALSE(keepReplayAs(folder / "shift 2001-01-01 10-00-11.replay", "mine").has_value());
+        EXPECT_FALSE(keepReplayAs(folder / "shift 2001-01-01 10-00-11.replay", "../x").has_value());
+    });
+    stage.startNewGame();
+    stage.look([this] {
+        EXPECT_EQ(replays().size(), 21U);
+        EXPECT_TRUE(std::filesystem::exists(replayFolder(stage.shell()) / "mine.replay"));
+    });
+    stage.play();
+}
+
+TEST_F(ReplayWindowTest, AFolderThatCannotBeMadeIsToldOnceAndDisturbsNothing) {
+    stage.look([this] { writeText(replayFolder(stage.shell()), "a file"); });
+    stage.startNewGame();
+    stage.look([this] { EXPECT_TRUE(stage.isDialogOpen()); });
+    press(Key::enter);
+    stage.look([this] { abandonGame(stage.shell()); });
+    stage.startNewGame();
+    stage.look([this] { EXPECT_FALSE(stage.isDialogOpen()); });
+    stage.play();
+}
+
+} // namespace
+} // namespace ventrel
