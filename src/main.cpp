@@ -1,9 +1,9 @@
 // Ventrel: the game on this machine's screen.
 
+#include <algorithm>
 #include <charconv>
 #include <chrono>
 #include <cstdio>
-#include <cstdlib>
 #include <span>
 #include <string>
 #include <string_view>
@@ -39,6 +39,8 @@ constexpr std::string_view usage =
     "\n"
     "    ventrel              plays\n"
     "    ventrel /NOSPLASH    plays without the opening\n"
+    "    ventrel --daily      plays the Shift of the Day at once, the same for everybody on a date (UTC)\n"
+    "    ventrel --seed N     starts chance at N, from 0 to 4294967295, so that the same shifts come\n"
     "    ventrel --version    tells its version\n"
     "    ventrel --help       tells this\n"
     "\n"
@@ -53,6 +55,15 @@ constexpr std::string_view usage =
 void complain(std::string_view text) {
     std::fprintf(stderr, "ventrel: %s\n", toTerminal(text).c_str());
 }
+
+/// Exactly this word leaves the opening out, in any case.
+constexpr std::string_view skipSplash = "/NOSPLASH";
+
+/// What the command line says of the start.
+struct Wishes {
+    FirstScene firstScene = FirstScene::opening;
+    std::optional<std::uint32_t> seed = {}; ///< none: another one at every start
+};
 
 /// What the options file says of the start.
 struct Settings {
@@ -78,23 +89,6 @@ Result<std::unique_ptr<SdlBackend>> openScreen(const Settings& settings,
     options.icon = icon ? &*icon : nullptr;
     options.sound = &sound;
     return openSdlBackend(options);
-}
-
-/// The seed that the environment asks for, with which a game can be played again; none without such a wish,
-/// and, after a complaint, for one that is no number.
-std::optional<std::uint32_t> wantedSeed() {
-    const char* wanted = std::getenv("VENTREL_SEED");
-    if (wanted == nullptr) {
-        return std::nullopt;
-    }
-    const std::string_view digits = wanted;
-    std::uint32_t seed = 0;
-    const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), seed);
-    if (fault != std::errc() || end != digits.data() + digits.size()) {
-        complain("VENTREL_SEED must be a whole number from 0 to 4294967295, not '" + fromUtf8(digits) + "'");
-        return std::nullopt;
-    }
-    return seed;
 }
 
 /// Another one at every start: milliseconds since the machine was started.
@@ -134,7 +128,7 @@ void keepSettings(OptionsStore& store, const Options& options, Size window, cons
 }
 
 /// From start-up to shutdown, within the program's own folder.
-int play(const std::filesystem::path& executable, FirstScene firstScene) {
+int play(const std::filesystem::path& executable, const Wishes& wishes) {
     const std::filesystem::path programFolder = programDataFolder(executable, programName);
     const PlayerPlaces player = playerPlaces(executable, programFolder, programName);
     OptionsStore store(optionsFile(executable, player));
@@ -155,9 +149,9 @@ int play(const std::filesystem::path& executable, FirstScene firstScene) {
     SdlBackend& backend = **screenBackend;
     SoundSystem sounds(*device, device->sequencer(), programFolder);
     const Player who = store.isFirstStart() ? Player::newcomer : Player::known;
-    Program program({backend, data.fonts, sounds, store, std::move(data.troubles), firstScene, who},
+    Program program({backend, data.fonts, sounds, store, std::move(data.troubles), wishes.firstScene, who},
                     {programFolder, player.data, playersAirports()}, settings.options,
-                    wantedSeed().value_or(seedOfTheMoment()));
+                    wishes.seed.value_or(seedOfTheMoment()));
     const auto keep = [&] { keepSettings(store, program.options(), settings.window, backend); };
     {
         const SuddenEnd whenTheScreenIsLost(keep);
@@ -171,31 +165,51 @@ int play(const std::filesystem::path& executable, FirstScene firstScene) {
     return ended;
 }
 
-/// Exactly this word skips the pictures, in any case.
-bool skipsSplash(std::string_view word) {
-    constexpr std::string_view wanted = "/NOSPLASH";
-    return sameWithoutCase(word, wanted);
+/// Whether the command line asks for something in place of playing, which is told then.
+bool isAnswered(std::span<char*> words) {
+    const std::string_view word = words.size() == 1 ? words.front() : "";
+    if (word == "--help") {
+        std::fwrite(usage.data(), 1, usage.size(), stdout);
+    } else if (word == "--version") {
+        std::puts(("ventrel " + std::string(programVersion)).c_str());
+    } else {
+        return false;
+    }
+    return true;
 }
 
-/// What the command line asks for in place of playing, as the status to end with.
-std::optional<int> answerWords(std::span<char*> words) {
-    const std::string_view word = words.empty() ? "" : words.front();
-    if (words.empty() || (words.size() == 1 && skipsSplash(word))) {
-        return std::nullopt;
+std::optional<std::uint32_t> readSeed(std::string_view digits) {
+    std::uint32_t seed = 0;
+    const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), seed);
+    const bool isWhole = fault == std::errc() && end == digits.data() + digits.size();
+    return isWhole ? std::optional(seed) : std::nullopt;
+}
+
+/// What the command line wants of the game; none, after a complaint, for what it cannot mean.
+std::optional<Wishes> readWishes(std::span<char*> words) {
+    Wishes wishes;
+    while (!words.empty()) {
+        const std::string_view word = words.front();
+        words = words.subspan(1);
+        if (sameWithoutCase(word, skipSplash)) {
+            wishes.firstScene = std::max(wishes.firstScene, FirstScene::console);
+        } else if (word == "--daily") {
+            wishes.firstScene = FirstScene::shiftOfTheDay;
+        } else if (word == "--seed") {
+            const std::string_view digits = words.empty() ? "" : words.front();
+            words = words.subspan(words.empty() ? 0 : 1);
+            wishes.seed = readSeed(digits);
+            if (!wishes.seed) {
+                complain("--seed needs a whole number from 0 to 4294967295, not '" + fromUtf8(digits) +
+                         "'; see ventrel --help");
+                return std::nullopt;
+            }
+        } else {
+            complain("unknown argument '" + fromUtf8(word) + "'; see ventrel --help");
+            return std::nullopt;
+        }
     }
-    const bool isAlone = words.size() == 1;
-    if (isAlone && word == "--help") {
-        std::fwrite(usage.data(), 1, usage.size(), stdout);
-        return ended;
-    }
-    if (isAlone && word == "--version") {
-        std::puts(("ventrel " + std::string(programVersion)).c_str());
-        return ended;
-    }
-    const bool isKnown = skipsSplash(word) || word == "--help" || word == "--version";
-    const std::string_view refused = isKnown ? words[1] : word;
-    complain("unknown argument '" + fromUtf8(refused) + "'; see ventrel --help");
-    return wrongUsage;
+    return wishes;
 }
 
 } // namespace
@@ -204,8 +218,13 @@ std::optional<int> answerWords(std::span<char*> words) {
 
 int main(int count, char** words) {
     using namespace ventrel;
-    if (const auto status = answerWords({words + 1, words + count})) {
-        return *status;
+    const std::span<char*> rest{words + 1, words + count};
+    if (isAnswered(rest)) {
+        return ended;
+    }
+    const auto wishes = readWishes(rest);
+    if (!wishes) {
+        return wrongUsage;
     }
     const std::filesystem::path lockFolder = userDataFolder(programName);
     const InstanceLock lock(lockFolder.empty() ? lockFolder : lockFolder / lockName);
@@ -213,6 +232,5 @@ int main(int count, char** words) {
         complain("another copy is running already");
         return ended;
     }
-    const FirstScene firstScene = count > 1 ? FirstScene::console : FirstScene::opening;
-    return play(executableFile(words[0]), firstScene);
+    return play(executableFile(words[0]), *wishes);
 }

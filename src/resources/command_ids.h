@@ -78,6 +78,7 @@ inline constexpr int soundLouder = 4233;
 
 inline constexpr int replays = 4240; ///< the dialog of the replays
 inline constexpr int jumpInReplay = 4241;
+inline constexpr int shiftOfTheDay = 4242;
 
 inline constexpr int shiftLog = 4250; ///< the window of the log: opens, closes
 // Lessons.

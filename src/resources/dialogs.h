@@ -183,6 +183,48 @@ inline constexpr DialogTemplate shape{.title = "Keep Replay As", .size = {167, 4
 
 } // namespace keep_replay
 
+namespace shift_of_day {
+
+inline constexpr int date = 1010;
+inline constexpr int airspace = 1011;
+inline constexpr int level = 1012;
+inline constexpr int best = 1013;
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::groupBox, 0, "Today", {7, 4, 167, 64}},
+    {ControlKind::staticText, 0, "Date (UTC):", {15, 17, 70, 25}},
+    {ControlKind::staticText, 0, "Airspace:", {15, 28, 70, 36}},
+    {ControlKind::staticText, 0, "Level:", {15, 39, 70, 47}},
+    {ControlKind::staticText, 0, "Your best today:", {15, 50, 70, 58}},
+    {ControlKind::staticText, date, "", {75, 17, 160, 25}},
+    {ControlKind::staticText, airspace, "", {75, 28, 160, 36}},
+    {ControlKind::staticText, level, "", {75, 39, 160, 47}},
+    {ControlKind::staticText, best, "", {75, 50, 160, 58}},
+    {ControlKind::staticText, 0, "Everybody plays the same traffic on this date.", {7, 70, 167, 78}},
+    {ControlKind::defaultButton, okId, "&Play", {32, 85, 82, 99}},
+    {ControlKind::pushButton, cancelId, "Cancel", {92, 85, 142, 99}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Shift of the Day", .size = {174, 106}, .controls = controls};
+
+} // namespace shift_of_day
+
+namespace day_result {
+
+inline constexpr int line = 1010;
+inline constexpr int copy = 1011;
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::staticText, line, "", {7, 8, 227, 26}, multiLine},
+    {ControlKind::staticText, 0, "File > Replays... has the replay that proves it.", {7, 30, 227, 38}},
+    {ControlKind::pushButton, copy, "&Copy", {62, 45, 112, 59}},
+    {ControlKind::defaultButton, okId, "OK", {122, 45, 172, 59}},
+})};
+
+inline constexpr DialogTemplate shape{.title = "Shift of the Day", .size = {234, 66}, .controls = controls};
+
+} // namespace day_result
+
 namespace jump_to {
 
 inline constexpr int clock = 1010;

@@ -21,6 +21,7 @@ inline constexpr std::array fileMenuItems{std::to_array<MenuItemTemplate>({
     {"Exit\tAlt+F4", command::exitProgram},
     menuSeparator,
     {"&Replays...", command::replays},
+    {"Shift of the &Day...", command::shiftOfTheDay},
     {"Practice at &Half Speed", command::halfSpeed},
 })};
 

@@ -6,6 +6,7 @@
 #include "controller/controller_stand_in.h"
 #include "shell/about_dialog.h"
 #include "shell/aids_dialog.h"
+#include "shell/day_dialog.h"
 #include "shell/game_flow.h"
 #include "shell/help_dialog.h"
 #include "shell/high_score_dialog.h"
@@ -95,6 +96,16 @@ void takeLesson(Shell& shell) {
     }
 }
 
+void playShiftOfTheDay(Shell& shell) {
+    if (!clearDesk(shell)) {
+        return;
+    }
+    if (const auto setup = runDayDialog(shell)) {
+        putLastGameAway(shell);
+        startDay(shell, *setup);
+    }
+}
+
 void askToEndGame(Shell& shell) {
     if (mayQuitGame(shell)) {
         abandonGame(shell);
@@ -147,6 +158,7 @@ constexpr std::array actions{std::to_array<Action>({
     {command::newGame, newGame},
     {command::endGame, askToEndGame},
     {command::replays, showReplays},
+    {command::shiftOfTheDay, playShiftOfTheDay},
     {command::jumpInReplay, askWhereToJump},
     {command::exitProgram, exitProgram},
     {command::minimise, [](Shell& shell) { shell.desktop.minimise(); }},

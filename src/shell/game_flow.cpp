@@ -1,6 +1,8 @@
 #include "shell/game_flow.h"
 
 #include "console/window_size.h"
+#include "replay/shift_of_the_day.h"
+#include "shell/day_dialog.h"
 #include "shell/high_score_dialog.h"
 #include "shell/high_scores.h"
 #include "shell/practice.h"
@@ -78,8 +80,14 @@ void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setu
     closeLesson(shell);
     const auto sizes = cloudSizes(shell);
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
+    ShiftSetup shift = shiftSetup(shell, setup, sizes);
+    if (setup.day) {
+        const ShiftOfTheDay day = shiftOfTheDay(*setup.day);
+        setUpAsOfTheDay(shift, day);
+        shell.game.random = RandomGenerator{day.seed};
+    }
+    shell.day = setup.day;
     const std::uint32_t seed = shell.game.random.state;
-    const ShiftSetup shift = shiftSetup(shell, setup, sizes);
     shell.game = Game{airspace, shift, shell.game.random};
     shell.game.lastStepTime = lastStepTime;
     shell.log.shiftBegun(setup.skill, seed);
@@ -252,6 +260,7 @@ void onGameOver(Shell& shell) {
         celebrate(shell, *row);
     } else if (shell.shiftKind == ShiftKind::scored) {
         ShowHighScores(shell);
+        tellOfTheDay(shell);
     } else {
         shell.sounds.playMusic(idleMusic, false);
     }

@@ -3,8 +3,10 @@
 #pragma once
 
 #include <filesystem>
+#include <optional>
 #include <string>
 
+#include "replay/utc_time.h"
 #include "sim/shift_setup.h"
 
 namespace ventrel {
@@ -21,6 +23,7 @@ struct GameSetup {
     std::string controllerName; ///< at most 30 characters
     std::string airportName;
     std::filesystem::path airportFile;
+    std::optional<UtcDate> day = {}; ///< of whose Shift of the Day it is; none for any other shift
 };
 
 } // namespace ventrel

@@ -9,6 +9,7 @@
 #include "presentation/movie.h"
 #include "presentation/opening.h"
 #include "presentation/press_release.h"
+#include "shell/day_dialog.h"
 #include "shell/game_flow.h"
 #include "shell/high_score_dialog.h"
 
@@ -92,7 +93,10 @@ void reportCollision(Shell& shell) {
                       .fonts = shell.fonts,
                       .letterhead = std::move(letterhead),
                       .text = composePressRelease(shell.game, date),
-                      .closed = [&shell] { shell.sounds.playMusic(idleMusic, false); }});
+                      .closed = [&shell] {
+                          shell.sounds.playMusic(idleMusic, false);
+                          tellOfTheDay(shell);
+                      }});
 }
 
 void celebrate(Shell& shell, int row) {
@@ -101,7 +105,11 @@ void celebrate(Shell& shell, int row) {
                 .framePicture = std::move(frame),
                 .movie = loadMovie(shell),
                 .playSound = [&shell] { shell.tellLater(shell.sounds.playEffect(movieSound)); },
-                .closed = [&shell, row] { ShowHighScores(shell, row); }});
+                .closed =
+                    [&shell, row] {
+                        ShowHighScores(shell, row);
+                        tellOfTheDay(shell);
+                    }});
 }
 
 } // namespace ventrel

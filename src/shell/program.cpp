@@ -5,6 +5,7 @@
 
 #include "console/window_size.h"
 #include "platform/widgets/message_box.h"
+#include "shell/day_dialog.h"
 #include "shell/game_flow.h"
 #include "shell/high_scores.h"
 #include "shell/lesson_dialogs.h"
@@ -90,7 +91,7 @@ Result<> Program::startUp() {
 }
 
 void Program::finishStartUp() {
-    if (parts_.firstScene == FirstScene::console || showOpening(*shell_)) {
+    if (parts_.firstScene != FirstScene::opening || showOpening(*shell_)) {
         showConsole();
     }
 }
@@ -110,7 +111,11 @@ void Program::showConsole() {
     if (!parts_.troubles.empty()) {
         shell_->report(troubleText(parts_.troubles), MessageIcon::stop);
     }
-    if (parts_.player == Player::newcomer) {
+    if (parts_.firstScene == FirstScene::shiftOfTheDay) {
+        if (const auto setup = setUpOfToday(*shell_)) {
+            startDay(*shell_, *setup);
+        }
+    } else if (parts_.player == Player::newcomer) {
         shell_->mainWindow.post([this] { welcomeNewcomer(*shell_); });
     }
 }

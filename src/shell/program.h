@@ -26,7 +26,7 @@ struct ProgramPlaces {
 Size chooseWindowSize(Options& options, Size screen);
 
 /// What a start shows first.
-enum class FirstScene { opening, console };
+enum class FirstScene { opening, console, shiftOfTheDay };
 
 /// Whether somebody starts the program for the first time, and is asked what to begin with.
 enum class Player { known, newcomer };

@@ -7,6 +7,7 @@
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/widget_place.h"
 #include "replay/replay_folder.h"
+#include "replay/shift_of_the_day.h"
 #include "resources/dialogs.h"
 #include "shell/replay_keeping.h"
 
@@ -14,7 +15,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr std::array<std::string_view, 5> skillNames{"Easy", "Normal", "Moderate", "Hard", "Custom"};
 constexpr std::array<std::string_view, 3> kindNames{"", "Practice", "Shift of the Day"};
 constexpr std::string_view noFolderText = "There is no folder to keep your replays in.";
 constexpr std::string_view noneText = "There are no replays yet: each shift that you play becomes one.";
@@ -59,9 +59,8 @@ std::string rowOf(const KeptReplay& kept) {
     const ReplayHeader& header = kept.replay->header;
     const std::string_view kind = kindNames.at(static_cast<std::size_t>(header.kind));
     return FormatText("%s\t\t%s\t\t%s\t%d of %d\t%s\t%s",
-                      {localTime(header.begun), header.airspaceName,
-                       skillNames.at(static_cast<std::size_t>(header.skill)), long{kept.replay->lastScore},
-                       long{header.possibleScore}, outcomeOf(*kept.replay),
+                      {localTime(header.begun), header.airspaceName, skillName(header.skill),
+                       long{kept.replay->lastScore}, long{header.possibleScore}, outcomeOf(*kept.replay),
                        kept.isKeptByName ? std::string_view(name) : kind});
 }
 

@@ -36,7 +36,11 @@ void keepReplay(Shell& shell, const GameSetup& game, const ShiftSetup& setup, st
     }
     ReplayHeader header = replayHeader(shell.game, setup, seed);
     header.begun = shell.utcNow();
-    header.kind = shell.shiftKind == ShiftKind::practice ? ReplayKind::practice : ReplayKind::scored;
+    if (shell.shiftKind == ShiftKind::practice) {
+        header.kind = ReplayKind::practice;
+    } else {
+        header.kind = game.day ? ReplayKind::day : ReplayKind::scored;
+    }
     header.airspaceFile = game.airportFile.filename().string();
     begin(shell, folder, header.begun,
           [&](const std::filesystem::path& file) { return shell.replayWriter.begin(file, header); });

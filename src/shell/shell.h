@@ -105,7 +105,9 @@ struct Shell {
     ConflictWatch conflicts;
     ShiftLog log; ///< of the shift that is played, or of the last one
     LogWindow logWindow;
-    ReplayWriter replayWriter;        ///< keeps the shift that is played
+    ReplayWriter replayWriter; ///< keeps the shift that is played
+    std::optional<UtcDate> day =
+        {}; ///< of the game, where it is a Shift of the Day that has not been told of
     bool isReplayTroubleTold = false; ///< in this run, that no replays can be kept
     ShiftKeeping keeping;
     /// What the simulation speaks to: the log, which must know what the ticker has room for; the player; then

@@ -93,9 +93,9 @@ words() {
     refused extra /NOSPLASH extra
     refused more --version more
     refused "?[2J" $'\e[2J'
-    VENTREL_SEED=7x start /noSplash
-    stop TERM
-    grep -q "not '7x'" "$work/complaints" || fail "a seed that is no number was taken"
+    refused 7x --seed 7x
+    refused "" /noSplash --seed
+    refused wrong --daily wrong
 }
 
 first_run() {

@@ -22,5 +22,5 @@ own=$XDG_DATA_HOME/ventrel/apt
 mkdir -p "$own"
 cp "$folder/apt/atlanta10.apt" "$own/home.apt"
 printf 'home\0' | dd of="$own/home.apt" bs=1 seek=2 conv=notrunc status=none
-export XDG_RUNTIME_DIR=$folder VENTREL_SEED=7
-exec "$folder/ventrel" /NOSPLASH
+export XDG_RUNTIME_DIR=$folder
+exec "$folder/ventrel" /NOSPLASH --seed 7

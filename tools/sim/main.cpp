@@ -11,6 +11,7 @@
 #include "platform/machine/places.h"
 #include "replay/replay_airspace.h"
 #include "replay/replay_reader.h"
+#include "replay/shift_of_the_day.h"
 #include "tools/sim/arguments.h"
 #include "tools/sim/careless.h"
 #include "tools/sim/interactive.h"
@@ -168,7 +169,10 @@ ExitStatus replayShift(const Arguments& arguments, const std::filesystem::path& 
     if (const auto status = finish(output); status != played) {
         return status;
     }
-    const auto proven = playback.next() == nullptr ? playback.proven(*game) : Result<>{};
+    auto proven = playback.next() == nullptr ? playback.proven(*game) : Result<>{};
+    if (proven) {
+        proven = provenOfTheDay(playback.replay().header);
+    }
     if (!proven) {
         complain(proven.error().text);
         return notAsTold;

@@ -1,0 +1,103 @@
+// The Shift of the Day: the same for everybody, its line to share, and the replay that proves it.
+
+#include "shell/day_dialog.h"
+
+#include "replay/playback.h"
+#include "replay/replay_folder.h"
+#include "shell/plain_program.h"
+#include "shell/quiet_shift.h"
+#include "shell/replay_keeping.h"
+
+namespace ventrel {
+namespace {
+
+TEST(ShiftOfTheDay, GivesEveryAirspaceItsTurnAndEveryDateAnotherSeed) {
+    const UtcDate first = readDate("2026-11-25").value();
+    std::set<std::string_view> airspaces;
+    std::set<std::uint32_t> seeds;
+    for (int i = 0; i < 16; ++i) {
+        const ShiftOfTheDay day = shiftOfTheDay(first + std::chrono::days{i});
+        airspaces.insert(day.airspace);
+        seeds.insert(day.seed);
+        for (const int width : {800, 1024}) {
+            EXPECT_TRUE(std::filesystem::exists(std::filesystem::path(PROGRAM_FOLDER) / "apt" /
+                                                airspaceFileOf(day, width)));
+        }
+    }
+    EXPECT_EQ(airspaces.size(), 16U);
+    EXPECT_EQ(seeds.size(), 16U);
+    // What players have told each other of a date holds for ever.
+    EXPECT_EQ(shiftOfTheDay(first).airspace, "chicago");
+    EXPECT_EQ(shiftOfTheDay(first).skill, Skill::moderate);
+    EXPECT_EQ(shiftOfTheDay(first).seed, 20782U * 2654435761U);
+}
+
+class DayTest : public ::testing::Test {
+protected:
+    PlainProgram program;
+
+    void choose(GameStage& stage) {
+        stage.todo([](Script& script) { script.key(Key::f, withAlt).type("d").wait(20); });
+        stage.look([&stage] { EXPECT_TRUE(stage.isDialogOpen()); });
+        stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+        stage.look([&stage] { ASSERT_TRUE(stage.game().isRunning()); });
+    }
+    static std::string traffic(const Game& game) {
+        std::string text = std::to_string(game.possibleScore);
+        for (const Flight& flight : game.flights) {
+            text += " " + std::string(std::string_view(flight.callsign)) +
+                    std::to_string(flight.scheduledAt.count());
+        }
+        return text;
+    }
+};
+
+TEST_F(DayTest, IsTheSameAtEverySizeAndWithEveryOption) {
+    std::vector<std::string> seen;
+    for (const auto& [width, options] :
+         {std::pair{800, "[Options]\nStormTrak=0\nDirectEntry=0\n[Game]\nSkill=0\n"},
+          std::pair{1024, "[Game]\nSkill=3\n"}}) {
+        GameStage stage{width, options, program.folder()};
+        stage.look([&stage] { stage.game().random.state = 99; });
+        choose(stage);
+        stage.look([&] { seen.push_back(traffic(stage.game())); });
+        stage.play();
+    }
+    ASSERT_EQ(seen.size(), 2U);
+    EXPECT_EQ(seen.front(), seen.back());
+}
+
+TEST_F(DayTest, EndsWithALineToShareAndItsReplayProvesIt) {
+    GameStage stage{800, "[Game]\nName=mary\n", program.folder()};
+    choose(stage);
+    stage.look([&stage] {
+        for (Flight& flight : stage.game().flights) {
+            flight.inPlay = false;
+        }
+    });
+    stage.skip();
+    stage.skip();
+    stage.wait(60000); // the last line scrolls
+    stage.look([&stage] {
+        const auto kept = listReplays(replayFolder(stage.shell()));
+        ASSERT_EQ(kept.size(), 1U);
+        const ReplayHeader& header = kept.front().replay.value().header;
+        EXPECT_EQ(header.kind, ReplayKind::day);
+        EXPECT_TRUE(provenOfTheDay(header).has_value());
+        ReplayHeader other = header;
+        ++other.seed;
+        EXPECT_FALSE(provenOfTheDay(other).has_value());
+    });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(60000); }); // name, table
+    stage.todo([](Script& script) { script.key(Key::enter).wait(1000).key(Key::c, withAlt).wait(20); });
+    stage.look([&stage] {
+        const std::string line = stage.backend.clipboard();
+        EXPECT_NE(line.find("Ventrel Shift of the Day "), std::string::npos) << line;
+        EXPECT_NE(line.find(" points"), std::string::npos) << line;
+        EXPECT_NE(readText(stage.profile()).find("[Day]"), std::string::npos);
+    });
+    stage.play();
+}
+
+} // namespace
+} // namespace ventrel
