@@ -140,6 +140,10 @@ private:
         if (kind == orderWord) {
             return readNumbers(words, orderRules, [this](const auto& numbers) { addOrder(numbers); });
         }
+        if (kind == practiceWord && words.size() == 2) {
+            replay_.header.kind = ReplayKind::practice;
+            return {};
+        }
         if (kind == noiseWord) {
             return readNoise(words);
         }

@@ -235,6 +235,10 @@ std::string replayLine(const ReplayEnd& end) {
                          std::to_string(end.score));
 }
 
+std::string practiceLine(ClockSeconds clock) {
+    return timedLine(clock, practiceWord);
+}
+
 bool readWholeNumber(std::string_view text, long long lowest, long long highest, long long& number) {
     const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
     return error == std::errc{} && end == text.data() + text.size() && number >= lowest && number <= highest;

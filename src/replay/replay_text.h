@@ -22,6 +22,7 @@ inline constexpr std::string_view stepWord = "step";
 inline constexpr std::string_view lampWord = "lamp";
 inline constexpr std::string_view orderWord = "order";
 inline constexpr std::string_view noiseWord = "noise";
+inline constexpr std::string_view practiceWord = "practice";
 inline constexpr std::string_view endWord = "end";
 
 /// One line of the header: how it is written, and how it is read. Every key stands once, in this order.
@@ -40,6 +41,7 @@ std::string replayHeaderText(const ReplayHeader& header);
 std::string replayLine(const ReplayEvent& event);
 std::string replayLine(ClockSeconds clock, const NoiseChange& change);
 std::string replayLine(const ReplayEnd& end);
+std::string practiceLine(ClockSeconds clock);
 
 /// A whole number from `lowest` to `highest` and nothing else.
 bool readWholeNumber(std::string_view text, long long lowest, long long highest, long long& number);

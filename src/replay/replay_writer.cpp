@@ -47,6 +47,13 @@ void ReplayWriter::callMade(bool isDrawn) {
     ++calls_;
 }
 
+void ReplayWriter::becomePractice() {
+    if (header_.kind != ReplayKind::practice) {
+        header_.kind = ReplayKind::practice;
+        write(practiceLine(game_.clock));
+    }
+}
+
 void ReplayWriter::giveUp() {
     end(ReplayOutcome::givenUp);
 }

@@ -30,6 +30,9 @@ public:
     /// A call with radio noise was made, and drew how long the noise lasts, or nothing.
     void callMade(bool isDrawn);
 
+    /// From now on it is no scored shift any more.
+    void becomePractice();
+
     /// The player has left the shift, if one is still being written.
     void giveUp();
 

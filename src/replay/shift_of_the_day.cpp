@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "base/format.h"
+#include "replay/shift_report.h"
 
 namespace ventrel {
 
@@ -14,8 +15,6 @@ constexpr std::uint32_t seedFactor = 2'654'435'761;
 /// From Sunday on, as `std::chrono::weekday` counts.
 constexpr std::array weekdaySkills{Skill::hard,   Skill::easy,     Skill::normal, Skill::moderate,
                                    Skill::normal, Skill::moderate, Skill::hard};
-
-constexpr std::array<std::string_view, 5> skillNames{"Easy", "Normal", "Moderate", "Hard", "Custom"};
 
 } // namespace
 
@@ -53,10 +52,6 @@ Result<> provenOfTheDay(const ReplayHeader& header) {
         return failed("This is not the Shift of the Day of " + dateText(day.date) + ".");
     }
     return {};
-}
-
-std::string_view skillName(Skill skill) {
-    return skillNames.at(static_cast<std::size_t>(skill));
 }
 
 std::string dayResultText(const ShiftOfTheDay& day, std::string_view airspace, int score, int possible,

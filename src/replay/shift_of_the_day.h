@@ -41,8 +41,6 @@ void setUpAsOfTheDay(ShiftSetup& setup, const ShiftOfTheDay& day);
 /// Fails, by what differs, when the header calls its shift that of the day on which it began, and it is not.
 Result<> provenOfTheDay(const ReplayHeader& header);
 
-std::string_view skillName(Skill skill);
-
 /// What a player tells others: "Ventrel Shift of the Day 2026-11-25: London, Hard, 5875 of 6100 points".
 std::string dayResultText(const ShiftOfTheDay& day, std::string_view airspace, int score, int possible,
                           bool isCollision);

@@ -80,7 +80,8 @@ inline constexpr std::string_view deskText =
     "top, so a strip may change its place. Grey strips are announced and cannot be selected yet.\n"
     "\n"
     "To learn: Help > Watch a Shift has the program play on your desk until you take over, and File > "
-    "Practice at Half Speed gives you twice the time. Neither enters high scores.";
+    "Practice at Half Speed gives you twice the time. Neither enters high scores. File > Replays shows your "
+    "last shifts again.";
 
 inline constexpr std::string_view arrivalText =
     "Flights to an airport (*) land when they come over it on the heading of its runway, at 1,000 ft. They "

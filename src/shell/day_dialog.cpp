@@ -2,6 +2,7 @@
 
 #include "base/format.h"
 #include "platform/widgets/dialog.h"
+#include "replay/shift_report.h"
 #include "resources/dialogs.h"
 #include "shell/airport_catalogue.h"
 #include "shell/controller_name.h"

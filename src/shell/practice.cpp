@@ -26,6 +26,7 @@ void switchHalfSpeed(Shell& shell) {
         return;
     }
     shell.shiftKind = ShiftKind::practice;
+    shell.replayWriter.becomePractice();
     shell.topBar.clock.pace = paceOfShift(shell);
     showKindOfPlay(shell);
 }

@@ -182,6 +182,7 @@ void beginSteering(Shell& shell, std::unique_ptr<StandIn> standIn, SteeringSetup
     shell.steered = {
         .standIn = std::move(standIn), .setup = std::move(setup), .lastStepSeen = shell.game.lastStepTime};
     shell.shiftKind = ShiftKind::practice;
+    shell.replayWriter.becomePractice();
     shell.panel.window.enable(false); // its presses go to the main window, which asks
     setPace(shell, pace);
 }

@@ -168,7 +168,9 @@ TEST(Replay, IsRefusedByFileAndLineWhereNoWriterWroteIt) {
         std::string_view fault;
     };
     for (const auto& [text, fault] : std::to_array<Case>({
-             {"15 step 1 0\n15 lamp 3\n20 order 0 1 45 -1 0 1\n20 noise 3 1\n21 end collision 5\n", "none"},
+             {"15 step 1 0\n15 lamp 3\n16 practice\n20 order 0 1 45 -1 0 1\n20 noise 3 1\n21 end collision "
+              "5\n",
+              "none"},
              {"15 step 1 0\n14 lamp 3\n", "a.replay:21: the clock goes back"},
              {"15 step 1\n", "a.replay:20: step has 2 numbers, not 1"},
              {"15 step 4294967296 0\n", "random must be"},
