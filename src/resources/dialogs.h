@@ -141,21 +141,25 @@ inline constexpr int list = 1007;
 inline constexpr int keep = 1030;
 inline constexpr int remove = 1031;
 
-/// Between two columns of the list. Date and airspace take two.
-inline constexpr int tabStop = 42;
+/// The columns of the list begin at multiples of it: date, airspace, level, score, outcome, what it is kept
+/// as.
+inline constexpr int tabStop = 8;
+inline constexpr std::array columnStops{0, 9, 18, 24, 32, 38};
+inline constexpr int pastLastStop = 49;
 /// Where the list's text begins; the heads of its columns stand over their stops.
 inline constexpr int textLeft = 10;
-constexpr Rect headAt(int stop) {
-    return {textLeft + stop * tabStop, 6, textLeft + (stop + 1) * tabStop, 14};
+constexpr Rect headAt(std::size_t column) {
+    return {textLeft + columnStops.at(column) * tabStop, 6, textLeft + (columnStops.at(column) + 6) * tabStop,
+            14};
 }
 
 inline constexpr std::array controls{std::to_array<ControlTemplate>({
     {ControlKind::staticText, 0, "DATE", headAt(0)},
-    {ControlKind::staticText, 0, "AIRSPACE", headAt(2)},
-    {ControlKind::staticText, 0, "LEVEL", headAt(4)},
-    {ControlKind::staticText, 0, "SCORE", headAt(5)},
-    {ControlKind::staticText, 0, "OUTCOME", headAt(6)},
-    {ControlKind::staticText, 0, "KEPT AS", headAt(7)},
+    {ControlKind::staticText, 0, "AIRSPACE", headAt(1)},
+    {ControlKind::staticText, 0, "LEVEL", headAt(2)},
+    {ControlKind::staticText, 0, "SCORE", headAt(3)},
+    {ControlKind::staticText, 0, "OUTCOME", headAt(4)},
+    {ControlKind::staticText, 0, "KEPT AS", headAt(5)},
     {ControlKind::listBox, list, "", {7, 16, 413, 132}},
     {ControlKind::defaultButton, okId, "&Watch", {97, 139, 147, 153}},
     {ControlKind::pushButton, keep, "&Keep As...", {157, 139, 207, 153}},

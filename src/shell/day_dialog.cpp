@@ -70,7 +70,7 @@ std::optional<GameSetup> runDayDialog(Shell& shell) {
         dialog.setText(shift_of_day::date, dateText(day.date));
         dialog.setText(shift_of_day::airspace, setup->airportName);
         dialog.setText(shift_of_day::level, std::string(skillName(day.skill)));
-        dialog.setText(shift_of_day::best, best ? std::to_string(*best) : "not played yet");
+        dialog.setText(shift_of_day::best, best ? std::to_string(*best) : "no score yet");
     };
     const int result = runDialog(
         shell.desktop, shell.widgetFonts, shell.mainWindow, shift_of_day::shape,

@@ -51,18 +51,40 @@ std::string outcomeOf(const Replay& replay) {
     return {};
 }
 
-/// Date, airspace, level, score, outcome and what it is, between tab characters.
-std::string rowOf(const KeptReplay& kept) {
+/// As much of the text as fits before the next column, and the tabs that lead there.
+std::string cell(const Font& font, std::string text, std::size_t column) {
+    const int tab = dialogUnitsAcross(replay_list::tabStop);
+    const auto& stops = replay_list::columnStops;
+    const bool isLast = column + 1 == stops.size();
+    const int next = isLast ? replay_list::pastLastStop : stops.at(column + 1);
+    const int room = (next - stops.at(column)) * tab;
+    while (!text.empty() && font.width(text) >= room) {
+        text.pop_back();
+    }
+    const int tabs = isLast ? 0 : (room - font.width(text) + tab - 1) / tab;
+    return text + std::string(static_cast<std::size_t>(tabs), '\t');
+}
+
+/// Date, airspace, level, score, outcome and what it is.
+std::string rowOf(const Font& font, const KeptReplay& kept) {
     const std::string name = pathText(kept.file.stem());
     if (!kept.replay) {
-        return name + "\t\t\t(cannot be read)";
+        return name + " cannot be read";
     }
     const ReplayHeader& header = kept.replay->header;
     const std::string_view kind = kindNames.at(static_cast<std::size_t>(header.kind));
-    return FormatText("%s\t\t%s\t\t%s\t%d of %d\t%s\t%s",
-                      {localTime(header.begun), header.airspaceName, skillName(header.skill),
-                       long{kept.replay->lastScore}, long{header.possibleScore}, outcomeOf(*kept.replay),
-                       kept.isKeptByName ? std::string_view(name) : kind});
+    const std::array columns{
+        localTime(header.begun),
+        header.airspaceName,
+        std::string(skillName(header.skill)),
+        FormatText("%d of %d", {long{kept.replay->lastScore}, long{header.possibleScore}}),
+        outcomeOf(*kept.replay),
+        kept.isKeptByName ? name : std::string(kind)};
+    std::string row;
+    for (std::size_t column = 0; column < columns.size(); ++column) {
+        row += cell(font, columns.at(column), column);
+    }
+    return row;
 }
 
 /// Lists them, and chooses the one at that place.
@@ -72,7 +94,7 @@ void list(Replays& replays, Dialog& dialog, int chosen) {
     box.clear();
     box.setTabWidth(dialogUnitsAcross(replay_list::tabStop));
     for (const KeptReplay& kept : replays.kept) {
-        box.add(rowOf(kept));
+        box.add(rowOf(replays.shell.widgetFonts.text, kept));
     }
     const bool isAny = !replays.kept.empty();
     box.select(isAny ? std::min(chosen, static_cast<int>(replays.kept.size()) - 1) : noListItem);

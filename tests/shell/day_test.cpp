@@ -57,7 +57,8 @@ TEST_F(DayTest, IsTheSameAtEverySizeAndWithEveryOption) {
     for (const auto& [width, options] :
          {std::pair{800, "[Options]\nStormTrak=0\nDirectEntry=0\n[Game]\nSkill=0\n"},
           std::pair{1024, "[Game]\nSkill=3\n"}}) {
-        GameStage stage{width, options, program.folder()};
+        const PlainProgram own; // each stage takes its folder with it
+        GameStage stage{width, options, own.folder()};
         stage.look([&stage] { stage.game().random.state = 99; });
         choose(stage);
         stage.look([&] { seen.push_back(traffic(stage.game())); });
