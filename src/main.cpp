@@ -205,7 +205,10 @@ std::optional<Wishes> readWishes(std::span<char*> words) {
                 return std::nullopt;
             }
         } else {
-            complain("unknown argument '" + fromUtf8(word) + "'; see ventrel --help");
+            // What stands alone is known: then it is the next that is too much.
+            const bool isKnown = (word == "--help" || word == "--version") && !words.empty();
+            complain("unknown argument '" + fromUtf8(isKnown ? words.front() : word) +
+                     "'; see ventrel --help");
             return std::nullopt;
         }
     }

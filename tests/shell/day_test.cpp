@@ -32,27 +32,25 @@ TEST(ShiftOfTheDay, GivesEveryAirspaceItsTurnAndEveryDateAnotherSeed) {
     EXPECT_EQ(shiftOfTheDay(first).seed, 20782U * 2654435761U);
 }
 
-class DayTest : public ::testing::Test {
-protected:
-    PlainProgram program;
+/// File, Shift of the Day, and Play.
+void choose(GameStage& stage) {
+    stage.todo([](Script& script) { script.key(Key::f, withAlt).type("d").wait(20); });
+    stage.look([&stage] { EXPECT_TRUE(stage.isDialogOpen()); });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+    stage.look([&stage] { ASSERT_TRUE(stage.game().isRunning()); });
+}
 
-    void choose(GameStage& stage) {
-        stage.todo([](Script& script) { script.key(Key::f, withAlt).type("d").wait(20); });
-        stage.look([&stage] { EXPECT_TRUE(stage.isDialogOpen()); });
-        stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
-        stage.look([&stage] { ASSERT_TRUE(stage.game().isRunning()); });
+/// Who comes when, and what it is worth.
+std::string traffic(const Game& game) {
+    std::string text = std::to_string(game.possibleScore);
+    for (const Flight& flight : game.flights) {
+        text +=
+            " " + std::string(std::string_view(flight.callsign)) + std::to_string(flight.scheduledAt.count());
     }
-    static std::string traffic(const Game& game) {
-        std::string text = std::to_string(game.possibleScore);
-        for (const Flight& flight : game.flights) {
-            text += " " + std::string(std::string_view(flight.callsign)) +
-                    std::to_string(flight.scheduledAt.count());
-        }
-        return text;
-    }
-};
+    return text;
+}
 
-TEST_F(DayTest, IsTheSameAtEverySizeAndWithEveryOption) {
+TEST(ShiftOfTheDay, IsTheSameAtEverySizeAndWithEveryOption) {
     std::vector<std::string> seen;
     for (const auto& [width, options] :
          {std::pair{800, "[Options]\nStormTrak=0\nDirectEntry=0\n[Game]\nSkill=0\n"},
@@ -68,7 +66,8 @@ TEST_F(DayTest, IsTheSameAtEverySizeAndWithEveryOption) {
     EXPECT_EQ(seen.front(), seen.back());
 }
 
-TEST_F(DayTest, EndsWithALineToShareAndItsReplayProvesIt) {
+TEST(ShiftOfTheDay, EndsWithALineToShareAndItsReplayProvesIt) {
+    const PlainProgram program;
     GameStage stage{800, "[Game]\nName=mary\n", program.folder()};
     choose(stage);
     stage.look([&stage] {
