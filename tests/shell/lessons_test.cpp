@@ -134,6 +134,7 @@ TEST(LessonNotes, FitBelowFiveStripsAtBothSizesAndHideNothingThatTheySpeakOf) {
         GameStage stage(width);
         stage.look([&] {
             Shell& shell = stage.shell();
+            startLesson(shell, 4); // for its flights
             const StripsLayout& places = shell.console().strips;
             const int room = places.column.bottom - places.column.top - strips * places.pitch;
             for (const auto& file : programLessons(shell)) {
@@ -168,9 +169,9 @@ protected:
 
 TEST(FirstStartOfAll, IsOneWithoutAnOptionsFile) {
     const TempFolder folder;
-    EXPECT_TRUE(OptionsStore(folder / "ventrel.ini").isFirstStart());
-    writeText(folder / "ventrel.ini", "");
-    EXPECT_FALSE(OptionsStore(folder / "ventrel.ini").isFirstStart());
+    EXPECT_TRUE(OptionsStore(folder / "fresh.ini").isFirstStart());
+    writeText(folder / "fresh.ini", "");
+    EXPECT_FALSE(OptionsStore(folder / "fresh.ini").isFirstStart());
     EXPECT_FALSE(OptionsStore("").isFirstStart()) << "it would be one at every start";
 }
 
