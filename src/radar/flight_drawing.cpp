@@ -6,6 +6,10 @@ namespace ventrel {
 
 namespace {
 
+// How bright the line to a tag is.
+constexpr unsigned leaderPart = 3;
+constexpr unsigned wholePart = 5;
+
 // All relative to the flight's radar point.
 constexpr Point symbolOffset{-4, -4};
 constexpr Rect blinkBoxAround{-8, -16, 32, 16};
@@ -45,7 +49,7 @@ void drawFlight(Canvas& canvas, const RadarLayout& layout, const Flight& flight,
     const TagTexts texts = tagTexts(flight, look.vors, look.contents);
     const TagStand stand = tagStand(measureTag(texts, look.font, look.letters), at, look.place);
     if (look.place != usualTagPlace) {
-        drawTagLeader(canvas, at, stand.box, colour);
+        drawTagLeader(canvas, at, stand.box, dimmed(colour, leaderPart, wholePart));
     }
     DrawAircraftSymbol(canvas, at + symbolOffset, colour, step.heading);
     drawTag(canvas, look.font, texts, stand, colour);

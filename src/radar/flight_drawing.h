@@ -26,6 +26,12 @@ struct FlightColours {
 /// Those that the airport file chooses, or the player.
 FlightColours flightColours(const Airspace& airspace, const Options& options);
 
+/// A part of a colour on the way from black.
+constexpr Colour dimmed(Colour colour, unsigned part, unsigned whole) {
+    return Colour::rgb(colour.red() * part / whole, colour.green() * part / whole,
+                       colour.blue() * part / whole);
+}
+
 /// The colour of a flight's symbol and tags: an alert's before the selection's.
 Colour tagColour(const Flight& flight, const FlightColours& colours);
 

@@ -25,14 +25,6 @@ void follow(Trail& trail, const Flight& flight) {
     trail.count = std::min(trail.count + 1, trail.cells.size());
 }
 
-/// A part of a colour on the way from black.
-Colour dimmed(Colour colour, std::size_t part, std::size_t whole) {
-    const auto of = [&](unsigned channel) {
-        return channel * static_cast<unsigned>(part) / static_cast<unsigned>(whole);
-    };
-    return Colour::rgb(of(colour.red()), of(colour.green()), of(colour.blue()));
-}
-
 } // namespace
 
 void followFlights(FlightHistory& history, std::span<const Flight> flights) {
@@ -49,7 +41,7 @@ void drawHistory(Canvas& canvas, const RadarLayout& layout, std::span<const Flig
         const Colour colour = flights[i].selected ? colours.selected : colours.flight;
         for (std::size_t age = trail.count; age-- > 1;) {
             canvas.fill(dotAround.movedBy(radarPoint(layout, trail.cells[age])),
-                        dimmed(colour, trailDots + 2 - age, trailDots + 2));
+                        dimmed(colour, static_cast<unsigned>(trailDots + 2 - age), trailDots + 2));
         }
     }
 }

@@ -16,7 +16,6 @@ constexpr Colour pauseColour = Colour::rgb(0xFF, 0xFF, 0xFF);
 constexpr Size pauseBox{200, 50};
 constexpr FontRequest pauseFont{Face::arial, -40, true};
 constexpr FontRequest rimPauseFont{Face::arial, -20, true};
-constexpr int rimPauseDrop = 6; // pixels below the scope's upper edge
 
 constexpr ClockSeconds blinkPeriod = 2_s;
 /// The last clock second, after it became active, in which a flight blinks.
@@ -82,15 +81,14 @@ void drawScore(RadarWindow& radar, Canvas& canvas) {
 void drawPause(RadarWindow& radar, Canvas& canvas) {
     const int size = radar.layout.scopeSize;
     const Rect middle = Rect::at({(size - pauseBox.width) / 2, (size - pauseBox.height) / 2}, pauseBox);
-    TextLayout layout{.across = Align::middle, .down = Align::middle, .singleLine = true, .clip = false};
+    const TextLayout layout{
+        .across = Align::middle, .down = Align::middle, .singleLine = true, .clip = false};
     if (radar.sources.options.aidPauseAtRim == 0) {
         drawTextBox(canvas, radar.sources.fonts.font(pauseFont), middle, "PAUSE", {pauseColour, {}}, layout);
         return;
     }
-    layout.down = Align::near;
-    Rect rim = radar.layout.scopeEllipse;
-    rim.top += rimPauseDrop;
-    drawTextBox(canvas, radar.sources.fonts.font(rimPauseFont), rim, "PAUSE", {pauseColour, {}}, layout);
+    drawTextBox(canvas, radar.sources.fonts.font(rimPauseFont), rimPauseBox(radar.layout), "PAUSE",
+                {pauseColour, {}}, layout);
 }
 
 std::optional<UnsentOrder> unsentOrder(const RadarWindow& radar) {

@@ -41,13 +41,27 @@ std::vector<TaggedFlight> taggedFlights(const AidScene& scene) {
     return tagged;
 }
 
+std::optional<Centreline> centrelineOf(const AidScene& scene, const Vor& vor, const Font& labels) {
+    if (!vor.isAirport || scene.options.aidRunways == 0) {
+        return std::nullopt;
+    }
+    const Size number{labels.width("00"), labels.lineHeight()};
+    return centreline(scene.layout, vor.pixel, vor.runwayHeading, number);
+}
+
 TagSurroundings surroundings(const AidScene& scene) {
     const Font& labels = scene.fonts.font(mapLabelFont(scene.layout));
     TagSurroundings around{scene.layout.scopeEllipse, {Rect::at(scene.layout.scorePosition, scoreSize)}};
+    if (scene.options.aidPauseAtRim != 0) {
+        around.landmarks.push_back(rimPauseBox(scene.layout));
+    }
     for (const Vor& vor : scene.game.vors()) {
         const Size size{labels.width(vor.ident), labels.lineHeight()};
         around.landmarks.push_back(Rect::at(labelCorner(scene.layout, vor, size), size));
         around.landmarks.push_back(markerBox(scene.layout, vor.pixel));
+        if (const auto line = centrelineOf(scene, vor, labels)) {
+            around.landmarks.push_back(line->number);
+        }
     }
     return around;
 }

@@ -26,6 +26,14 @@ struct AidScene {
     const RadarLayout& layout;
 };
 
+/// Where PAUSE stands at the rim.
+constexpr Rect rimPauseBox(const RadarLayout& layout) {
+    constexpr Size room{70, 24};
+    constexpr int drop = 6; // below the scope's upper edge
+    const Rect& scope = layout.scopeEllipse;
+    return Rect::at({scope.left + (scope.width() - room.width) / 2, scope.top + drop}, room);
+}
+
 /// Whether there is something on the scope that a plain one does not have.
 bool hasScopeAids(const Options& options);
 

@@ -18,15 +18,15 @@ constexpr int perCornerOutside = 2000;
 constexpr int perRank = 6;
 
 /// By so much another place must be better before a tag goes there.
-constexpr int patience = 40;
+constexpr int patience = 80;
 /// Pixels around the usual place that must be free before a tag goes back.
-constexpr int returnRoom = 5;
+constexpr int returnRoom = 8;
 /// Pixels by which a tag stays off the scope's edge.
 constexpr int rimGap = 2;
-constexpr int rounds = 3;
+constexpr int rounds = 2;
 
 /// No tag reaches farther from its flight, in pixels.
-constexpr Size reach{100, 60};
+constexpr Size reach{100, 50};
 
 int overlap(const Rect& a, const Rect& b) {
     const Rect common = a.intersectedWith(b);
@@ -40,31 +40,30 @@ struct Obstacles {
     std::vector<Rect> landmarks;
 };
 
+/// The tags as they stand at present.
 struct Arrangement {
     TagOrder& order;
     const TagSurroundings& around;
+    std::vector<Rect> boxes = {}; ///< of the flights in their order
 
     std::uint8_t& place(const TaggedFlight& flight) const { return order.places[flight.flight.place()]; }
-    Rect box(const TaggedFlight& flight) const { return tagStand(flight.tag, flight.at, place(flight)).box; }
 };
 
-void gather(Obstacles& near, const Arrangement& all, const TaggedFlight& self) {
+void gather(Obstacles& near, const Arrangement& all, std::size_t self) {
     near.tags.clear();
     near.symbols.clear();
     near.landmarks.clear();
-    const Rect area{self.at.x - reach.width, self.at.y - reach.height, self.at.x + reach.width,
-                    self.at.y + reach.height};
-    for (const TaggedFlight& other : all.order.flights) {
-        const Point apart = other.at - self.at;
-        const bool isNear = std::abs(apart.x) < 2 * reach.width && std::abs(apart.y) < 2 * reach.height;
-        if (other.flight == self.flight || !isNear) {
+    const Point at = all.order.flights[self].at;
+    const Rect area{at.x - reach.width, at.y - reach.height, at.x + reach.width, at.y + reach.height};
+    for (std::size_t other = 0; other < all.boxes.size(); ++other) {
+        if (other == self) {
             continue;
         }
-        if (const Rect box = all.box(other); box.intersects(area)) {
-            near.tags.push_back(box);
+        if (all.boxes[other].intersects(area)) {
+            near.tags.push_back(all.boxes[other]);
         }
-        if (const Rect box = symbolBox(other.at); box.intersects(area)) {
-            near.symbols.push_back(box);
+        if (area.contains(all.order.flights[other].at)) {
+            near.symbols.push_back(symbolBox(all.order.flights[other].at));
         }
     }
     std::ranges::copy_if(all.around.landmarks, std::back_inserter(near.landmarks),
@@ -108,23 +107,30 @@ std::size_t cheapestPlace(const Arrangement& all, const Obstacles& near, const T
     return best;
 }
 
-/// Whether the tag has gone elsewhere.
-bool reconsider(const Arrangement& all, Obstacles& near, const TaggedFlight& self) {
-    gather(near, all, self);
-    std::uint8_t& place = all.place(self);
-    const int now = costAt(all, near, self, place);
-    if (place == usualTagPlace && now == 0) {
-        return false;
+/// The place to stand at now. A tag that is in nobody's way only ever goes back to the usual one.
+std::size_t placeFor(const Arrangement& all, const Obstacles& near, const TaggedFlight& self) {
+    const std::size_t now = all.place(self);
+    if (now != usualTagPlace && mayReturn(all, near, self)) {
+        return usualTagPlace;
     }
-    if (place != usualTagPlace && mayReturn(all, near, self)) {
-        place = usualTagPlace;
-        return true;
+    const int cost = costAt(all, near, self, now);
+    if (cost <= static_cast<int>(now) * perRank) {
+        return now;
     }
     const std::size_t best = cheapestPlace(all, near, self);
-    if (costAt(all, near, self, best) + patience >= now) {
+    return costAt(all, near, self, best) + patience < cost ? best : now;
+}
+
+/// Whether the tag has gone elsewhere.
+bool reconsider(Arrangement& all, Obstacles& near, std::size_t number) {
+    const TaggedFlight& self = all.order.flights[number];
+    gather(near, all, number);
+    const std::size_t place = placeFor(all, near, self);
+    if (place == all.place(self)) {
         return false;
     }
-    place = static_cast<std::uint8_t>(best);
+    all.place(self) = static_cast<std::uint8_t>(place);
+    all.boxes[number] = tagStand(self.tag, self.at, place).box;
     return true;
 }
 
@@ -154,13 +160,17 @@ void arrangeTags(TagOrder& order, std::vector<TaggedFlight> flights, const TagSu
     }
     order.flights = std::move(flights);
     keepPlaces(order);
-    const Arrangement all{order, around};
+    Arrangement all{order, around};
+    all.boxes.reserve(order.flights.size());
+    for (const TaggedFlight& flight : order.flights) {
+        all.boxes.push_back(tagStand(flight.tag, flight.at, all.place(flight)).box);
+    }
     Obstacles near;
     bool hasMoved = true;
     for (int round = 0; round < rounds && hasMoved; ++round) {
         hasMoved = false;
-        for (const TaggedFlight& flight : order.flights) {
-            hasMoved = reconsider(all, near, flight) || hasMoved;
+        for (std::size_t number = 0; number < order.flights.size(); ++number) {
+            hasMoved = reconsider(all, near, number) || hasMoved;
         }
     }
 }

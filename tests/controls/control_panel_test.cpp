@@ -20,6 +20,31 @@ TEST(PanelTest, TakesAFlightAsItFlies) {
     EXPECT_EQ(stage.take(), (Lines{"exec on", "exec off"}));
 }
 
+TEST(PanelTest, MarksWhatExecWouldChange) {
+    PanelStage stage;
+    Flight& flight = stage.fly();
+    CtrlSetFlight(stage.panel, FlightIndex{0});
+    const auto unsent = [&](PlanStep now, PlanStep goal, PlanStep order) {
+        flight.plan = {now, goal};
+        stage.panel.state.pending = order;
+        const UnsentSettings marks = unsentSettings(stage.panel.state, stage.game);
+        return std::string(marks.heading ? "h" : "") + (marks.altitude ? "a" : "") +
+               (marks.speed ? "s" : "") + (marks.direct ? "d" : "");
+    };
+    const PlanStep now = flying(5, 90);
+    const PlanStep goal = flying(8, 180);
+    EXPECT_EQ(unsent(now, goal, now), "") << "as it flies: the pilot does not change a thing";
+    EXPECT_EQ(unsent(now, goal, goal), "") << "it is told that already";
+    EXPECT_EQ(unsent(now, goal, flying(5, 180)), "a") << "it would no longer climb";
+    EXPECT_EQ(unsent(now, goal, atSpeed(Speed::fast, goal)), "s");
+    EXPECT_EQ(unsent(now, goal, flying(8, 90, 2)), "d");
+    EXPECT_EQ(unsent(flying(5, 90, 2), flying(5, 45), flying(6, 90, 2)), "a");
+    EXPECT_EQ(unsent(flying(5, 90, 2), flying(5, 45), flying(5, 45)), "h") << "off the direct course";
+    EXPECT_EQ(unsent(flying(5, 90, 1, true), flying(5, 45), flying(5, 90, 3, true)), "");
+    flight.groundState = GroundState::waiting;
+    EXPECT_EQ(unsent(now, goal, flying(5, 180)), "");
+}
+
 TEST(PanelTest, TheSelectorRunsInARingOverThePointsAndHold) {
     PanelStage stage;
     stage.fly();
