@@ -70,7 +70,8 @@ void drawHeadingLines(Canvas& canvas, const RadarLayout& layout, std::span<const
     }
 }
 
-void drawOrderLine(Canvas& canvas, const RadarLayout& layout, const Game& game, const UnsentOrder& unsent) {
+void drawOrderLine(Canvas& canvas, const RadarLayout& layout, const Game& game, const UnsentOrder& unsent,
+                   Colour colour) {
     const Flight& flight = game.flight(unsent.flight);
     if (changesNothing(game, flight, unsent.order)) {
         return;
@@ -79,7 +80,7 @@ void drawOrderLine(Canvas& canvas, const RadarLayout& layout, const Game& game, 
     planOrder(game, steered, unsent.order);
     const std::vector<Cell> way = wayAhead(steered);
     if (way != wayAhead(flight)) {
-        drawDashes(canvas, layout, way, game.airspace->selectedFlightColour);
+        drawDashes(canvas, layout, way, colour);
     }
 }
 

@@ -26,6 +26,7 @@ void drawHeadingLines(Canvas& canvas, const RadarLayout& layout, std::span<const
                       Colour colour);
 
 /// The way that EXEC would have the flight fly, dashed; nothing when it flies that way already.
-void drawOrderLine(Canvas& canvas, const RadarLayout& layout, const Game& game, const UnsentOrder& unsent);
+void drawOrderLine(Canvas& canvas, const RadarLayout& layout, const Game& game, const UnsentOrder& unsent,
+                   Colour colour);
 
 } // namespace ventrel

@@ -96,7 +96,8 @@ void drawUnderFlights(Canvas& canvas, const ScopeAids& aids, const AidScene& sce
         drawHeadingLines(canvas, scene.layout, game.flights, game.airspace->routeColour);
     }
     if (unsent) {
-        drawOrderLine(canvas, scene.layout, game, *unsent);
+        drawOrderLine(canvas, scene.layout, game, *unsent,
+                      flightColours(*game.airspace, scene.options).selected);
     }
 }
 
