@@ -135,8 +135,8 @@ void RadarFrameOnMap(benchmark::State& state) {
 }
 BENCHMARK(RadarFrameOnMap)->ArgName("picture")->Arg(0)->Arg(1);
 
-/// The plain frame with one aid, or with all of them; in every third frame all flights have moved, as in play fast
-/// ones have.
+/// The plain frame with one aid, or with all of them; in every third frame all flights have moved, as in play
+/// fast ones have.
 struct Aid {
     const char* name;
     int Options::* option; ///< null: all
