@@ -181,7 +181,9 @@ TEST_F(GameEndTest, ACollisionSpreadsRingsForEightSecondsAndEndsTheGame) {
     stage.look([this] {
         EXPECT_FALSE(stage.game().isRunning());
         EXPECT_EQ(stage.game().collisionFlights, (std::array{FlightIndex{1}, FlightIndex{0}}));
-        EXPECT_EQ(stage.sounds.count("snd\\collide.snd"), 1);
+        const auto crash = std::ranges::find(stage.sounds.heard, "snd\\collide.snd");
+        ASSERT_NE(crash, stage.sounds.heard.end());
+        EXPECT_EQ(*(crash - 1), "stop effects") << "who was speaking speaks on";
         EXPECT_FALSE(isOnTicker("")) << "what waited to be read";
     });
     stage.wait(7000);

@@ -43,7 +43,6 @@ protected:
     void openFromMenu() {
         stage().todo([](Script& script) { script.key(Key::o, withAlt).key(Key::down).key(Key::down); });
         stage().todo([](Script& script) { script.key(Key::down).key(Key::down).key(Key::enter).wait(20); });
-        stage().look([this] { EXPECT_TRUE(stage().isDialogOpen()); });
     }
     Point onPicture(Point place) {
         const Size screen = stage().desktop().size();
@@ -160,6 +159,20 @@ TEST_F(HighScoreDialogTest, DeletionAsksFirst) {
         EXPECT_EQ(readText(file()), std::string(1040, '\0'));
     });
     expectOpen(true, "after the deletion");
+    stage().play();
+}
+
+TEST_F(HighScoreDialogTest, WithoutItsPictureNothingIsShownOrTold) {
+    stage().look([this] {
+        fs::remove(stage().shell().programFolder / "grf/hiscore.grf");
+        stage().sounds.heard.clear();
+    });
+    openFromMenu();
+    expectOpen(false, "without the picture");
+    stage().look([this] {
+        EXPECT_EQ(stage().sounds.count("mci\\idle.mci"), 1);
+        EXPECT_TRUE(stage().backend.beeps().empty());
+    });
     stage().play();
 }
 

@@ -64,6 +64,7 @@ TEST_F(EndingsTest, TenTakeNoMoreMemoryThanOne) {
         endWithCollision();
         stage.look([this, &afterOne, round] {
             ASSERT_FALSE(stage.isDialogOpen() || stage.game().isRunning());
+            EXPECT_EQ(stage.sounds.count("grf\\main.snd"), 1) << "the film is silent";
             stage.sounds.heard = {};
             const std::size_t used = ::mallinfo2().uordblks + ::mallinfo2().hblkhd;
             afterOne = round == 1 ? used : afterOne;
