@@ -55,7 +55,7 @@ struct TagStand {
 };
 
 /// `at` is the flight's radar point.
-TagStand tagStand(const TagMeasures& measures, Point at, std::size_t place);
+TagStand tagStand(const TagMeasures& tag, Point at, std::size_t place);
 
 /// The box that the symbol takes.
 Rect symbolBox(Point at);

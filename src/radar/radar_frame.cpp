@@ -116,6 +116,7 @@ void paintFrame(RadarWindow& radar, NewFlights look) {
 /// Hides or shows the flight by its own little box.
 void blinkFlight(RadarWindow& radar, const Flight& flight, ClockSeconds now) {
     Canvas buffer(radar.backBuffer);
+    assert(radar.map);
     buffer.setClip(radar.scope);
     const Rect box = blinkBox(radarPoint(radar.layout, flight.current().cell));
     buffer.draw(box, *radar.map, box);

@@ -66,7 +66,9 @@ fs::path freshReplayFile(const fs::path& folder, UtcMoment begun) {
     fs::path file = folder / (name + extension);
     std::error_code ignored;
     for (int i = 2; fs::exists(file, ignored); ++i) {
-        file = folder / (name + " " + std::to_string(i) + extension);
+        std::string numbered = name;
+        numbered.append(" ").append(std::to_string(i)).append(extension);
+        file = folder / numbered;
     }
     return file;
 }
@@ -96,7 +98,7 @@ Result<fs::path> keepReplayAs(const fs::path& file, std::string_view name) {
         name.find('/') != std::string_view::npos || std::ranges::any_of(fromUtf8(name), isControlCharacter)) {
         return failed("A replay cannot have the name '" + fromUtf8(name) + "'.", MessageIcon::information);
     }
-    const fs::path kept = file.parent_path() / (std::string{name} + std::string{replayExtension});
+    fs::path kept = file.parent_path() / (std::string{name} + std::string{replayExtension});
     if (isAutomatic(kept)) {
         return failed("Names that begin as this one does are those of the latest shifts.",
                       MessageIcon::information);

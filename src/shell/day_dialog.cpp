@@ -16,7 +16,6 @@ namespace {
 constexpr std::string_view daySection = "Day";
 constexpr std::string_view dateKey = "Date";
 constexpr std::string_view scoreKey = "Score";
-constexpr std::string_view nameKey = "Name";
 
 ShiftOfTheDay today(const Shell& shell) {
     return shiftOfTheDay(std::chrono::floor<std::chrono::days>(shell.utcNow()));

@@ -8,14 +8,14 @@ namespace ventrel {
 
 namespace {
 
-constexpr FontRequest titleFont{Face::arial, -12, true};
-constexpr FontRequest textFont{Face::arial, -12, false};
-constexpr FontRequest smallFont{Face::arial, -11, false};
+constexpr FontRequest noteTitleFont{Face::arial, -12, true};
+constexpr FontRequest noteFont{Face::arial, -12, false};
+constexpr FontRequest noteSmallFont{Face::arial, -11, false};
 
 constexpr Colour ink = Colour::rgb(0x2B, 0x27, 0x20);
 constexpr Colour softInk = Colour::rgb(0x7A, 0x70, 0x5C);
 constexpr Colour ruling = Colour::rgb(0xC9, 0xBC, 0x98);
-constexpr Colour edge = Colour::rgb(0x8C, 0x80, 0x62);
+constexpr Colour paperEdge = Colour::rgb(0x8C, 0x80, 0x62);
 constexpr Colour shadow = Colour::rgb(0x14, 0x14, 0x12);
 constexpr Colour frameColour = Colour::rgb(0xFF, 0xB8, 0x5C);
 
@@ -32,7 +32,7 @@ constexpr Colour paperOf(NoteKind kind) {
 
 // Pixels of the note.
 constexpr int shadowWidth = 2;
-constexpr int margin = 11;
+constexpr int paperMargin = 11;
 constexpr int titleTop = 12;
 constexpr int ruleTop = 29;
 constexpr int textTop = 35;
@@ -49,7 +49,7 @@ constexpr Colour pinDark = Colour::rgb(0x7A, 0x1C, 0x16);
 constexpr Colour pinRed = Colour::rgb(0xC8, 0x36, 0x2A);
 constexpr Colour pinLight = Colour::rgb(0xF2, 0x9A, 0x8C);
 
-constexpr int textWidth = lessonNoteWidth - shadowWidth - 2 * margin;
+constexpr int textWidth = lessonNoteWidth - shadowWidth - 2 * paperMargin;
 constexpr TextLayout wrapped{.wrap = true};
 
 /// What its second button says; empty without one.
@@ -75,7 +75,7 @@ LessonNoteWindow::LessonNoteWindow(Shell& shell, NoteHead head) : shell_(shell),
                                             .id = id,
                                             .bounds = {},
                                             .text = std::move(text),
-                                            .font = &shell.fonts.font(smallFont),
+                                            .font = &shell.fonts.font(noteSmallFont),
                                             .takesFocus = false,
                                             .cursor = &shell.pictures.arrow});
     };
@@ -99,7 +99,7 @@ void LessonNoteWindow::createFrame() {
 }
 
 int LessonNoteWindow::heightFor(const std::string& text) const {
-    const Font& font = shell_.fonts.font(textFont);
+    const Font& font = shell_.fonts.font(noteFont);
     return textTop + measureText(font, text, textWidth, wrapped).height + 2 * buttonGap + leaveSize.height +
            shadowWidth;
 }
@@ -128,8 +128,8 @@ void LessonNoteWindow::show(const LessonNote& note) {
 
 void LessonNoteWindow::fitButtons() {
     const int top = sheet_.size().height - shadowWidth - buttonGap - leaveSize.height;
-    const int right = sheet_.size().width - shadowWidth - margin;
-    leave_.window.setBounds(Rect::at({margin, top}, leaveSize));
+    const int right = sheet_.size().width - shadowWidth - paperMargin;
+    leave_.window.setBounds(Rect::at({paperMargin, top}, leaveSize));
     go_.window.setBounds(Rect::at({right - goSize.width, top}, goSize));
 }
 
@@ -155,15 +155,17 @@ void LessonNoteWindow::paint(Canvas& canvas) const {
     const Rect paper{0, 0, all.right - shadowWidth, all.bottom - shadowWidth};
     canvas.fill(all, shadow);
     canvas.fill(paper, paperOf(note_.kind));
-    canvas.frame(paper, edge);
-    const Font& title = shell_.fonts.font(titleFont);
-    const Font& small = shell_.fonts.font(smallFont);
+    canvas.frame(paper, paperEdge);
+    const Font& title = shell_.fonts.font(noteTitleFont);
+    const Font& small = shell_.fonts.font(noteSmallFont);
     const std::string count = std::to_string(note_.step + 1) + " / " + std::to_string(head_.steps);
-    drawText(canvas, title, {margin, titleTop}, head_.title, {ink, {}});
-    drawText(canvas, small, {paper.right - margin - small.width(count), titleTop + 1}, count, {softInk, {}});
-    canvas.fill(Rect{margin, ruleTop, paper.right - margin, ruleTop + 1}, ruling);
-    drawTextBox(canvas, shell_.fonts.font(textFont), {margin, textTop, margin + textWidth, paper.bottom},
-                note_.text, {ink, {}}, wrapped);
+    drawText(canvas, title, {paperMargin, titleTop}, head_.title, {ink, {}});
+    drawText(canvas, small, {paper.right - paperMargin - small.width(count), titleTop + 1}, count,
+             {softInk, {}});
+    canvas.fill(Rect{paperMargin, ruleTop, paper.right - paperMargin, ruleTop + 1}, ruling);
+    drawTextBox(canvas, shell_.fonts.font(noteFont),
+                {paperMargin, textTop, paperMargin + textWidth, paper.bottom}, note_.text, {ink, {}},
+                wrapped);
     const Point pin{paper.width() / 2, 0};
     canvas.filledEllipse(pinShadow.movedBy(pin), ruling, ruling);
     canvas.filledEllipse(pinHead.movedBy(pin), pinDark, pinRed);

@@ -72,7 +72,7 @@ void remember(Shell& shell, LessonRun& run) {
 
 } // namespace
 
-LessonRun::LessonRun(Shell& shell, Lesson lesson, std::size_t place)
+LessonRun::LessonRun(Shell& shell, const Lesson& lesson, std::size_t place)
     : number(place), follower(lesson), note(shell, headOf(shell, lesson, place)) {}
 
 std::vector<std::filesystem::path> programLessons(const Shell& shell) {

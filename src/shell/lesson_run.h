@@ -14,7 +14,7 @@ namespace ventrel {
 struct Shell;
 
 struct LessonRun {
-    LessonRun(Shell& shell, Lesson lesson, std::size_t number);
+    LessonRun(Shell& shell, const Lesson& lesson, std::size_t place);
 
     std::size_t number; ///< among the lessons, from 0
     LessonFollower follower;

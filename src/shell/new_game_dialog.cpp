@@ -10,7 +10,6 @@ namespace ventrel {
 
 namespace {
 
-constexpr std::string_view nameKey = "Name";
 constexpr int easySkill = 0;
 constexpr int customSkill = 4;
 

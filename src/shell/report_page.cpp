@@ -15,8 +15,8 @@ namespace colours = report_look;
 constexpr FontRequest pageTitleFont{Face::arial, -20, true};
 constexpr FontRequest scoreFont{Face::arial, -30, true};
 constexpr FontRequest headingFont{Face::arial, -12, true};
-constexpr FontRequest textFont{Face::msSansSerif, -11, false};
-constexpr FontRequest smallFont{Face::smallFonts, 10, false};
+constexpr FontRequest pageFont{Face::msSansSerif, -11, false};
+constexpr FontRequest pageSmallFont{Face::smallFonts, 10, false};
 
 /// Where everything stands on the page.
 constexpr Rect head{0, 0, reportPageSize.width, 70};
@@ -223,8 +223,8 @@ void paintFlights(Canvas& canvas, const ReportFonts& fonts, const ReportFacts& f
 } // namespace
 
 ReportFonts reportFontsOf(FontSet& fonts) {
-    return {fonts.font(pageTitleFont), fonts.font(scoreFont), fonts.font(headingFont), fonts.font(textFont),
-            fonts.font(smallFont)};
+    return {fonts.font(pageTitleFont), fonts.font(scoreFont), fonts.font(headingFont), fonts.font(pageFont),
+            fonts.font(pageSmallFont)};
 }
 
 int reportFlightRows(const ReportFonts& fonts, int pageHeight) {

@@ -20,9 +20,11 @@ ScrollerSources scrollerSources(Shell& shell) {
 std::optional<UnsentOrder> unsentOrder(const Shell& shell) {
     const ControlPanelState& panel = shell.panel.state;
     const Flight* flight = panelFlight(panel, shell.game);
-    const bool canBeFlown = flight != nullptr && flight->isOnScope() &&
-                            judgeOrder(shell.game, *panel.flight, panel.pending) == OrderVerdict::accepted;
-    return canBeFlown ? std::optional(UnsentOrder{*panel.flight, panel.pending}) : std::nullopt;
+    if (!panel.flight || flight == nullptr || !flight->isOnScope() ||
+        judgeOrder(shell.game, *panel.flight, panel.pending) != OrderVerdict::accepted) {
+        return std::nullopt;
+    }
+    return UnsentOrder{*panel.flight, panel.pending};
 }
 
 RadarCallbacks radarCallbacks(Shell& shell) {

@@ -13,6 +13,7 @@ namespace ventrel {
 
 /// Of the options file, which keeps what was chosen.
 inline constexpr std::string_view gameSection = "Game";
+inline constexpr std::string_view nameKey = "Name"; ///< of the controller
 inline constexpr std::string_view skillKey = "Skill";
 
 /// All airspaces. Damaged files are told of in one box, and each only once.

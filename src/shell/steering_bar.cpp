@@ -12,7 +12,7 @@ namespace ventrel {
 namespace {
 
 constexpr FontRequest barButtonFont{Face::arial, -11, false};
-constexpr FontRequest titleFont{Face::arial, -10, true};
+constexpr FontRequest barTitleFont{Face::arial, -10, true};
 constexpr FontRequest paceFont{Face::arial, -12, true};
 
 constexpr Colour metalTop = Colour::rgb(0x72, 0x7C, 0x7F);
@@ -67,7 +67,7 @@ void paintBar(const Shell& shell, Canvas& canvas) {
     const TextLayout middle{.across = Align::middle, .down = Align::middle};
     const TextStyle ink{amber, std::nullopt};
     paintMetal(canvas, bar.window.area());
-    const Font& title = shell.fonts.font(titleFont);
+    const Font& title = shell.fonts.font(barTitleFont);
     drawTextBox(canvas, title, places(shell).title, bar.title, ink, middle);
     if (!bar.pace.empty()) {
         const Rect& well = places(shell).pace;
