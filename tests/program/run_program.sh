@@ -184,6 +184,7 @@ lost_screen() {
     export DISPLAY SDL_VIDEODRIVER=x11
     printf '[Options]\nWindowed=1\n' >"$options"
     start
+    until_true "the console" test -e "$(dirname "$options")/hiscore.dat" # the screen is open before it is cared for
     kill -KILL "$server"
     ends_with 1
     has_line Music=1
