@@ -36,8 +36,7 @@ void complain(std::string_view text) {
 
 /// The controller's, somebody careless, one after the other, or nobody's.
 Steering steeringOf(const Game& game, const Arguments& arguments) {
-    const Steering controller =
-        arguments.controller ? automaticSteering(game, arguments.lookAhead) : Steering{};
+    Steering controller = arguments.controller ? automaticSteering(game, arguments.lookAhead) : Steering{};
     if (!arguments.careless) {
         return controller;
     }
@@ -148,13 +147,14 @@ Result<AirspacePtr> airspaceFor(const Arguments& arguments, const ReplayHeader& 
         return loadAirport(arguments.airport);
     }
     const std::filesystem::path playersOwn = userDataFolder("ventrel");
-    const std::array folders{program.parent_path() / airportFolder,
+    const std::array folders{programDataFolder(program, "ventrel") / airportFolder,
                              playersOwn.empty() ? playersOwn : playersOwn / airportFolder};
     return findReplayAirspace(header, folders);
 }
 
-ExitStatus replayShift(const Arguments& arguments, const std::filesystem::path& program) {
-    auto replay = readReplay(*arguments.replay);
+ExitStatus replayShift(const Arguments& arguments, const std::filesystem::path& file,
+                       const std::filesystem::path& program) {
+    auto replay = readReplay(file);
     const auto airspace = replay ? airspaceFor(arguments, replay->header, program)
                                  : Result<AirspacePtr>{tl::unexpected(replay.error())};
     auto game = airspace ? replayedGame(*replay, *airspace) : Result<Game>{tl::unexpected(airspace.error())};
@@ -192,7 +192,8 @@ int runTool(const char* program, std::span<const char* const> words) {
         std::fwrite(helpText().data(), 1, helpText().size(), stdout);
         return played;
     }
-    return arguments.replay ? replayShift(arguments, executableFile(program)) : play(arguments);
+    return arguments.replay ? replayShift(arguments, *arguments.replay, executableFile(program))
+                            : play(arguments);
 }
 
 } // namespace
