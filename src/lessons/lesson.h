@@ -142,7 +142,7 @@ struct Lesson {
 };
 
 /// Characters that the texts may have, so that they fit where they are shown.
-inline constexpr std::size_t longestLessonName = 28;
+inline constexpr std::size_t longestLessonName = 22;
 inline constexpr std::size_t longestLessonAbout = 220;
 inline constexpr std::size_t longestNoteText = 240;
 
