@@ -83,11 +83,13 @@ void startDay(Shell& shell, const GameSetup& setup) {
 }
 
 void tellOfTheDay(Shell& shell) {
-    if (!shell.day || shell.shiftKind != ShiftKind::scored) {
+    const auto date = shell.day;
+    if (!date || shell.shiftKind != ShiftKind::scored) {
         return;
     }
+    shell.day = std::nullopt;
     const Game& game = shell.game;
-    const ShiftOfTheDay day = shiftOfTheDay(*std::exchange(shell.day, std::nullopt));
+    const ShiftOfTheDay day = shiftOfTheDay(*date);
     const bool isCollision = shell.log.story().end == ShiftEnd::collision;
     if (!isCollision) {
         keepScore(shell, day, game.score);
