@@ -9,6 +9,9 @@ source "$(dirname "${BASH_SOURCE[0]}")/real_window.sh"
 open_display installed
 prefix="$work/Spiele für Jörg"
 cmake --install "$1" --prefix "$prefix" >"$work/installing" || fail "cmake --install failed"
+for folder in apt fonts grf lessons mci snd; do
+    diff -rq "$1/ventrel/$folder" "$prefix/share/ventrel/$folder" || fail "$folder was not installed whole"
+done
 chmod -R a-w "$prefix"
 trap 'chmod -R u+w "$prefix"; cleanup' EXIT
 
