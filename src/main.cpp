@@ -1,7 +1,6 @@
 // Ventrel: the game on this machine's screen.
 
 #include <algorithm>
-#include <charconv>
 #include <chrono>
 #include <cstdio>
 #include <span>
@@ -11,6 +10,7 @@
 #include "audio/sound_system.h"
 #include "base/letters.h"
 #include "base/version.h"
+#include "base/whole_number.h"
 #include "base/windows1252.h"
 #include "platform/machine/instance_lock.h"
 #include "platform/machine/places.h"
@@ -178,13 +178,6 @@ bool isAnswered(std::span<char*> words) {
     return true;
 }
 
-std::optional<std::uint32_t> readSeed(std::string_view digits) {
-    std::uint32_t seed = 0;
-    const auto [end, fault] = std::from_chars(digits.data(), digits.data() + digits.size(), seed);
-    const bool isWhole = fault == std::errc() && end == digits.data() + digits.size();
-    return isWhole ? std::optional(seed) : std::nullopt;
-}
-
 /// What the command line wants of the game; none, after a complaint, for what it cannot mean.
 std::optional<Wishes> readWishes(std::span<char*> words) {
     Wishes wishes;
@@ -198,7 +191,7 @@ std::optional<Wishes> readWishes(std::span<char*> words) {
         } else if (word == "--seed") {
             const std::string_view digits = words.empty() ? "" : words.front();
             words = words.subspan(words.empty() ? 0 : 1);
-            wishes.seed = readSeed(digits);
+            wishes.seed = wholeNumber<std::uint32_t>(digits);
             if (!wishes.seed) {
                 complain("--seed needs a whole number from 0 to 4294967295, not '" + fromUtf8(digits) +
                          "'; see ventrel --help");

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 #include "base/bytes.h"
 #include "base/whole_file.h"
+#include "base/whole_number.h"
 #include "base/windows1252.h"
 #include "lessons/lesson_phrases.h"
 
@@ -115,10 +115,12 @@ private:
     }
 
     Result<> readSeed(std::string_view rest) {
-        const auto [end, fault] = std::from_chars(rest.data(), rest.data() + rest.size(), lesson_.seed);
-        return fault == std::errc{} && end == rest.data() + rest.size()
-                   ? Result<>{}
-                   : Result<>(failed("a seed is a whole number from 0 to 4294967295"));
+        const auto seed = wholeNumber<std::uint32_t>(rest);
+        if (!seed) {
+            return failed("a seed is a whole number from 0 to 4294967295");
+        }
+        lesson_.seed = *seed;
+        return {};
     }
 
     Result<> readFlight(std::string_view rest) {

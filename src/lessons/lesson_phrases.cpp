@@ -1,8 +1,8 @@
 #include "lessons/lesson_phrases.h"
 
 #include <array>
-#include <charconv>
 
+#include "base/whole_number.h"
 #include "lessons/lesson_words.h"
 #include "sim/grid.h"
 
@@ -54,8 +54,8 @@ std::optional<ClockSeconds> clockTime(std::string_view word) {
     if (colon == std::string_view::npos) {
         return std::nullopt;
     }
-    const auto minutes = lessonNumber(word.substr(0, colon));
-    const auto seconds = lessonNumber(word.substr(colon + 1));
+    const auto minutes = wholeNumber<int>(word.substr(0, colon));
+    const auto seconds = wholeNumber<int>(word.substr(colon + 1));
     if (!minutes || !seconds || *minutes < 0 || *minutes >= mostMinutesAhead || *seconds < 0 ||
         *seconds >= secondsPerMinute || *seconds % stepInterval.count() != 0) {
         return std::nullopt;
@@ -70,8 +70,8 @@ std::optional<Cell> cellOf(std::string_view word) {
     if (comma == std::string_view::npos) {
         return std::nullopt;
     }
-    const auto x = lessonNumber(word.substr(0, comma));
-    const auto y = lessonNumber(word.substr(comma + 1));
+    const auto x = wholeNumber<int>(word.substr(0, comma));
+    const auto y = wholeNumber<int>(word.substr(comma + 1));
     if (!x || !y || *x < 0 || *x >= gridSize || *y < 0 || *y >= gridSize) {
         return std::nullopt;
     }
@@ -80,12 +80,12 @@ std::optional<Cell> cellOf(std::string_view word) {
 }
 
 std::optional<int> altitudeOf(std::string_view word) {
-    const auto number = lessonNumber(word);
+    const auto number = wholeNumber<int>(word);
     return number && *number >= approachAltitude && *number <= exitAltitude ? number : std::nullopt;
 }
 
 std::optional<int> headingOf(std::string_view word) {
-    const auto number = lessonNumber(word);
+    const auto number = wholeNumber<int>(word);
     return number && isHeading(*number) ? number : std::nullopt;
 }
 
@@ -116,7 +116,7 @@ struct Operands {
 };
 
 bool takeCount(std::string_view& text, Operands& into) {
-    const auto number = lessonNumber(takeLessonWord(text));
+    const auto number = wholeNumber<int>(takeLessonWord(text));
     into.number = number.value_or(0);
     return into.number >= 1 && into.number <= mostCount;
 }
@@ -218,13 +218,6 @@ std::string_view takeLessonWord(std::string_view& text) {
     const std::string_view word = text.substr(0, text.find_first_of(blanks));
     text.remove_prefix(word.size());
     return word;
-}
-
-std::optional<int> lessonNumber(std::string_view word) {
-    int value = 0;
-    const auto [end, fault] = std::from_chars(word.data(), word.data() + word.size(), value);
-    const bool isWhole = fault == std::errc{} && end == word.data() + word.size();
-    return isWhole ? std::optional(value) : std::nullopt;
 }
 
 Result<LessonFlight> readLessonFlight(std::string_view text, char letter) {

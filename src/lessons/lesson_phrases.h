@@ -16,9 +16,6 @@ namespace ventrel {
 /// Takes the first word off the text; empty at its end.
 std::string_view takeLessonWord(std::string_view& text);
 
-/// A whole number that is all of the word.
-std::optional<int> lessonNumber(std::string_view word);
-
 /// "A at 0:30 from 2,24 heading 90 altitude 6 to AHN", "B later from ATL to MCN heavy"; `letter` is the one
 /// that must come now.
 Result<LessonFlight> readLessonFlight(std::string_view text, char letter);

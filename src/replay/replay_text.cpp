@@ -1,9 +1,9 @@
 #include "replay/replay_text.h"
 
 #include <algorithm>
-#include <charconv>
 #include <limits>
 
+#include "base/whole_number.h"
 #include "base/windows1252.h"
 #include "sim/custom_skill.h"
 #include "sim/schedule.h"
@@ -68,8 +68,9 @@ std::string hexText(std::uint64_t number) {
 }
 
 bool readHex(std::string_view text, std::uint64_t& number) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, checksumBase);
-    return error == std::errc{} && end == text.data() + text.size() && text.size() == checksumDigits;
+    const auto read = wholeNumber<std::uint64_t>(text, checksumBase);
+    number = read.value_or(number);
+    return read && text.size() == checksumDigits;
 }
 
 std::string customText(const ReplayHeader& header) {
@@ -240,8 +241,9 @@ std::string practiceLine(ClockSeconds clock) {
 }
 
 bool readWholeNumber(std::string_view text, long long lowest, long long highest, long long& number) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc{} && end == text.data() + text.size() && number >= lowest && number <= highest;
+    const auto read = wholeNumber<long long>(text);
+    number = read.value_or(number);
+    return read && number >= lowest && number <= highest;
 }
 
 std::vector<std::string_view> wordsOf(std::string_view line) {

@@ -2,10 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 
 #include "base/format.h"
 #include "base/whole_file.h"
+#include "base/whole_number.h"
 #include "base/windows1252.h"
 #include "replay/shift_report.h"
 
@@ -42,8 +42,9 @@ bool splitFields(std::string_view line, Fields& fields) {
 /// False unless all of it is a number from `least` to `most`.
 template <typename Number>
 bool readNumber(std::string_view text, Number least, Number most, Number& number) {
-    const auto [end, fault] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return fault == std::errc() && end == text.data() + text.size() && number >= least && number <= most;
+    const auto read = wholeNumber<Number>(text);
+    number = read.value_or(number);
+    return read && number >= least && number <= most;
 }
 
 bool readLine(std::string_view line, PastShift& shift) {

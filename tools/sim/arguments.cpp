@@ -1,10 +1,10 @@
 #include "tools/sim/arguments.h"
 
 #include <array>
-#include <charconv>
 #include <limits>
 
 #include "base/string_table.h"
+#include "base/whole_number.h"
 #include "base/windows1252.h"
 #include "controller/track.h"
 #include "sim/custom_skill.h"
@@ -49,12 +49,11 @@ Exit status: 0 the shift ended or --until was reached; 1 the airport file or rep
 
 template <typename Number>
 bool readNumber(std::string_view word, Number lowest, Number highest, Number& number) {
-    Number value{};
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
-    if (error != std::errc{} || end != word.data() + word.size() || value < lowest || value > highest) {
+    const auto read = wholeNumber<Number>(word);
+    if (!read || *read < lowest || *read > highest) {
         return false;
     }
-    number = value;
+    number = *read;
     return true;
 }
 

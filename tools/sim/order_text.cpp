@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <fstream>
 #include <limits>
 #include <optional>
@@ -10,6 +9,7 @@
 #include <string_view>
 
 #include "base/whole_file.h"
+#include "base/whole_number.h"
 #include "base/windows1252.h"
 
 namespace ventrel {
@@ -84,12 +84,8 @@ bool allows(const FieldRule& rule, int value) {
 }
 
 std::optional<int> readField(std::string_view word, const FieldRule& rule) {
-    int value = 0;
-    const auto [end, error] = std::from_chars(word.data(), word.data() + word.size(), value);
-    if (error != std::errc{} || end != word.data() + word.size() || !allows(rule, value)) {
-        return std::nullopt;
-    }
-    return value;
+    const auto value = wholeNumber<int>(word);
+    return value && allows(rule, *value) ? value : std::nullopt;
 }
 
 std::string faultOf(const FieldRule& rule, std::string_view word) {
