@@ -12,8 +12,8 @@ namespace {
 constexpr int headingCount = fullCircle / headingStep;
 constexpr std::size_t placeCount = std::size_t{gridSize} * gridSize * headingCount;
 constexpr int straight = 0;
-constexpr int left = -headingStep;
-constexpr int right = headingStep;
+constexpr int leftTurn = -headingStep;
+constexpr int rightTurn = headingStep;
 
 struct Place {
     Cell cell;
@@ -45,7 +45,7 @@ Approach::Approach(const Vor& airport) : moves_(placeCount, outOfReach) {
     for (; !found.empty(); found.pop_front()) {
         const Place to = found.front();
         const Cell before = stepCell(to.cell, turned(to.heading, fullCircle / 2));
-        for (const int turn : {straight, left, right}) {
+        for (const int turn : {straight, leftTurn, rightTurn}) {
             const Place from{before, turned(to.heading, turn)};
             const auto index = indexOf(from);
             if (index && from.cell != airport.cell && moves_[*index] == outOfReach) {
@@ -65,7 +65,7 @@ int Approach::nextHeading(Cell cell, int heading, int altitude) const {
     const int nextAltitude = std::max(altitude - 1, approachAltitude);
     int best = heading;
     int bestCost = std::numeric_limits<int>::max();
-    for (const int turn : {straight, left, right}) {
+    for (const int turn : {straight, leftTurn, rightTurn}) {
         const int next = turned(heading, turn);
         const int remaining = moves(stepCell(cell, next), next);
         if (remaining == outOfReach) {

@@ -48,7 +48,7 @@ bool readNumber(std::string_view text, Number least, Number most, Number& number
 }
 
 bool readLine(std::string_view line, PastShift& shift) {
-    constexpr int mostPoints = 1'000'000'000;
+    constexpr int mostScore = 1'000'000'000;
     constexpr int mostFlights = 99;
     constexpr int mostNearMisses = 1'000'000;
     Fields fields;
@@ -56,8 +56,8 @@ bool readLine(std::string_view line, PastShift& shift) {
     int collided = 0;
     const bool isRead =
         splitFields(line, fields) && readNumber(fields[2], 0, static_cast<int>(Skill::custom), skill) &&
-        readNumber(fields[3], 0, mostPoints, shift.score) &&
-        readNumber(fields[4], -mostPoints, mostPoints, shift.possibleScore) &&
+        readNumber(fields[3], 0, mostScore, shift.score) &&
+        readNumber(fields[4], -mostScore, mostScore, shift.possibleScore) &&
         readNumber(fields[5], 0, mostFlights, shift.handled) &&
         readNumber(fields[6], 1, mostFlights, shift.flights) &&
         readNumber(fields[7], 0, mostNearMisses, shift.nearMisses) && readNumber(fields[8], 0, 1, collided) &&

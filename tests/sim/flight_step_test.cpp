@@ -7,13 +7,9 @@
 namespace ventrel {
 namespace {
 
-// Map points of the usual airspace.
-constexpr PointIndex mid{0}; // airport at (24, 24), runway to the east
-constexpr PointIndex northWest{1};
-
 std::vector<ClockSeconds> movesOf(Speed speed, ClockSeconds activatedAt) {
     TestGame test;
-    Flight& flight = test.fly({24, 30}, 5, 90, northWest);
+    Flight& flight = test.fly({24, 30}, 5, 90, SmallAirspace::northWest);
     flight.activatedAt = activatedAt;
     flight.current().speed = speed;
     std::vector<ClockSeconds> moves;
@@ -36,7 +32,7 @@ TEST(FlightStep, SpeedDecidesHowOftenAFlightMoves) {
 
 TEST(FlightStep, ActsOncePerMultipleOfFifteenAndOnlyInAGame) {
     TestGame test;
-    Flight& flight = test.fly({24, 30}, 5, 90, northWest);
+    Flight& flight = test.fly({24, 30}, 5, 90, SmallAirspace::northWest);
     flight.current().speed = Speed::fast;
     test.step(45_s);
     test.step(45_s);
@@ -50,7 +46,7 @@ TEST(FlightStep, ActsOncePerMultipleOfFifteenAndOnlyInAGame) {
 
 TEST(FlightStep, AFlightIsAnnouncedTwoMinutesAheadAndDoesNotMoveWhenItEnters) {
     TestGame test;
-    Flight& flight = test.fly({2, 24}, 5, 90, northWest);
+    Flight& flight = test.fly({2, 24}, 5, 90, SmallAirspace::northWest);
     flight.activatedAt = 0_s;
     flight.scheduledAt = 180_s;
     test.step(60_s);
@@ -61,7 +57,7 @@ TEST(FlightStep, AFlightIsAnnouncedTwoMinutesAheadAndDoesNotMoveWhenItEnters) {
     EXPECT_EQ(test.game.listedCount, 1);
     EXPECT_EQ(test.steps(90_s, 180_s), (Lines{"13 F0 entering airspace, proceeding to NW",
                                               "radio with you level at five thousand", "active 0"}));
-    Flight& departure = test.wait(mid, northWest);
+    Flight& departure = test.wait(SmallAirspace::mid, SmallAirspace::northWest);
     departure.activatedAt = 0_s;
     departure.scheduledAt = 195_s;
     EXPECT_EQ(test.step(195_s),
@@ -73,7 +69,7 @@ TEST(FlightStep, AFlightIsAnnouncedTwoMinutesAheadAndDoesNotMoveWhenItEnters) {
 
 TEST(FlightStep, AnArrivalIsAnnouncedThenScoredAtItsNextMove) {
     TestGame test;
-    const Flight& flight = test.fly({23, 24}, 1, 90, mid);
+    const Flight& flight = test.fly({23, 24}, 1, 90, SmallAirspace::mid);
     EXPECT_EQ(test.step(60_s),
               (Lines{"10 F0 is landing at MID, good day", "radio landing good day", "lamp 0"}));
     EXPECT_EQ(test.step(75_s), Lines{});
@@ -85,12 +81,12 @@ TEST(FlightStep, AnArrivalIsAnnouncedThenScoredAtItsNextMove) {
 
 TEST(FlightStep, AMissedApproachIsToldThenPaidAndTheFlightFliesOn) {
     TestGame test;
-    const Flight& tooHigh = test.fly({23, 24}, 2, 90, mid);
+    const Flight& tooHigh = test.fly({23, 24}, 2, 90, SmallAirspace::mid);
     test.game.score = 400;
     EXPECT_EQ(test.step(60_s), (Lines{"11 F0, missed approach at MID- altitude too high",
                                       "radio going around, request new approach what the hell!", "lamp 1"}));
     // With the yellow lamp lit, the second pilot is not heard.
-    test.fly({24, 23}, 1, 180, mid).callsign = "BAD";
+    test.fly({24, 23}, 1, 180, SmallAirspace::mid).callsign = "BAD";
     EXPECT_EQ(test.step(90_s),
               (Lines{"score -150 = 250", "11 BAD, missed approach at MID- incorrect heading"}));
     EXPECT_TRUE(tooHigh.inPlay);
@@ -101,10 +97,10 @@ TEST(FlightStep, AMissedApproachIsToldThenPaidAndTheFlightFliesOn) {
 
 TEST(FlightStep, AnExitNeedsTenThousandFeet) {
     TestGame test;
-    const Flight& low = test.fly({12, 13}, 9, 0, northWest);
+    const Flight& low = test.fly({12, 13}, 9, 0, SmallAirspace::northWest);
     EXPECT_EQ(test.step(60_s), (Lines{"11 F0, cannot exit to  NW VOR- altitude too low",
                                       "radio request vectors to the VOR what the hell!", "lamp 1"}));
-    const Flight& high = test.fly({13, 13}, 10, 315, northWest);
+    const Flight& high = test.fly({13, 13}, 10, 315, SmallAirspace::northWest);
     // The failure is paid for in the same step, so the lamp stays yellow.
     EXPECT_EQ(test.step(90_s), (Lines{"score -100 = 0", "10 F1, leaving airspace at NW- good day",
                                       "radio leaving your airspace good day"}));
@@ -124,7 +120,7 @@ TEST(FlightStep, APointThatIsAirportAndExitIsJudgedAsAnAirport) {
 
 TEST(FlightStep, AClearedDepartureRollsThenLiftsOffOnACourse) {
     TestGame test;
-    Flight& flight = test.wait(mid, northWest);
+    Flight& flight = test.wait(SmallAirspace::mid, SmallAirspace::northWest);
     test.steps(60_s, 90_s);
     EXPECT_EQ(flight.groundState, GroundState::waiting);
     flight.groundState = GroundState::cleared;
@@ -140,7 +136,7 @@ TEST(FlightStep, AClearedDepartureRollsThenLiftsOffOnACourse) {
 
 TEST(FlightStep, AWaitingDepartureComplainsFromTheTenthMinuteOn) {
     TestGame test;
-    test.wait(mid, northWest);
+    test.wait(SmallAirspace::mid, SmallAirspace::northWest);
     test.game.score = 500;
     EXPECT_EQ(test.steps(60_s, 615_s), Lines{});
     const Lines first = test.step(630_s);
@@ -161,17 +157,18 @@ TEST(FlightStep, AWaitingDepartureComplainsFromTheTenthMinuteOn) {
 
 TEST(FlightStep, ADepartureBoundForItsOwnAirportHasLandedWithoutTakingOff) {
     TestGame test;
-    const Flight& flight = test.wait(mid, mid);
+    const Flight& flight = test.wait(SmallAirspace::mid, SmallAirspace::mid);
     EXPECT_EQ(test.step(60_s), (Lines{"score 150 = 150"}));
     EXPECT_FALSE(flight.inPlay);
 }
 
 TEST(FlightStep, AnEnteringFlightGoesLowerBelowTrafficInItsRowOrColumn) {
     TestGame test;
-    test.wait(mid, northWest).current().altitude = 6; // far off, but in the column
-    test.fly({40, 9}, 7, 90, northWest);
+    test.wait(SmallAirspace::mid, SmallAirspace::northWest).current().altitude =
+        6; // far off, but in the column
+    test.fly({40, 9}, 7, 90, SmallAirspace::northWest);
     for (const auto& [altitude, entered] : {std::pair{6, 5}, std::pair{7, 6}, std::pair{8, 8}}) {
-        Flight& flight = test.fly({25, 8}, altitude, 90, northWest);
+        Flight& flight = test.fly({25, 8}, altitude, 90, SmallAirspace::northWest);
         flight.activatedAt = 0_s;
         flight.scheduledAt = 45_s;
         test.game.lastStepTime = 0_s;

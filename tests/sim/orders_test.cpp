@@ -7,9 +7,6 @@
 namespace ventrel {
 namespace {
 
-constexpr PointIndex mid{0};
-constexpr PointIndex northWest{1};
-
 class Orders : public ::testing::Test {
 protected:
     Orders() { test.game.freeOrders = 100; }
@@ -35,7 +32,7 @@ protected:
 };
 
 TEST_F(Orders, AreReadBackAsTheyWereUnderstood) {
-    Flight& flight = test.fly({20, 30}, 5, 90, northWest);
+    Flight& flight = test.fly({20, 30}, 5, 90, SmallAirspace::northWest);
     struct Case {
         PanelOrder order;
         const char* readBack;
@@ -55,7 +52,7 @@ TEST_F(Orders, AreReadBackAsTheyWereUnderstood) {
 }
 
 TEST_F(Orders, ThatChangeNothingAreAcknowledgedWithoutTouchingThePlan) {
-    Flight& flight = test.fly({20, 30}, 5, 90, northWest);
+    Flight& flight = test.fly({20, 30}, 5, 90, SmallAirspace::northWest);
     send(flight, {.altitude = 5, .heading = 0});
     const int length = flight.plan.length();
     EXPECT_EQ(send(flight, nothingSet(flight), OrderResult::acknowledged), (Lines{"quiet radio roger"}));
@@ -64,10 +61,10 @@ TEST_F(Orders, ThatChangeNothingAreAcknowledgedWithoutTouchingThePlan) {
 }
 
 TEST_F(Orders, BesideTheTargetADirectCourseIsRefusedButCharged) {
-    const PanelOrder toNorthWest{.altitude = 5, .heading = 90, .directTarget = northWest};
+    const PanelOrder toNorthWest{.altitude = 5, .heading = 90, .directTarget = SmallAirspace::northWest};
     for (const Cell cell : {Cell{12, 12}, Cell{13, 11}}) {
         test.game.flights.clear();
-        Flight& flight = test.fly(cell, 5, 90, northWest);
+        Flight& flight = test.fly(cell, 5, 90, SmallAirspace::northWest);
         EXPECT_EQ(send(flight, toNorthWest, OrderResult::acknowledged),
                   (Lines{"radio say again request vectors to the VOR",
                          "13 F0 is too close to NW for a direct VOR course"}));
@@ -75,13 +72,13 @@ TEST_F(Orders, BesideTheTargetADirectCourseIsRefusedButCharged) {
     }
     EXPECT_EQ(test.game.freeOrders, 98);
     test.game.flights.clear();
-    Flight& flight = test.fly({14, 12}, 5, 90, northWest);
+    Flight& flight = test.fly({14, 12}, 5, 90, SmallAirspace::northWest);
     send(flight, toNorthWest);
     EXPECT_GT(flight.plan.length(), 1);
 }
 
 TEST_F(Orders, ClearADepartureOnceAndAreThenChargedInVain) {
-    Flight& flight = test.wait(mid, northWest);
+    Flight& flight = test.wait(SmallAirspace::mid, SmallAirspace::northWest);
     EXPECT_EQ(send(flight, {.altitude = 9, .heading = 90}), (Lines{"radio roger", "panel", "strips"}));
     EXPECT_EQ(flight.groundState, GroundState::cleared);
     EXPECT_EQ(send(flight, {.altitude = 9, .heading = 90}), Lines{});
@@ -92,7 +89,7 @@ TEST_F(Orders, ClearADepartureOnceAndAreThenChargedInVain) {
 }
 
 TEST_F(Orders, CostFivePointsOnceTheFreeOnesAreUsedUp) {
-    Flight& flight = test.fly({20, 30}, 5, 90, northWest);
+    Flight& flight = test.fly({20, 30}, 5, 90, SmallAirspace::northWest);
     test.game.freeOrders = 1;
     test.game.score = 12;
     EXPECT_EQ(send(flight, nothingSet(flight), OrderResult::acknowledged).size(), 1U);
@@ -106,7 +103,7 @@ TEST_F(Orders, CostFivePointsOnceTheFreeOnesAreUsedUp) {
 }
 
 TEST_F(Orders, ToAFinishedFlightOrWithoutAGameCostNothing) {
-    Flight& flight = test.fly({20, 30}, 5, 90, northWest);
+    Flight& flight = test.fly({20, 30}, 5, 90, SmallAirspace::northWest);
     flight.inPlay = false;
     EXPECT_EQ(executeOrder(test.game, FlightIndex{0}, {.altitude = 5}, test.events),
               OrderResult::acknowledged);

@@ -7,8 +7,6 @@
 namespace ventrel {
 namespace {
 
-constexpr PointIndex northWest{1};
-
 /// Lines without the radio calls, whose wording is drawn.
 Lines withoutCalls(Lines lines) {
     std::erase_if(lines, [](const std::string& line) { return line.starts_with("radio"); });
@@ -17,8 +15,8 @@ Lines withoutCalls(Lines lines) {
 
 TEST(Separation, TouchingFlightsAtOneAltitudePayAtEachMoveOfTheirs) {
     TestGame test;
-    Flight& first = test.fly({24, 30}, 5, 90, northWest);
-    Flight& second = test.fly({25, 31}, 5, 90, northWest);
+    Flight& first = test.fly({24, 30}, 5, 90, SmallAirspace::northWest);
+    Flight& second = test.fly({25, 31}, 5, 90, SmallAirspace::northWest);
     second.activatedAt = 45_s;
     test.game.score = 500;
     const Lines lines = test.step(60_s);
@@ -38,13 +36,13 @@ TEST(Separation, TouchingFlightsAtOneAltitudePayAtEachMoveOfTheirs) {
 
 TEST(Separation, AltitudeGroundAndDistanceKeepFlightsApart) {
     TestGame test;
-    test.fly({23, 24}, 1, 135, northWest);
-    test.wait(PointIndex{0}, northWest);  // on the ground beside it
-    test.fly({22, 24}, 2, 90, northWest); // above it
-    test.fly({21, 26}, 1, 90, northWest); // two cells away
-    Flight& gone = test.fly({23, 24}, 1, 90, northWest);
+    test.fly({23, 24}, 1, 135, SmallAirspace::northWest);
+    test.wait(PointIndex{0}, SmallAirspace::northWest);  // on the ground beside it
+    test.fly({22, 24}, 2, 90, SmallAirspace::northWest); // above it
+    test.fly({21, 26}, 1, 90, SmallAirspace::northWest); // two cells away
+    Flight& gone = test.fly({23, 24}, 1, 90, SmallAirspace::northWest);
     gone.inPlay = false;
-    Flight& notYet = test.fly({23, 24}, 1, 90, northWest);
+    Flight& notYet = test.fly({23, 24}, 1, 90, SmallAirspace::northWest);
     notYet.activatedAt = 0_s;
     notYet.scheduledAt = 900_s;
     EXPECT_EQ(test.step(60_s), Lines{});
@@ -52,9 +50,9 @@ TEST(Separation, AltitudeGroundAndDistanceKeepFlightsApart) {
 
 TEST(Separation, TheFlightThatMovesSecondFindsTheCollision) {
     TestGame test;
-    const Flight& standing = test.fly({24, 30}, 5, 90, northWest);
-    test.fly({25, 30}, 5, 270, northWest);
-    test.fly({10, 24}, 5, 90, northWest).current().speed = Speed::fast;
+    const Flight& standing = test.fly({24, 30}, 5, 90, SmallAirspace::northWest);
+    test.fly({25, 30}, 5, 270, SmallAirspace::northWest);
+    test.fly({10, 24}, 5, 90, SmallAirspace::northWest).current().speed = Speed::fast;
     test.game.flight(FlightIndex{1}).activatedAt = 45_s;
     EXPECT_EQ(withoutCalls(test.step(60_s)),
               (Lines{"12 F0, Emergency! Near miss with F1", "score -100 = 0", "lamp 2"}));
@@ -66,9 +64,9 @@ TEST(Separation, TheFlightThatMovesSecondFindsTheCollision) {
 
 TEST(Separation, NearMissesBeforeTheCollisionAreStillPaid) {
     TestGame test;
-    test.fly({24, 31}, 5, 90, northWest).activatedAt = 45_s;
-    test.fly({24, 30}, 5, 90, northWest);
-    test.fly({24, 30}, 5, 90, northWest);
+    test.fly({24, 31}, 5, 90, SmallAirspace::northWest).activatedAt = 45_s;
+    test.fly({24, 30}, 5, 90, SmallAirspace::northWest);
+    test.fly({24, 30}, 5, 90, SmallAirspace::northWest);
     test.game.score = 300;
     EXPECT_EQ(withoutCalls(test.step(60_s)),
               (Lines{"12 F1, Emergency! Near miss with F0", "score -100 = 200", "ended -1"}));
@@ -80,7 +78,7 @@ TEST(Lamps, TheLaterOfFailureAndNearMissCountsAndSuccessOnlyAlone) {
     const auto level = [&](std::vector<Alert> alerts) {
         test.game.flights.clear();
         for (const Alert alert : alerts) {
-            test.fly({24, 30}, 5, 90, northWest).alert = alert;
+            test.fly({24, 30}, 5, 90, SmallAirspace::northWest).alert = alert;
         }
         return gatherAlertLevel(test.game);
     };
@@ -89,7 +87,7 @@ TEST(Lamps, TheLaterOfFailureAndNearMissCountsAndSuccessOnlyAlone) {
     EXPECT_EQ(level({Alert::success, Alert::failure}), LampLevel::yellow);
     EXPECT_EQ(level({Alert::none, Alert::success, Alert::none}), LampLevel::green);
     EXPECT_EQ(level({}), LampLevel::none);
-    test.wait(PointIndex{0}, northWest).alert = Alert::failure;
+    test.wait(PointIndex{0}, SmallAirspace::northWest).alert = Alert::failure;
     EXPECT_EQ(gatherAlertLevel(test.game), LampLevel::none);
 }
 

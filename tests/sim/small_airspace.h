@@ -26,6 +26,8 @@ public:
 
     /// One airport in the middle, runway to the east, and an exit in each quarter.
     static SmallAirspace usual();
+    static constexpr PointIndex mid{0}; ///< Of the usual one: the airport at (24, 24), runway to the east.
+    static constexpr PointIndex northWest{1};
 
     /// A complete file of the small layout, with a picture of a few bytes.
     std::vector<std::byte> file() const;

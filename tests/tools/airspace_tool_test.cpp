@@ -60,7 +60,7 @@ struct Change {
     const char* to;
     const char* said;
 };
-constexpr Change changes[] = {
+constexpr Change faultyChanges[] = {
     {"symbol = \"#e0a848\"", "symbol = \"#101010\"", ":9: the symbol colour of 'AAA' cannot be seen"},
     {"runway = \"#f4f4f4\"", "runway = \"#101010\"", ":10: the runway colour of 'AAA' cannot be seen"},
     {"route = \"#4aa3c8\"", "route = \"#101010\"", ":7: the route colour cannot be seen"},
@@ -79,7 +79,7 @@ constexpr Change changes[] = {
 
 TEST(AirspaceTool, NamesTheLineOfWhatTroublesAPlayer) {
     const TempFolder folder;
-    for (const auto& [from, to, said] : changes) {
+    for (const auto& [from, to, said] : faultyChanges) {
         std::string text = readText(planted("sound.toml"));
         text.replace(text.find(from), std::string_view(from).size(), to);
         writeText(folder / "changed.toml", text);

@@ -29,14 +29,14 @@ int brightness(const Bitmap& bitmap, const Rect& area) {
     return sum / (area.width() * area.height());
 }
 
-struct Console {
+struct ConsolePictures {
     const char* picture;
     const char* frame;
     const RadarLayout& radar;
     int messageWidth;
 };
 
-const std::array<Console, 2> consoles{{
+const std::array<ConsolePictures, 2> consolePictures{{
     {"bkgnd8", "r8frame", smallRadarLayout, 340},
     {"bkgnd10", "r10frame", largeRadarLayout, 562},
 }};
@@ -169,7 +169,7 @@ TEST(Art, ALitLampIsMuchBrighterThanADarkOneOfItsSize) {
 }
 
 TEST(Art, TheRadarFrameContinuesTheConsoleAndItsGlassIsDark) {
-    for (const Console& console : consoles) {
+    for (const ConsolePictures& console : consolePictures) {
         const Bitmap whole = drawnPicture(console.picture);
         const Bitmap frame = drawnPicture(console.frame);
         const Region tube = Region::ellipse(console.radar.scopeEllipse);
@@ -191,7 +191,7 @@ TEST(Art, TheRadarFrameContinuesTheConsoleAndItsGlassIsDark) {
 }
 
 TEST(Art, WellsUnderTextAreDarkToTheirEdges) {
-    for (const Console& console : consoles) {
+    for (const ConsolePictures& console : consolePictures) {
         const Bitmap whole = drawnPicture(console.picture);
         const Bitmap panel = panelGround(whole);
         const Rect messages{443, 19, 443 + console.messageWidth, 39};
@@ -204,7 +204,7 @@ TEST(Art, WellsUnderTextAreDarkToTheirEdges) {
 }
 
 TEST(Art, ThePanelsBarLampsAndNeedleLieOnTheirArtwork) {
-    for (const Console& console : consoles) {
+    for (const ConsolePictures& console : consolePictures) {
         SCOPED_TRACE(console.picture);
         const Bitmap panel = panelGround(drawnPicture(console.picture));
         const auto row = [&](int y) { return brightness(panel, {113, y, 150, y + 1}); };

@@ -109,11 +109,11 @@ void drawControlModule(Svg& svg, const ConsoleFittings& fittings) {
     constexpr double inset = 7.5;
     drawControls(svg, fittings.places.controlPanel.topLeft());
     drawWell(svg, Box(fittings.places.execButton), "#14191b");
-    const Box screws = Box(fittings.controlModule).grownBy(-inset);
-    svg.use("smallScrew", {screws.x, screws.y}, 70);
-    svg.use("smallScrew", {screws.right(), screws.y}, 30);
-    svg.use("smallScrew", {screws.x, screws.bottom()}, 10);
-    svg.use("smallScrew", {screws.right(), screws.bottom()}, -20);
+    const Box corners = Box(fittings.controlModule).grownBy(-inset);
+    svg.use("smallScrew", {corners.x, corners.y}, 70);
+    svg.use("smallScrew", {corners.right(), corners.y}, 30);
+    svg.use("smallScrew", {corners.x, corners.bottom()}, 10);
+    svg.use("smallScrew", {corners.right(), corners.bottom()}, -20);
 }
 
 } // namespace
