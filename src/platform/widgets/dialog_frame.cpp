@@ -28,6 +28,7 @@ void Dialog::createFrame(const Window& owner, const DialogTemplate& shape) {
     hasCloseBox_ = shape.hasCloseBox && !title_.empty();
     WindowHandlers handlers;
     handlers.key = [this](const KeyEvent& event) { return key(event); };
+    handlers.command = [this](const CommandInput& input) { command(input); };
     handlers.text = [this](std::string_view words) { return type(words); };
     handlers.paint = [this](Canvas& canvas, const Rect&) { paintFrame(canvas); };
     handlers.press = [this](const MouseInput& mouse) { pressFrame(mouse); };

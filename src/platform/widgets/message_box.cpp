@@ -53,6 +53,10 @@ MessageAnswer closingAnswer(MessageButtons buttons) {
 
 constexpr TextLayout textLayout{.wrap = true};
 
+constexpr int copyId = 100; // no button's
+constexpr std::array copyKeys{
+    std::to_array<Accelerator>({{.key = Key::c, .modifiers = {.control = true}, .command = copyId}})};
+
 /// Places of everything inside the box.
 struct BoxPlaces {
     Point icon;
@@ -94,7 +98,11 @@ MessageAnswer showMessageBox(Desktop& desktop, const WidgetFonts& fonts, const W
         drawTextBox(canvas, fonts.text, places.text, message.text, {look::text, {}}, textLayout);
     };
     const int onClose = numberOf(closingAnswer(message.buttons));
-    handlers.command = [onClose](Dialog& dialog, const CommandInput& input) {
+    handlers.command = [&message, onClose](Dialog& dialog, const CommandInput& input) {
+        if (input.id == copyId) {
+            dialog.desktop().backend().setClipboard(message.text);
+            return;
+        }
         const bool isClosed = !input.sender && input.id == cancelId;
         dialog.end(isClosed ? onClose : input.id);
     };
@@ -103,6 +111,7 @@ MessageAnswer showMessageBox(Desktop& desktop, const WidgetFonts& fonts, const W
                                .controls = controls,
                                .hasCloseBox = message.buttons != MessageButtons::yesNo};
     Dialog dialog(desktop, fonts, owner, shape, std::move(handlers));
+    dialog.frame().setAccelerators(copyKeys);
     dialog.resizeInside(places.size);
     const int row = static_cast<int>(buttons.size()) * (buttonSize.width + buttonGap) - buttonGap;
     int x = (places.size.width - row) / 2;

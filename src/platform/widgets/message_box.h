@@ -22,7 +22,8 @@ struct MessageBoxText {
 
 /// Shows the box over `owner` and waits for the answer. Esc is Cancel, where there is such a button, or OK
 /// where there is no other. Closing the window is the same, and No where a yes or no is wanted, so that it
-/// never agrees to anything. A program that ends meanwhile answers Cancel or No.
+/// never agrees to anything. Ctrl+C copies the text, so that it can be passed on. A program that ends
+/// meanwhile answers Cancel or No.
 MessageAnswer showMessageBox(Desktop& desktop, const WidgetFonts& fonts, const Window& owner,
                              const MessageBoxText& message);
 

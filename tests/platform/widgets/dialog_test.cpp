@@ -202,5 +202,21 @@ TEST(MessageBox, ClosedWithTheWindowItAgreesToNothingAndTheProgramGoesOn) {
               (std::vector<MessageAnswer>{MessageAnswer::no, MessageAnswer::cancel, MessageAnswer::ok}));
 }
 
+TEST(MessageBox, ItsTextCanBeCopiedAndIsStillUnanswered) {
+    WidgetStage stage;
+    bool isAnswered = false;
+    stage.script.key(Key::c, withControl).then([&] {
+        EXPECT_EQ(stage.backend.clipboard(), "The disk is full.");
+        EXPECT_FALSE(isAnswered);
+    });
+    stage.script.key(Key::enter);
+    stage.play([&] {
+        showMessageBox(stage.desktop, stage.fonts, stage.main,
+                       {.text = "The disk is full.", .title = "Test"});
+        isAnswered = true;
+    });
+    EXPECT_TRUE(isAnswered);
+}
+
 } // namespace
 } // namespace ventrel
