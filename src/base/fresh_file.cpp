@@ -5,10 +5,9 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <cstdint>
-#include <cstdio>
 #include <optional>
-#include <random>
+
+#include "base/unfinished_file.h"
 
 namespace ventrel {
 
@@ -16,11 +15,9 @@ namespace fs = std::filesystem;
 
 namespace {
 
-constexpr mode_t everybody = 0666; // less what the player's mask takes away
 constexpr mode_t permissionBits = 0777;
 constexpr mode_t groupBits = 0070;
 constexpr int mostLinks = 40;
-constexpr int mostNames = 100;
 
 /// What the name stands for in the end, whether it is there or not; none for links in a circle.
 std::optional<fs::path> withoutLinks(fs::path file) {
@@ -45,14 +42,6 @@ int whyNotReplaced(const fs::path& file) {
     }
     // Renaming asks the folder alone, so the file itself has to be asked first.
     return ::access(file.c_str(), W_OK) == 0 ? 0 : errno;
-}
-
-/// A name that nobody can foresee, so that nobody can lay something there.
-fs::path newNameIn(const fs::path& folder) {
-    std::random_device chance;
-    char name[sizeof ".12345678abcdef01.new"];
-    std::snprintf(name, sizeof name, ".%08x%08x.new", chance(), chance());
-    return folder / name;
 }
 
 /// Gives the new file the owner and the permissions of the old one. The system's number when it cannot.
@@ -97,19 +86,15 @@ Result<FreshFile> FreshFile::beside(const fs::path& file) {
     if (const int hindrance = file.has_filename() ? whyNotReplaced(*target) : ENOENT; hindrance != 0) {
         return cannotWrite(file, hindrance);
     }
+    clearUnfinishedFiles(folderOf(*target));
+    UnfinishedFile unfinished = makeUnfinishedFile(folderOf(*target));
+    if (unfinished.error != 0) {
+        return cannotWrite(file, unfinished.error);
+    }
     FreshFile fresh;
     fresh.target_ = *target;
-    int error = EEXIST;
-    for (int i = 0; i < mostNames && error == EEXIST; ++i) {
-        const fs::path path = newNameIn(folderOf(*target));
-        constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
-        fresh.handle_ = FileHandle(::open(path.c_str(), flags, everybody));
-        error = fresh.handle_.isOpen() ? 0 : errno;
-        fresh.path_ = error == 0 ? path : fs::path();
-    }
-    if (error != 0) {
-        return cannotWrite(file, error);
-    }
+    fresh.path_ = std::move(unfinished.path);
+    fresh.handle_ = std::move(unfinished.handle);
     return fresh;
 }
 

@@ -1,7 +1,8 @@
 // A file in the making, beside the one that it will replace.
 //
 // It gets a name of its own that nobody else has, and only when all of it is on the disk it takes the old
-// file's place: neither a full disk nor a crash leaves half of one.
+// file's place: neither a full disk nor a crash leaves half of one. What a killed program has left of its own
+// is cleared away when the next one is begun in that folder.
 
 #pragma once
 

@@ -7,6 +7,7 @@
 #include <cerrno>
 
 #include "base/file_buffer.h"
+#include "base/fresh_file.h"
 #include "base/profile_file.h"
 #include "base/whole_file.h"
 #include "temp_folder.h"
@@ -103,6 +104,31 @@ TEST(FreshFile, OnlyFilesOfOnesOwnAreReplaced) {
     const bool isRoot = ::geteuid() == 0; // who may write all the same
     EXPECT_EQ(replaceText(folder / "protected", "new").has_value(), isRoot);
     EXPECT_EQ(readText(folder / "protected"), isRoot ? "new" : "old");
+}
+
+TEST(FreshFile, ClearsAwayWhatAKilledProgramHasLeftAndNothingElse) {
+    const TempFolder folder;
+    const std::vector<std::string> kept{"scores", "0123456789abcdef.new", ".0123456789abcdeg.new",
+                                        ".0123456789abcdef.new~"};
+    for (const std::string& name : kept) {
+        writeText(folder / name, "mine");
+    }
+    writeText(folder / ".0123456789abcdef.new", "half");
+    fs::create_directory(folder / ".1123456789abcdef.new");
+    fs::create_symlink("scores", folder / ".2123456789abcdef.new");
+    {
+        auto inTheMaking = FreshFile::beside(folder / "scores");
+        ASSERT_TRUE(inTheMaking);
+        EXPECT_FALSE(fs::exists(folder / ".0123456789abcdef.new"));
+        ASSERT_TRUE(replaceText(folder / "options", "new")); // meanwhile
+        inTheMaking->write(std::as_bytes(std::span(std::string_view("better"))));
+        EXPECT_TRUE(inTheMaking->putInPlace());
+    }
+    EXPECT_EQ(readText(folder / "scores"), "better");
+    EXPECT_EQ(filesIn(folder.path()), 7);
+    for (const std::string& name : kept) {
+        EXPECT_TRUE(fs::exists(folder / name)) << name;
+    }
 }
 
 TEST(WholeFile, FailedReadsAreToldAndNotTakenForTheEnd) {

@@ -8,6 +8,8 @@
 #include <cstdlib>
 #include <system_error>
 
+#include "base/whole_file.h"
+
 namespace ventrel {
 
 namespace fs = std::filesystem;
@@ -15,6 +17,7 @@ namespace fs = std::filesystem;
 namespace {
 
 constexpr mode_t ownerOnlyFolder = 0700;
+constexpr std::size_t largestBrought = std::size_t{1} << 20; // bytes; what the options may have
 
 /// The path in an environment variable; empty when it is not set, and for one below the current folder.
 fs::path fromEnvironment(const char* name) {
@@ -104,10 +107,10 @@ void bringFile(const fs::path& from, const fs::path& to) {
         return;
     }
     fs::rename(from, to, error);
-    if (error) { // another disk
-        std::error_code fault;
-        if (fs::copy_file(from, to, fault)) {
-            fs::remove(from, fault);
+    if (error) { // another disk, and half a copy would be taken for the whole from then on
+        const auto content = readWholeFile(from, largestBrought);
+        if (content && replaceFile(to, *content)) {
+            fs::remove(from, error);
         }
     }
 }

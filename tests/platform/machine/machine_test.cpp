@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 
+#include "../../base/shortage.h"
 #include "../../base/temp_folder.h"
 #include "platform/machine/instance_lock.h"
 #include "platform/machine/places.h"
@@ -71,6 +72,27 @@ TEST_F(Places, WhatAnEarlierVersionKeptElsewhereIsBroughtOnce) {
     EXPECT_EQ(fs::file_size(folder / "new"), 5U) << "the player's own is there already";
     EXPECT_TRUE(fs::exists(folder / "old"));
     EXPECT_FALSE(fs::exists(folder / "newer"));
+}
+
+TEST_F(Places, WhatIsBroughtFromAnotherDiskComesWholeOrStays) {
+    const fs::path otherDisk = "/dev/shm/ventrel-brought-" + std::to_string(::getpid());
+    writeText(otherDisk, "first");
+    struct stat here = {};
+    struct stat there = {};
+    if (::stat(folder.path().c_str(), &here) != 0 || ::stat(otherDisk.c_str(), &there) != 0 ||
+        here.st_dev == there.st_dev) {
+        fs::remove(otherDisk);
+        GTEST_SKIP() << "there is no other disk";
+    }
+    {
+        const FullDisk full;
+        bringFile(otherDisk, folder / "new");
+    }
+    EXPECT_TRUE(fs::is_empty(folder.path()));
+    EXPECT_EQ(readText(otherDisk), "first");
+    bringFile(otherDisk, folder / "new");
+    EXPECT_EQ(readText(folder / "new"), "first");
+    EXPECT_FALSE(fs::remove(otherDisk)) << "it was left behind";
 }
 
 TEST_F(Places, NothingIsEverKeptBelowTheCurrentFolder) {
