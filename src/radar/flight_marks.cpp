@@ -11,7 +11,6 @@ constexpr int innerRing = -5; // pixels from the outer one, on every side
 
 // All relative to the flight's radar point.
 constexpr Rect alertCircleBox{-14, -28, 34, 20};
-constexpr Rect bracketBox{-7, 4, 6, 8};
 
 void drawSquare(Canvas& canvas, const Rect& box, Colour colour) {
     for (int pen = 0; pen < alertPenWidth; ++pen) {
@@ -54,9 +53,9 @@ void drawConflictRing(Canvas& canvas, const RadarLayout& layout, const Flight& f
 }
 
 void drawBracket(Canvas& canvas, const RadarLayout& layout, const Flight& flight, Colour colour) {
-    const Rect box = bracketBox.movedBy(radarPoint(layout, flight.current().cell));
-    const std::array<Point, 4> bracket{
-        {box.topLeft(), {box.left, box.bottom}, {box.right, box.bottom}, {box.right, box.top - 1}}};
+    const Rect box = bracketBox(radarPoint(layout, flight.current().cell));
+    const Point last{box.right - 1, box.bottom - 1};
+    const std::array<Point, 4> bracket{{box.topLeft(), {box.left, last.y}, last, {last.x, box.top - 1}}};
     canvas.polyline(bracket, colour);
 }
 

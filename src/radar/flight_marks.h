@@ -26,6 +26,12 @@ void drawAlertMark(Canvas& canvas, const RadarLayout& layout, const Flight& flig
 /// The thin ring around a flight that will come too close to another one: as far as a near miss reaches.
 void drawConflictRing(Canvas& canvas, const RadarLayout& layout, const Flight& flight, Colour colour);
 
+/// The box that the bracket takes.
+constexpr Rect bracketBox(Point radarPoint) {
+    constexpr Rect around{-7, 4, 7, 9};
+    return around.movedBy(radarPoint);
+}
+
 /// A bracket under the flight's symbol, clear of its tag.
 void drawBracket(Canvas& canvas, const RadarLayout& layout, const Flight& flight, Colour colour);
 

@@ -13,7 +13,6 @@ namespace {
 // All relative to the flight's radar point.
 constexpr int callsignLeft = -4;
 constexpr Point dataOffset{6, -4};
-constexpr Rect symbolAround{-4, -4, 4, 4};
 
 constexpr int shortestLeader = 2;
 
@@ -49,14 +48,23 @@ std::string_view speedLetter(Speed speed) {
     return "N";
 }
 
+/// From one of its lines to the next.
+int pitchOf(const TagMeasures& tag) {
+    return tag.rise + dataOffset.y;
+}
+
+/// Both lines as one block.
+Size blockSize(const TagMeasures& tag) {
+    return {std::max(tag.callsign, tag.data), 2 * pitchOf(tag)};
+}
+
 TagStand usualStand(const TagMeasures& tag, Point at) {
     const Point callsign = at + Point{callsignLeft, -tag.rise};
     const Point data = at + dataOffset;
-    const int lineHeight = tag.rise + dataOffset.y;
     return {callsign,
             data,
             {callsign.x, callsign.y, std::max(callsign.x + tag.callsign, data.x + tag.data),
-             data.y + lineHeight}};
+             data.y + pitchOf(tag)}};
 }
 
 Point nearestIn(const Rect& box, Point p) {
@@ -79,14 +87,18 @@ TagMeasures measureTag(const TagTexts& texts, const Font& font, const TagFont& l
     return {font.width(texts.callsign), font.width(texts.data), letters.rise};
 }
 
+Size tagReach(const TagMeasures& tag) {
+    const Size block = blockSize(tag);
+    return {farGap.x + block.width, farGap.y + block.height};
+}
+
 TagStand tagStand(const TagMeasures& tag, Point at, std::size_t place) {
     if (place == usualTagPlace) {
         return usualStand(tag, at);
     }
     const auto [side, gap] = placeBeside(place - 1);
-    const int pitch = tag.rise + dataOffset.y;
-    const int width = std::max(tag.callsign, tag.data);
-    const int height = 2 * pitch;
+    const int pitch = pitchOf(tag);
+    const auto [width, height] = blockSize(tag);
     const Point corner = at + Point{beginning(side.x, gap.x, width), beginning(side.y, gap.y, height)};
     // Beside the symbol's left the lines end together, so that the shorter one is not far from it.
     const auto left = [&, sideways = side.x](int lineWidth) {
@@ -95,10 +107,6 @@ TagStand tagStand(const TagMeasures& tag, Point at, std::size_t place) {
     return {{left(tag.callsign), corner.y},
             {left(tag.data), corner.y + pitch},
             Rect::at(corner, {width, height})};
-}
-
-Rect symbolBox(Point at) {
-    return symbolAround.movedBy(at);
 }
 
 void drawTag(Canvas& canvas, const Font& font, const TagTexts& texts, const TagStand& stand, Colour colour) {

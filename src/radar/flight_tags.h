@@ -57,8 +57,14 @@ struct TagStand {
 /// `at` is the flight's radar point.
 TagStand tagStand(const TagMeasures& tag, Point at, std::size_t place);
 
+/// So far from its flight such a tag reaches at most, whatever its place.
+Size tagReach(const TagMeasures& tag);
+
 /// The box that the symbol takes.
-Rect symbolBox(Point at);
+constexpr Rect symbolBox(Point at) {
+    constexpr Rect around{-4, -4, 4, 4};
+    return around.movedBy(at);
+}
 
 /// Both lines, and at another than the usual place the line that leads there.
 void drawTag(Canvas& canvas, const Font& font, const TagTexts& texts, const TagStand& stand, Colour colour);

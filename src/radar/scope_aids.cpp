@@ -34,8 +34,10 @@ std::vector<TaggedFlight> taggedFlights(const AidScene& scene) {
         const Flight& flight = scene.game.flight(i);
         if (flight.isOnScope()) {
             const TagTexts texts = tagTexts(flight, scene.game.vors(), contentsOf(scene.options));
-            tagged.push_back(
-                {i, radarPoint(scene.layout, flight.current().cell), measureTag(texts, font, letters)});
+            tagged.push_back({.flight = i,
+                              .at = radarPoint(scene.layout, flight.current().cell),
+                              .tag = measureTag(texts, font, letters),
+                              .hasBracket = scene.options.aidColours != 0 && flight.selected});
         }
     }
     return tagged;

@@ -18,6 +18,7 @@ struct TaggedFlight {
     FlightIndex flight;
     Point at; ///< its radar point
     TagMeasures tag;
+    bool hasBracket = false; ///< under its symbol, which tags leave alone
 
     friend bool operator==(const TaggedFlight&, const TaggedFlight&) = default;
 };

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "golden.h"
+#include "radar/flight_marks.h"
 #include "radar/map_geometry.h"
 #include "radar_stage.h"
 #include "sim/flight_step.h"
@@ -120,7 +121,9 @@ class TagOrderTest : public ::testing::Test {
 protected:
     static constexpr Rect scope{0, 0, 600, 600};
 
-    void arrange() { arrangeTags(order_, flights_, {scope, {}}); }
+    void arrange(const std::vector<Rect>& landmarks = {}) {
+        arrangeTags(order_, flights_, {scope, landmarks});
+    }
     Rect box(std::size_t i) const {
         return tagStand(flights_[i].tag, flights_[i].at, tagPlaceOf(order_, flights_[i].flight)).box;
     }
@@ -174,6 +177,17 @@ TEST_F(TagOrderTest, ATagGoesBackOnceThereIsRoom) {
     flights_[1].at.x = 500;
     arrange();
     EXPECT_EQ(order_.places, (std::vector<std::uint8_t>{0, 0}));
+}
+
+TEST_F(TagOrderTest, ATagUnderItsFlightLeavesTheBracketOfTheChosenOneFree) {
+    const std::vector<Rect> allButBelow{{200, 200, 268, 400}, {332, 200, 400, 400}, {268, 200, 332, 296}};
+    fly({300, 300});
+    arrange(allButBelow);
+    ASSERT_TRUE(box(0).intersects(bracketBox({300, 300})));
+    flights_[0].hasBracket = true;
+    arrange(allButBelow);
+    EXPECT_GT(box(0).top, 300);
+    EXPECT_FALSE(box(0).intersects(bracketBox({300, 300})));
 }
 
 TEST(ScopeAids, ARefreshEqualsAWholeRepaintUnderTheSweep) {
