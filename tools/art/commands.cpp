@@ -96,8 +96,8 @@ std::optional<Bitmap> load(const fs::path& file) {
     return bitmap;
 }
 
-bool save(const fs::path& file, const Bitmap& bitmap) {
-    const bool isWritten = writePng(file, bitmap);
+bool save(const fs::path& file, const Bitmap& bitmap, PngPacking packing = PngPacking::small) {
+    const bool isWritten = writePng(file, bitmap, packing);
     if (!isWritten) {
         complain(file, "cannot be written");
     }
@@ -229,9 +229,9 @@ std::string drawing(std::string_view name, std::string_view materials) {
     return small == smallDrawings.end() ? std::string() : small->draw();
 }
 
-bool convertPicture(const fs::path& picture, const fs::path& target) {
+bool convertPicture(const fs::path& picture, const fs::path& target, PngPacking packing) {
     const auto bitmap = load(picture);
-    return bitmap && save(target, *bitmap);
+    return bitmap && save(target, *bitmap, packing);
 }
 
 bool convertToJpeg(const fs::path& picture, const fs::path& target) {
@@ -262,7 +262,7 @@ bool cutRadarFrame(const fs::path& console, const fs::path& target) {
     Bitmap frame(window.size());
     Canvas canvas(frame);
     canvas.draw(frame.bounds(), *bitmap, window);
-    return save(target, frame);
+    return save(target, frame, PngPacking::none);
 }
 
 bool keyPicture(const fs::path& onBlack, const fs::path& onWhite, const fs::path& target, Edge edge) {

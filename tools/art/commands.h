@@ -7,6 +7,8 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/canvas/png_writer.h"
+
 namespace ventrel::art {
 
 /// The names of all drawings, such as "console1024" and "cloud7".
@@ -19,12 +21,13 @@ std::string drawing(std::string_view name, std::string_view materials);
 // Each of these returns whether it succeeded, and says on standard error what went wrong, naming the file.
 
 /// Writes a rendered picture as the program reads it: 24 bits, the same bytes every time.
-bool convertPicture(const std::filesystem::path& picture, const std::filesystem::path& target);
+bool convertPicture(const std::filesystem::path& picture, const std::filesystem::path& target,
+                    PngPacking packing);
 
 /// The same as a JPEG picture.
 bool convertToJpeg(const std::filesystem::path& picture, const std::filesystem::path& target);
 
-/// Cuts the radar's frame out of a rendered console.
+/// Cuts the radar's frame out of a rendered console, and writes it unpacked.
 bool cutRadarFrame(const std::filesystem::path& console, const std::filesystem::path& target);
 
 /// Makes the film of its rendered sheets, which lie in a folder as "film0.png" and so on.

@@ -84,7 +84,15 @@ std::vector<Command> allCommands() {
         {"convert",
          "Writes a rendered picture as the program reads it",
          {"IN.png", "OUT"},
-         [](const Words& words) { return statusOf(art::convertPicture(words[0], words[1])); }},
+         [](const Words& words) {
+             return statusOf(art::convertPicture(words[0], words[1], PngPacking::small));
+         }},
+        {"store",
+         "The same unpacked: large, but read in no time",
+         {"IN.png", "OUT"},
+         [](const Words& words) {
+             return statusOf(art::convertPicture(words[0], words[1], PngPacking::none));
+         }},
         {"jpeg",
          "The same as a JPEG picture",
          {"IN.png", "OUT"},

@@ -22,7 +22,8 @@ constexpr png_uint_32 chunkCountLimit = 100;
 /// No packed byte makes more of them: a file that claims more holds nothing to fill the memory with.
 constexpr std::size_t bestPacking = 1032;
 
-constexpr std::size_t decodedChannels = 4; // red, green, blue, opacity
+constexpr std::size_t clearChannels = 4; // red, green, blue, opacity
+constexpr std::size_t solidChannels = 3;
 constexpr unsigned opaque = 0xFF;
 
 /// The library's error leaves by longjmp, over whatever was running. So everything with a destructor lives
@@ -36,7 +37,8 @@ struct PngReading {
     ByteView rest;
     png_structp png = nullptr;
     png_infop info = nullptr;
-    std::vector<std::uint8_t> pixels; ///< decoded, with opacity
+    std::vector<std::uint8_t> pixels; ///< decoded
+    std::size_t channels = solidChannels;
     std::vector<png_bytep> rows;
     std::size_t width = 0;
     std::size_t height = 0;
@@ -66,17 +68,22 @@ void setLimits(png_structp png) {
     png_set_crc_action(png, PNG_CRC_ERROR_QUIT, PNG_CRC_ERROR_QUIT);
 }
 
-/// Whatever the file holds comes out as four bytes a pixel.
-void askForDecodedPixels(png_structp png) {
-    png_set_expand(png);
-    png_set_scale_16(png);
-    png_set_gray_to_rgb(png);
-    png_set_add_alpha(png, opaque, PNG_FILLER_AFTER);
-    png_set_interlace_handling(png);
+bool hasClearParts(const PngReading& reading) {
+    return (png_get_color_type(reading.png, reading.info) & PNG_COLOR_MASK_ALPHA) != 0 ||
+           png_get_valid(reading.png, reading.info, PNG_INFO_tRNS) != 0;
+}
+
+/// Whatever the file holds comes out as that many bytes a pixel.
+void askForDecodedPixels(PngReading& reading) {
+    png_set_expand(reading.png);
+    png_set_scale_16(reading.png);
+    png_set_gray_to_rgb(reading.png);
+    png_set_interlace_handling(reading.png);
+    reading.channels = hasClearParts(reading) ? clearChannels : solidChannels;
 }
 
 void makeRoom(PngReading& reading) {
-    const std::size_t pitch = reading.width * decodedChannels;
+    const std::size_t pitch = reading.width * reading.channels;
     reading.pixels.resize(pitch * reading.height);
     reading.rows.resize(reading.height);
     for (std::size_t y = 0; y < reading.height; ++y) {
@@ -102,9 +109,9 @@ bool decode(PngReading& reading) {
     if (png_get_rowbytes(reading.png, reading.info) * reading.height / bestPacking > reading.rest.size()) {
         return false;
     }
-    askForDecodedPixels(reading.png);
+    askForDecodedPixels(reading);
     png_read_update_info(reading.png, reading.info);
-    if (png_get_rowbytes(reading.png, reading.info) != reading.width * decodedChannels) {
+    if (png_get_rowbytes(reading.png, reading.info) != reading.width * reading.channels) {
         return false;
     }
     makeRoom(reading);
@@ -116,13 +123,13 @@ bool decode(PngReading& reading) {
 /// Lays the pixels on black, which leaves three bytes of each. They move to the front of the same memory.
 void layOnBlack(std::vector<std::uint8_t>& pixels) {
     std::uint8_t* to = pixels.data();
-    for (std::size_t i = 0; i < pixels.size(); i += decodedChannels) {
+    for (std::size_t i = 0; i < pixels.size(); i += clearChannels) {
         const unsigned opacity = pixels[i + 3];
-        for (std::size_t channel = 0; channel < 3; ++channel) {
+        for (std::size_t channel = 0; channel < solidChannels; ++channel) {
             *to++ = static_cast<std::uint8_t>((pixels[i + channel] * opacity + opaque / 2) / opaque);
         }
     }
-    pixels.resize(pixels.size() / decodedChannels * 3);
+    pixels.resize(pixels.size() / clearChannels * solidChannels);
 }
 
 } // namespace
@@ -143,7 +150,9 @@ ImageError readPng(ByteView data, Image& image) {
     if (!decode(reading)) {
         return ImageError::damaged;
     }
-    layOnBlack(reading.pixels);
+    if (reading.channels == clearChannels) {
+        layOnBlack(reading.pixels);
+    }
     image.pixels = std::move(reading.pixels);
     image.width = static_cast<std::uint32_t>(reading.width);
     image.height = static_cast<std::uint32_t>(reading.height);

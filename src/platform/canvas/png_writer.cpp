@@ -12,6 +12,7 @@ namespace ventrel {
 namespace {
 
 constexpr int packingEffort = 9;
+constexpr int noEffort = 0;
 constexpr int bitsPerChannel = 8;
 constexpr std::size_t storedChannels = 3;
 
@@ -41,7 +42,7 @@ void giveBytes(png_structp png, png_bytep from, std::size_t size) {
 }
 
 /// Nothing here may need a destructor: see PngWriting.
-bool encode(PngWriting& writing, const Bitmap& bitmap) {
+bool encode(PngWriting& writing, const Bitmap& bitmap, PngPacking packing) {
     writing.png = png_create_write_struct(PNG_LIBPNG_VER_STRING, nullptr, leavePngWriting, ignoreInWriter);
     writing.info = writing.png != nullptr ? png_create_info_struct(writing.png) : nullptr;
     if (writing.info == nullptr) {
@@ -51,7 +52,12 @@ bool encode(PngWriting& writing, const Bitmap& bitmap) {
         return false;
     }
     png_set_write_fn(writing.png, &writing, giveBytes, nullptr);
-    png_set_compression_level(writing.png, packingEffort);
+    if (packing == PngPacking::small) {
+        png_set_compression_level(writing.png, packingEffort);
+    } else {
+        png_set_compression_level(writing.png, noEffort);
+        png_set_filter(writing.png, PNG_FILTER_TYPE_BASE, PNG_FILTER_NONE);
+    }
     png_set_IHDR(writing.png, writing.info, static_cast<png_uint_32>(bitmap.width()),
                  static_cast<png_uint_32>(bitmap.height()), bitsPerChannel, PNG_COLOR_TYPE_RGB,
                  PNG_INTERLACE_NONE, PNG_COMPRESSION_TYPE_DEFAULT, PNG_FILTER_TYPE_DEFAULT);
@@ -66,17 +72,17 @@ bool encode(PngWriting& writing, const Bitmap& bitmap) {
 
 } // namespace
 
-std::vector<std::byte> encodePng(const Bitmap& bitmap) {
+std::vector<std::byte> encodePng(const Bitmap& bitmap, PngPacking packing) {
     if (bitmap.isEmpty()) {
         return {};
     }
     PngWriting writing;
     writing.row.reserve(storedChannels * static_cast<std::size_t>(bitmap.width()));
-    return encode(writing, bitmap) ? std::move(writing.file) : std::vector<std::byte>{};
+    return encode(writing, bitmap, packing) ? std::move(writing.file) : std::vector<std::byte>{};
 }
 
-bool writePng(const std::filesystem::path& file, const Bitmap& bitmap) {
-    const std::vector<std::byte> content = encodePng(bitmap);
+bool writePng(const std::filesystem::path& file, const Bitmap& bitmap, PngPacking packing) {
+    const std::vector<std::byte> content = encodePng(bitmap, packing);
     return !content.empty() && replaceFile(file, content).has_value();
 }
 

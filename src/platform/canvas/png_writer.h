@@ -12,11 +12,15 @@
 
 namespace ventrel {
 
+/// How a picture is kept: as small as can be, or as it is, which is read many times faster.
+enum class PngPacking { small, none };
+
 /// The bytes of a 24-bit PNG file; none for an empty picture, which the format cannot hold, or when memory
 /// runs out.
-std::vector<std::byte> encodePng(const Bitmap& bitmap);
+std::vector<std::byte> encodePng(const Bitmap& bitmap, PngPacking packing = PngPacking::small);
 
 /// Writes or replaces the file. False when that fails; an older file then stands as it was.
-bool writePng(const std::filesystem::path& file, const Bitmap& bitmap);
+bool writePng(const std::filesystem::path& file, const Bitmap& bitmap,
+              PngPacking packing = PngPacking::small);
 
 } // namespace ventrel

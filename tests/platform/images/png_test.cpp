@@ -59,6 +59,7 @@ std::vector<Bytes> forms() {
         add(8, 3, [](At x, At y) { return bytes({x + 5 * y}); }, pngChunk("PLTE", table));
     }
     files.push_back(encodePng(picture()));
+    files.push_back(encodePng(picture(), PngPacking::none));
     return files;
 }
 
