@@ -12,6 +12,8 @@ namespace {
 
 /// So many messages are handled before the picture gets its turn, lest a flood freezes it.
 constexpr int messagesPerPass = 1000;
+/// A picture waits so much longer for what is to be done then anyhow: that saves an awakening.
+constexpr Millis sendingMayWait = 4;
 
 bool isOver(const DesktopState& state, const LoopMode& mode) {
     return state.isQuitting || (mode.isFinished && mode.isFinished());
@@ -25,6 +27,15 @@ std::optional<InputEvent> nextInput(DesktopState& state) {
     InputEvent event = std::move(waiting.front());
     waiting.pop_front();
     return event;
+}
+
+/// A press, a key or a turn of the wheel, not a mere move.
+bool isDeed(const InputEvent& event) {
+    if (const auto* const key = std::get_if<KeyEvent>(&event)) {
+        return key->down;
+    }
+    const auto* const mouse = std::get_if<MouseEvent>(&event);
+    return mouse != nullptr && (mouse->button != MouseButton::none || mouse->wheel != 0);
 }
 
 void runPosted(DesktopState& state) {
@@ -42,6 +53,9 @@ bool handleOne(DesktopState& state, const LoopMode& mode) {
         return true;
     }
     if (const auto event = nextInput(state)) {
+        if (isDeed(*event)) {
+            state.nextSending = state.backend.now(); // its answer does not wait
+        }
         routeInput(state, *event, mode.accelerators);
         return true;
     }
@@ -81,6 +95,12 @@ std::optional<Millis> runIdle(DesktopState& state) {
     return wanted ? std::optional(std::max(*wanted, called + 1)) : std::nullopt;
 }
 
+/// When the loop is to go on: to send the rest of the picture, or to do something.
+std::optional<Millis> awakening(std::optional<Millis> sending, std::optional<Millis> doing) {
+    const bool goTogether = sending && doing && *doing <= *sending + sendingMayWait;
+    return goTogether ? doing : earlier(sending, doing);
+}
+
 bool isQueueEmpty(const DesktopState& state) {
     return state.queue.posted.empty() && state.queue.input.empty();
 }
@@ -100,11 +120,14 @@ std::optional<Millis> runPass(DesktopState& state, const LoopMode& mode) {
     if (isOver(state, mode)) {
         return state.backend.now();
     }
+    if (showMachineWindow(state)) {
+        handleWaiting(state, mode); // the machine mostly asks for the whole picture, which is sent once then
+    }
     const auto rest = presentChanges(state);
     if (state.paintIsNeeded || !isQueueEmpty(state)) {
         return state.backend.now();
     }
-    return earlier(rest, earlier(idleDeadline, nextTimer(state.timers)));
+    return awakening(rest, earlier(idleDeadline, nextTimer(state.timers)));
 }
 
 void sleepUntil(DesktopState& state, std::optional<Millis> moment) {

@@ -57,16 +57,6 @@ void layPart(DesktopState& state, const Rect& part) {
     });
 }
 
-void showMachineWindow(DesktopState& state) {
-    const auto& all = state.topLevels;
-    const bool isNeeded =
-        std::any_of(all.begin(), all.end(), [](const WindowPtr& topLevel) { return topLevel->visible; });
-    if (isNeeded != state.machineWindowIsShown) {
-        state.machineWindowIsShown = isNeeded;
-        state.backend.show(isNeeded);
-    }
-}
-
 void sendChanges(DesktopState& state) {
     const std::vector<Rect> changed = state.damage.rectangles();
     state.damage.clear();
@@ -78,6 +68,18 @@ void sendChanges(DesktopState& state) {
 
 } // namespace
 
+bool showMachineWindow(DesktopState& state) {
+    const auto& all = state.topLevels;
+    const bool isNeeded =
+        std::any_of(all.begin(), all.end(), [](const WindowPtr& topLevel) { return topLevel->visible; });
+    if (isNeeded == state.machineWindowIsShown) {
+        return false;
+    }
+    state.machineWindowIsShown = isNeeded;
+    state.backend.show(isNeeded);
+    return isNeeded;
+}
+
 std::optional<Millis> presentChanges(DesktopState& state) {
     collectDamage(state);
     const Millis now = state.backend.now();
@@ -86,7 +88,6 @@ std::optional<Millis> presentChanges(DesktopState& state) {
         sendChanges(state);
         state.nextSending = now + state.backend.frameTime();
     }
-    showMachineWindow(state);
     return state.damage.isEmpty() ? std::nullopt : std::optional(state.nextSending);
 }
 

@@ -7,9 +7,11 @@
 
 namespace ventrel {
 
+/// Shows the machine's window while any top-level is shown, and hides it else. Whether it has just come up.
+bool showMachineWindow(DesktopState& state);
+
 /// Lays and sends what changed since the last time; nothing happens when nothing did, or while the screen
-/// still shows what was sent before. Returns the moment at which the rest can be sent, none when all is. The
-/// machine's window is shown while any top-level is.
+/// still shows what was sent before. Returns the moment at which the rest can be sent, none when all is.
 std::optional<Millis> presentChanges(DesktopState& state);
 
 } // namespace ventrel

@@ -111,6 +111,13 @@ std::string HeadlessBackend::keyName(Key place) {
     return written != keyNames_.end() ? written->second : americanName(place);
 }
 
+void HeadlessBackend::show(bool visible) {
+    shown_ = visible;
+    if (visible) {
+        timeline_.push_front({now_, WindowEvent::exposed});
+    }
+}
+
 void HeadlessBackend::minimise() {
     minimised_ = true;
     timeline_.push_front({now_, WindowEvent::deactivated});

@@ -77,7 +77,8 @@ public:
     std::optional<InputEvent> wait(std::optional<Millis> limit) override;
     DisplayInfo display() override { return display_; }
     void present(const Bitmap& picture, std::span<const Rect> changed) override;
-    void show(bool visible) override { shown_ = visible; }
+    /// Showing is answered as a window system does: all is to be sent.
+    void show(bool visible) override;
     void setTitle(std::string_view title) override { title_ = title; }
     void setCursor(const CursorImage* cursor) override { cursor_ = cursor; }
     void captureMouse(bool captured) override { captured_ = captured; }
