@@ -13,6 +13,8 @@ namespace {
 
 using namespace std::chrono_literals;
 
+/// The instruments take a core for a tenth of a second at the start: the first picture goes before.
+constexpr auto pauseBeforeLoading = 80ms;
 constexpr auto renderPause = 60ms; // well within what the stream stores
 constexpr int tailSeconds = 4;     // that a piece may ring on after its end
 /// A standard MIDI file begins so. See https://midi.org/standard-midi-files.
@@ -82,7 +84,16 @@ FluidSequencer::Order FluidSequencer::waitForOrder() {
     return isQuitting_ ? Order{} : std::exchange(order_, {});
 }
 
+/// Whether the sequencer has not ended meanwhile.
+bool FluidSequencer::waitBeforeLoading() {
+    std::unique_lock lock(mutex_);
+    return !changed_.wait_for(lock, pauseBeforeLoading, [this] { return isQuitting_; });
+}
+
 void FluidSequencer::run() {
+    if (!waitBeforeLoading()) {
+        return;
+    }
     PieceRenderer renderer(rate_);
     const bool hasInstruments = renderer.loadInstruments(soundfonts_);
     for (;;) {

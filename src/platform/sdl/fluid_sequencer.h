@@ -40,6 +40,7 @@ private:
     };
 
     void run();
+    bool waitBeforeLoading();
     Order waitForOrder();
     void renderPiece(class PieceRenderer& renderer, const Order& order);
     bool isWanted(MusicStream::Piece piece) const;

@@ -38,16 +38,25 @@ private:
         std::vector<Pixel> pixels;
     };
 
+    /// A shown column that is a mixture. The others show a pixel of the picture as it is.
+    struct Seam {
+        int shown = 0;
+        Between pixels;
+    };
+
     static Between between(int shown, int shownLength, int length);
     static std::vector<Between> betweenAll(int shownLength, int length);
     void prepare(Size shown, Size picture);
+    void findSeams();
     void mixPixels(const PixelRows& target, const Rect& area, const Bitmap& picture, const Rect& shown);
-    const std::vector<Pixel>& mixedAcross(MixedRow& row, int number, const Bitmap& picture,
-                                          std::span<const Between> columns);
+    /// The columns from `left` on, `width` of them.
+    const std::vector<Pixel>& mixedAcross(MixedRow& row, int number, const Bitmap& picture, int left,
+                                          int width);
 
     Size shown_;
     Size picture_;
-    std::vector<Between> columns_;
+    std::vector<int> columns_; ///< the picture's column that each shown one is nearest to
+    std::vector<Seam> seams_;  ///< from left to right
     std::vector<Between> rows_;
     MixedRow upper_;
     MixedRow lower_;

@@ -61,9 +61,13 @@ public:
 
     std::optional<InputEvent> wait(std::optional<Millis> limit) override {
         const std::optional<Millis> end = limit ? std::optional(now() + *limit) : std::nullopt;
+        const bool wasQuiet = std::exchange(wasQuiet_, false);
         for (;;) {
             if (const auto typed = std::exchange(typed_, std::nullopt)) {
                 return *typed;
+            }
+            if (limit == 0 && wasQuiet) {
+                return std::nullopt;
             }
             SDL_Event event;
             if (waitFor(event, end)) {
@@ -71,6 +75,7 @@ public:
                     return input;
                 }
             } else if (end && now() >= *end) {
+                wasQuiet_ = limit != 0;
                 return std::nullopt;
             }
         }
@@ -309,6 +314,7 @@ private:
     std::optional<Beeper> beeper_; // where there is sound
     std::optional<DragStrip> dragStrip_;
     bool captured_ = false;
+    bool wasQuiet_ = false; // until the end of the latest wait: a look right after it would find nothing
 };
 
 constexpr std::string_view noScreenText = "There is no screen to show Ventrel on: no window system answers "
