@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <future>
 #include <span>
 #include <string>
 #include <string_view>
@@ -72,8 +73,13 @@ struct Settings {
     std::optional<Rect> windowPlace = {};
 };
 
-Settings readSettings(const ProfileFile& profile, const Screen& screen) {
-    Settings settings{.options = ReadOptions(profile)};
+/// Begins to load the console's pictures, which takes as long as a screen takes to open.
+std::future<Result<LoadedPictures>> beginPictures(const std::filesystem::path& programFolder, Size window) {
+    return std::async(std::launch::async, loadPictures, programFolder, window.width);
+}
+
+Settings readSettings(const ProfileFile& profile, Options options, const Screen& screen) {
+    Settings settings{.options = options};
     settings.window = chooseWindowSize(settings.options, screen.size().value_or(Size{}));
     settings.windowPlace = readWindowPlace(profile, settings.window.width);
     return settings;
@@ -132,8 +138,16 @@ int play(const std::filesystem::path& executable, const Wishes& wishes) {
     const std::filesystem::path programFolder = programDataFolder(executable, programName);
     const PlayerPlaces player = playerPlaces(executable, programFolder, programName);
     OptionsStore store(optionsFile(executable, player));
+    Options options = ReadOptions(store.atStart());
+    std::future<Result<LoadedPictures>> pictures;
+    if (hasWindowSize(options)) {
+        pictures = beginPictures(programFolder, chooseWindowSize(options, {}));
+    }
     const Screen screen;
-    const Settings settings = readSettings(store.atStart(), screen);
+    const Settings settings = readSettings(store.atStart(), options, screen);
+    if (!pictures.valid()) {
+        pictures = beginPictures(programFolder, settings.window);
+    }
 
     ProgramData data = openProgramData(programFolder);
     if (!data.fonts.hasFaces()) {
@@ -149,7 +163,14 @@ int play(const std::filesystem::path& executable, const Wishes& wishes) {
     SdlBackend& backend = **screenBackend;
     SoundSystem sounds(*device, device->sequencer(), programFolder);
     const Player who = store.isFirstStart() ? Player::newcomer : Player::known;
-    Program program({backend, data.fonts, sounds, store, std::move(data.troubles), wishes.firstScene, who},
+    Program program({.backend = backend,
+                     .fonts = data.fonts,
+                     .sounds = sounds,
+                     .store = store,
+                     .troubles = std::move(data.troubles),
+                     .firstScene = wishes.firstScene,
+                     .player = who,
+                     .pictures = std::move(pictures)},
                     {programFolder, player.data, playersAirports()}, settings.options,
                     wishes.seed.value_or(seedOfTheMoment()));
     const auto keep = [&] { keepSettings(store, program.options(), settings.window, backend); };

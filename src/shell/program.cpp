@@ -36,8 +36,12 @@ void tellOfSilence(Shell& shell, SoundFault fault) {
 
 } // namespace
 
+bool hasWindowSize(const Options& options) {
+    return options.resolution == smallResolution || options.resolution == largeResolution;
+}
+
 Size chooseWindowSize(Options& options, Size screen) {
-    if (options.resolution != smallResolution && options.resolution != largeResolution) {
+    if (!hasWindowSize(options)) {
         options.resolution = screen.width < largeWindow.width ? smallResolution : largeResolution;
     }
     return options.resolution == smallResolution ? smallWindow : largeWindow;
@@ -54,7 +58,8 @@ tl::unexpected<Failure> Program::giveUp(Failure reason) {
 }
 
 Result<> Program::startUp() {
-    auto loaded = loadPictures(places_.programFolder, desktop_.size().width);
+    auto loaded = parts_.pictures.valid() ? parts_.pictures.get()
+                                          : loadPictures(places_.programFolder, desktop_.size().width);
     if (!loaded) {
         return giveUp(std::move(loaded.error()));
     }

@@ -6,6 +6,7 @@
 #pragma once
 
 #include <filesystem>
+#include <future>
 #include <memory>
 
 #include "audio/game_sounds.h"
@@ -20,6 +21,9 @@ struct ProgramPlaces {
     std::filesystem::path playerFolder = {};
     std::filesystem::path playersAirports = {}; ///< a folder, which need not be there
 };
+
+/// Whether the option `resolution` asks for a size of the main window.
+bool hasWindowSize(const Options& options);
 
 /// The size of the main window that the option `resolution` asks for; without such a wish it follows from the
 /// screen's width and is noted in the option.
@@ -41,6 +45,8 @@ struct ProgramParts {
     FirstScene firstScene = FirstScene::console;
     Player player = Player::known;
     UtcClock utcNow = systemUtcNow;
+    /// The console's, when they were begun beside the opening of the screen; else the start loads them.
+    std::future<Result<LoadedPictures>> pictures = {};
 };
 
 class Program {
