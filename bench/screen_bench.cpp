@@ -1,6 +1,6 @@
 // What it costs to bring changed parts of the picture to the real screen, at several scales.
 //
-// Needs a display; without one it says so. Under a server in memory: xvfb-run -s "-screen 0 2200x1700x24"
+// Needs a display; without one it says so. Under a server in memory: xvfb-run -s "-screen 0 2400x1800x24"
 // screen_bench
 
 #include <benchmark/benchmark.h>
@@ -55,7 +55,7 @@ void damageToScreen(benchmark::State& state, const Rect& part, int scaleTenths) 
 } // namespace
 
 int main(int argc, char** argv) {
-    for (const int scale : {10, 16, 20}) {
+    for (const int scale : {10, 16, 20, 28}) {
         for (const Part& part : parts) {
             const std::string name =
                 std::string("DamageToScreen/") + part.name + "/scale:" + std::to_string(scale) + "/10";
