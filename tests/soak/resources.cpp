@@ -1,0 +1,36 @@
+#include "tests/soak/resources.h"
+
+#include <malloc.h>
+#include <unistd.h>
+
+#include <filesystem>
+#include <fstream>
+
+#ifdef __SANITIZE_ADDRESS__
+#include <sanitizer/allocator_interface.h>
+#endif
+
+namespace ventrel {
+
+std::size_t bytesInUse() {
+#ifdef __SANITIZE_ADDRESS__
+    return ::__sanitizer_get_current_allocated_bytes();
+#else
+    const auto used = ::mallinfo2();
+    return used.uordblks + used.hblkhd;
+#endif
+}
+
+std::size_t residentBytes() {
+    std::size_t all = 0;
+    std::size_t resident = 0;
+    std::ifstream("/proc/self/statm") >> all >> resident;
+    return resident * static_cast<std::size_t>(::sysconf(_SC_PAGESIZE));
+}
+
+int openFiles() {
+    const std::filesystem::directory_iterator files("/proc/self/fd");
+    return static_cast<int>(std::distance(begin(files), end(files))) - 1; // without the iterator's own
+}
+
+} // namespace ventrel
