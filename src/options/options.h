@@ -46,6 +46,7 @@ struct Options {
     int aidOrderLine = 0;    ///< where the order on the panel would lead
     int aidUnsentMarks = 0;  ///< what EXEC would change is marked on the panel
     int aidConflicts = 0;    ///< rings around flights that will come too close
+    int aidConflictTone = 0; ///< a soft tone when such a flight is new
     int aidColours = 0;      ///< colours and shapes for all eyes
     int aidCaptions = 0;     ///< what the pilots say can be read
 

@@ -47,6 +47,8 @@ inline constexpr std::array aidRows{std::to_array<AidRow>({
      "On the panel: a mark at all that EXEC would change"},
     {AidGroup::eyesAndEars, "AidColours", &Options::aidColours, "Cl&ear colours",
      "For eyes without a sense of red, green or blue; shapes, too"},
+    {AidGroup::eyesAndEars, "AidConflictTone", &Options::aidConflictTone, "&Soft tone",
+     "Sounds when a near miss has come within three moves"},
     {AidGroup::eyesAndEars, "AidCaptions", &Options::aidCaptions, "&Captions",
      "What the pilots say can be read under the messages"},
 })};

@@ -1,7 +1,8 @@
-// The prediction of conflicts as the player sees it: which flights have the thin ring now.
+// The prediction of conflicts as the player has it: which flights are endangered now, for the thin ring, and
+// the tone for one that has not been before.
 //
-// Looks ahead after a step and after an order, when the scope is shown next, and not at all while the aid is
-// off.
+// Looks ahead after a step and after an order, when the scope is shown next, and not at all while both aids
+// are off.
 
 #pragma once
 

@@ -42,6 +42,31 @@ TEST(Warnings, ARingComesThreeMovesAheadAndGoesWithTheOrderThatPreventsIt) {
     stage.play();
 }
 
+TEST(Warnings, ATonePerNewConflictIsHeardWhereItIsAskedForAlsoWithoutRings) {
+    for (const bool isAskedFor : {false, true}) {
+        GameStage stage(800, std::string("[Options]\nRadarSweep=0\nMapDetails=0\n") +
+                                 (isAskedFor ? "AidConflictTone=1\n" : "AidConflicts=1\n") +
+                                 "[Game]\nName=mary\nSkill=0\n");
+        QuietShift shift(stage);
+        shift.enter(eastbound, {.cell = {12, 24}, .altitude = 5, .heading = 90});
+        shift.enter(westbound, {.cell = {20, 24}, .altitude = 6, .heading = 270});
+        stage.skipTo(QuietShift::entryTime);
+        stage.look([&stage] { stage.game().flight(westbound).current().altitude = 5; });
+        const auto expectTones = [&stage, isAskedFor](int tones, const char* when) {
+            stage.look([&stage, tones, isAskedFor, when] {
+                EXPECT_EQ(stage.sounds.count("snd\\conflict.snd"), isAskedFor ? tones : 0) << when;
+                EXPECT_EQ(ringPixels(stage) > 0, !isAskedFor && tones > 0) << when;
+            });
+        };
+        expectTones(0, "four moves before");
+        stage.skipTo(QuietShift::entryTime + 30_s);
+        expectTones(1, "three moves before");
+        stage.skipTo(QuietShift::entryTime + 60_s);
+        expectTones(1, "still the same two");
+        stage.play();
+    }
+}
+
 TEST(Warnings, WhatAPilotSaysCanBeReadForAWhileAlsoWithoutVoices) {
     GameStage stage(800, "[Options]\nVoice=0\nAidCaptions=1\n[Game]\nName=mary\nSkill=0\n");
     QuietShift shift(stage);
