@@ -104,9 +104,9 @@ enum class DeskPart {
     panel,
     dial,
     altitude, ///< the scale, or one bar of it
-    speed,
+    speed,    ///< the lamps, or one
     direct,
-    target, ///< the selector beside the button of a direct course
+    target, ///< the arrows that choose where a direct course leads
     preview,
     exec,
     clock,
@@ -119,13 +119,20 @@ struct LessonSpot {
     DeskPart part = DeskPart::nothing;
     std::optional<std::size_t> flight{};
     std::string point{};
-    int number = 0; ///< the altitude of a bar; 0: the whole scale
+    int number = 0;               ///< the altitude of a bar; 0: the whole scale
+    std::optional<Speed> speed{}; ///< the one lamp; none: all
+};
+
+/// Where the player shall look while something is so.
+struct LessonShow {
+    LessonSpot spot{};
+    Condition when{}; ///< empty: always
 };
 
 /// One thing to do. The last step of a lesson has no `until`: it is reached, and the lesson is done.
 struct LessonStep {
     std::string text;
-    LessonSpot spot{};
+    std::vector<LessonShow> shows{}; ///< the last one that holds counts
     Condition until{};
     std::vector<LessonAnswer> answers{};
     std::vector<std::size_t> brought{}; ///< flights that come in, or ask for take-off, when it begins

@@ -150,7 +150,7 @@ private:
 
     Result<> readShow(std::string_view rest) {
         return onStep([&](LessonStep& step) -> Result<> {
-            return take(readLessonSpot(rest, lesson_.flights.size()), step.spot);
+            return take(readLessonShow(rest, lesson_.flights.size()), step.shows.emplace_back());
         });
     }
 

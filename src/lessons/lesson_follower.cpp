@@ -88,14 +88,14 @@ const LessonNote& LessonFollower::follow(const LessonFacts& facts) {
     }
     const LessonStep& step = lesson_.steps[step_];
     if (step.until.empty()) {
-        show(NoteKind::done, step.text, facts.game);
+        show(NoteKind::done, step.text, facts);
     } else if (const LessonAnswer* answer = answerFor(facts)) {
-        show(answer->stops ? NoteKind::stop : NoteKind::answer, answer->text, facts.game);
+        show(answer->stops ? NoteKind::stop : NoteKind::answer, answer->text, facts);
     } else if (result_) {
         const bool collided = *result_ == ShiftResult::collision;
-        show(NoteKind::stop, std::string(collided ? collisionAnswer : endedAnswer), facts.game);
+        show(NoteKind::stop, std::string(collided ? collisionAnswer : endedAnswer), facts);
     } else {
-        show(NoteKind::task, step.text, facts.game);
+        show(NoteKind::task, step.text, facts);
     }
     return note_;
 }
@@ -141,15 +141,25 @@ const LessonAnswer* LessonFollower::answerFor(const LessonFacts& facts) const {
     return nullptr;
 }
 
-void LessonFollower::show(NoteKind kind, const std::string& text, const Game& game) {
+LessonSpot LessonFollower::spotFor(const LessonFacts& facts) const {
+    LessonSpot spot;
+    for (const LessonShow& show : lesson_.steps[step_].shows) {
+        if (show.when.empty() || holds(show.when, facts)) {
+            spot = show.spot;
+        }
+    }
+    return spot;
+}
+
+void LessonFollower::show(NoteKind kind, const std::string& text, const LessonFacts& facts) {
     const LessonStep& step = lesson_.steps[step_];
     const auto asksToRead = [](const FactTerms& terms) {
         return std::ranges::any_of(terms, [](const FactTerm& term) { return term.fact == Fact::read; });
     };
     const bool isRead = std::ranges::any_of(step.until, asksToRead);
     note_ = {.kind = kind,
-             .text = lessonText(game, text),
-             .spot = kind == NoteKind::stop ? LessonSpot{} : step.spot,
+             .text = lessonText(facts.game, text),
+             .spot = kind == NoteKind::stop ? LessonSpot{} : spotFor(facts),
              .needsButton = kind == NoteKind::task && isRead,
              .step = step_};
     isOver_ = kind == NoteKind::stop || kind == NoteKind::done;

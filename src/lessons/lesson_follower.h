@@ -88,7 +88,8 @@ private:
     void countMoves(const Game& game);
     void beginStep(std::size_t step);
     const LessonAnswer* answerFor(const LessonFacts& facts) const;
-    void show(NoteKind kind, const std::string& text, const Game& game);
+    LessonSpot spotFor(const LessonFacts& facts) const;
+    void show(NoteKind kind, const std::string& text, const LessonFacts& facts);
 
     Lesson lesson_;
     std::vector<Fate> fates_; ///< one for each flight

@@ -111,7 +111,7 @@ std::optional<std::size_t> flightOf(std::string_view word, std::size_t flights) 
 struct Operands {
     int number = 0;
     std::string point{};
-    Speed speed = Speed::normal;
+    std::optional<Speed> speed{};
     std::optional<std::size_t> flight{};
 };
 
@@ -143,14 +143,18 @@ bool takeAnyPoint(std::string_view& text, Operands& into) {
 }
 
 bool takeSpeed(std::string_view& text, Operands& into) {
-    const auto speed = speedOf(takeLessonWord(text));
-    into.speed = speed.value_or(Speed::normal);
-    return speed.has_value();
+    into.speed = speedOf(takeLessonWord(text));
+    return into.speed.has_value();
+}
+
+/// Whether no operand follows the name of a place.
+bool endsPlace(std::string_view text) {
+    const std::string_view word = takeLessonWord(text);
+    return word.empty() || word == "when";
 }
 
 /// Takes an operand of that kind off the text; false where there is none.
 bool takeOperand(std::string_view& text, Operand operand, std::size_t flights, Operands& into) {
-    std::string_view ahead = text;
     switch (operand) {
     case Operand::none: return true;
     case Operand::altitude: return takeNumber(text, into, altitudeOf);
@@ -163,7 +167,8 @@ bool takeOperand(std::string_view& text, Operand operand, std::size_t flights, O
     case Operand::flight:
         into.flight = flightOf(takeLessonWord(text), flights);
         return into.flight.has_value();
-    case Operand::perhapsAltitude: return takeLessonWord(ahead).empty() || takeNumber(text, into, altitudeOf);
+    case Operand::perhapsAltitude: return endsPlace(text) || takeNumber(text, into, altitudeOf);
+    case Operand::perhapsSpeed: return endsPlace(text) || takeSpeed(text, into);
     }
     return false;
 }
@@ -189,7 +194,7 @@ Result<FactTerm> takeTerm(std::string_view& text, std::size_t flights) {
     }
     term.number = operands.number;
     term.point = std::move(operands.point);
-    term.speed = operands.speed;
+    term.speed = operands.speed.value_or(Speed::normal);
     return term;
 }
 
@@ -281,15 +286,25 @@ Result<std::vector<std::size_t>> readFlights(std::string_view text, std::size_t 
     return found;
 }
 
-Result<LessonSpot> readLessonSpot(std::string_view text, std::size_t flights) {
+Result<LessonShow> readLessonShow(std::string_view text, std::size_t flights) {
     const std::string_view whole = text;
     const auto* row = takeRow(text, spotWords);
     Operands operands;
-    if (row == nullptr || !takeOperand(text, row->operand, flights, operands) ||
-        !takeLessonWord(text).empty()) {
+    if (row == nullptr || !takeOperand(text, row->operand, flights, operands)) {
         return failed(quoted(whole) + " is nothing that can be shown");
     }
-    return LessonSpot{row->part, operands.flight, std::move(operands.point), operands.number};
+    LessonShow show{
+        .spot = {row->part, operands.flight, std::move(operands.point), operands.number, operands.speed}};
+    if (takeWords(text, "when")) {
+        auto when = readCondition(text, flights);
+        if (!when) {
+            return tl::unexpected(std::move(when.error()));
+        }
+        show.when = std::move(*when);
+    } else if (!takeLessonWord(text).empty()) {
+        return failed(quoted(whole) + " is nothing that can be shown");
+    }
+    return show;
 }
 
 } // namespace ventrel

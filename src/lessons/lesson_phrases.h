@@ -26,7 +26,7 @@ Result<Condition> readCondition(std::string_view text, std::size_t flights);
 /// "B C"
 Result<std::vector<std::size_t>> readFlights(std::string_view text, std::size_t flights);
 
-/// "flight A", "altitude 10", "cone ATL".
-Result<LessonSpot> readLessonSpot(std::string_view text, std::size_t flights);
+/// "flight A", "altitude 10", "cone ATL", and perhaps a condition: "exec when A panel hold".
+Result<LessonShow> readLessonShow(std::string_view text, std::size_t flights);
 
 } // namespace ventrel

@@ -41,7 +41,10 @@ public:
         checkAnswers(lesson_.answers);
         for (const LessonStep& step : lesson_.steps) {
             checkText(step.text);
-            checkSpot(step.spot);
+            for (const LessonShow& show : step.shows) {
+                checkSpot(show.spot);
+                checkCondition(show.when);
+            }
             checkCondition(step.until);
             checkAnswers(step.answers);
         }

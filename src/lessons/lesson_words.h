@@ -21,6 +21,7 @@ enum class Operand {
     distance, ///< "6 of ATL"
     flight,
     perhapsAltitude,
+    perhapsSpeed,
 };
 
 struct FactWords {
@@ -85,7 +86,7 @@ inline constexpr std::array spotWords{std::to_array<SpotWords>({
     {"panel", DeskPart::panel},
     {"dial", DeskPart::dial},
     {"altitude", DeskPart::altitude, Operand::perhapsAltitude},
-    {"speed", DeskPart::speed},
+    {"speed", DeskPart::speed, Operand::perhapsSpeed},
     {"direct", DeskPart::direct},
     {"target", DeskPart::target},
     {"preview", DeskPart::preview},

@@ -39,7 +39,8 @@ constexpr int textTop = 35;
 constexpr int buttonGap = 8; // above and below the buttons
 constexpr Size leaveSize{70, 18};
 constexpr Size goSize{96, 18};
-constexpr int lineWidth = 2; // of the frame
+constexpr int lineWidth = 2;     // of the frame
+constexpr int openFrameLeg = 10; // along its sides from each corner
 
 // The pin, from the middle of the upper edge.
 constexpr Rect pinShadow{-3, 3, 7, 11};
@@ -122,7 +123,7 @@ void LessonNoteWindow::show(const LessonNote& note) {
         sheet_.invalidateAll();
     }
     if (shown != framed_) {
-        moveFrame(shown);
+        moveFrame(shown, hasOpenFrame(note.spot));
     }
 }
 
@@ -133,20 +134,25 @@ void LessonNoteWindow::fitButtons() {
     go_.window.setBounds(Rect::at({right - goSize.width, top}, goSize));
 }
 
-void LessonNoteWindow::moveFrame(const std::optional<Rect>& area) {
+void LessonNoteWindow::moveFrame(const std::optional<Rect>& area, bool isOpen) {
     framed_ = area;
     const Rect box = area.value_or(Rect{});
-    const std::array<Rect, 4> lines{
-        Rect{box.left, box.top, box.right, box.top + lineWidth},
-        Rect{box.left, box.bottom - lineWidth, box.right, box.bottom},
-        Rect{box.left, box.top + lineWidth, box.left + lineWidth, box.bottom - lineWidth},
-        Rect{box.right - lineWidth, box.top + lineWidth, box.right, box.bottom - lineWidth}};
-    for (std::size_t i = 0; i < lines.size(); ++i) {
-        if (area) {
-            frame_[i].setBounds(lines[i]);
+    const int across = isOpen ? openFrameLeg : (box.width() + 1) / 2;
+    const int down = isOpen ? openFrameLeg : (box.height() + 1) / 2;
+    auto* line = frame_.begin();
+    for (const int left : {box.left, box.right - across}) {
+        for (const int top : {box.top, box.bottom - lineWidth}) {
+            line++->setBounds(Rect::at({left, top}, {across, lineWidth}));
         }
-        frame_[i].show(area.has_value());
-        frame_[i].raise();
+    }
+    for (const int left : {box.left, box.right - lineWidth}) {
+        for (const int top : {box.top, box.bottom - down}) {
+            line++->setBounds(Rect::at({left, top}, {lineWidth, down}));
+        }
+    }
+    for (const Window& part : frame_) {
+        part.show(area.has_value());
+        part.raise();
     }
 }
 

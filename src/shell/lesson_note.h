@@ -38,7 +38,7 @@ public:
 
 private:
     void createFrame();
-    void moveFrame(const std::optional<Rect>& area);
+    void moveFrame(const std::optional<Rect>& area, bool isOpen);
     void fitButtons();
     void paint(Canvas& canvas) const;
 
@@ -48,7 +48,7 @@ private:
     Window sheet_;
     Button leave_;
     Button go_;
-    std::array<Window, 4> frame_; ///< its four lines
+    std::array<Window, 8> frame_; ///< its lines: a half of each side, from every corner
     std::optional<Rect> framed_;
 };
 

@@ -16,6 +16,11 @@ constexpr int gap = 3;                       // from what is pointed at to the f
 constexpr Rect flightArea{-10, -17, 42, 14}; // around an aircraft with its tag
 constexpr Rect scoreSize{0, 0, 100, 14};
 
+// On the control panel, clear of the words and numerals painted around its parts.
+constexpr Rect dialWithBearings{-43, -38, 43, 35}; // around its middle
+constexpr Rect wordsUnderLamp{-7, 0, 6, 9};        // what a speed's word takes more than its lamp
+constexpr int bearingsAbovePanel = 4;
+
 std::optional<PointIndex> pointOf(const Shell& shell, const LessonSpot& spot) {
     return pointOfIdent(shell.game.vors(), spot.point);
 }
@@ -79,12 +84,29 @@ Rect onPanel(const Shell& shell, const Rect& part) {
     return part.movedBy(shell.console().controlPanel.topLeft());
 }
 
-Rect speedLamps() {
-    return panelLayout.fast.press.unitedWith(panelLayout.normal.press).unitedWith(panelLayout.slow.press);
+Rect speedSpot(const LessonSpot& spot) {
+    const Rect all = panelLayout.fast.lens.unitedWith(panelLayout.slow.lens);
+    switch (spot.speed.value_or(Speed::normal)) {
+    case Speed::fast: return panelLayout.fast.lens;
+    case Speed::slow: return panelLayout.slow.lens;
+    case Speed::normal: break;
+    }
+    return spot.speed ? panelLayout.normal.lens
+                      : Rect{all.left + wordsUnderLamp.left, all.top, all.right + wordsUnderLamp.right,
+                             all.bottom + wordsUnderLamp.bottom};
 }
 
-Rect targetSelector() {
-    return panelLayout.targetBox.unitedWith(panelLayout.targetUp).unitedWith(panelLayout.targetDown);
+Rect wholePanel(const ConsoleLayout& console) {
+    Rect panel = console.controlPanel.unitedWith(console.execButton);
+    panel.top -= bearingsAbovePanel;
+    return panel;
+}
+
+/// The word beside the button begins at once.
+Rect directSpot() {
+    Rect button = panelLayout.directButton;
+    button.right -= 1;
+    return button;
 }
 
 std::optional<Rect> areaOf(const Shell& shell, const LessonSpot& spot) {
@@ -97,14 +119,14 @@ std::optional<Rect> areaOf(const Shell& shell, const LessonSpot& spot) {
     case DeskPart::point: return pointSpot(shell, spot);
     case DeskPart::cone: return coneSpot(shell, spot);
     case DeskPart::strips: return stripRows(shell, 0, std::max(stripsInUse(shell), 1));
-    case DeskPart::panel: return console.controlPanel.unitedWith(console.execButton);
-    case DeskPart::dial: return onPanel(shell, panelLayout.dialPress);
+    case DeskPart::panel: return wholePanel(console);
+    case DeskPart::dial: return onPanel(shell, dialWithBearings.movedBy(panelLayout.dialMiddle));
     case DeskPart::altitude:
         return onPanel(shell, spot.number == 0 ? panelLayout.altitudeWell
                                                : panelLayout.altitudeBar(spot.number).grownBy(gap));
-    case DeskPart::speed: return onPanel(shell, speedLamps());
-    case DeskPart::direct: return onPanel(shell, panelLayout.directButton);
-    case DeskPart::target: return onPanel(shell, targetSelector());
+    case DeskPart::speed: return onPanel(shell, speedSpot(spot));
+    case DeskPart::direct: return onPanel(shell, directSpot());
+    case DeskPart::target: return onPanel(shell, panelLayout.targetUp.unitedWith(panelLayout.targetDown));
     case DeskPart::preview: return onPanel(shell, panelLayout.preview);
     case DeskPart::exec: return console.execButton;
     case DeskPart::clock: return console.topBar.clock;
@@ -131,6 +153,10 @@ std::optional<Rect> lessonSpotArea(const Shell& shell, const LessonSpot& spot) {
     const auto area = areaOf(shell, spot);
     const Rect window = Rect::at({}, shell.windowSize());
     return area ? std::optional(area->grownBy(gap).intersectedWith(window)) : std::nullopt;
+}
+
+bool hasOpenFrame(const LessonSpot& spot) {
+    return spot.part == DeskPart::dial || (spot.part == DeskPart::speed && !spot.speed);
 }
 
 Rect lessonNotePlace(const Shell& shell, int height, const std::optional<Rect>& shown) {

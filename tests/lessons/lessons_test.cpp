@@ -61,6 +61,21 @@ TEST(KeepingApart, EndsInACollisionForWhoDoesNothing) {
     EXPECT_EQ(pupil.look().kind, NoteKind::stop);
 }
 
+TEST(BusyQuarter, TheFrameGoesWhereTheHandMustGoNext) {
+    Pupil pupil(5);
+    pupil.playTo(5);
+    const FactTerm selected{.fact = Fact::selected, .flight = 3};
+    const FactTerm direct{.fact = Fact::panelDirect, .flight = 3, .point = "MCN"};
+    const FactTerm hold{.fact = Fact::panelHold, .flight = 3};
+    EXPECT_EQ(pupil.look().spot.part, DeskPart::flight);
+    for (const auto& [terms, part] : {std::pair{FactTerms{selected}, DeskPart::direct},
+                                      {FactTerms{direct}, DeskPart::target},
+                                      {FactTerms{hold}, DeskPart::exec}}) {
+        pupil.bringAbout(terms);
+        EXPECT_EQ(pupil.look().spot.part, part) << pupil.follower.note().text;
+    }
+}
+
 TEST(LessonTexts, AreFilledInWithCallsignsAndRunways) {
     const Pupil pupil(0);
     const std::string callsign(std::string_view(pupil.game.flights[0].callsign));
@@ -99,6 +114,9 @@ TEST(LessonFile, ASlipIsNamedWithItsLine) {
         {"altitude 10", "altitude 11", "try.lesson:7: after 'told altitude'"},
         {"heading 90", "heading 80", "try.lesson:5: a flight comes 'from'"},
         {"at 0:15", "at 0:20", "try.lesson:5: a flight comes 'later'"},
+        {"until A selected", "show exec if paused\nuntil A selected",
+         "try.lesson:7: 'exec if paused' is nothing"},
+        {"until A selected", "show exec when\nuntil A selected", "try.lesson:7: '' begins with no fact"},
         {"moved 2:", "moved 2", "try.lesson:8: between a mistake"},
         {"say Last.", "cry Last.", "try.lesson:10: 'cry' begins no line"},
         {"seed 3", "seed -3", "try.lesson:4: a seed"},
