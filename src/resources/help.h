@@ -77,11 +77,7 @@ inline constexpr std::string_view deskText =
     "one keeps its speed: the lamps of the others are dark red.\n"
     "\n"
     "The wheel and the arrows scroll the strips. Those in view are always sorted anew, the latest flight on "
-    "top, so a strip may change its place. Grey strips are announced and cannot be selected yet.\n"
-    "\n"
-    "To learn: Help > Watch a Shift has the program play on your desk until you take over, and File > "
-    "Practice at Half Speed gives you twice the time. Neither enters high scores. File > Replays shows your "
-    "last shifts again.";
+    "top, so a strip may change its place. Grey strips are announced and cannot be selected yet.";
 
 inline constexpr std::string_view arrivalText =
     "Flights to an airport (*) land when they come over it on the heading of its runway, at 1,000 ft. They "
@@ -123,11 +119,31 @@ inline constexpr std::string_view separationText =
     "\n"
     "Clouds hide what flies under them. The strips still tell where it goes.";
 
+inline constexpr std::string_view learningText =
+    "Lessons (Help): six short ones, in a real shift whose points do not count. F2 presses the button on the "
+    "note.\n"
+    "\n"
+    "Aids (Options): more than the scope and the panel show by themselves, such as ways ahead, coming near "
+    "misses, tidy or larger tags, unsent settings, clear colours, captions. Each is off until you choose "
+    "it.\n"
+    "\n"
+    "Watch a Shift (Help): the program plays on your desk until you take over.\n"
+    "\n"
+    "Practice at Half Speed (File): twice the time. Shift+Space goes on to the next event. Lessons, practice "
+    "and what you have taken over enter no high scores.\n"
+    "\n"
+    "Log (Ctrl+L): what happened when, to whom, and what it cost. Its Report adds up the shift, also when it "
+    "is over.\n"
+    "\n"
+    "Replays (File): your last twenty shifts, at any speed. Jump to a time, or take over there and play on. "
+    "The Shift of the Day is the same for everybody.";
+
 // The dialog ----------------------------------------------------------------------
 
 inline constexpr int topicList = 1007;
-inline constexpr std::array<std::string_view, 6> topics{"Keys",       "Your desk",     "Arrivals and exits",
-                                                        "Departures", "Keeping apart", "Points"};
+inline constexpr std::array<std::string_view, 7> topics{
+    "Keys",          "Your desk", "Arrivals and exits", "Departures",
+    "Keeping apart", "Points",    "Learn and look back"};
 
 /// The controls of a topic's page; all of a page are shown together.
 constexpr int pageControl(std::size_t topic, std::size_t number) {
@@ -182,6 +198,8 @@ inline constexpr std::array pages{std::to_array<ControlTemplate>({
     frameOf(4),
     textOf(4, separationText),
     frameOf(5),
+    frameOf(6),
+    textOf(6, learningText),
 })};
 
 constexpr auto keyTable() {

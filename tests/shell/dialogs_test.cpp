@@ -14,6 +14,7 @@
 #include "resources/lesson_dialogs.h"
 #include "shell/game_stage.h"
 #include "shell/help_dialog.h"
+#include "shell/lesson_dialogs.h"
 #include "shell/plain_program.h"
 
 namespace ventrel {
@@ -187,10 +188,25 @@ TEST_F(DialogLooks, ScheduleAndAbout) {
     stage.play();
 }
 
+TEST_F(DialogLooks, AidsLessonsAndTheFirstStart) {
+    GameStage stage(800, "[Options]\nAidTidyTags=1\n[Lessons]\n1_scope=1\n");
+    stage.todo([](Script& script) { script.key(Key::o, withAlt).type("i").wait(1); });
+    expectDialog(stage, "aids");
+    press(stage, Key::escape);
+    stage.todo([](Script& script) { script.key(Key::h, withAlt).type("l").wait(1); });
+    expectDialog(stage, "lessons");
+    press(stage, Key::escape);
+    stage.look([&stage] { stage.shell().mainWindow.post([&stage] { welcomeNewcomer(stage.shell()); }); });
+    stage.wait(1);
+    expectDialog(stage, "first_start");
+    press(stage, Key::escape);
+    stage.play();
+}
+
 TEST_F(DialogLooks, EveryPageOfHelp) {
     GameStage stage(800, "", folder_.path());
     press(stage, Key::f1);
-    for (const char* page : {"keys", "desk", "arrivals", "departures", "separation", "points"}) {
+    for (const char* page : {"keys", "desk", "arrivals", "departures", "separation", "points", "learning"}) {
         expectDialog(stage, std::string("help_") + page);
         press(stage, Key::down);
     }
