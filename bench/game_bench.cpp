@@ -7,6 +7,7 @@
 #include "audio/sound_system.h"
 #include "platform/headless/headless_sound.h"
 #include "platform/headless/script.h"
+#include "shell/airport_catalogue.h"
 #include "shell/program.h"
 
 namespace {
@@ -86,5 +87,34 @@ void MinuteOfPlay(benchmark::State& state) {
     }
 }
 BENCHMARK(MinuteOfPlay)->Unit(benchmark::kMillisecond);
+
+/// The list of 2,000 airports: read for the first time, or again.
+void ListAirports(benchmark::State& state) {
+    constexpr int count = 2000;
+    const bool isAgain = state.range(0) != 0;
+    const fs::path folder = fs::temp_directory_path() / "ventrel-bench-airports";
+    const fs::path source = airportFolder(PROGRAM_FOLDER) / "atlanta10.apt";
+    fs::create_directories(folder);
+    fs::copy_file(source, folder / "0.apt", fs::copy_options::overwrite_existing);
+    for (int i = 1; i < count; ++i) {
+        const fs::path link = folder / (std::to_string(i) + ".apt");
+        if (!fs::exists(link)) {
+            fs::create_hard_link(folder / "0.apt", link);
+        }
+    }
+    const auto later = fs::file_time_type::clock::now() + std::chrono::hours(1);
+    AirportShelf known(folder, {}, largeWindow.width);
+    known.catalogue(later);
+    for (auto _ : state) {
+        if (isAgain) {
+            benchmark::DoNotOptimize(known.catalogue(later).entries.data());
+        } else {
+            AirportShelf fresh(folder, {}, largeWindow.width);
+            benchmark::DoNotOptimize(fresh.catalogue(later).entries.data());
+        }
+    }
+    fs::remove_all(folder);
+}
+BENCHMARK(ListAirports)->ArgName("again")->Arg(0)->Arg(1)->Unit(benchmark::kMicrosecond);
 
 } // namespace

@@ -73,6 +73,7 @@ Shell::Shell(ShellParts parts)
       highScorePath(DataPath(playerFolder.empty() ? programFolder : playerFolder, highScoreFileName)),
       playersAirports(std::move(parts.playersAirports)), pictures(std::move(parts.pictures)),
       options(parts.options), utcNow(std::move(parts.utcNow)),
+      airports(airportFolder(programFolder), playersAirports, windowSize().width),
       topBar{.sources = {desktop, game, fonts, pictures.hand, pictures.arrow},
              .skip = [this] { skipClock(*this); }},
       scroller{.sources = scrollerSources(*this)}, captions{.sources = {desktop, fonts, pictures.arrow}},

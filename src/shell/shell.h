@@ -26,6 +26,7 @@
 #include "radar/radar_window.h"
 #include "replay/replay_writer.h"
 #include "replay/shift_log.h"
+#include "shell/airport_catalogue.h"
 #include "shell/conflict_watch.h"
 #include "shell/event_skip.h"
 #include "shell/game_setup.h"
@@ -88,6 +89,7 @@ struct Shell {
 
     Window mainWindow;
     Button exec;
+    AirportShelf airports;
     std::set<std::string> toldAirportTroubles; ///< of which damaged airport files the player knows
     int pressedStrip = noSlot;                 ///< the strip whose button is shown pressed
 

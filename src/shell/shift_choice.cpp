@@ -1,5 +1,8 @@
 #include "shell/shift_choice.h"
 
+#include <algorithm>
+#include <iterator>
+
 #include "resources/dialogs.h"
 #include "shell/airport_dialog.h"
 #include "shell/trouble_text.h"
@@ -13,15 +16,16 @@ constexpr int defaultSkill = 1;
 } // namespace
 
 std::vector<CatalogueEntry> openAirportCatalogue(Shell& shell) {
-    AirportCatalogue catalogue = BuildAirportCatalogue(airportFolder(shell.programFolder),
-                                                       shell.playersAirports, shell.windowSize().width);
-    std::erase_if(catalogue.troubles, [&shell](const std::string& trouble) {
-        return !shell.toldAirportTroubles.insert(trouble).second;
-    });
-    if (!catalogue.troubles.empty()) {
-        shell.report(troubleText(catalogue.troubles), MessageIcon::stop);
+    const AirportCatalogue& catalogue = shell.airports.catalogue();
+    std::vector<CatalogueEntry> entries = catalogue.entries;
+    std::vector<std::string> untold;
+    std::ranges::copy_if(
+        catalogue.troubles, std::back_inserter(untold),
+        [&shell](const std::string& trouble) { return shell.toldAirportTroubles.insert(trouble).second; });
+    if (!untold.empty()) {
+        shell.report(troubleText(untold), MessageIcon::stop);
     }
-    return std::move(catalogue.entries);
+    return entries;
 }
 
 CatalogueEntry chosenAirport(const Shell& shell, const std::vector<CatalogueEntry>& catalogue) {

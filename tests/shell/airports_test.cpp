@@ -55,6 +55,41 @@ TEST(Airports, ThePlayersOwnJoinTheProgramsAndStandInForThoseOfTheirFileName) {
     }
 }
 
+TEST(Airports, MoreThanTheListHoldsAreToldOf) {
+    const TempFolder own;
+    const std::size_t room = 512 - shippedNames.size();
+    const std::string start = airportNamed("Another").substr(0, airport_layout::headerSize);
+    for (std::size_t i = 0; i < room + 3; ++i) {
+        writeText(own / ("zz" + std::to_string(1000 + i) + ".apt"), start);
+    }
+    const AirportCatalogue catalogue = BuildAirportCatalogue(programsOwn, own.path(), 1024);
+    EXPECT_EQ(catalogue.entries.size(), 512U);
+    ASSERT_EQ(catalogue.troubles.size(), 1U);
+    const std::string first = "zz" + std::to_string(1000 + room) + ".apt";
+    EXPECT_NE(catalogue.troubles[0].find("3 are left out"), std::string::npos) << catalogue.troubles[0];
+    EXPECT_NE(catalogue.troubles[0].find(first), std::string::npos) << catalogue.troubles[0];
+}
+
+TEST(Airports, TheListFollowsItsFoldersAndOnlyLooksWhenTheyHaveChanged) {
+    const TempFolder own;
+    const auto fresh = fs::file_time_type::clock::now();
+    const auto settled = fresh + std::chrono::hours(1);
+    writeText(own / "a.apt", airportNamed("Aaa"));
+    writeText(own / "b.apt", "short");
+    AirportShelf shelf(programsOwn, own.path(), 1024);
+    const auto first = [&shelf](fs::file_time_type now) { return shelf.catalogue(now).entries.front().name; };
+    EXPECT_EQ(first(fresh), "Aaa");
+    writeText(own / "a.apt", airportNamed("Aab"));
+    EXPECT_EQ(first(settled), "Aab") << "the folder was too fresh to be relied on";
+    writeText(own / "a.apt", airportNamed("Aac"));
+    EXPECT_EQ(first(settled), "Aab") << "nothing came or went: the files are not read again";
+    writeText(own / "b.apt", airportNamed("AAA"));
+    fs::last_write_time(own / "b.apt", fresh + std::chrono::minutes(1));
+    EXPECT_EQ(first(settled), "AAA") << "a refused file was mended";
+    fs::remove(own / "b.apt");
+    EXPECT_EQ(first(settled), "Aac");
+}
+
 TEST(Airports, AGameStartsInThePlayersOwn) {
     GameStage stage;
     fs::create_directory(stage.playersAirports());
