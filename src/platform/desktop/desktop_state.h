@@ -56,8 +56,9 @@ struct DesktopState {
     WindowWeak mainWindow;
     std::uint64_t layout = 1; ///< counts the changes of what is where
 
-    Bitmap picture; ///< all top-levels laid together
-    Damage damage;  ///< what of it must be laid anew and sent
+    Bitmap picture;            ///< all top-levels laid together
+    Damage damage;             ///< what of it must be laid anew
+    bool screenIsStale = true; ///< it does not show the picture as it was: all is to be sent
     bool paintIsNeeded = false;
     Millis nextSending = 0; ///< the earliest: the screen still shows what was sent before
     bool machineWindowIsShown = false;

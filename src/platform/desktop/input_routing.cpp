@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "platform/desktop/activation.h"
+#include "platform/desktop/screen_picture.h"
 #include "platform/desktop/window_tree.h"
 
 namespace ventrel {
@@ -200,14 +201,14 @@ void routeClose(DesktopState& state) {
 
 void routeWindowEvent(DesktopState& state, WindowEvent event) {
     switch (event) {
-    case WindowEvent::exposed: state.damage.addAll(); break;
+    case WindowEvent::exposed: sendEverything(state); break;
     case WindowEvent::activated: programCameInFront(state, true); break;
     case WindowEvent::deactivated: programCameInFront(state, false); break;
     case WindowEvent::minimised: programWasMinimised(state, true); break;
     case WindowEvent::restored: programWasMinimised(state, false); break;
     case WindowEvent::closeRequested: routeClose(state); break;
     case WindowEvent::endRequired: state.desktop.quit(); break;
-    case WindowEvent::displayChanged: state.damage.addAll(); break;
+    case WindowEvent::displayChanged: sendEverything(state); break;
     }
 }
 

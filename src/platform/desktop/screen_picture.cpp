@@ -21,49 +21,92 @@ void collectDamage(DesktopState& state) {
     }
 }
 
-void fillPart(Bitmap& screen, const Rect& part) {
-    for (int y = part.top; y < part.bottom; ++y) {
-        const auto row = screen.row(y).subspan(static_cast<std::size_t>(part.left),
-                                               static_cast<std::size_t>(part.width()));
-        std::fill(row.begin(), row.end(), emptyDesktop);
+/// Part of a row of the screen.
+struct RowPart {
+    int y = 0;
+    int left = 0;
+    int right = 0;
+
+    std::span<Pixel> of(Bitmap& picture) const {
+        return picture.row(y).subspan(static_cast<std::size_t>(left), static_cast<std::size_t>(right - left));
     }
+};
+
+void layRow(Bitmap& screen, const WindowRecord& topLevel, const RowPart& row) {
+    const Rect& bounds = topLevel.bounds;
+    const RowPart covered{row.y, std::max(row.left, bounds.left), std::min(row.right, bounds.right)};
+    if (row.y < bounds.top || row.y >= bounds.bottom || covered.left >= covered.right) {
+        return;
+    }
+    const RowPart inWindow{row.y - bounds.top, covered.left - bounds.left, covered.right - bounds.left};
+    std::ranges::copy(inWindow.of(topLevel.surface->picture), covered.of(screen).begin());
 }
 
-void copyPart(Bitmap& screen, const WindowRecord& topLevel, const Rect& part) {
-    const Point corner = topLevel.bounds.topLeft();
-    const Bitmap& picture = topLevel.surface->picture;
-    for (int y = part.top; y < part.bottom; ++y) {
-        const auto from = picture.row(y - corner.y)
-                              .subspan(static_cast<std::size_t>(part.left - corner.x),
-                                       static_cast<std::size_t>(part.width()));
-        std::copy(from.begin(), from.end(), screen.row(y).begin() + part.left);
-    }
-}
+using TopLevels = std::span<const WindowPtr>;
 
-/// Lays the part of the screen from the uppermost top-level that covers all of it upward.
-void layPart(DesktopState& state, const Rect& part) {
-    const auto& all = state.topLevels;
-    const auto covering = std::find_if(all.rbegin(), all.rend(), [&](const WindowPtr& topLevel) {
-        return topLevel->visible && topLevel->bounds.contains(part);
-    });
-    if (covering == all.rend()) {
-        fillPart(state.picture, part);
-    }
-    const auto first = covering == all.rend() ? all.begin() : std::prev(covering.base());
-    std::for_each(first, all.end(), [&](const WindowPtr& topLevel) {
-        if (topLevel->visible) {
-            copyPart(state.picture, *topLevel, part.intersectedWith(topLevel->bounds));
+/// The top-levels that show in the part, from the uppermost on that covers all of it.
+TopLevels showingIn(const DesktopState& state, const Rect& part) {
+    const TopLevels all = state.topLevels;
+    std::size_t first = all.size();
+    while (first > 0) {
+        const WindowRecord& topLevel = *all[--first];
+        if (topLevel.visible && topLevel.bounds.contains(part)) {
+            break;
         }
-    });
+    }
+    return all.subspan(first);
 }
 
-void sendChanges(DesktopState& state) {
-    const std::vector<Rect> changed = state.damage.rectangles();
-    state.damage.clear();
-    for (const Rect& part : changed) {
-        layPart(state, part);
+/// Adds what differs of a row that was `before`.
+void addDifference(Damage& changed, const RowPart& row, std::span<const Pixel> before,
+                   std::span<const Pixel> after) {
+    if (std::ranges::equal(before, after)) {
+        return;
     }
-    state.backend.present(state.picture, changed);
+    const auto first = std::ranges::mismatch(before, after).in1;
+    const auto differs = std::mismatch(before.rbegin(), before.rend(), after.rbegin());
+    changed.addRun(row.y, row.left + static_cast<int>(first - before.begin()),
+                   row.right - static_cast<int>(differs.first - before.rbegin()));
+}
+
+/// Lays the part of the screen anew, and adds what of it looks different now.
+void layPart(DesktopState& state, const Rect& part, Damage& changed) {
+    const TopLevels showing = showingIn(state, part);
+    const bool isCovered =
+        !showing.empty() && showing.front()->visible && showing.front()->bounds.contains(part);
+    std::vector<Pixel> before;
+    for (int y = part.top; y < part.bottom; ++y) {
+        const RowPart row{y, part.left, part.right};
+        const std::span<Pixel> shown = row.of(state.picture);
+        before.assign(shown.begin(), shown.end());
+        if (!isCovered) {
+            std::ranges::fill(shown, emptyDesktop);
+        }
+        for (const WindowPtr& topLevel : showing) {
+            if (topLevel->visible) {
+                layRow(state.picture, *topLevel, row);
+            }
+        }
+        addDifference(changed, row, before, shown);
+    }
+}
+
+/// A frame of the scope paints all of it, but moves little: what looks as before is not sent.
+void sendChanges(DesktopState& state) {
+    const Millis now = state.backend.now();
+    Damage changed(state.picture.size());
+    for (const Rect& part : state.damage.rectangles()) {
+        layPart(state, part, changed);
+    }
+    state.damage.clear();
+    if (state.screenIsStale) {
+        changed.addAll();
+        state.screenIsStale = false;
+    }
+    if (!changed.isEmpty()) {
+        state.backend.present(state.picture, changed.rectangles());
+        state.nextSending = now + state.backend.frameTime();
+    }
 }
 
 } // namespace
@@ -80,13 +123,16 @@ bool showMachineWindow(DesktopState& state) {
     return isNeeded;
 }
 
+void sendEverything(DesktopState& state) {
+    state.damage.addAll();
+    state.screenIsStale = true;
+}
+
 std::optional<Millis> presentChanges(DesktopState& state) {
     collectDamage(state);
-    const Millis now = state.backend.now();
-    const bool isDue = now >= state.nextSending;
+    const bool isDue = state.backend.now() >= state.nextSending;
     if (isDue && !state.damage.isEmpty()) {
         sendChanges(state);
-        state.nextSending = now + state.backend.frameTime();
     }
     return state.damage.isEmpty() ? std::nullopt : std::optional(state.nextSending);
 }

@@ -104,7 +104,7 @@ TEST(Painting, TheScreenAlwaysShowsWhatLiesOnTop) {
     }
     stage.play();
     EXPECT_EQ(differences, 0);
-    EXPECT_GT(stage.backend.sendings(), 200U);
+    EXPECT_GT(stage.backend.sendings(), 150U);
 }
 
 TEST(Painting, DrawingBetweenPaintsStaysAndSendsOnlyItsOwnPixels) {
@@ -123,6 +123,24 @@ TEST(Painting, DrawingBetweenPaintsStaysAndSendsOnlyItsOwnPixels) {
         EXPECT_EQ(screenAt(stage, {15, 31}), Colour::rgb(0, 255, 255)) << "not painted since";
         EXPECT_EQ(stage.backend.sendings(), 3U);
     });
+    stage.play();
+}
+
+TEST(Painting, WhatIsPaintedAsItWasIsNotSent) {
+    Stage stage;
+    const Window main = stage.open(paintedIn(red));
+    stage.script.then([&] {
+        main.invalidate();
+        main.canvas().fill({10, 30, 11, 31}, green);
+    });
+    stage.script.wait(5).then([&] {
+        EXPECT_EQ(stage.backend.sendings(), 1U) << "painted over in red again";
+        main.canvas().fill({0, 0, 90, 90}, red);
+        main.canvas().fill({10, 30, 12, 31}, green);
+        main.canvas().fill({40, 30, 41, 31}, green);
+    });
+    stage.script.wait(5).then(
+        [&] { EXPECT_EQ(stage.backend.lastSending().changed, (std::vector<Rect>{{10, 30, 41, 31}})); });
     stage.play();
 }
 
