@@ -39,8 +39,8 @@ constexpr int textTop = 35;
 constexpr int buttonGap = 8; // above and below the buttons
 constexpr Size leaveSize{70, 18};
 constexpr Size goSize{96, 18};
-constexpr int lineWidth = 2;     // of the frame
-constexpr int openFrameLeg = 10; // along its sides from each corner
+constexpr int lineWidth = 2;    // of the frame
+constexpr int openFrameLeg = 6; // along its sides from each corner
 
 // The pin, from the middle of the upper edge.
 constexpr Rect pinShadow{-3, 3, 7, 11};

@@ -5,6 +5,7 @@
 
 #include "lessons/lesson_shift.h"
 #include "radar/flight_drawing.h"
+#include "radar/map_drawing.h"
 #include "radar/map_geometry.h"
 
 namespace ventrel {
@@ -15,6 +16,7 @@ constexpr int noteFromEdge = 12;
 constexpr int gap = 3;                       // from what is pointed at to the frame
 constexpr Rect flightArea{-10, -17, 42, 14}; // around an aircraft with its tag
 constexpr Rect scoreSize{0, 0, 100, 14};
+constexpr int betweenStrips = 5; // from the end of one strip's text to the next strip
 
 // On the control panel, clear of the words and numerals painted around its parts.
 constexpr Rect dialWithBearings{-43, -38, 43, 35}; // around its middle
@@ -43,7 +45,7 @@ int stripsInUse(const Shell& shell) {
 Rect stripRows(const Shell& shell, int first, int count) {
     const StripsLayout& strips = shell.console().strips;
     const int top = strips.column.top + strips.pitch * first;
-    const int bottom = std::min(top + strips.pitch * count, strips.column.bottom);
+    const int bottom = std::min(top + strips.pitch * count - betweenStrips, strips.column.bottom);
     return {strips.firstButton.left, top, strips.column.right, bottom};
 }
 
@@ -52,13 +54,19 @@ Rect stripSpot(const Shell& shell, FlightIndex flight) {
     return slot == noSlot ? stripRows(shell, 0, std::max(stripsInUse(shell), 1)) : stripRows(shell, slot, 1);
 }
 
+/// A point's mark with its name.
 std::optional<Rect> pointSpot(const Shell& shell, const LessonSpot& spot) {
     const auto point = pointOf(shell, spot);
     if (!point) {
         return std::nullopt;
     }
     const RadarLayout& layout = shell.radar.layout;
-    return markerBox(layout, shell.game.vor(*point).pixel).grownBy(gap).movedBy(layout.corner);
+    const Vor& vor = shell.game.vor(*point);
+    const Font& font = shell.fonts.font(mapLabelFont(layout));
+    const Size label{font.width(vor.ident), font.lineHeight()};
+    return markerBox(layout, vor.pixel)
+        .unitedWith(Rect::at(labelCorner(layout, vor, label), label))
+        .movedBy(layout.corner);
 }
 
 std::optional<Rect> coneSpot(const Shell& shell, const LessonSpot& spot) {
