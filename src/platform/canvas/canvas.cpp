@@ -27,7 +27,9 @@ Canvas::Canvas(Bitmap& target, Damage* damage)
 
 Canvas::Canvas(Bitmap& target, Point origin, const Region& visible, Damage* damage)
     : target_(&target), damage_(damage), origin_(limited(origin)),
-      visible_(visible.intersectedWith(target.bounds())), clip_(visible_) {}
+      visible_(target.bounds().contains(visible.bounds()) ? visible
+                                                          : visible.intersectedWith(target.bounds())),
+      clip_(visible_) {}
 
 void Canvas::setClip(const Region& region) {
     clip_ = visible_.intersectedWith(region.movedBy(origin_));

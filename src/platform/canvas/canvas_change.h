@@ -42,9 +42,19 @@ void Canvas::changeInside(const Rect& area, const Change& change) {
 
 template <typename Change>
 void Canvas::changeInside(const Region& area, Point offset, const Change& change) {
+    const Rect bounds = limitedMove(area.bounds(), offset);
+    std::span<const Run> clipRuns = clip_.runsOfRows(bounds.top, bounds.bottom);
     for (const Run& run : area.runs()) {
         const Rect row = limitedMove(Rect{run.left, run.y, run.right, run.y + 1}, offset);
-        changeInside(row, change);
+        // Both lists go from top to bottom: neither is searched.
+        while (!clipRuns.empty() && clipRuns.front().y < row.top) {
+            clipRuns = clipRuns.subspan(1);
+        }
+        std::size_t count = 0;
+        while (count < clipRuns.size() && clipRuns[count].y == row.top) {
+            ++count;
+        }
+        changeRuns(clipRuns.first(count), row.left, row.right, change);
     }
 }
 

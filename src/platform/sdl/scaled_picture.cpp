@@ -114,7 +114,9 @@ void PictureScaler::prepare(Size shown, Size picture) {
 void PictureScaler::findSeams() {
     columns_.clear();
     seams_.clear();
+    seamsBefore_.clear();
     for (const Between& pixels : betweenAll(shown_.width, picture_.width)) {
+        seamsBefore_.push_back(seams_.size());
         if (pixels.weight != 0 && pixels.weight != fullWeight) {
             seams_.push_back({static_cast<int>(columns_.size()), pixels});
         }
@@ -134,10 +136,12 @@ const std::vector<Pixel>& PictureScaler::mixedAcross(MixedRow& row, int number, 
         std::span(columns_).subspan(static_cast<std::size_t>(left), static_cast<std::size_t>(width));
     std::ranges::transform(columns, row.pixels.begin(),
                            [from](int column) { return from[static_cast<std::size_t>(column)]; });
-    auto seam = std::ranges::lower_bound(seams_, left, {}, &Seam::shown);
-    for (; seam != seams_.end() && seam->shown < left + width; ++seam) {
-        const Between& pixels = seam->pixels;
-        row.pixels[static_cast<std::size_t>(seam->shown - left)] =
+    const auto fromLeft = std::span(seams_).subspan(seamsBefore_[static_cast<std::size_t>(left)]);
+    for (const auto& [shown, pixels] : fromLeft) {
+        if (shown >= left + width) {
+            break;
+        }
+        row.pixels[static_cast<std::size_t>(shown - left)] =
             mixed(from[static_cast<std::size_t>(pixels.first)], from[static_cast<std::size_t>(pixels.second)],
                   pixels.weight);
     }

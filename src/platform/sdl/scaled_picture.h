@@ -55,8 +55,9 @@ private:
 
     Size shown_;
     Size picture_;
-    std::vector<int> columns_; ///< the picture's column that each shown one is nearest to
-    std::vector<Seam> seams_;  ///< from left to right
+    std::vector<int> columns_;             ///< the picture's column that each shown one is nearest to
+    std::vector<Seam> seams_;              ///< from left to right
+    std::vector<std::size_t> seamsBefore_; ///< of each shown column: how many seams lie left of it
     std::vector<Between> rows_;
     MixedRow upper_;
     MixedRow lower_;
