@@ -8,6 +8,7 @@
 #include "base/whole_number.h"
 #include "base/windows1252.h"
 #include "lessons/lesson_phrases.h"
+#include "lessons/lesson_words.h"
 
 namespace ventrel {
 
@@ -85,7 +86,7 @@ private:
         })};
         const auto* found = std::ranges::find(kinds, kind, &Kind::word);
         if (found == kinds.end()) {
-            return failed("'" + std::string(kind) + "' begins no line of a lesson");
+            return failed(quoted(kind) + " begins no line of a lesson");
         }
         return (this->*found->read)(rest);
     }
@@ -108,7 +109,7 @@ private:
     Result<> readAirspace(std::string_view rest) {
         constexpr std::string_view letters = "abcdefghijklmnopqrstuvwxyz0123456789_";
         if (rest.empty() || rest.find_first_not_of(letters) != std::string_view::npos) {
-            return failed("'" + std::string(rest) + "' is no airspace: small letters, digits and _");
+            return failed(quoted(rest) + " is no airspace: small letters, digits and _");
         }
         lesson_.airspace = rest;
         return {};

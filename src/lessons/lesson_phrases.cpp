@@ -15,10 +15,6 @@ constexpr int secondsPerMinute = 60;
 constexpr int mostMinutesAhead = 60;
 constexpr int mostCount = 99;
 
-std::string quoted(std::string_view word) {
-    return "'" + std::string(word) + "'";
-}
-
 /// Takes `words` off the front of the text, where whole words stand there.
 bool takeWords(std::string_view& text, std::string_view words) {
     std::string_view rest = text;

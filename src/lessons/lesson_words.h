@@ -3,11 +3,18 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
 
 #include "lessons/lesson.h"
 
 namespace ventrel {
+
+/// How a piece of the text stands in what is said about it: not more of it than is needed to find it.
+inline std::string quoted(std::string_view text) {
+    constexpr std::size_t mostShown = 60;
+    return "'" + std::string(text.substr(0, mostShown)) + (text.size() > mostShown ? "..." : "") + "'";
+}
 
 /// What follows the words.
 enum class Operand {

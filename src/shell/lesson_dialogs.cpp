@@ -20,7 +20,8 @@ struct ListedLesson {
     bool isDone = false;
 };
 
-/// One that cannot be read is told of, and none is listed: their numbers would be wrong.
+/// One that cannot be read is told of, and none is listed: their numbers would be wrong. That there are none
+/// is told, too.
 std::vector<ListedLesson> listLessons(Shell& shell) {
     std::vector<ListedLesson> lessons;
     std::vector<std::string> troubles;
@@ -33,11 +34,14 @@ std::vector<ListedLesson> listLessons(Shell& shell) {
         const std::string number = std::to_string(lessons.size() + 1);
         lessons.push_back({number + ". " + lesson->name, lesson->about, isLessonDone(shell, file)});
     }
-    if (troubles.empty()) {
-        return lessons;
+    if (!troubles.empty()) {
+        shell.report(troubleText(troubles), MessageIcon::stop);
+        return {};
     }
-    shell.report(troubleText(troubles), MessageIcon::stop);
-    return {};
+    if (lessons.empty()) {
+        shell.report("There are no lessons in the program's folder.", MessageIcon::information);
+    }
+    return lessons;
 }
 
 /// The first that has not been done; the first of all when all have.
@@ -62,7 +66,6 @@ void open(const std::vector<ListedLesson>& lessons, Dialog& dialog) {
 std::optional<std::size_t> runLessonsDialog(Shell& shell) {
     const std::vector<ListedLesson> lessons = listLessons(shell);
     if (lessons.empty()) {
-        shell.report("There are no lessons in the program's folder.", MessageIcon::information);
         return std::nullopt;
     }
     int chosen = noListItem;
