@@ -13,6 +13,8 @@ Result<> ReplayWriter::begin(const std::filesystem::path& file, const ReplayHead
     }
     const std::string text = replayHeaderText(header);
     if (auto written = made->append(text); !written) {
+        std::error_code ignored;
+        std::filesystem::remove(file, ignored); // nobody could watch it
         return written;
     }
     growing_ = std::move(*made);
