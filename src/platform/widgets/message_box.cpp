@@ -4,6 +4,7 @@
 #include <array>
 #include <vector>
 
+#include "base/windows1252.h"
 #include "platform/widgets/dialog.h"
 
 namespace ventrel {
@@ -80,6 +81,13 @@ BoxPlaces measure(const Font& font, const MessageBoxText& message, std::size_t b
     return places;
 }
 
+/// Of a damaged file a text may hold anything; the box shows nothing for what is no character.
+std::string printable(std::string_view text) {
+    std::string shown(text);
+    std::ranges::replace_if(shown, [](char c) { return c != '\n' && isControlCharacter(c); }, '?');
+    return shown;
+}
+
 } // namespace
 
 MessageAnswer showMessageBox(Desktop& desktop, const WidgetFonts& fonts, const Window& owner,
@@ -100,7 +108,7 @@ MessageAnswer showMessageBox(Desktop& desktop, const WidgetFonts& fonts, const W
     const int onClose = numberOf(closingAnswer(message.buttons));
     handlers.command = [&message, onClose](Dialog& dialog, const CommandInput& input) {
         if (input.id == copyId) {
-            dialog.desktop().backend().setClipboard(message.text);
+            dialog.desktop().backend().setClipboard(printable(message.text));
             return;
         }
         const bool isClosed = !input.sender && input.id == cancelId;
