@@ -35,6 +35,9 @@ public:
     /// A slow screen; at first it shows whatever is sent.
     void setFrameTime(Millis time) { frameTime_ = time; }
 
+    /// The machine's clock goes on, but the program does not, as when it has been stopped for a while.
+    void standStill(Millis time) { now_ += time; }
+
     /// Until then it is no day of any calendar.
     void setToday(const std::tm& day) { today_ = day; }
 
