@@ -15,6 +15,7 @@ patience=120 # seconds until something that must happen is given up
 begin_mark='<!-- table of faults: tests/faults/fault_table.sh -->'
 end_mark='<!-- end of the table of faults -->'
 
+command -v Xvfb >/dev/null || { echo "Xvfb is not here." && exit $skipped; }
 program=$(realpath "$1")
 document=$2
 mode=${3:-compare}

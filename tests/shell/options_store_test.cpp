@@ -62,6 +62,16 @@ TEST(OptionsWhileRunning, IsLeftAloneAfterAFailedReadEvenWhenItCouldBeReadByThen
     EXPECT_FALSE(store.takeFailure());
 }
 
+TEST(OptionsWhileRunning, ThatTheyCouldNotBeReadIsToldBeforeAnythingElse) {
+    GameStage stage(800, std::string(ProfileFile::mostBytes + 1, ';'));
+    stage.look([&] {
+        EXPECT_TRUE(stage.isDialogOpen());
+        EXPECT_EQ(stage.backend.beeps(), std::vector{MessageIcon::exclamation});
+    });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(1); });
+    stage.play();
+}
+
 TEST(OptionsWhileRunning, WithoutAPlaceForItThePlayerIsToldAtTheFirstSave) {
     OptionsStore store({});
     EXPECT_FALSE(store.takeFailure());
