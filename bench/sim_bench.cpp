@@ -35,23 +35,33 @@ void SetUpHardShift(benchmark::State& benchmarked) {
 }
 BENCHMARK(SetUpHardShift)->Unit(benchmark::kMicrosecond);
 
-/// All flights in the air, far apart in altitude and place, and every one of them due.
+/// All flights in the air, every one of them due, and none near another at its altitude.
 void spreadOut(Game& game) {
+    constexpr int altitudes = 8;
+    constexpr int columns = 8;
     for (const FlightIndex index : game.flightPlaces()) {
         Flight& flight = game.flight(index);
-        const int i = index.number();
+        const int place = index.number() / altitudes;
         flight.activatedAt = stepInterval;
         flight.groundState = GroundState::airborne;
         flight.planIndex = 0;
-        flight.plan = {{.cell = {12 + i % 12 * 2, 12 + i / 12 * 2},
-                        .altitude = 2 + i % 8,
+        flight.plan = {{.cell = {10 + place % columns * 4, 10 + place / columns * 4},
+                        .altitude = 2 + index.number() % altitudes,
                         .heading = 90,
                         .speed = Speed::fast}};
     }
 }
 
-void ActingStep(benchmark::State& benchmarked) {
+/// A sky of `count` flights; more than a shift may have are copies.
+Game fullGame(int count) {
     Game game = newGame({.skill = Skill::custom, .custom = {fullSky, 2100_s, 0}});
+    game.flights.resize(static_cast<std::size_t>(count), game.flights.front());
+    spreadOut(game);
+    return game;
+}
+
+void ActingStep(benchmark::State& benchmarked) {
+    Game game = fullGame(static_cast<int>(benchmarked.range(0)));
     for ([[maybe_unused]] auto _ : benchmarked) {
         benchmarked.PauseTiming();
         spreadOut(game);
@@ -59,11 +69,10 @@ void ActingStep(benchmark::State& benchmarked) {
         step(game);
     }
 }
-BENCHMARK(ActingStep)->Name("ActingStep/99flights")->Unit(benchmark::kMicrosecond);
+BENCHMARK(ActingStep)->ArgName("flights")->Arg(fullSky)->Arg(5 * 100)->Unit(benchmark::kMicrosecond);
 
 void Predict(benchmark::State& benchmarked) {
-    Game game = newGame({.skill = Skill::custom, .custom = {fullSky, 2100_s, 0}});
-    spreadOut(game);
+    const Game game = fullGame(fullSky);
     for ([[maybe_unused]] auto _ : benchmarked) {
         benchmark::DoNotOptimize(predictConflicts(game));
     }

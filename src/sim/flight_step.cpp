@@ -96,14 +96,14 @@ void reportArrival(Game& game, SimulationEvents& events, FlightIndex index) {
 }
 
 /// One move of a flight that goes on. False on a collision.
-bool moveFlight(Game& game, SimulationEvents& events, FlightIndex index) {
+bool moveFlight(Game& game, SimulationEvents& events, const Crowd& crowd, FlightIndex index) {
     Flight& flight = game.flight(index);
     switch (flight.groundState) {
     case GroundState::waiting: break;
     case GroundState::cleared: flight.groundState = GroundState::rolling; break;
     case GroundState::rolling: liftOff(game, flight); break;
     case GroundState::airborne:
-        if (checkSeparation(game, events, index)) {
+        if (checkSeparation(game, events, crowd, index)) {
             return false;
         }
         moveAlongPlan(flight);
@@ -115,6 +115,7 @@ bool moveFlight(Game& game, SimulationEvents& events, FlightIndex index) {
 /// Judges and moves the flights that are due, in table order: earlier ones have made this step's move when a
 /// later one is checked against them. False on a collision, which ends the pass at once.
 bool moveFlights(Game& game, SimulationEvents& events) {
+    Crowd crowd{game.flights};
     for (const FlightIndex i : game.flightPlaces()) {
         Flight& flight = game.flight(i);
         if (!movesAt(flight, game.clock)) {
@@ -123,12 +124,13 @@ bool moveFlights(Game& game, SimulationEvents& events) {
         flight.alert = Alert::none;
         if (isOutsideScope(flight.current().cell)) {
             loseFlight(game, events, i);
-            continue;
+        } else {
+            judgeArrival(game, events, i);
         }
-        judgeArrival(game, events, i);
-        if (flight.inPlay && !moveFlight(game, events, i)) {
+        if (flight.inPlay && !moveFlight(game, events, crowd, i)) {
             return false;
         }
+        crowd.note(i, flight);
     }
     return true;
 }

@@ -28,19 +28,19 @@ void reportNearMiss(Game& game, SimulationEvents& events, FlightIndex mover, Fli
 
 } // namespace
 
-bool checkSeparation(Game& game, SimulationEvents& events, FlightIndex mover) {
+bool checkSeparation(Game& game, SimulationEvents& events, const Crowd& crowd, FlightIndex mover) {
     const PlanStep here = game.flight(mover).current();
-    for (const FlightIndex i : game.flightPlaces()) {
-        const Flight& other = game.flight(i);
-        if (i == mover || !other.isOnScope() || other.current().altitude != here.altitude ||
-            !areNeighbours(other.current().cell, here.cell)) {
+    for (auto near = crowd.nextNear(here, FlightIndex{0}); near;
+         near = crowd.nextNear(here, FlightIndex{near->number() + 1})) {
+        const PlanStep& there = game.flight(*near).current();
+        if (*near == mover || there.altitude != here.altitude || !areNeighbours(there.cell, here.cell)) {
             continue;
         }
-        if (other.current().cell == here.cell) {
-            game.collisionFlights = {i, mover};
+        if (there.cell == here.cell) {
+            game.collisionFlights = {*near, mover};
             return true;
         }
-        reportNearMiss(game, events, mover, i);
+        reportNearMiss(game, events, mover, *near);
     }
     return false;
 }
