@@ -126,7 +126,7 @@ std::vector<Choice> choicesToRunway(const Approach& approach, const Flight& flig
     constexpr int roomToDescend = 10; // moves before the descent has to begin at the latest
     const PlanStep& now = flight.current();
     const bool descends = approach.moves(now.cell, now.heading) < now.altitude + roomToDescend;
-    const int wanted = descends ? approachAltitude : now.altitude;
+    const int wanted = descends ? approachAltitude : int{now.altitude};
     std::vector<Choice> choices{{turnToRunway(approach, now, wanted), 0}};
     for (int altitude = approachAltitude; altitude <= exitAltitude; ++altitude) {
         if (altitude != wanted) {

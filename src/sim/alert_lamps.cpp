@@ -40,7 +40,7 @@ LampsTickResult LampsTick(LampBlink& blink, const Game& game, Millis now) {
 LampLevel gatherAlertLevel(const Game& game) {
     LampLevel level = LampLevel::none;
     for (const Flight& flight : game.flights) {
-        if (!flight.isOnScope()) {
+        if (flight.alert == Alert::none || !flight.isOnScope()) {
             continue;
         }
         switch (flight.alert) {

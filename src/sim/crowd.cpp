@@ -38,11 +38,13 @@ Crowd::Mark Crowd::markOf(const PlanStep& step) {
            (static_cast<Mark>(step.altitude) & altitudeMask) << altitudeShift;
 }
 
-Crowd::Crowd(std::span<const Flight> flights) : marks_(flights.size(), nobody) {
-    for (std::size_t place = 0; place < flights.size(); ++place) {
-        if (flights[place].isOnScope()) {
-            marks_[place] = markOf(flights[place].current());
-            enter(marks_[place]);
+Crowd::Crowd(std::span<const Flight> table, std::span<const FlightIndex> those)
+    : marks_(table.size(), nobody) {
+    for (const FlightIndex index : those) {
+        const Flight& flight = table[index.place()];
+        if (flight.isOnScope()) {
+            marks_[index.place()] = markOf(flight.current());
+            enter(marks_[index.place()]);
         }
     }
 }

@@ -17,8 +17,9 @@ namespace ventrel {
 
 class Crowd {
 public:
-    /// The flights on the scope as they stand now; `flights` is not kept.
-    explicit Crowd(std::span<const Flight> flights);
+    /// Those of the table's flights that are on the scope, as they stand now; `those` names at least all of
+    /// them. Nothing is kept.
+    Crowd(std::span<const Flight> table, std::span<const FlightIndex> those);
 
     /// Takes down where the flight of that place stands by now, if it still is on the scope.
     void note(FlightIndex index, const Flight& flight);

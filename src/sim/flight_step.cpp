@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
+#include <vector>
 
 #include "sim/arrival.h"
 #include "sim/cloud_cover.h"
@@ -53,8 +55,18 @@ const ArrivalRow* arrivalRowOf(const Game& game, const Flight& flight) {
     return found == arrivalRows.end() ? nullptr : found;
 }
 
-bool movesAt(const Flight& flight, ClockSeconds now) {
-    return flight.inPlay && flight.isActive() && isDue(flight, now);
+/// The flights in play that have appeared, in table order.
+std::vector<FlightIndex> flightsAbout(const Game& game) {
+    std::vector<FlightIndex> about(game.flights.size());
+    std::size_t count = 0;
+    // Without a branch, which could not be foretold: who is about is chance.
+    for (const FlightIndex i : game.flightPlaces()) {
+        const Flight& flight = game.flight(i);
+        about[count] = i;
+        count += static_cast<std::size_t>(flight.inPlay) & static_cast<std::size_t>(flight.isActive());
+    }
+    about.resize(count);
+    return about;
 }
 
 void callUnlessLit(const Game& game, SimulationEvents& events, LampLevel lamp, const RadioCall& call) {
@@ -114,11 +126,11 @@ bool moveFlight(Game& game, SimulationEvents& events, const Crowd& crowd, Flight
 
 /// Judges and moves the flights that are due, in table order: earlier ones have made this step's move when a
 /// later one is checked against them. False on a collision, which ends the pass at once.
-bool moveFlights(Game& game, SimulationEvents& events) {
-    Crowd crowd{game.flights};
-    for (const FlightIndex i : game.flightPlaces()) {
+bool moveFlights(Game& game, SimulationEvents& events, std::span<const FlightIndex> about) {
+    Crowd crowd{game.flights, about};
+    for (const FlightIndex i : about) {
         Flight& flight = game.flight(i);
-        if (!movesAt(flight, game.clock)) {
+        if (!isDue(flight, game.clock)) {
             continue;
         }
         flight.alert = Alert::none;
@@ -141,11 +153,12 @@ std::optional<ShiftResult> updateFlights(Game& game, SimulationEvents& events) {
         addScore(game, events, ScoreCause::bonus, std::nullopt, game.bonus);
         return ShiftResult::everyFlightHandled;
     }
-    if (!moveFlights(game, events)) {
+    const std::vector<FlightIndex> about = flightsAbout(game);
+    if (!moveFlights(game, events, about)) {
         return ShiftResult::collision;
     }
-    for (const FlightIndex i : game.flightPlaces()) {
-        if (movesAt(game.flight(i), game.clock)) {
+    for (const FlightIndex i : about) {
+        if (game.flight(i).inPlay && isDue(game.flight(i), game.clock)) {
             reportArrival(game, events, i);
         }
     }

@@ -10,6 +10,7 @@
 #include <span>
 
 #include "base/geometry.h"
+#include "sim/small_number.h"
 #include "sim/table_index.h"
 
 namespace ventrel {
@@ -25,25 +26,30 @@ enum class Speed : std::int8_t { slow = -1, normal = 0, fast = 1 };
 class DirectTarget {
 public:
     constexpr DirectTarget() = default;
-    constexpr DirectTarget(PointIndex point) : kind_{Kind::point}, point_{point} {}
+    constexpr DirectTarget(PointIndex point)
+        : number_{static_cast<std::uint16_t>(firstPoint + point.number())} {}
 
-    static constexpr DirectTarget none() { return DirectTarget{Kind::none}; }
-    static constexpr DirectTarget holdPlace() { return DirectTarget{Kind::holdPlace}; }
+    static constexpr DirectTarget none() { return {}; }
+    static constexpr DirectTarget holdPlace() {
+        DirectTarget target;
+        target.number_ = holdPlaceNumber;
+        return target;
+    }
 
-    constexpr bool isOn() const { return kind_ != Kind::none; }
-    constexpr bool isHoldPlace() const { return kind_ == Kind::holdPlace; }
+    constexpr bool isOn() const { return number_ != noneNumber; }
+    constexpr bool isHoldPlace() const { return number_ == holdPlaceNumber; }
     constexpr std::optional<PointIndex> point() const {
-        return kind_ == Kind::point ? std::optional{point_} : std::nullopt;
+        return number_ >= firstPoint ? std::optional{PointIndex{number_ - firstPoint}} : std::nullopt;
     }
 
     friend constexpr bool operator==(DirectTarget, DirectTarget) = default;
 
 private:
-    enum class Kind : std::uint8_t { none, point, holdPlace };
-    constexpr explicit DirectTarget(Kind kind) : kind_{kind}, point_{} {}
+    static constexpr std::uint16_t noneNumber = 0;
+    static constexpr std::uint16_t holdPlaceNumber = 1;
+    static constexpr std::uint16_t firstPoint = 2; // no airspace comes near 65534 points
 
-    Kind kind_ = Kind::none;
-    PointIndex point_;
+    std::uint16_t number_ = noneNumber;
 };
 
 /// The number of a target in files and traces: -1 for nothing, the number of points for the selector's hold.
@@ -63,9 +69,9 @@ constexpr DirectTarget directTargetOf(int number, int pointCount) {
 /// One move of a plan: where, and how to fly.
 struct PlanStep {
     Cell cell{};
-    int altitude = 0;            ///< 1 to 10
-    int heading = 0;             ///< degrees
-    DirectTarget directTarget{}; ///< the steps of a hold carry point 1, whatever that is
+    SmallNumber<std::int8_t> altitude{};  ///< 1 to 10
+    SmallNumber<std::uint16_t> heading{}; ///< degrees
+    DirectTarget directTarget{};          ///< the steps of a hold carry point 1, whatever that is
     Speed speed = Speed::normal;
     bool hold = false; ///< on a hold circle
 
@@ -76,7 +82,7 @@ struct PlanStep {
 /// Without `directTarget` it is a heading order; with it and `hold` a hold, otherwise a direct course.
 using PanelOrder = PlanStep;
 
-/// At least one step and at most `capacity`. Copying copies the steps in use alone.
+/// At least one step and at most `capacity`. Assigning copies the steps in use alone.
 class Plan {
 public:
     static constexpr int capacity = 48;
@@ -87,10 +93,10 @@ public:
     Plan(std::initializer_list<PlanStep> steps) : length_{static_cast<int>(steps.size())} {
         std::ranges::copy(steps, steps_.begin());
     }
-    Plan(const Plan& other) : length_{other.length_} { copySteps(other); }
+    Plan(const Plan& other) = default;
     Plan& operator=(const Plan& other) {
         length_ = other.length_;
-        copySteps(other);
+        std::copy_n(other.steps_.begin(), inUse(), steps_.begin());
         return *this;
     }
     ~Plan() = default;
@@ -114,7 +120,6 @@ public:
 
 private:
     std::size_t inUse() const { return static_cast<std::size_t>(length_); }
-    void copySteps(const Plan& other) { std::copy_n(other.steps_.begin(), inUse(), steps_.begin()); }
 
     int length_ = 1;
     std::array<PlanStep, capacity> steps_{};

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "small_airspace.h"
 
 namespace ventrel {
@@ -71,6 +73,49 @@ TEST(Separation, NearMissesBeforeTheCollisionAreStillPaid) {
     EXPECT_EQ(withoutCalls(test.step(60_s)),
               (Lines{"12 F1, Emergency! Near miss with F0", "score -100 = 200", "ended -1"}));
     EXPECT_EQ(test.game.collisionFlights, (std::array{FlightIndex{2}, FlightIndex{1}}));
+}
+
+TEST(Separation, OverlooksNobodyWhereverFlightsStandAndMove) {
+    RandomGenerator random{5};
+    const auto place = [&](Flight& flight) {
+        // A few columns and rows, here and far outside the grid, where bits of packed numbers run out.
+        constexpr std::array corners{0, 30, 62, -3, -1025, 1021, -70000};
+        const auto coordinate = [&] {
+            return corners.at(random.next() % corners.size()) + Random(random, 5);
+        };
+        flight.current().cell = {coordinate(), coordinate()};
+        flight.current().altitude = Random(random, 1, 3);
+        flight.inPlay = RandomPercent(random) < 90;
+    };
+    std::vector<Flight> flights(60);
+    std::vector<FlightIndex> all;
+    for (Flight& flight : flights) {
+        flight.activatedAt = 30_s;
+        place(flight);
+        all.emplace_back(static_cast<int>(all.size()));
+    }
+    Crowd crowd{flights, all};
+    int neighbours = 0;
+    for (int move = 0; move < 500; ++move) {
+        const FlightIndex mover{Random(random, 60)};
+        place(flights[mover.place()]);
+        crowd.note(mover, flights[mover.place()]);
+        const PlanStep& here = flights[mover.place()].current();
+        std::vector<FlightIndex> found;
+        for (auto near = crowd.nextNear(here, FlightIndex{0}); near;
+             near = crowd.nextNear(here, FlightIndex{near->number() + 1})) {
+            found.push_back(*near);
+        }
+        for (const FlightIndex i : all) {
+            const PlanStep& there = flights[i.place()].current();
+            if (i != mover && flights[mover.place()].inPlay && flights[i.place()].inPlay &&
+                there.altitude == here.altitude && areNeighbours(there.cell, here.cell)) {
+                ++neighbours;
+                EXPECT_TRUE(std::ranges::binary_search(found, i)) << "move " << move;
+            }
+        }
+    }
+    EXPECT_GT(neighbours, 100) << "or the test sees nothing";
 }
 
 TEST(Lamps, TheLaterOfFailureAndNearMissCountsAndSuccessOnlyAlone) {

@@ -14,6 +14,7 @@
 #include "tools/sim/log_writer.h"
 #include "tools/sim/prediction_account.h"
 #include "tools/sim/shift_run.h"
+#include "tools/sim/summary_writer.h"
 #include "tools/sim/trace_writer.h"
 
 namespace ventrel {
@@ -42,6 +43,13 @@ TEST(CommandLine, SaysWhatIsWrongWithIt) {
     EXPECT_EQ(faultOf({"a.apt", "--planes", "97", "--minutes", "24"}), "") << "they do not count";
     EXPECT_NE(faultOf({"a.apt", "--planes", "100"}), "");
     EXPECT_NE(faultOf({"a.apt", "--minutes", "0"}), "");
+    EXPECT_EQ(faultOf({"a.apt", "--seeds", "7..7", "--controller", "--until", "900"}), "");
+    for (const char* const wrong : {"", "7", "7..", "..7", "8..7", "1..4294967296", "1..2..3", "-1..2"}) {
+        EXPECT_EQ(faultOf({"a.apt", "--seeds", wrong}),
+                  "--seeds needs a range of numbers such as 1..500, not '" + std::string{wrong} + "'");
+    }
+    EXPECT_EQ(faultOf({"a.apt", "--log", "--seeds", "1..2"}),
+              "--log does not go with --seeds, which plays many shifts");
 }
 
 TEST(CommandLine, AsksForTheShiftThatTheNewGameDialogWouldMake) {
@@ -163,6 +171,20 @@ TEST(Trace, IsTheSameToTheByte) {
         R"("ground":0,"heavy":0,"plan":[[46,24,5,90,1,-1,0]]}]})"
         "\n"))
         << shift;
+}
+
+TEST(Summary, TellsWhatTheEndOfTheTraceTellsAndCountsWhyPointsWent) {
+    const std::vector<ScriptedOrder> orders{
+        {15_s, FlightIndex{0}, {.altitude = 5, .heading = 90, .speed = Speed::fast}}};
+    Game game = shortGame();
+    Output output;
+    SummaryWriter writer{output, game, 4294967295U};
+    runShift(game, writer, {.orders = orders, .until = 3000_s, .steering = {}});
+    EXPECT_EQ(
+        output.text(),
+        R"({"seed":4294967295,"result":0,"clock":300,"score":25,"possible":0,"landed":0,"left":0,"missed":0,)"
+        R"("lost":1,"nearMisses":0,"complaints":0,"orders":1})"
+        "\n");
 }
 
 TEST(Trace, OfAGameThatIsHeardDrawsTheNoiseOfEachCall) {

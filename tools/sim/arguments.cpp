@@ -29,6 +29,8 @@ constexpr std::string_view help = R"(Plays one shift without a window and writes
   --cloud-size WxH   size of every cloud picture in pixels (default 64x48)
   --name NAME        controller name (default Test)
   --seed N           state of the random generator (default 1)
+  --seeds A..B       a shift for each seed from A to B, and a summary of each instead of everything that happens:
+                     one JSON object a line
   --orders FILE      orders to send: clock flight altitude heading speed directTarget hold
   --until T          last clock second (default 36000)
   --controller       the automatic controller plays the shift
@@ -46,6 +48,8 @@ constexpr std::string_view help = R"(Plays one shift without a window and writes
 Exit status: 0 the shift ended or --until was reached; 1 the airport file or replay cannot be played;
 2 wrong usage or a wrong orders file; 3 the replay did not come out as it tells, or tells no end.
 )";
+
+constexpr unsigned anyUnsigned = std::numeric_limits<unsigned>::max();
 
 template <typename Number>
 bool readNumber(std::string_view word, Number lowest, Number highest, Number& number) {
@@ -88,6 +92,18 @@ bool setCloudSize(Arguments& arguments, std::string_view word) {
            readNumber(word.substr(cross + 1), 1, largest, arguments.cloudSize.height);
 }
 
+bool setSeeds(Arguments& arguments, std::string_view word) {
+    constexpr std::string_view to = "..";
+    const auto dots = word.find(to);
+    SeedRange seeds;
+    if (dots == std::string_view::npos || !readNumber(word.substr(0, dots), 0U, anyUnsigned, seeds.first) ||
+        !readNumber(word.substr(dots + to.size()), seeds.first, anyUnsigned, seeds.last)) {
+        return false;
+    }
+    arguments.seeds = seeds;
+    return true;
+}
+
 bool setUntil(Arguments& arguments, std::string_view word) {
     constexpr int latest = 2000000000;
     int time = 0;
@@ -104,9 +120,9 @@ struct OptionRule {
         expected; ///< what its value must be, for the message; empty for an option without a value
     bool (*set)(Arguments& arguments, std::string_view value);
     bool goesWithReplay = false; ///< it sets up no shift of its own
+    bool goesWithSeeds = true;   ///< it is not about one shift alone, or another way to write it down
 };
 
-constexpr unsigned anyUnsigned = std::numeric_limits<unsigned>::max();
 constexpr int voiceSetLimit = 21;
 
 constexpr std::array optionRules{
@@ -128,33 +144,39 @@ constexpr std::array optionRules{
                    return true;
                }},
     OptionRule{"--seed", "a number from 0 to 4294967295",
-               [](Arguments& a, std::string_view v) { return readNumber(v, 0U, anyUnsigned, a.seed); }},
+               [](Arguments& a, std::string_view v) { return readNumber(v, 0U, anyUnsigned, a.seed); }, false,
+               false},
+    OptionRule{"--seeds", "a range of numbers such as 1..500", setSeeds},
     OptionRule{"--orders", "a file",
                [](Arguments& a, std::string_view v) {
                    a.orders = v;
                    return true;
-               }},
+               },
+               false, false},
     OptionRule{"--until", "a clock second from 0 to 2000000000", setUntil, true},
     OptionRule{"--controller", "", [](Arguments& a, std::string_view) { return a.controller = true; }},
     OptionRule{"--look-ahead", "a number from 1 to 40",
                [](Arguments& a, std::string_view v) { return readNumber(v, 1, stepsAhead, a.lookAhead); }},
     OptionRule{"--careless", "", [](Arguments& a, std::string_view) { return a.careless = true; }},
-    OptionRule{"--interactive", "", [](Arguments& a, std::string_view) { return a.interactive = true; }},
+    OptionRule{"--interactive", "", [](Arguments& a, std::string_view) { return a.interactive = true; },
+               false, false},
     OptionRule{"--speaking", "", [](Arguments& a, std::string_view) { return a.speaking = true; }},
-    OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }, true},
-    OptionRule{"--prediction", "", [](Arguments& a, std::string_view) { return a.prediction = true; }},
+    OptionRule{"--log", "", [](Arguments& a, std::string_view) { return a.log = true; }, true, false},
+    OptionRule{"--prediction", "", [](Arguments& a, std::string_view) { return a.prediction = true; }, false,
+               false},
     OptionRule{"--record", "a file",
                [](Arguments& a, std::string_view v) {
                    a.record = v;
                    return true;
-               }},
+               },
+               false, false},
     OptionRule{"--replay", "a file",
                [](Arguments& a, std::string_view v) {
                    a.replay = v;
                    return true;
                },
-               true},
-    OptionRule{"--score", "", [](Arguments& a, std::string_view) { return a.score = true; }, true},
+               true, false},
+    OptionRule{"--score", "", [](Arguments& a, std::string_view) { return a.score = true; }, true, false},
     OptionRule{"--help", "", [](Arguments& a, std::string_view) { return a.help = true; }, true},
 };
 
@@ -214,10 +236,12 @@ std::string takeFile(Arguments& arguments, std::span<const char* const>& words) 
 std::variant<Arguments, std::string> parseArguments(std::span<const char* const> words) {
     Arguments arguments;
     std::string_view settingUp; // the first option that does not go with a replay
+    std::string_view ofOne;     // the first that does not go with many seeds
     while (!words.empty()) {
         const bool isOption = std::string_view{words.front()}.starts_with("-");
-        if (const OptionRule* const rule = ruleOf(words.front()); rule != nullptr && settingUp.empty()) {
-            settingUp = rule->goesWithReplay ? std::string_view{} : rule->name;
+        if (const OptionRule* const rule = ruleOf(words.front()); rule != nullptr) {
+            settingUp = settingUp.empty() && !rule->goesWithReplay ? rule->name : settingUp;
+            ofOne = ofOne.empty() && !rule->goesWithSeeds ? rule->name : ofOne;
         }
         std::string fault = isOption ? takeOption(arguments, words) : takeFile(arguments, words);
         if (!fault.empty()) {
@@ -226,6 +250,9 @@ std::variant<Arguments, std::string> parseArguments(std::span<const char* const>
     }
     if (arguments.replay && !settingUp.empty()) {
         return std::string{settingUp} + " does not go with --replay, which tells all of the shift";
+    }
+    if (arguments.seeds && !ofOne.empty()) {
+        return std::string{ofOne} + " does not go with --seeds, which plays many shifts";
     }
     if (arguments.airport.empty() && !arguments.replay && !arguments.help) {
         return "an airport file is needed";

@@ -15,6 +15,12 @@
 
 namespace ventrel {
 
+/// The seeds from the first to the last.
+struct SeedRange {
+    std::uint32_t first = 0;
+    std::uint32_t last = 0;
+};
+
 struct Arguments {
     std::filesystem::path airport;
     std::optional<int> width; ///< 800 or 1024; without it the file's own layout counts
@@ -27,6 +33,7 @@ struct Arguments {
     Size cloudSize{64, 48};    ///< pixels
     std::string name = "Test"; ///< Windows-1252
     std::uint32_t seed = 1;
+    std::optional<SeedRange> seeds; ///< a shift for each of them, and a summary of each instead of the trace
     std::optional<std::filesystem::path> orders;
     ClockSeconds until{36000};
     bool controller = false;

@@ -1,4 +1,4 @@
-// ventrel-sim: one shift without a window, written to standard output.
+// ventrel-sim: a shift without a window, or many, written to standard output.
 
 #include <array>
 #include <cstdio>
@@ -19,6 +19,7 @@
 #include "tools/sim/prediction_account.h"
 #include "tools/sim/score_writer.h"
 #include "tools/sim/shift_run.h"
+#include "tools/sim/summary_writer.h"
 #include "tools/sim/trace_writer.h"
 
 namespace ventrel {
@@ -35,13 +36,12 @@ void complain(std::string_view text) {
 }
 
 /// The controller's, somebody careless, one after the other, or nobody's.
-Steering steeringOf(const Game& game, const Arguments& arguments) {
+Steering steeringOf(const Game& game, const Arguments& arguments, std::uint32_t seed) {
     Steering controller = arguments.controller ? automaticSteering(game, arguments.lookAhead) : Steering{};
     if (!arguments.careless) {
         return controller;
     }
-    return [controller, careless = carelessSteering(RandomGenerator{arguments.seed})](Game& now,
-                                                                                      Recorder& recorder) {
+    return [controller, careless = carelessSteering(RandomGenerator{seed})](Game& now, Recorder& recorder) {
         if (controller) {
             controller(now, recorder);
         }
@@ -68,7 +68,7 @@ void runWritten(const Game& game, Output& output, const Arguments& arguments,
 }
 
 void playShift(Game& game, Output& output, const Arguments& arguments, RunPlan plan) {
-    plan.steering = steeringOf(game, arguments);
+    plan.steering = steeringOf(game, arguments, arguments.seed);
     const auto run = [&](Recorder& recorder) { runShift(game, recorder, plan); };
     if (arguments.interactive) {
         InteractiveWriter writer{output, game};
@@ -96,6 +96,23 @@ ExitStatus finish(Output& output) {
     return played;
 }
 
+/// A shift for each of the seeds, and nothing but a summary of each.
+ExitStatus playSeeds(const AirspacePtr& airspace, const ShiftSetup& setup, const Arguments& arguments,
+                     const SeedRange& seeds) {
+    Output output{stdout};
+    for (std::uint64_t seed = seeds.first; seed <= seeds.last; ++seed) {
+        const auto number = static_cast<std::uint32_t>(seed);
+        Game game{airspace, setup, RandomGenerator{number}};
+        SummaryWriter writer{output, game, number};
+        runShift(game, writer,
+                 {.orders = {},
+                  .until = arguments.until,
+                  .steering = steeringOf(game, arguments, number),
+                  .hearsPilots = arguments.speaking});
+    }
+    return finish(output);
+}
+
 ExitStatus play(const Arguments& arguments) {
     const auto airspace = loadAirport(arguments.airport);
     if (!airspace) {
@@ -112,6 +129,9 @@ ExitStatus play(const Arguments& arguments) {
     ShiftSetup setup = setupFor(arguments);
     setup.cloudSizes = cloudSizes;
     setup.layout = *layout;
+    if (arguments.seeds) {
+        return playSeeds(*airspace, setup, arguments, *arguments.seeds);
+    }
     Game game{*airspace, setup, RandomGenerator{arguments.seed}};
 
     ReplayWriter replay{game};
