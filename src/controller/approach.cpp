@@ -1,7 +1,6 @@
 #include "controller/approach.h"
 
 #include <algorithm>
-#include <deque>
 #include <limits>
 #include <optional>
 
@@ -24,32 +23,42 @@ bool isOnGrid(Cell cell) {
     return cell.x >= 0 && cell.x < gridSize && cell.y >= 0 && cell.y < gridSize && !isOutsideScope(cell);
 }
 
-std::optional<std::size_t> indexOf(const Place& place) {
-    if (!isOnGrid(place.cell) || place.heading % headingStep != 0) {
-        return std::nullopt;
-    }
+std::size_t placeOf(const Place& place) {
     return static_cast<std::size_t>((place.cell.y * gridSize + place.cell.x) * headingCount +
                                     place.heading / headingStep);
 }
 
+std::optional<std::size_t> indexOf(const Place& place) {
+    if (!isOnGrid(place.cell) || place.heading % headingStep != 0) {
+        return std::nullopt;
+    }
+    return placeOf(place);
+}
+
 } // namespace
 
-Approach::Approach(const Vor& airport) : moves_(placeCount, outOfReach) {
+Approach::Approach(const Vor& airport) {
     const Place end{airport.cell, airport.runwayHeading};
     const auto endIndex = indexOf(end);
     if (!airport.isAirport || end.heading >= fullCircle || !endIndex) {
         return;
     }
-    std::deque<Place> found{end};
+    moves_.assign(placeCount, outOfReach);
     moves_[*endIndex] = 0;
-    for (; !found.empty(); found.pop_front()) {
-        const Place to = found.front();
+    std::vector<Place> found{end}; // from the end outward
+    found.reserve(placeCount);
+    for (std::size_t next = 0; next < found.size(); ++next) {
+        const Place to = found[next];
+        const auto further = static_cast<Moves>(moves(to.cell, to.heading) + 1);
         const Cell before = stepCell(to.cell, turned(to.heading, fullCircle / 2));
+        if (!isOnGrid(before) || before == airport.cell) {
+            continue;
+        }
         for (const int turn : {straight, leftTurn, rightTurn}) {
             const Place from{before, turned(to.heading, turn)};
-            const auto index = indexOf(from);
-            if (index && from.cell != airport.cell && moves_[*index] == outOfReach) {
-                moves_[*index] = moves(to.cell, to.heading) + 1;
+            Moves& known = moves_[placeOf(from)];
+            if (known == outOfReach) {
+                known = further;
                 found.push_back(from);
             }
         }
@@ -57,7 +66,7 @@ Approach::Approach(const Vor& airport) : moves_(placeCount, outOfReach) {
 }
 
 int Approach::moves(Cell cell, int heading) const {
-    const auto index = indexOf({cell, heading});
+    const auto index = moves_.empty() ? std::nullopt : indexOf({cell, heading});
     return index ? moves_[*index] : outOfReach;
 }
 

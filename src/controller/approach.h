@@ -2,6 +2,7 @@
 
 #pragma once
 
+#include <cstdint>
 #include <vector>
 
 #include "sim/grid.h"
@@ -26,7 +27,8 @@ public:
     int nextHeading(Cell cell, int heading, int altitude) const;
 
 private:
-    std::vector<int> moves_; // by cell and heading
+    using Moves = std::int16_t;
+    std::vector<Moves> moves_; // by cell and heading; empty where every place is out of reach
 };
 
 } // namespace ventrel

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+
+#include "sim/course_planner.h"
 
 namespace ventrel {
 
@@ -74,15 +77,40 @@ std::vector<Choice> withSpeeds(const std::vector<Choice>& choices, const Flight&
     return result;
 }
 
-/// Whether a direct course would get there. From close beside it may circle the point for ever.
-bool canGoDirect(const Game& game, Flight flight, PanelOrder direct) {
+/// Altitudes from the present one for which a direct course gets there; none from close beside, where it may
+/// circle the point for ever.
+std::optional<int> reachOfDirect(const Game& game, const Flight& flight) {
     const Cell exit = game.vor(flight.destination).cell;
     if (areNeighbours(flight.current().cell, exit)) {
-        return false;
+        return std::nullopt;
     }
-    direct.directTarget = flight.destination;
-    planOrder(game, flight, direct);
-    return flight.lastStep().cell == exit;
+    // The way is the same for every altitude, which changes by one with each move, and ends over the exit as
+    // soon as the altitude is reached. So it is flown once to an altitude that never is.
+    constexpr int outOfReach = exitAltitude + Plan::capacity;
+    Flight way = flight;
+    planDirect(way, game.vors(), flight.destination, outOfReach, Speed::normal);
+    for (int move = way.plan.length() - 1; move > 0; --move) {
+        if (way.plan[move].cell == exit) {
+            return move;
+        }
+    }
+    return std::nullopt;
+}
+
+PanelOrder wayToExit(const Flight& flight, int altitude, std::optional<int> reach) {
+    const PlanStep& now = flight.current();
+    PanelOrder order = straightOn(now, altitude);
+    // Straight ahead until there is room to turn.
+    if (reach && std::abs(altitude - now.altitude) <= *reach) {
+        order.directTarget = flight.destination;
+    }
+    return order;
+}
+
+/// As `withSpeeds` does with the first.
+PanelOrder atFirstSpeed(PanelOrder order, const Flight& flight) {
+    order.speed = flight.heavy ? order.speed : Speed::normal;
+    return order;
 }
 
 /// The next turn to make toward the runway, as one order: until the way turns the other way.
@@ -107,26 +135,38 @@ PanelOrder turnToRunway(const Approach& approach, const PlanStep& now, int altit
     return order;
 }
 
+/// The altitude at which it does well to come nearer.
+int altitudeToRunway(const Approach& approach, const PlanStep& now) {
+    constexpr int roomToDescend = 10; // moves before the descent has to begin at the latest
+    const bool descends = approach.moves(now.cell, now.heading) < now.altitude + roomToDescend;
+    return descends ? approachAltitude : int{now.altitude};
+}
+
 } // namespace
+
+PanelOrder bestWayToExit(const Game& game, const Flight& flight) {
+    return atFirstSpeed(wayToExit(flight, exitAltitude, reachOfDirect(game, flight)), flight);
+}
+
+PanelOrder bestWayToRunway(const Approach& approach, const Flight& flight) {
+    const PlanStep& now = flight.current();
+    return atFirstSpeed(turnToRunway(approach, now, altitudeToRunway(approach, now)), flight);
+}
 
 std::vector<Choice> choicesToExit(const Game& game, const Flight& flight) {
     const PlanStep& now = flight.current();
+    const std::optional<int> reach = reachOfDirect(game, flight);
     std::vector<Choice> choices;
-    // Straight ahead until there is room to turn.
     for (int altitude = exitAltitude; altitude >= approachAltitude; --altitude) {
-        PanelOrder order = straightOn(now, altitude);
-        order.directTarget = canGoDirect(game, flight, order) ? flight.destination : DirectTarget{};
-        choices.push_back({order, altitudeDetour(now, altitude, exitAltitude)});
+        choices.push_back({wayToExit(flight, altitude, reach), altitudeDetour(now, altitude, exitAltitude)});
     }
     addEvasions(choices, now, exitAltitude);
     return withSpeeds(choices, flight);
 }
 
 std::vector<Choice> choicesToRunway(const Approach& approach, const Flight& flight) {
-    constexpr int roomToDescend = 10; // moves before the descent has to begin at the latest
     const PlanStep& now = flight.current();
-    const bool descends = approach.moves(now.cell, now.heading) < now.altitude + roomToDescend;
-    const int wanted = descends ? approachAltitude : int{now.altitude};
+    const int wanted = altitudeToRunway(approach, now);
     std::vector<Choice> choices{{turnToRunway(approach, now, wanted), 0}};
     for (int altitude = approachAltitude; altitude <= exitAltitude; ++altitude) {
         if (altitude != wanted) {

@@ -1,6 +1,7 @@
 #include "controller/controller.h"
 
 #include <algorithm>
+#include <functional>
 #include <optional>
 
 #include "controller/choices.h"
@@ -57,15 +58,27 @@ Flight planned(const Game& game, Flight flight, const PanelOrder& order) {
     return flight;
 }
 
-/// The order that serves the flight best, or nothing when it does well enough.
-std::optional<PanelOrder> bestOrder(const Game& game, const std::vector<Choice>& choices,
-                                    const Traffic& traffic, FlightIndex index) {
+/// Whether the flight is on its best way, or on one that is as good.
+bool doesWell(const Game& game, const Flight& flight, const Approach& approach) {
+    if (game.vor(flight.destination).isAirport) {
+        return fliesAlike(flight, planned(game, flight, bestWayToRunway(approach, flight)));
+    }
+    return isOnCourse(game, flight) || fliesAlike(flight, planned(game, flight, bestWayToExit(game, flight)));
+}
+
+/// The order that serves the flight best, or nothing when it does well enough. `loss` is what it will lose
+/// without one.
+std::optional<PanelOrder> bestOrder(const Game& game, const Approach& approach, const Traffic& traffic,
+                                    FlightIndex index, int loss) {
     const Flight& flight = game.flight(index);
-    const bool lands = game.vor(flight.destination).isAirport;
-    const bool doesWell = fliesAlike(flight, planned(game, flight, choices.front().order)) ||
-                          (!lands && isOnCourse(game, flight));
+    int lowest = loss + (doesWell(game, flight, approach) ? 0 : offCourse);
+    if (lowest <= orderCost) {
+        return std::nullopt; // no order costs less
+    }
     const int perOrder = costOfOrder(game);
-    int lowest = traffic.lossOf(index) + (doesWell ? 0 : offCourse);
+    const std::vector<Choice> choices = game.vor(flight.destination).isAirport
+                                            ? choicesToRunway(approach, flight)
+                                            : choicesToExit(game, flight);
     std::optional<PanelOrder> chosen;
     for (const Choice& choice : choices) {
         const int floor = choice.detour == 0 ? orderCost : choice.detour + perOrder;
@@ -92,20 +105,24 @@ bool mayTakeOff(const Game& game, const Traffic& traffic, FlightIndex index) {
     return traffic.conflictsOf(index, cleared) < acceptableDeparture;
 }
 
+struct Loss {
+    int points = 0;
+    FlightIndex flight;
+};
+
 /// Those that can be told something, the ones with most to lose first.
-std::vector<FlightIndex> worstFirst(const Game& game, const Traffic& traffic) {
-    std::vector<std::pair<int, FlightIndex>> list;
+std::vector<Loss> worstFirst(const Game& game, const Traffic& traffic) {
+    const std::vector<int> losses = traffic.losses();
+    std::vector<Loss> list;
     for (const FlightIndex i : game.flightPlaces()) {
         const Flight& flight = game.flight(i);
         const bool hears = flight.isAirborne() || flight.groundState == GroundState::waiting;
         if (flight.inPlay && flight.isActive() && hears && !isSuccess(arrivalOf(game, flight))) {
-            list.emplace_back(-traffic.lossOf(i), i);
+            list.push_back({losses[i.place()], i});
         }
     }
-    std::ranges::sort(list);
-    std::vector<FlightIndex> flights(list.size());
-    std::ranges::transform(list, flights.begin(), [](const auto& row) { return row.second; });
-    return flights;
+    std::ranges::stable_sort(list, std::ranges::greater{}, &Loss::points);
+    return list;
 }
 
 } // namespace
@@ -119,16 +136,15 @@ Controller::Controller(const Game& game, int lookAhead) : lookAhead_{lookAhead} 
 std::vector<ControllerOrder> Controller::decide(Game game) const {
     std::vector<ControllerOrder> orders;
     Traffic traffic{game, lookAhead_};
-    for (const FlightIndex index : worstFirst(game, traffic)) {
+    for (const auto& [points, index] : worstFirst(game, traffic)) {
         const Flight& flight = game.flight(index);
         std::optional<PanelOrder> order;
-        if (!flight.isAirborne()) {
-            order = mayTakeOff(game, traffic, index) ? std::optional{flight.current()} : std::nullopt;
-        } else if (game.vor(flight.destination).isAirport) {
-            const Approach& approach = approaches_[flight.destination.place()];
-            order = bestOrder(game, choicesToRunway(approach, flight), traffic, index);
-        } else {
-            order = bestOrder(game, choicesToExit(game, flight), traffic, index);
+        if (flight.isAirborne()) {
+            // An order to another flight may have changed what this one loses.
+            const int loss = orders.empty() ? points : traffic.lossOf(index);
+            order = bestOrder(game, approaches_[flight.destination.place()], traffic, index, loss);
+        } else if (mayTakeOff(game, traffic, index)) {
+            order = flight.current();
         }
         if (order) {
             orders.push_back({index, *order});

@@ -32,6 +32,11 @@ Spot spotOf(const Flight& flight) {
     return flight.isAirborne() ? Spot{flight.current().cell, flight.current().altitude} : Spot{};
 }
 
+/// Nobody flies at the altitude of an empty spot.
+PlaceMark markOf(const Spot& spot) {
+    return placeMark(spot.cell, spot.altitude);
+}
+
 /// One due move. False when the flight leaves the game with it.
 bool moveOn(const Game& game, Flight& flight, Track& track, int step) {
     switch (flight.groundState) {
@@ -61,6 +66,16 @@ int closeness(const Spot& mover, const Spot& other, int step) {
     return weighed(other.cell == mover.cell ? collisionCost : -points::nearMiss, step);
 }
 
+/// Whether one of them may find the other: a glance at all steps, without a branch.
+bool mayMeet(const Track& earlier, const Track& later) {
+    std::uint32_t meetings = 0;
+    for (std::size_t step = 1; step <= std::size_t{stepsAhead}; ++step) {
+        meetings += mayTouch(earlier.looks[step], later.marks[step - 1]) ? 1U : 0U;
+        meetings += mayTouch(later.looks[step], earlier.marks[step]) ? 1U : 0U;
+    }
+    return meetings != 0;
+}
+
 } // namespace
 
 Track trackOf(const Game& game, Flight flight, int steps) {
@@ -69,6 +84,7 @@ Track trackOf(const Game& game, Flight flight, int steps) {
         return track;
     }
     track.spots[0] = spotOf(flight);
+    track.marks[0] = markOf(track.spots[0]);
     ClockSeconds time = timeOfNextStep(game) - stepInterval; // of the last one, wherever the clock is by now
     for (int step = 1; step <= steps; ++step) {
         time += stepInterval;
@@ -77,15 +93,21 @@ Track trackOf(const Game& game, Flight flight, int steps) {
         if (due && !moveOn(game, flight, track, step)) {
             break;
         }
-        Spot& spot = track.spots[static_cast<std::size_t>(step)];
+        const auto place = static_cast<std::size_t>(step);
+        Spot& spot = track.spots[place];
         spot = spotOf(flight);
         spot.checks = checks;
+        track.marks[place] = markOf(spot);
+        track.looks[place] = checks ? track.marks[place - 1] : looksNowhere;
     }
     return track;
 }
 
 int conflictCost(const Track& earlier, const Track& later) {
     int cost = 0;
+    if (!mayMeet(earlier, later)) {
+        return cost;
+    }
     for (std::size_t step = 1; step <= std::size_t{stepsAhead}; ++step) {
         const auto number = static_cast<int>(step);
         if (earlier.spots[step].checks) {

@@ -6,6 +6,7 @@
 #include <cstddef>
 
 #include "sim/game.h"
+#include "sim/place_mark.h"
 
 namespace ventrel {
 
@@ -23,8 +24,14 @@ struct Spot {
 
 /// What a flight will do by itself.
 struct Track {
-    /// By step; the first is where it stands now.
-    std::array<Spot, std::size_t{stepsAhead} + 1> spots{};
+    template <typename Entry>
+    using BySteps = std::array<Entry, std::size_t{stepsAhead} + 1>; ///< the first of now
+
+    Track() { looks.fill(looksNowhere); }
+
+    BySteps<Spot> spots{};
+    BySteps<PlaceMark> marks{}; ///< of the spots
+    BySteps<PlaceMark> looks;   ///< of the places where it looks round in the step
     int lostPoints =
         0; ///< what it will throw away by arriving wrong, or by leaving the scope; sooner weighs more
 };

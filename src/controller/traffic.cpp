@@ -1,16 +1,46 @@
 #include "controller/traffic.h"
 
+#include <algorithm>
+
 namespace ventrel {
 
 Traffic::Traffic(const Game& game, int lookAhead) : game_{game}, lookAhead_{lookAhead} {
-    tracks_.reserve(game.flights.size());
-    for (const Flight& flight : game.flights) {
-        tracks_.push_back(trackOf(game, flight, lookAhead));
+    for (const FlightIndex i : game.flightPlaces()) {
+        const Flight& flight = game.flight(i);
+        if (flight.inPlay && flight.isActive()) {
+            about_.push_back(i);
+        }
+    }
+    tracks_.reserve(about_.size());
+    for (const FlightIndex i : about_) {
+        tracks_.push_back(trackOf(game, game.flight(i), lookAhead));
     }
 }
 
+std::size_t Traffic::trackNumber(FlightIndex index) const {
+    return static_cast<std::size_t>(std::ranges::lower_bound(about_, index) - about_.begin());
+}
+
 void Traffic::update(FlightIndex index) {
-    tracks_[index.place()] = trackOf(game_, game_.flight(index), lookAhead_);
+    tracks_[trackNumber(index)] = trackOf(game_, game_.flight(index), lookAhead_);
+}
+
+std::vector<int> Traffic::losses() const {
+    std::vector<int> losses(game_.flights.size());
+    for (std::size_t later = 0; later < tracks_.size(); ++later) {
+        int& loss = losses[about_[later].place()];
+        loss += tracks_[later].lostPoints;
+        for (std::size_t earlier = 0; earlier < later; ++earlier) {
+            const int cost = conflictCost(tracks_[earlier], tracks_[later]);
+            losses[about_[earlier].place()] += cost;
+            loss += cost;
+        }
+    }
+    return losses;
+}
+
+int Traffic::lossOf(FlightIndex index) const {
+    return lossOf(index, tracks_[trackNumber(index)]);
 }
 
 int Traffic::lossOf(FlightIndex index, const Flight& plan) const {
@@ -27,13 +57,10 @@ int Traffic::lossOf(FlightIndex index, const Track& track) const {
 
 int Traffic::conflictsOf(FlightIndex index, const Track& track) const {
     int loss = 0;
-    for (const FlightIndex i : game_.flightPlaces()) {
-        const Flight& other = game_.flight(i);
-        if (i == index || !other.inPlay || !other.isActive()) {
-            continue;
+    for (std::size_t i = 0; i < tracks_.size(); ++i) {
+        if (about_[i] != index) {
+            loss += about_[i] < index ? conflictCost(tracks_[i], track) : conflictCost(track, tracks_[i]);
         }
-        const Track& there = tracks_[i.place()];
-        loss += i < index ? conflictCost(there, track) : conflictCost(track, there);
     }
     return loss;
 }

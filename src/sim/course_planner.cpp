@@ -47,7 +47,7 @@ constexpr int steppedAltitude(int altitude, int target) {
 
 /// Makes the present step the only one.
 PlanStep& restartPlan(Flight& flight) {
-    flight.plan = Plan{flight.current()};
+    flight.plan.restartFrom(flight.planIndex);
     flight.planIndex = 0;
     return flight.plan[0];
 }

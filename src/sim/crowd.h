@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "sim/flight.h"
+#include "sim/place_mark.h"
 
 namespace ventrel {
 
@@ -30,20 +31,17 @@ public:
     std::optional<FlightIndex> nextNear(const PlanStep& here, FlightIndex from) const;
 
 private:
-    using Mark = std::uint32_t; // cell and altitude, of which the low bits count
     using Columns = std::uint32_t;
 
     static constexpr unsigned rowCount = 32; // and as many columns; cells that far apart share a place
     static constexpr unsigned layerCount = 16;
-    static constexpr Mark nobody = ~Mark{0};
     using Layer = std::array<Columns, rowCount>;
 
-    static Mark markOf(const PlanStep& step);
-    bool isAlone(Mark here) const;
-    void enter(Mark mark);
-    void leave(Mark mark);
+    bool isAlone(PlaceMark here) const;
+    void enter(PlaceMark mark);
+    void leave(PlaceMark mark);
 
-    std::vector<Mark> marks_;                   // by flight
+    std::vector<PlaceMark> marks_;              // by flight
     std::array<Layer, layerCount> layers_{};    // by altitude: the columns of each row where somebody stands
     std::array<Columns, layerCount> crowded_{}; // by altitude: the columns where two have met in one cell
 };

@@ -108,6 +108,12 @@ public:
     const PlanStep& last() const { return (*this)[length_ - 1]; }
     std::span<const PlanStep> steps() const { return std::span{steps_}.first(inUse()); }
 
+    /// Makes one of its steps the only one.
+    void restartFrom(int step) {
+        steps_[0] = (*this)[step];
+        length_ = 1;
+    }
+
     /// Adds a copy of the last step; false when the plan is as long as it gets.
     bool extend() {
         if (length_ >= longest) {

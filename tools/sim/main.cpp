@@ -36,8 +36,9 @@ void complain(std::string_view text) {
 }
 
 /// The controller's, somebody careless, one after the other, or nobody's.
-Steering steeringOf(const Game& game, const Arguments& arguments, std::uint32_t seed) {
-    Steering controller = arguments.controller ? automaticSteering(game, arguments.lookAhead) : Steering{};
+Steering steeringOf(const Game& game, const Arguments& arguments, ControllerPool& controllers,
+                    std::uint32_t seed) {
+    Steering controller = arguments.controller ? controllers.steeringOf(game) : Steering{};
     if (!arguments.careless) {
         return controller;
     }
@@ -68,7 +69,8 @@ void runWritten(const Game& game, Output& output, const Arguments& arguments,
 }
 
 void playShift(Game& game, Output& output, const Arguments& arguments, RunPlan plan) {
-    plan.steering = steeringOf(game, arguments, arguments.seed);
+    ControllerPool controllers{arguments.lookAhead};
+    plan.steering = steeringOf(game, arguments, controllers, arguments.seed);
     const auto run = [&](Recorder& recorder) { runShift(game, recorder, plan); };
     if (arguments.interactive) {
         InteractiveWriter writer{output, game};
@@ -100,6 +102,7 @@ ExitStatus finish(Output& output) {
 ExitStatus playSeeds(const AirspacePtr& airspace, const ShiftSetup& setup, const Arguments& arguments,
                      const SeedRange& seeds) {
     Output output{stdout};
+    ControllerPool controllers{arguments.lookAhead};
     for (std::uint64_t seed = seeds.first; seed <= seeds.last; ++seed) {
         const auto number = static_cast<std::uint32_t>(seed);
         Game game{airspace, setup, RandomGenerator{number}};
@@ -107,7 +110,7 @@ ExitStatus playSeeds(const AirspacePtr& airspace, const ShiftSetup& setup, const
         runShift(game, writer,
                  {.orders = {},
                   .until = arguments.until,
-                  .steering = steeringOf(game, arguments, number),
+                  .steering = steeringOf(game, arguments, controllers, number),
                   .hearsPilots = arguments.speaking});
     }
     return finish(output);

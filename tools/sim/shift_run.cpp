@@ -1,6 +1,6 @@
 #include "tools/sim/shift_run.h"
 
-#include "controller/controller.h"
+#include <algorithm>
 
 namespace ventrel {
 
@@ -37,8 +37,17 @@ void playEvent(Game& game, Recorder& recorder, Playback& playback, const ReplayE
 } // namespace
 
 Steering automaticSteering(const Game& game, int lookAhead) {
-    return [controller = Controller{game, lookAhead}](Game& now, Recorder& recorder) {
-        for (const ControllerOrder& next : controller.decide(now)) {
+    return ControllerPool{lookAhead}.steeringOf(game);
+}
+
+Steering ControllerPool::steeringOf(const Game& game) {
+    auto known = std::ranges::find_if(
+        entries_, [&](const Entry& entry) { return std::ranges::equal(*entry.points, *game.points); });
+    if (known == entries_.end()) {
+        known = entries_.insert(known, {game.points, std::make_shared<const Controller>(game, lookAhead_)});
+    }
+    return [controller = known->controller](Game& now, Recorder& recorder) {
+        for (const ControllerOrder& next : controller->decide(now)) {
             recorder.send(now, next.flight, next.order);
         }
     };

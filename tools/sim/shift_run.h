@@ -3,9 +3,11 @@
 #pragma once
 
 #include <functional>
+#include <memory>
 #include <span>
+#include <vector>
 
-#include "controller/track.h"
+#include "controller/controller.h"
 #include "replay/playback.h"
 #include "tools/sim/order_text.h"
 #include "tools/sim/recorder.h"
@@ -17,6 +19,23 @@ using Steering = std::function<void(Game&, Recorder&)>;
 
 /// The automatic controller, at the controls of this game; see Controller for the look ahead.
 Steering automaticSteering(const Game& game, int lookAhead = stepsAhead);
+
+/// Automatic controllers for very many shifts: one serves all in which the same runways are in use.
+class ControllerPool {
+public:
+    explicit ControllerPool(int lookAhead) : lookAhead_{lookAhead} {}
+
+    Steering steeringOf(const Game& game);
+
+private:
+    struct Entry {
+        std::shared_ptr<const std::vector<Vor>> points;
+        std::shared_ptr<const Controller> controller;
+    };
+
+    int lookAhead_;
+    std::vector<Entry> entries_;
+};
 
 struct RunPlan {
     std::span<const ScriptedOrder> orders; ///< sorted by time
