@@ -182,7 +182,7 @@ TEST(Summary, TellsWhatTheEndOfTheTraceTellsAndCountsWhyPointsWent) {
     runShift(game, writer, {.orders = orders, .until = 3000_s, .steering = {}});
     EXPECT_EQ(
         output.text(),
-        R"({"seed":4294967295,"result":0,"clock":300,"score":25,"possible":0,"landed":0,"left":0,"missed":0,)"
+        R"({"seed":4294967295,"result":0,"clock":255,"score":25,"possible":0,"landed":0,"left":0,"missed":0,)"
         R"("lost":1,"nearMisses":0,"complaints":0,"orders":1})"
         "\n");
 }
