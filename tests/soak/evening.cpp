@@ -6,6 +6,7 @@
 #include <array>
 #include <chrono>
 #include <exception>
+#include <utility>
 
 #include "audio/sound_system.h"
 #include "console/window_size.h"
@@ -219,6 +220,7 @@ private:
             ++counts_.comparisons;
             note(check_.compareNow(shell()));
         }
+        noteWhatIsSeen();
         Hand hand(run_->machine.headless, journal_);
         const Standing standing = standingOf({program(), run_->machine, hand, chance_});
         followWayBack(standing);
@@ -226,6 +228,30 @@ private:
             lookAtRest();
         }
         goOn();
+    }
+
+    void noteWhatIsSeen() {
+        const Shell& now = shell();
+        const std::array sights{
+            std::pair{"lesson", now.lesson != nullptr},
+            std::pair{"replay", isReplaying(now)},
+            std::pair{"watched", isSteered(now) && !isReplaying(now)},
+            std::pair{"practice", isPractice(now) && !isSteered(now) && now.lesson == nullptr},
+            std::pair{"day", now.day.has_value() && now.game.isRunning()},
+            std::pair{"paused", now.paused && now.game.isRunning()},
+            std::pair{"rings", now.game.phase == Phase::rings},
+            std::pair{"last-line", now.game.phase == Phase::lastLine},
+            std::pair{"log", now.logWindow.isOpen()},
+            std::pair{"minimised", run_->machine.headless.isMinimised()},
+        };
+        for (const auto& [name, isSeen] : sights) {
+            counts_.seen[name] += isSeen ? 1 : 0;
+        }
+        const Window active = program().desktop().activeWindow();
+        if (active.exists() && active != now.mainWindow) {
+            const Size size = active.size();
+            ++counts_.seen[std::to_string(size.width) + "x" + std::to_string(size.height)];
+        }
     }
 
     void followWayBack(Standing standing) {

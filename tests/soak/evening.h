@@ -4,6 +4,7 @@
 #pragma once
 
 #include <filesystem>
+#include <map>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,7 @@ struct SoakCounts {
     int left = 0;               ///< ways back to the console from wherever the monkey was
     std::size_t mostGrowth = 0; ///< of memory in one program, in bytes
     ShiftCounts shifts;
+    std::map<std::string, long> seen; ///< after how many gestures it was on the screen
     std::vector<std::string> findings;
 };
 

@@ -142,5 +142,10 @@ int main(int count, char** words) {
         std::printf("Files have been left open.\n");
     }
     tell("summary", counts, memory);
+    std::printf("seen");
+    for (const auto& [name, times] : counts.seen) {
+        std::printf(" %s=%ld", name.c_str(), times);
+    }
+    std::printf("\n");
     return counts.findings.empty() ? 0 : 1;
 }
