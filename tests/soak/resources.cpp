@@ -7,7 +7,8 @@
 #include <fstream>
 
 #ifdef __SANITIZE_ADDRESS__
-#include <sanitizer/allocator_interface.h>
+/// Of the sanitizer's library, whose header not every compiler brings along.
+extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
 
 namespace ventrel {
