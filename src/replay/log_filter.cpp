@@ -46,7 +46,7 @@ std::string logText(const ShiftStory& story, LogFilter filter, std::optional<Fli
         if (passesFilter(entry, filter, flight)) {
             std::string words = entryWords(entry);
             if (entry.kind == LogKind::points && entry.flight) {
-                words += ", " + whomItConcerns(story, entry);
+                words = withCallsign(std::move(words), whomItConcerns(story, entry));
             }
             text += logLine(entry.clock, kindWord(entry.kind), words) + '\n';
         }

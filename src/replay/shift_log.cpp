@@ -81,11 +81,19 @@ void ShiftLog::tickerCleared() {
     }
 }
 
-void ShiftLog::shiftGivenUp() {
+void ShiftLog::endEarly(ShiftEnd end, std::string_view words) {
     if (story_.exists() && story_.end == ShiftEnd::running) {
-        story_.end = ShiftEnd::givenUp;
-        add(LogKind::line, std::nullopt, "The shift was given up.");
+        story_.end = end;
+        add(LogKind::line, std::nullopt, std::string(words));
     }
+}
+
+void ShiftLog::shiftGivenUp() {
+    endEarly(ShiftEnd::givenUp, "The shift was given up.");
+}
+
+void ShiftLog::replayLeft() {
+    endEarly(ShiftEnd::left, "The replay was left here.");
 }
 
 void ShiftLog::reported(const Report& report) {
@@ -105,8 +113,7 @@ void ShiftLog::scoreChanged(const ScoreChange& change) {
     story_.changes.push_back({game_.clock, change, story_.score});
     story_.score = change.score;
     if (change.delta != 0) {
-        std::string words = scoreWords(change) + " (" + std::string(causeWords(change.cause)) + ")";
-        add(LogKind::points, change.flight, std::move(words)).points = change.delta;
+        add(LogKind::points, change.flight, scoreWords(change)).points = change.delta;
     }
     if (change.flight && isKnown(*change.flight)) {
         story_.flights[change.flight->place()].points += change.delta;

@@ -29,6 +29,8 @@ public:
     void tickerCleared();
     /// The player has given the shift up; nothing when it was over.
     void shiftGivenUp();
+    /// No more is seen of a replay, whose shift went on; nothing when it was over.
+    void replayLeft();
 
     void reported(const Report& report) override;
     void pilotSpoke(const RadioCall& call) override;
@@ -40,6 +42,7 @@ public:
 private:
     LogEntry& add(LogKind kind, std::optional<FlightIndex> flight, std::string words);
     void addLine(std::optional<FlightIndex> flight, std::string words, MessageClass messageClass);
+    void endEarly(ShiftEnd end, std::string_view words);
     void noteEnd(FlightIndex flight, FlightEnd end);
     /// Whether it belongs to the shift of which the log was told: of another game only the lines are kept.
     bool isKnown(FlightIndex flight) const { return flight.place() < story_.flights.size(); }

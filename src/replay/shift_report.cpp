@@ -5,13 +5,12 @@
 #include <cstdlib>
 
 #include "base/format.h"
+#include "base/level_names.h"
 #include "replay/shift_words.h"
 
 namespace ventrel {
 
 namespace {
-
-constexpr std::array<std::string_view, 5> skillNames{"Easy", "Normal", "Moderate", "Hard", "Custom"};
 
 /// The causes as a table of them is headed.
 struct CauseName {
@@ -94,7 +93,7 @@ std::string apartRemark(const ShiftStory& story) {
 } // namespace
 
 std::string_view skillName(Skill skill) {
-    return skillNames.at(static_cast<std::size_t>(skill));
+    return levelNames.at(static_cast<std::size_t>(skill));
 }
 
 std::vector<CauseRow> pointsByCause(const ShiftStory& story) {
@@ -124,6 +123,7 @@ std::string verdictOf(const ShiftStory& story) {
         return text + ".";
     }
     case ShiftEnd::givenUp: return FormatText("It was given up at %s.", {time});
+    case ShiftEnd::left: return FormatText("Its replay was watched until %s.", {time});
     case ShiftEnd::running: break;
     }
     return FormatText("It is being played, at %s.", {time});

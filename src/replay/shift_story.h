@@ -73,7 +73,13 @@ struct PlaceStory {
     bool isAirport = false;
 };
 
-enum class ShiftEnd { running, everyFlightHandled, collision, givenUp };
+enum class ShiftEnd {
+    running,
+    everyFlightHandled,
+    collision,
+    givenUp,
+    left, ///< of a replay no more was watched, or there is no more
+};
 
 struct ShiftStory {
     std::string airspace;

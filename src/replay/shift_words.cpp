@@ -31,6 +31,16 @@ constexpr std::array causeTexts{std::to_array<CauseText>({
     {ScoreCause::bonus, "bonus"},
 })};
 
+/// Why points came or went.
+std::string_view causeWords(ScoreCause cause) {
+    for (const CauseText& row : causeTexts) {
+        if (row.cause == cause) {
+            return row.text;
+        }
+    }
+    return {};
+}
+
 } // namespace
 
 std::string setUpWords(const Game& game) {
@@ -68,17 +78,12 @@ std::string_view lampWords(LampLevel lit) {
 }
 
 std::string scoreWords(const ScoreChange& change) {
-    return FormatText(change.delta < 0 ? "%d, now %d" : "+%d, now %d",
-                      {long{change.delta}, long{change.score}});
+    return FormatText(change.delta < 0 ? "%d, now %d (%s)" : "+%d, now %d (%s)",
+                      {long{change.delta}, long{change.score}, causeWords(change.cause)});
 }
 
-std::string_view causeWords(ScoreCause cause) {
-    for (const CauseText& row : causeTexts) {
-        if (row.cause == cause) {
-            return row.text;
-        }
-    }
-    return {};
+std::string withCallsign(std::string scoreWords, std::string_view callsign) {
+    return std::move(scoreWords) + ", " + std::string(callsign);
 }
 
 std::string collisionWords(const Game& game) {

@@ -22,11 +22,11 @@ std::string callWords(const Game& game, const RadioCall& call);
 
 std::string_view lampWords(LampLevel lit);
 
-/// The change of the score and what it comes to.
+/// The change of the score, what it comes to, and why.
 std::string scoreWords(const ScoreChange& change);
 
-/// Why points came or went.
-std::string_view causeWords(ScoreCause cause);
+/// The same where the flight, if it is one's, stands in no column of its own.
+std::string withCallsign(std::string scoreWords, std::string_view callsign);
 
 /// Which flights of the game collided.
 std::string collisionWords(const Game& game);

@@ -4,16 +4,36 @@
 
 #include <array>
 
+#include "base/level_names.h"
 #include "platform/widgets/templates.h"
+#include "resources/joined.h"
 
 namespace ventrel {
+
+// The levels, which two dialogs show -----------------------------------------------------------------------
+
+namespace level_choice {
+
+inline constexpr int firstSkill = 1000; ///< Easy; the other levels follow
+inline constexpr int skillCount = static_cast<int>(levelNames.size());
+
+inline constexpr std::array controls{std::to_array<ControlTemplate>({
+    {ControlKind::groupBox, 0, "Skill", {7, 4, 85, 97}},
+    {ControlKind::radioButton, firstSkill, levelNames[0], {15, 19, 77, 29}, groupStart},
+    {ControlKind::radioButton, firstSkill + 1, levelNames[1], {15, 34, 77, 44}},
+    {ControlKind::radioButton, firstSkill + 2, levelNames[2], {15, 49, 77, 59}},
+    {ControlKind::radioButton, firstSkill + 3, levelNames[3], {15, 64, 77, 74}},
+    {ControlKind::radioButton, firstSkill + 4, customLevelChoice, {15, 79, 77, 89}},
+})};
+
+} // namespace level_choice
 
 // New Game --------------------------------------------------------------------------------------------------
 
 namespace new_game {
 
-inline constexpr int firstSkill = 1000; ///< Easy; the other levels follow
-inline constexpr int skillCount = 5;
+inline constexpr int firstSkill = level_choice::firstSkill;
+inline constexpr int skillCount = level_choice::skillCount;
 inline constexpr int choose = 1005;
 inline constexpr int airport = 1006;
 inline constexpr int name = 1010;
@@ -23,25 +43,21 @@ inline constexpr int directEntry = 1018;
 /// One more character than are kept of a name.
 inline constexpr std::size_t nameLimit = 31;
 
-inline constexpr std::array controls{std::to_array<ControlTemplate>({
-    {ControlKind::groupBox, 0, "Skill", {7, 4, 85, 97}},
-    {ControlKind::radioButton, firstSkill, "Easy", {15, 19, 77, 29}, groupStart},
-    {ControlKind::radioButton, firstSkill + 1, "Normal", {15, 34, 77, 44}},
-    {ControlKind::radioButton, firstSkill + 2, "Moderate", {15, 49, 77, 59}},
-    {ControlKind::radioButton, firstSkill + 3, "Hard", {15, 64, 77, 74}},
-    {ControlKind::radioButton, firstSkill + 4, "Custom...", {15, 79, 77, 89}},
-    {ControlKind::groupBox, 0, "Controller", {91, 4, 195, 42}},
-    {ControlKind::staticText, 0, "Name:", {98, 21, 120, 29}},
-    {ControlKind::edit, name, "", {121, 18, 188, 31}, plainStyle, nameLimit},
-    {ControlKind::groupBox, 0, "Airport", {91, 46, 195, 97}},
-    {ControlKind::staticText, airport, "None Selected", {98, 59, 188, 71}, sunkenStatic},
-    {ControlKind::pushButton, choose, "&Choose...", {118, 76, 168, 90}},
-    {ControlKind::groupBox, 0, "Bonus Points", {7, 101, 195, 146}},
-    {ControlKind::checkBox, clouds, "Random Cloud Cover    +300 pts", {15, 114, 187, 124}},
-    {ControlKind::checkBox, directEntry, "Direct Course on Entry:  -100 pts", {15, 129, 187, 139}},
-    {ControlKind::defaultButton, okId, "OK", {46, 152, 96, 166}},
-    {ControlKind::pushButton, cancelId, "Cancel", {106, 152, 156, 166}},
-})};
+inline constexpr auto controls =
+    joined(level_choice::controls,
+           std::to_array<ControlTemplate>({
+               {ControlKind::groupBox, 0, "Controller", {91, 4, 195, 42}},
+               {ControlKind::staticText, 0, "Name:", {98, 21, 120, 29}},
+               {ControlKind::edit, name, "", {121, 18, 188, 31}, plainStyle, nameLimit},
+               {ControlKind::groupBox, 0, "Airport", {91, 46, 195, 97}},
+               {ControlKind::staticText, airport, "None Selected", {98, 59, 188, 71}, sunkenStatic},
+               {ControlKind::pushButton, choose, "&Choose...", {118, 76, 168, 90}},
+               {ControlKind::groupBox, 0, "Bonus Points", {7, 101, 195, 146}},
+               {ControlKind::checkBox, clouds, "Random Cloud Cover    +300 pts", {15, 114, 187, 124}},
+               {ControlKind::checkBox, directEntry, "Direct Course on Entry:  -100 pts", {15, 129, 187, 139}},
+               {ControlKind::defaultButton, okId, "OK", {46, 152, 96, 166}},
+               {ControlKind::pushButton, cancelId, "Cancel", {106, 152, 156, 166}},
+           }));
 
 inline constexpr DialogTemplate shape{.title = "New Game", .size = {202, 172}, .controls = controls};
 
@@ -59,33 +75,29 @@ inline constexpr int choose = new_game::choose;
 inline constexpr int airport = new_game::airport;
 inline constexpr int firstPace = 1020; ///< half; the other paces follow
 
-inline constexpr std::array controls{std::to_array<ControlTemplate>({
-    {ControlKind::groupBox, 0, "Skill", {7, 4, 85, 97}},
-    {ControlKind::radioButton, firstSkill, "Easy", {15, 19, 77, 29}, groupStart},
-    {ControlKind::radioButton, firstSkill + 1, "Normal", {15, 34, 77, 44}},
-    {ControlKind::radioButton, firstSkill + 2, "Moderate", {15, 49, 77, 59}},
-    {ControlKind::radioButton, firstSkill + 3, "Hard", {15, 64, 77, 74}},
-    {ControlKind::radioButton, firstSkill + 4, "Custom...", {15, 79, 77, 89}},
-    {ControlKind::groupBox, 0, "Speed", {91, 4, 195, 97}},
-    {ControlKind::radioButton, firstPace, "Half", {99, 19, 139, 29}, groupStart},
-    {ControlKind::radioButton, firstPace + 1, "Normal", {99, 34, 139, 44}},
-    {ControlKind::radioButton, firstPace + 2, "2 times", {99, 49, 139, 59}},
-    {ControlKind::radioButton, firstPace + 3, "4 times", {99, 64, 139, 74}},
-    {ControlKind::radioButton, firstPace + 4, "8 times", {145, 19, 190, 29}},
-    {ControlKind::radioButton, firstPace + 5, "16 times", {145, 34, 190, 44}},
-    {ControlKind::radioButton, firstPace + 6, "Fastest", {145, 49, 190, 59}},
-    {ControlKind::groupBox, 0, "Airport", {7, 101, 195, 127}},
-    {ControlKind::staticText, airport, "None Selected", {14, 111, 131, 122}, sunkenStatic},
-    {ControlKind::pushButton, choose, "&Choose...", {138, 109, 188, 123}},
-    {ControlKind::staticText,
-     0,
-     "The program plays as you would, by the same panel. You can change the speed, and take over at any "
-     "moment. The shift enters no high scores.",
-     {7, 133, 195, 160},
-     multiLine},
-    {ControlKind::defaultButton, okId, "&Watch", {46, 164, 96, 178}},
-    {ControlKind::pushButton, cancelId, "Cancel", {106, 164, 156, 178}},
-})};
+inline constexpr auto controls = joined(
+    level_choice::controls,
+    std::to_array<ControlTemplate>({
+        {ControlKind::groupBox, 0, "Speed", {91, 4, 195, 97}},
+        {ControlKind::radioButton, firstPace, "Half", {99, 19, 139, 29}, groupStart},
+        {ControlKind::radioButton, firstPace + 1, "Normal", {99, 34, 139, 44}},
+        {ControlKind::radioButton, firstPace + 2, "2 times", {99, 49, 139, 59}},
+        {ControlKind::radioButton, firstPace + 3, "4 times", {99, 64, 139, 74}},
+        {ControlKind::radioButton, firstPace + 4, "8 times", {145, 19, 190, 29}},
+        {ControlKind::radioButton, firstPace + 5, "16 times", {145, 34, 190, 44}},
+        {ControlKind::radioButton, firstPace + 6, "Fastest", {145, 49, 190, 59}},
+        {ControlKind::groupBox, 0, "Airport", {7, 101, 195, 127}},
+        {ControlKind::staticText, airport, "None Selected", {14, 111, 131, 122}, sunkenStatic},
+        {ControlKind::pushButton, choose, "&Choose...", {138, 109, 188, 123}},
+        {ControlKind::staticText,
+         0,
+         "The program plays as you would, by the same panel. You can change the speed, and take over at any "
+         "moment. The shift enters no high scores.",
+         {7, 133, 195, 160},
+         multiLine},
+        {ControlKind::defaultButton, okId, "&Watch", {46, 164, 96, 178}},
+        {ControlKind::pushButton, cancelId, "Cancel", {106, 164, 156, 178}},
+    }));
 
 inline constexpr DialogTemplate shape{.title = "Watch a Shift", .size = {202, 184}, .controls = controls};
 
@@ -141,16 +153,17 @@ inline constexpr int list = 1007;
 inline constexpr int keep = 1030;
 inline constexpr int remove = 1031;
 
-/// The columns of the list begin at multiples of it: date, airspace, level, score, outcome, what it is kept
-/// as.
+/// The columns of the list begin at multiples of it: date, airspace, level, score, outcome, its name
+/// or kind.
 inline constexpr int tabStop = 8;
 inline constexpr std::array columnStops{0, 9, 18, 24, 32, 38};
 inline constexpr int pastLastStop = 49;
 /// Where the list's text begins; the heads of its columns stand over their stops.
 inline constexpr int textLeft = 10;
 constexpr Rect headAt(std::size_t column) {
-    return {textLeft + columnStops.at(column) * tabStop, 6, textLeft + (columnStops.at(column) + 6) * tabStop,
-            14};
+    const bool isLast = column + 1 == columnStops.size();
+    const int next = isLast ? pastLastStop : columnStops.at(column + 1);
+    return {textLeft + columnStops.at(column) * tabStop, 6, textLeft + next * tabStop, 14};
 }
 
 inline constexpr std::array controls{std::to_array<ControlTemplate>({
@@ -159,7 +172,7 @@ inline constexpr std::array controls{std::to_array<ControlTemplate>({
     {ControlKind::staticText, 0, "LEVEL", headAt(2)},
     {ControlKind::staticText, 0, "SCORE", headAt(3)},
     {ControlKind::staticText, 0, "OUTCOME", headAt(4)},
-    {ControlKind::staticText, 0, "KEPT AS", headAt(5)},
+    {ControlKind::staticText, 0, "NAME OR KIND", headAt(5)},
     {ControlKind::listBox, list, "", {7, 16, 413, 132}},
     {ControlKind::defaultButton, okId, "&Watch", {97, 139, 147, 153}},
     {ControlKind::pushButton, keep, "&Keep As...", {157, 139, 207, 153}},

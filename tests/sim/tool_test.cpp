@@ -247,7 +247,8 @@ TEST(Log, TellsTheShiftInWords) {
          {"heading 45 at 4K, slow\n", "heading 90 at 4K, fast\n",
           "00:15         \xC3\x84\"\\1 entering airspace, proceeding to NW\n",
           "00:15  radio  United one with you level at five thousand\n", "has been lost \n",
-          "lamp   yellow on\n", "score  +25, now 25\n", "Game Over.   Score: 25 out of a possible 0 \n"}) {
+          "lamp   yellow on\n", "score  +25, now 25 (bonus)\n",
+          "Game Over.   Score: 25 out of a possible 0 \n"}) {
         EXPECT_NE(log.find(part), std::string::npos) << part << log;
     }
 }

@@ -31,7 +31,8 @@ void LogWriter::lampChanged(LampLevel lit) {
 }
 
 void LogWriter::scoreChanged(const ScoreChange& change) {
-    line("score", scoreWords(change));
+    const std::string words = scoreWords(change);
+    line("score", change.flight ? withCallsign(words, game().flight(*change.flight).callsign) : words);
 }
 
 void LogWriter::shiftSetUp() {
