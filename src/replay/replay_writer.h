@@ -36,6 +36,8 @@ public:
     /// The player has left the shift, if one is still being written.
     void giveUp();
 
+    bool isWriting() const { return growing_.has_value(); }
+
     /// Of the shift that is, or was last, written.
     const std::filesystem::path& file() const { return path_; }
     const ReplayHeader& header() const { return header_; }

@@ -9,6 +9,9 @@ namespace ventrel {
 
 inline constexpr std::size_t longestControllerName = 30;
 
+/// Who has not yet given a name.
+inline constexpr std::string_view namelessController = "Controller";
+
 /// The first letter a capital, all others small, accented ones too (Windows-1252).
 std::string properName(std::string_view name);
 

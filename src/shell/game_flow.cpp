@@ -2,6 +2,7 @@
 
 #include "console/window_size.h"
 #include "replay/shift_of_the_day.h"
+#include "shell/controller_name.h"
 #include "shell/day_dialog.h"
 #include "shell/high_score_dialog.h"
 #include "shell/high_scores.h"
@@ -16,21 +17,6 @@ namespace {
 
 constexpr std::string_view collisionMusic = "mci\\faa.mci";
 constexpr std::string_view collisionSound = "snd\\collide.snd";
-
-constexpr std::string_view nameless = "Controller"; // who has not yet given a name
-
-const ScopeLayout& scopeLayout(const Shell& shell) {
-    return isLarge(shell.windowSize()) ? largeLayout : smallLayout;
-}
-
-std::vector<Size> cloudSizes(const Shell& shell) {
-    std::vector<Size> sizes;
-    sizes.reserve(shell.radar.clouds.size());
-    for (const Bitmap& cloud : shell.radar.clouds) {
-        sizes.push_back(cloud.size());
-    }
-    return sizes;
-}
 
 ShiftSetup shiftSetup(const Shell& shell, const GameSetup& setup, std::span<const Size> sizes) {
     const Options& options = shell.options;
@@ -126,6 +112,11 @@ void endSteered(Shell& shell, ShiftResult result) {
     if (!isSteered(shell) || shell.game.isRunning()) {
         return; // the player has gone on to something else meanwhile
     }
+    if (result != ShiftResult::collision) {
+        postLine(shell, gameOverText(shell.game)); // for the log alone
+    }
+    clearTicker(shell);
+    LogWindowTick(shell);
     EndGame(shell);
     tellOfSteeredEnd(shell, result);
 }
@@ -158,6 +149,19 @@ HighScoreEntry finishedEntry(const Game& game) {
 
 } // namespace
 
+const ScopeLayout& scopeLayout(const Shell& shell) {
+    return isLarge(shell.windowSize()) ? largeLayout : smallLayout;
+}
+
+std::vector<Size> cloudSizes(const Shell& shell) {
+    std::vector<Size> sizes;
+    sizes.reserve(shell.radar.clouds.size());
+    for (const Bitmap& cloud : shell.radar.clouds) {
+        sizes.push_back(cloud.size());
+    }
+    return sizes;
+}
+
 void startGame(Shell& shell, const GameSetup& setup) {
     if (const auto airspace = loadAirport(setup.airportFile)) {
         beginShift(shell, *airspace, setup);
@@ -178,7 +182,7 @@ void startPreparedGame(Shell& shell, const std::function<Game(const ShiftSetup&)
     setup.skill = Skill::custom;
     ShiftSetup wanted = shiftSetup(shell, setup, {});
     if (wanted.controllerName.empty()) {
-        wanted.controllerName = nameless;
+        wanted.controllerName = namelessController;
     }
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
     shell.game = make(wanted);
@@ -224,7 +228,11 @@ void EndGame(Shell& shell) {
 
 void abandonGame(Shell& shell) {
     shell.sounds.stopMusic();
-    shell.log.shiftGivenUp();
+    if (isShiftLeft(shell)) {
+        shell.log.replayLeft();
+    } else {
+        shell.log.shiftGivenUp();
+    }
     EndGame(shell);
     shell.sounds.playMusic(idleMusic, false);
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <functional>
+#include <vector>
 
 #include "shell/game_setup.h"
 #include "shell/shell.h"
@@ -12,6 +13,10 @@ namespace ventrel {
 inline constexpr std::string_view idleMusic = "mci\\idle.mci";
 inline constexpr std::string_view gameMusic = "mci\\game.mci";
 inline constexpr std::string_view tableMusic = "mci\\splash.mci";
+
+/// What this window is to a shift: the size of its scope, and of its cloud pictures, by number.
+const ScopeLayout& scopeLayout(const Shell& shell);
+std::vector<Size> cloudSizes(const Shell& shell);
 
 /// Loads the airport, sets the shift up and lets the clock run. A refused airport starts no game; the game
 /// music starts all the same.

@@ -2,6 +2,7 @@
 
 #include "base/format.h"
 #include "platform/widgets/dialog.h"
+#include "replay/other_width.h"
 #include "replay/replay_airspace.h"
 #include "replay/replay_folder.h"
 #include "replay/replay_stand_in.h"
@@ -21,9 +22,6 @@ namespace {
 constexpr std::string_view barTitle = "Replay";
 constexpr std::string_view jumpText = "Jump...";
 
-constexpr std::string_view otherSizeText =
-    "This replay was made on a screen %d pixels wide. Choose that Screen Resolution in the Options menu to "
-    "watch it.";
 constexpr std::string_view givenUpText = "Here the shift was given up.\n\nScore: %d of %d possible.";
 constexpr std::string_view cutText =
     "Here the program ended, and the replay with it.\n\nScore: %d of %d possible.";
@@ -40,11 +38,30 @@ Result<AirspacePtr> airspaceOf(const Shell& shell, const ReplayHeader& header) {
     return findReplayAirspace(header, folders);
 }
 
-/// Sets the game up as it was at the beginning, with a log of its own.
-Result<> setGameUp(Shell& shell, const Replay& replay, const AirspacePtr& airspace) {
-    auto game = replayedGame(replay, airspace);
+/// What lies under the map in a window of this width, where the replay was made in one of the other: the
+/// picture of the airspace of that name. Empty without one.
+std::vector<std::byte> otherPicture(const Shell& shell, const Airspace& airspace) {
+    const AirportCatalogue catalogue = BuildAirportCatalogue(airportFolder(shell.programFolder),
+                                                             shell.playersAirports, shell.windowSize().width);
+    for (const CatalogueEntry& entry : catalogue.entries) {
+        if (entry.name != airspace.name) {
+            continue;
+        }
+        if (const auto other = loadAirport(entry.file); other && hasSamePoints(airspace, **other)) {
+            return (*other)->picture;
+        }
+    }
+    return {};
+}
+
+/// Sets the game up as it was at the beginning, for this window, with a log of its own.
+Result<> setGameUp(Shell& shell, const Replay& replay, const ReplayWatch& watch) {
+    auto game = replayedGame(replay, watch.airspace);
     if (!game) {
         return tl::unexpected(std::move(game.error()));
+    }
+    if (const ScopeLayout& layout = scopeLayout(shell); layout.windowWidth != replay.header.width) {
+        moveToLayout(*game, layout, cloudSizes(shell), watch.otherPicture);
     }
     shell.game = std::move(*game);
     shell.log.shiftBegun(replay.header.skill, replay.header.seed);
@@ -128,27 +145,37 @@ bool isReplaying(const Shell& shell) {
     return isSteered(shell) && shell.steered.standIn->isWhole();
 }
 
-bool watchReplay(Shell& shell, Replay replay) {
-    if (replay.header.width != shell.windowSize().width) {
-        shell.report(FormatText(otherSizeText, {long{replay.header.width}}), MessageIcon::information);
+bool isShiftLeft(const Shell& shell) {
+    if (!isReplaying(shell)) {
         return false;
     }
+    const Playback& playback = *shell.replayWatch.playback;
+    return playback.next() != nullptr || !playback.replay().end;
+}
+
+bool watchReplay(Shell& shell, Replay replay) {
     auto airspace = airspaceOf(shell, replay.header);
     if (!airspace) {
         report(shell, airspace.error());
         return false;
     }
     putAside(shell);
-    const ReplayWatch before{.random = shell.game.random, .lastStepTime = shell.game.lastStepTime};
-    if (const auto setUp = setGameUp(shell, replay, *airspace); !setUp) {
+    ReplayWatch watch{.airspace = std::move(*airspace),
+                      .random = shell.game.random,
+                      .lastStepTime = shell.game.lastStepTime};
+    if (replay.header.width != shell.windowSize().width) {
+        watch.otherPicture = otherPicture(shell, *watch.airspace);
+    }
+    if (const auto setUp = setGameUp(shell, replay, watch); !setUp) {
         report(shell, setUp.error());
         return false;
     }
-    shell.replayWatch = before;
-    shell.replayWatch.playback = std::make_shared<Playback>(std::move(replay));
-    shell.replayWatch.airspace = std::move(*airspace);
+    const std::string begun = localTime(replay.header.begun);
+    watch.playback = std::make_shared<Playback>(std::move(replay));
+    shell.replayWatch = std::move(watch);
     shell.shiftKind = ShiftKind::practice;
     showShift(shell);
+    shell.keeping.replayed = begun;
     beginSteering(shell, standInFor(shell),
                   {.title = std::string(barTitle),
                    .extra = {.text = std::string(jumpText), .command = command::jumpInReplay}});
@@ -162,7 +189,7 @@ void jumpInReplay(Shell& shell, ClockSeconds clock) {
     ReplayWatch& watch = shell.replayWatch;
     Replay replay = watch.playback->replay();
     const ClockSeconds goal = std::clamp(clock, 0_s, std::max(replay.until - 1_s, 0_s));
-    if (const auto setUp = setGameUp(shell, replay, watch.airspace); !setUp) {
+    if (const auto setUp = setGameUp(shell, replay, watch); !setUp) {
         report(shell, setUp.error());
         return;
     }
@@ -221,6 +248,7 @@ void followReplayEnd(Shell& shell) {
 void keepTakenOver(Shell& shell) {
     const auto playback = std::exchange(shell.replayWatch, {}).playback;
     if (playback != nullptr) {
+        shell.keeping.replayed.clear(); // it is today's shift now
         resumeReplay(shell, playback->past(), playback->calls());
     }
 }

@@ -1,8 +1,11 @@
-// A replay that is watched on the console: it plays by itself, jumps, and is taken over by the player.
+// A replay that is watched on the console, whatever the width of the window in which it was made: it plays by
+// itself, jumps, and is taken over by the player.
 
 #pragma once
 
+#include <cstddef>
 #include <memory>
+#include <vector>
 
 #include "replay/playback.h"
 
@@ -13,13 +16,17 @@ struct Shell;
 /// The replay that is being watched, and what goes on as before when it has been.
 struct ReplayWatch {
     std::shared_ptr<Playback> playback = nullptr; ///< none while none is watched
-    AirspacePtr airspace = nullptr;
-    RandomGenerator random = {};    ///< of the program's next game
-    ClockSeconds lastStepTime = {}; ///< likewise
+    AirspacePtr airspace = nullptr;               ///< in which it was made
+    std::vector<std::byte> otherPicture = {};     ///< under its map, where it was made for the other width
+    RandomGenerator random = {};                  ///< of the program's next game
+    ClockSeconds lastStepTime = {};               ///< likewise
 };
 
 /// Whether the game is a replay's, and nothing but it may light a lamp or draw.
 bool isReplaying(const Shell& shell);
+
+/// Whether it is one whose shift, as far as it tells, goes on from here.
+bool isShiftLeft(const Shell& shell);
 
 /// Begins it, in place of what was on the console. False, after the player was told, when it cannot be
 /// played here.

@@ -1,5 +1,7 @@
 #include "shell/shift_keeping.h"
 
+#include <ctime>
+
 #include "base/format.h"
 #include "shell/shell.h"
 
@@ -15,8 +17,15 @@ std::string dateOf(const std::tm& day) {
 
 } // namespace
 
+std::string localTime(UtcMoment moment) {
+    const std::time_t time = std::chrono::system_clock::to_time_t(moment);
+    std::tm day{};
+    localtime_r(&time, &day);
+    return dateOf(day);
+}
+
 void keepFinishedShift(Shell& shell) {
-    shell.keeping = {};
+    shell.keeping = {.kept = {}, .trouble = {}, .replayed = std::move(shell.keeping.replayed)};
     if (shell.shiftKind == ShiftKind::practice) {
         return;
     }
@@ -43,10 +52,16 @@ Result<std::vector<PastShift>> earlierShifts(const Shell& shell) {
     if (!earlier.empty() && earlier.back() == shell.keeping.kept) {
         earlier.pop_back();
     }
+    if (const std::string& begun = shell.keeping.replayed; !begun.empty()) {
+        std::erase_if(earlier, [&begun](const PastShift& past) { return past.date >= begun; });
+    }
     return earlier;
 }
 
 std::string shiftDate(const Shell& shell) {
+    if (!shell.keeping.replayed.empty()) {
+        return shell.keeping.replayed;
+    }
     return shell.keeping.kept ? shell.keeping.kept->date : dateOf(shell.desktop.backend().today());
 }
 

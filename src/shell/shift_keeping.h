@@ -6,6 +6,7 @@
 #include <string>
 
 #include "replay/shift_history.h"
+#include "replay/utc_time.h"
 
 namespace ventrel {
 
@@ -15,16 +16,20 @@ struct Shell;
 struct ShiftKeeping {
     std::optional<PastShift> kept; ///< as it stands in the list
     std::string trouble;           ///< why it could not be kept
+    std::string replayed;          ///< when the shift was begun, where it is a replay's; as localTime tells
 };
 
 /// The shift is over: its line is added to the list. A practice shift has none. Of a failure the report
 /// tells: nothing comes between a shift and its end.
 void keepFinishedShift(Shell& shell);
 
-/// The finished shifts that this one can be compared with, without itself.
+/// A moment as a date and a time of day where the player is: "2026-11-25 12:30".
+std::string localTime(UtcMoment moment);
+
+/// The finished shifts that this one can be compared with, without itself; of a replay's those before it.
 Result<std::vector<PastShift>> earlierShifts(const Shell& shell);
 
-/// When the shift was played: its end, or today.
+/// When the shift was played: its end, the beginning of a replay's, or today.
 std::string shiftDate(const Shell& shell);
 
 } // namespace ventrel

@@ -4,6 +4,7 @@
 
 #include "base/temp_folder.h"
 #include "controller/controller.h"
+#include "replay/other_width.h"
 #include "replay/playback.h"
 #include "replay/replay_airspace.h"
 #include "replay/replay_reader.h"
@@ -218,6 +219,35 @@ TEST(Replay, FindsItsAirspaceByNameAndContent) {
     EXPECT_NE(findReplayAirspace(header, folders).error().text.find("is not as it was"), std::string::npos);
     keep(folder / "b" / "small.apt", SmallAirspace::usual());
     EXPECT_TRUE(findReplayAirspace(header, folders).has_value());
+}
+
+TEST(Replay, IsDrawnInAWindowOfTheOtherWidthAndPlaysTheSame) {
+    const TempFolder folder;
+    WindowShift shift{folder / "a.replay", Skill::hard};
+    shift.play(1500_s);
+    PlayedAgain again{readReplay(folder / "a.replay").value()};
+    const std::vector<Vor> points = *again.game.points;
+    const Cloud inSight = again.game.clouds.front();
+    const std::vector<Size> sizes(16, Size{90, 60});
+    const std::array picture{std::byte{1}};
+    moveToLayout(again.game, largeLayout, sizes, picture);
+    EXPECT_EQ(again.game.airspace->picture.size(), 1U);
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        const Vor& moved = again.game.vors()[i];
+        EXPECT_EQ(moved.cell, points[i].cell);
+        EXPECT_EQ((Cell{moved.pixel.x / largeLayout.cellSize, moved.pixel.y / largeLayout.cellSize}),
+                  moved.cell);
+        EXPECT_EQ(moved.runwayHeading, points[i].runwayHeading);
+    }
+    for (const Cloud& cloud : again.game.clouds) {
+        EXPECT_EQ(cloud.size, sizes.front());
+        EXPECT_GE(cloud.position.x, -cloud.size.width) << "out of sight for ever";
+        EXPECT_LE(cloud.position.x, largeLayout.pictureSize());
+    }
+    EXPECT_EQ(again.game.clouds.front().position.x, inSight.position.x * 14 / 11);
+    again.playback.playUntil(again.game, shift.game.clock, again.log);
+    EXPECT_EQ(again.log.lines, shift.log.lines);
+    EXPECT_FALSE(again.playback.deviation().has_value());
 }
 
 TEST(ReplayWriter, TellsOnceOfADiskThatCannotBeWritten) {
