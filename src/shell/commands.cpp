@@ -65,12 +65,13 @@ void newGame(Shell& shell) {
     }
 }
 
+// What is not a new game asks for the running one only once the player has chosen.
+
 void watchShift(Shell& shell) {
-    if (!clearDesk(shell)) {
-        return;
-    }
-    if (const auto wish = runWatchDialog(shell)) {
+    const auto wish = runWatchDialog(shell);
+    if (wish && clearDesk(shell)) {
         putLastGameAway(shell);
+        shell.game.controllerName = wish->setup.controllerName;
         startGame(shell, wish->setup);
         if (shell.game.isRunning()) {
             beginSteering(shell, std::make_unique<ControllerStandIn>(shell.game),
@@ -80,10 +81,8 @@ void watchShift(Shell& shell) {
 }
 
 void showReplays(Shell& shell) {
-    if (!clearDesk(shell)) {
-        return;
-    }
-    if (auto replay = runReplayDialog(shell)) {
+    auto replay = runReplayDialog(shell);
+    if (replay && clearDesk(shell)) {
         watchReplay(shell, std::move(*replay));
     }
 }
@@ -97,10 +96,8 @@ void takeLesson(Shell& shell) {
 }
 
 void playShiftOfTheDay(Shell& shell) {
-    if (!clearDesk(shell)) {
-        return;
-    }
-    if (const auto setup = runDayDialog(shell)) {
+    const auto setup = runDayDialog(shell);
+    if (setup && clearDesk(shell)) {
         putLastGameAway(shell);
         startDay(shell, *setup);
     }

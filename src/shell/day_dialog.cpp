@@ -50,9 +50,10 @@ std::optional<GameSetup> setUpOfToday(Shell& shell) {
         shell.report(airspace.error());
         return std::nullopt;
     }
+    const std::string name =
+        properName(shell.store.now().text(gameSection, nameKey, "").substr(0, longestControllerName));
     return GameSetup{.skill = day.skill,
-                     .controllerName = properName(
-                         shell.store.now().text(gameSection, nameKey, "").substr(0, longestControllerName)),
+                     .controllerName = name.empty() ? std::string(namelessController) : name,
                      .airportName = (*airspace)->name,
                      .airportFile = file,
                      .day = day.date};
@@ -64,7 +65,7 @@ std::optional<GameSetup> runDayDialog(Shell& shell) {
         return std::nullopt;
     }
     const auto open = [&](Dialog& dialog) {
-        const ShiftOfTheDay day = today(shell);
+        const ShiftOfTheDay day = shiftOfTheDay(*setup->day);
         const auto best = bestScore(shell, day);
         dialog.setText(shift_of_day::date, dateText(day.date));
         dialog.setText(shift_of_day::airspace, setup->airportName);

@@ -1,7 +1,5 @@
 #include "shell/replay_dialog.h"
 
-#include <ctime>
-
 #include "base/format.h"
 #include "base/windows1252.h"
 #include "platform/widgets/dialog.h"
@@ -16,7 +14,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr std::array<std::string_view, 3> kindNames{"", "Practice", "Shift of the Day"};
+constexpr std::array<std::string_view, 3> kindNames{"Scored", "Practice", "Shift of the Day"};
 constexpr std::string_view noFolderText = "There is no folder to keep your replays in.";
 constexpr std::string_view noneText = "There are no replays yet: each shift that you play becomes one.";
 constexpr std::string_view deleteText = "Delete this replay?";
@@ -29,22 +27,12 @@ struct Replays {
     std::optional<Replay> chosen = {};
 };
 
-/// Where the player is.
-std::string localTime(UtcMoment moment) {
-    const std::time_t time = std::chrono::system_clock::to_time_t(moment);
-    std::tm day{};
-    localtime_r(&time, &day);
-    constexpr int firstYear = 1900; // from which `std::tm` counts
-    return FormatText("%04d-%02d-%02d %02d:%02d", {long{firstYear + day.tm_year}, long{1 + day.tm_mon},
-                                                   long{day.tm_mday}, long{day.tm_hour}, long{day.tm_min}});
-}
-
 std::string outcomeOf(const Replay& replay) {
     if (!replay.end) {
         return "cut off";
     }
     switch (replay.end->outcome) {
-    case ReplayOutcome::handled: break;
+    case ReplayOutcome::handled: return "finished";
     case ReplayOutcome::collision: return "collision";
     case ReplayOutcome::givenUp: return "given up";
     }
@@ -87,9 +75,18 @@ std::string rowOf(const Font& font, const KeptReplay& kept) {
     return row;
 }
 
+/// But for the shift that is being played, of which the player sees more on his console.
+std::vector<KeptReplay> finishedReplays(const Shell& shell) {
+    std::vector<KeptReplay> kept = listReplays(replayFolder(shell));
+    std::erase_if(kept, [&writer = shell.replayWriter](const KeptReplay& replay) {
+        return writer.isWriting() && replay.file == writer.file();
+    });
+    return kept;
+}
+
 /// Lists them, and chooses the one at that place.
 void list(Replays& replays, Dialog& dialog, int chosen) {
-    replays.kept = listReplays(replayFolder(replays.shell));
+    replays.kept = finishedReplays(replays.shell);
     const ListBox box = dialog.list(replay_list::list);
     box.clear();
     box.setTabWidth(dialogUnitsAcross(replay_list::tabStop));
@@ -145,7 +142,15 @@ void askForName(Replays& replays, const Dialog& owner, const KeptReplay& kept) {
         }
     };
     runDialog(replays.shell.desktop, replays.shell.widgetFonts, owner.frame(), keep_replay::shape,
-              {.init = [](Dialog& dialog) { dialog.focus(keep_replay::name); }, .command = onCommand});
+              {.init =
+                   [&kept](Dialog& dialog) {
+                       if (kept.isKeptByName) {
+                           dialog.setText(keep_replay::name, fromUtf8(kept.file.stem().string()));
+                       }
+                       dialog.focus(keep_replay::name);
+                       dialog.edit(keep_replay::name).selectAll();
+                   },
+               .command = onCommand});
 }
 
 void remove(const Replays& replays, const KeptReplay& kept) {
@@ -190,7 +195,7 @@ std::optional<Replay> runReplayDialog(Shell& shell) {
         shell.report(noFolderText, MessageIcon::information);
         return std::nullopt;
     }
-    if (listReplays(replayFolder(shell)).empty()) {
+    if (finishedReplays(shell).empty()) {
         shell.report(noneText, MessageIcon::information);
         return std::nullopt;
     }

@@ -48,7 +48,6 @@ void accept(Watch& watch, Dialog& dialog) {
     if (skill == Skill::custom && !runCustomSkillDialog(watch.shell, dialog.frame())) {
         return;
     }
-    watch.shell.game.controllerName = automaticName;
     watch.wish = {.setup = {.kind = ShiftKind::practice,
                             .skill = skill,
                             .controllerName = std::string(automaticName),

@@ -2,6 +2,7 @@
 
 #include "shell/day_dialog.h"
 
+#include "golden.h"
 #include "replay/playback.h"
 #include "replay/replay_folder.h"
 #include "shell/plain_program.h"
@@ -59,7 +60,10 @@ TEST(ShiftOfTheDay, IsTheSameAtEverySizeAndWithEveryOption) {
         GameStage stage{width, options, own.folder()};
         stage.look([&stage] { stage.game().random.state = 99; });
         choose(stage);
-        stage.look([&] { seen.push_back(traffic(stage.game())); });
+        stage.look([&] {
+            seen.push_back(traffic(stage.game()));
+            EXPECT_EQ(stage.game().controllerName, "Controller") << "who has given no name";
+        });
         stage.play();
     }
     ASSERT_EQ(seen.size(), 2U);
@@ -89,7 +93,12 @@ TEST(ShiftOfTheDay, EndsWithALineToShareAndItsReplayProvesIt) {
         EXPECT_FALSE(provenOfTheDay(other).has_value());
     });
     stage.todo([](Script& script) { script.key(Key::enter).wait(60000); }); // name, table
-    stage.todo([](Script& script) { script.key(Key::enter).wait(1000).key(Key::c, withAlt).wait(20); });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(1000); });
+    stage.look([&stage] {
+        expectGolden(pictureOf(stage.backend.screen(), stage.desktop().activeWindow().bounds()),
+                     "dialog_day_result");
+    });
+    stage.todo([](Script& script) { script.key(Key::c, withAlt).wait(20); });
     stage.look([&stage] {
         const std::string line = stage.backend.clipboard();
         EXPECT_NE(line.find("Ventrel Shift of the Day "), std::string::npos) << line;

@@ -1,12 +1,15 @@
 // Every dialog's plan, and how the game's own dialogs look.
 
+#include <ctime>
 #include <map>
 #include <set>
 
+#include "console/steering_bar_layout.h"
 #include "golden.h"
 #include "platform/canvas/text.h"
 #include "platform/widgets/menu.h"
 #include "platform/widgets/widget_place.h"
+#include "replay/replay_text.h"
 #include "resources/accelerators.h"
 #include "resources/aids_dialog.h"
 #include "resources/dialogs.h"
@@ -16,6 +19,7 @@
 #include "shell/help_dialog.h"
 #include "shell/lesson_dialogs.h"
 #include "shell/plain_program.h"
+#include "shell/replay_keeping.h"
 
 namespace ventrel {
 namespace {
@@ -40,6 +44,11 @@ std::vector<NamedShape> allShapes() {
                                    shapeOf("About", about::shape),
                                    shapeOf("Aids", aids::shape),
                                    shapeOf("Watch a Shift", watch_shift::shape),
+                                   shapeOf("Replays", replay_list::shape),
+                                   shapeOf("Keep Replay As", keep_replay::shape),
+                                   shapeOf("Jump", jump_to::shape),
+                                   shapeOf("Shift of the Day", shift_of_day::shape),
+                                   shapeOf("Result of the Day", day_result::shape),
                                    shapeOf("Lessons", lesson_list::shape),
                                    shapeOf("First start", first_start::shape)};
     for (std::size_t topic = 0; topic < help::topics.size(); ++topic) {
@@ -199,6 +208,81 @@ TEST_F(DialogLooks, AidsLessonsAndTheFirstStart) {
     stage.look([&stage] { stage.shell().mainWindow.post([&stage] { welcomeNewcomer(stage.shell()); }); });
     stage.wait(1);
     expectDialog(stage, "first_start");
+    press(stage, Key::escape);
+    stage.play();
+}
+
+/// What became of a replay, and its name without the extension.
+struct MadeReplay {
+    std::string name;
+    ReplayKind kind;
+    std::optional<ReplayOutcome> outcome;
+    int score;
+};
+
+/// Such a replay of San Francisco, whose shift was begun in that minute of an hour where the player is.
+void makeReplay(const std::filesystem::path& folder, const MadeReplay& made, int minute) {
+    const AirspacePtr airspace =
+        loadAirport(std::filesystem::path(PROGRAM_FOLDER) / "apt" / "san_francisco8.apt").value();
+    const ShiftSetup setup{.skill = Skill::moderate, .controllerName = "mary"};
+    ReplayHeader header = replayHeader({airspace, setup, RandomGenerator{7}}, setup, 7);
+    std::tm local{};
+    local.tm_year = 126;
+    local.tm_mon = 10;
+    local.tm_mday = 24;
+    local.tm_hour = 20;
+    local.tm_min = minute;
+    local.tm_isdst = -1;
+    header.begun =
+        std::chrono::floor<std::chrono::seconds>(std::chrono::system_clock::from_time_t(std::mktime(&local)));
+    header.airspaceFile = "san_francisco8.apt";
+    header.kind = made.kind;
+    std::string text =
+        replayHeaderText(header) + replayLine({.clock = 600_s, .what = ReplayedStep{1, made.score}});
+    if (made.outcome) {
+        text += replayLine(ReplayEnd{615_s, *made.outcome, made.score});
+    }
+    writeText(folder / (made.name + ".replay"), text);
+}
+
+TEST_F(DialogLooks, ReplaysAndWhatTheyOpen) {
+    GameStage stage(800, "[Game]\nName=mary\nSkill=1\n", folder_.path());
+    stage.look([&stage] {
+        const std::filesystem::path folder = replayFolder(stage.shell());
+        std::filesystem::create_directories(folder);
+        int minute = 0;
+        for (const MadeReplay& made : std::to_array<MadeReplay>({
+                 {"shift 2026-11-24 20-00-00", ReplayKind::scored, ReplayOutcome::handled, 4725},
+                 {"shift 2026-11-24 20-01-00", ReplayKind::practice, {}, 75},
+                 {"shift 2026-11-24 20-02-00", ReplayKind::day, ReplayOutcome::collision, 1150},
+                 {"The best of mine so far, and then some", ReplayKind::scored, ReplayOutcome::givenUp, 900},
+             })) {
+            makeReplay(folder, made, minute++);
+        }
+        writeText(folder / "shift 2026-11-24 20-09-00.replay", "damaged");
+    });
+    stage.todo([](Script& script) { script.key(Key::f, withAlt).type("r").wait(1); });
+    expectDialog(stage, "replays");
+    stage.todo([](Script& script) { script.key(Key::k, withAlt).wait(1); });
+    expectDialog(stage, "keep_replay");
+    press(stage, Key::escape);
+    stage.todo([](Script& script) { script.key(Key::end).wait(1).key(Key::enter).wait(1); });
+    stage.look([&stage] { EXPECT_TRUE(stage.isDialogOpen()) << "why the damaged one cannot be watched"; });
+    press(stage, Key::enter);
+    stage.todo([](Script& script) {
+        const SteeringBarLayout& bar = smallSteeringBar;
+        script.key(Key::home).wait(1).key(Key::enter).wait(20);
+        script.click(bar.more.movedBy(bar.whole.topLeft()).topLeft() + Point{5, 5}).wait(20);
+    });
+    expectDialog(stage, "jump");
+    press(stage, Key::escape);
+    stage.play();
+}
+
+TEST_F(DialogLooks, TheShiftOfTheDay) {
+    GameStage stage(800, "[Game]\nName=mary\n[Day]\nDate=2026-11-25\nScore=3375\n", folder_.path());
+    stage.todo([](Script& script) { script.key(Key::f, withAlt).type("d").wait(1); });
+    expectDialog(stage, "day");
     press(stage, Key::escape);
     stage.play();
 }

@@ -9,6 +9,9 @@ namespace ventrel {
 
 namespace {
 
+/// When every stage begins.
+constexpr UtcMoment stageBegins = UtcDate{std::chrono::year{2026} / 11 / 25} + std::chrono::hours{9};
+
 constexpr Millis aMoment = 20; // in which the program does what was asked of it
 
 Size windowOf(int width) {
@@ -70,8 +73,16 @@ GameStage::GameStage(int windowWidth, std::string_view profileText,
     writeText(profile_, profileText);
     store_ = std::make_unique<OptionsStore>(profile_);
     program_ = std::make_unique<Program>(
-        ProgramParts{
-            backend, fonts_, otherSounds != nullptr ? *otherSounds : sounds, *store_, {}, firstScene},
+        ProgramParts{.backend = backend,
+                     .fonts = fonts_,
+                     .sounds = otherSounds != nullptr ? *otherSounds : sounds,
+                     .store = *store_,
+                     .firstScene = firstScene,
+                     .utcNow =
+                         [this] {
+                             return stageBegins + std::chrono::floor<std::chrono::seconds>(
+                                                      std::chrono::milliseconds{backend.now()});
+                         }},
         ProgramPlaces{programFolder, folder_.path(), playersAirports()}, optionsOf(profile_, windowWidth), 1);
 }
 

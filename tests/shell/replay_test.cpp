@@ -24,6 +24,25 @@ public:
     int voiceSetCount() const override { return 5; }
 };
 
+AirspacePtr airspaceOf(std::string_view file) {
+    return loadAirport(std::filesystem::path(PROGRAM_FOLDER) / "apt" / file).value();
+}
+
+/// Keeps a shift that was played in a window of that width, until then.
+Game recordAt1024(const std::filesystem::path& file, ClockSeconds until) {
+    const ShiftSetup setup{.skill = Skill::hard, .layout = largeLayout};
+    Game game{airspaceOf("amsterdam10.apt"), setup, RandomGenerator{7}};
+    game.lastStepTime = 0_s;
+    ReplayHeader header = replayHeader(game, setup, 7);
+    header.airspaceFile = "amsterdam10.apt";
+    ReplayWriter writer{game};
+    EXPECT_TRUE(writer.begin(file, header).has_value());
+    for (; game.clock < until; game.clock += stepInterval) {
+        SimulationStep(game, writer);
+    }
+    return game;
+}
+
 class ReplayWindowTest : public ::testing::Test {
 protected:
     PlainProgram program;
@@ -113,6 +132,7 @@ TEST_F(ReplayWindowTest, AHardShiftIsWatchedAsItWasPlayed) {
         EXPECT_EQ(wordsOf(stage.shell().log.story()), wordsOf(*played));
         EXPECT_EQ(stage.game().random.state, 4711U) << "the next game draws as if nothing had been watched";
         EXPECT_EQ(replays().size(), 1U) << "watching keeps nothing";
+        EXPECT_EQ(shiftDate(stage.shell()), localTime(latest().header.begun)) << "not today's shift";
     });
     press(Key::enter);
     stage.play();
@@ -134,6 +154,10 @@ TEST_F(ReplayWindowTest, OneThatWasCutOffIsJumpedInAndTakenOver) {
     stage.look([this] {
         EXPECT_GE(stage.game().clock, 600_s);
         EXPECT_FALSE(stage.shell().replayWatch.playback->deviation().has_value());
+        abandonGame(stage.shell());
+        EXPECT_EQ(stage.shell().log.story().end, ShiftEnd::left) << "the player has given nothing up";
+        EXPECT_TRUE(
+            watchReplay(stage.shell(), readReplay(replayFolder(stage.shell()) / "killed.replay").value()));
         jumpInReplay(stage.shell(), 300_s);
         EXPECT_EQ(stage.game().clock, 300_s);
         takeOver(stage.shell());
@@ -152,6 +176,60 @@ TEST_F(ReplayWindowTest, OneThatWasCutOffIsJumpedInAndTakenOver) {
         EXPECT_FALSE(playback.deviation().has_value());
         EXPECT_EQ(game.random.state, stage.game().random.state);
         EXPECT_EQ(game.score, stage.game().score);
+    });
+    stage.play();
+}
+
+TEST_F(ReplayWindowTest, OneOfTheOtherWidthIsWatchedAndTakenOver) {
+    const std::filesystem::path file = program.folder() / "wide.replay";
+    const auto recorded = std::make_shared<Game>(recordAt1024(file, 900_s));
+    stage.look([=, this] {
+        ASSERT_TRUE(watchReplay(stage.shell(), readReplay(file).value()));
+        EXPECT_EQ(stage.game().airspace->picture, airspaceOf("amsterdam8.apt")->picture);
+        for (const Vor& vor : stage.game().vors()) {
+            EXPECT_EQ((Cell{vor.pixel.x / 11, vor.pixel.y / 11}), vor.cell) << vor.ident;
+        }
+        jumpInReplay(stage.shell(), 890_s);
+        EXPECT_EQ(stage.game().random.state, recorded->random.state);
+        EXPECT_EQ(stage.shell().replayWatch.playback->deviation(), std::nullopt);
+        takeOver(stage.shell());
+    });
+    stage.skipTo(1200_s);
+    stage.look([=, this] {
+        const Replay gone = readReplay(stage.shell().replayWriter.file()).value();
+        EXPECT_EQ(gone.header.width, 1024);
+        Playback playback{gone};
+        Game game = replayedGame(gone, recorded->airspace).value();
+        SimulationEvents nobody;
+        playback.playUntil(game, stage.game().clock, nobody);
+        EXPECT_EQ(playback.deviation(), std::nullopt);
+        EXPECT_EQ(game.random.state, stage.game().random.state);
+    });
+    stage.play();
+}
+
+TEST_F(ReplayWindowTest, ItsDialogLeavesARunningShiftAloneUntilAReplayIsChosen) {
+    stage.look([this] {
+        std::filesystem::create_directories(replayFolder(stage.shell()));
+        recordAt1024(replayFolder(stage.shell()) / "wide.replay", 60_s);
+    });
+    stage.startNewGame();
+    stage.skipTo(120_s);
+    for (const auto& [menu, item] :
+         {std::pair{Key::f, "r"}, std::pair{Key::f, "d"}, std::pair{Key::h, "w"}}) {
+        choose(menu, item);
+        stage.look([this] { ASSERT_TRUE(stage.isDialogOpen()); });
+        press(Key::escape);
+        stage.look([this, item] { EXPECT_TRUE(stage.game().isRunning()) << item; });
+    }
+    choose(Key::f, "r");
+    press(Key::enter); // the only one: the running shift is not listed
+    stage.look([this] { EXPECT_TRUE(stage.game().isRunning()) << "not before the player agrees"; });
+    press(Key::enter);
+    stage.look([this] {
+        EXPECT_TRUE(isReplaying(stage.shell()));
+        EXPECT_EQ(replays().size(), 2U);
+        EXPECT_EQ(latest().end.value().outcome, ReplayOutcome::givenUp);
     });
     stage.play();
 }
