@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "console/steering_bar_layout.h"
 #include "console/window_size.h"
 #include "platform/widgets/widget_place.h"
 #include "resources/dialogs.h"
@@ -24,7 +25,7 @@ constexpr std::array filterRows{std::to_array<FilterRow>({
     {shift_log::orders, LogFilter::orders},
 })};
 
-constexpr int fromEdge = 2;   // of the picture, where it opens first
+constexpr int fromEdge = 2;   // of the picture and the steering bar, where it opens first
 constexpr int viewMargin = 4; // around the lines
 
 Size insideSize(const Shell& shell) {
@@ -94,8 +95,9 @@ void createLogWindow(Shell& shell) {
     const Size inside = insideSize(shell);
     dialog.resizeInside(inside);
     const Size frame = dialog.frame().size();
+    const int beside = steeringBarFor(shell.windowSize().width).whole.right; // by which one watches
     dialog.frame().setBounds(
-        Rect::at({fromEdge, shell.windowSize().height - frame.height - fromEdge}, frame));
+        Rect::at({beside + fromEdge, shell.windowSize().height - frame.height - fromEdge}, frame));
     dialog.setChecked(shift_log::all, true);
     LogViewCreate(log.view, dialog.inside(),
                   {viewMargin, dialogUnitsDown(shift_log::viewTop), inside.width - viewMargin,

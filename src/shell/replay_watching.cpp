@@ -40,10 +40,8 @@ Result<AirspacePtr> airspaceOf(const Shell& shell, const ReplayHeader& header) {
 
 /// What lies under the map in a window of this width, where the replay was made in one of the other: the
 /// picture of the airspace of that name. Empty without one.
-std::vector<std::byte> otherPicture(const Shell& shell, const Airspace& airspace) {
-    const AirportCatalogue catalogue = BuildAirportCatalogue(airportFolder(shell.programFolder),
-                                                             shell.playersAirports, shell.windowSize().width);
-    for (const CatalogueEntry& entry : catalogue.entries) {
+std::vector<std::byte> otherPicture(Shell& shell, const Airspace& airspace) {
+    for (const CatalogueEntry& entry : shell.airports.catalogue().entries) {
         if (entry.name != airspace.name) {
             continue;
         }

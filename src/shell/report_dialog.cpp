@@ -1,6 +1,7 @@
 #include "shell/report_dialog.h"
 
 #include "base/format.h"
+#include "base/whole_file.h"
 #include "base/windows1252.h"
 #include "platform/canvas/png_writer.h"
 #include "platform/widgets/dialog.h"
@@ -86,7 +87,7 @@ void openPane(ReportPane& pane, Dialog& dialog) {
     dialog.frame().post([&pane] { pane.window.focus(); });
 }
 
-/// A name that no file in the folder has yet, from the shift's date and airspace.
+/// A name that no file in the folder has yet, from the shift's date.
 fs::path freshName(const fs::path& folder, const ReportFacts& facts) {
     std::string date = facts.date.substr(0, facts.date.find(' '));
     std::error_code fault;
@@ -108,10 +109,11 @@ void savePicture(Shell& shell, const ReportPane& pane) {
     Canvas canvas(picture);
     paintReport(canvas, pane.fonts, pane.facts, picture.height(), 0);
     const fs::path file = freshName(shell.playerFolder, pane.facts);
-    if (writePng(file, picture)) {
+    const auto written = replaceFile(file, encodePng(picture));
+    if (written) {
         shell.report(FormatText("The report is saved as\n%s", {pathText(file)}), MessageIcon::information);
     } else {
-        shell.report(FormatText("The picture %s could not be written.", {pathText(file)}), MessageIcon::stop);
+        shell.report(written.error());
     }
 }
 
