@@ -70,6 +70,7 @@ TEST(Profile, IsMadeOnFirstSaveAndLeftAloneWhenNothingChanged) {
     auto lost = ProfileFile::read(folder / "no such folder/x.ini").value();
     lost.set("a", "b", "c");
     EXPECT_FALSE(lost.save());
+    EXPECT_FALSE(lost.save()) << "it is not kept yet";
 }
 
 TEST(Profile, WhatCannotBeReadWholeIsNoEmptyFile) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "base/shortage.h"
 #include "base/temp_folder.h"
 #include "controller/controller.h"
 #include "replay/other_width.h"
@@ -263,6 +264,15 @@ TEST(ReplayWriter, TellsOnceOfADiskThatCannotBeWritten) {
     EXPECT_FALSE(writer.begin("/dev/full", header).has_value());
     writer.stepBegun();
     EXPECT_EQ(failures, 0) << "nothing is written";
+    ASSERT_TRUE(writer.begin(folder / "a.replay", header).has_value());
+    {
+        const FullDisk full;
+        EXPECT_FALSE(ReplayWriter{game}.begin(folder / "b.replay", header).has_value());
+        writer.stepBegun();
+        writer.stepBegun();
+    }
+    EXPECT_EQ(failures, 1);
+    EXPECT_FALSE(fs::exists(folder / "b.replay")) << "nobody could watch it";
 }
 
 } // namespace
