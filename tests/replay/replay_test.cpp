@@ -261,7 +261,6 @@ TEST(ReplayWriter, TellsOnceOfADiskThatCannotBeWritten) {
     writeText(folder / "file", "");
     EXPECT_FALSE(writer.begin(folder / "file" / "a.replay", header).has_value());
     EXPECT_FALSE(writer.begin(folder / "file", header).has_value()) << "it is there already";
-    EXPECT_FALSE(writer.begin("/dev/full", header).has_value());
     writer.stepBegun();
     EXPECT_EQ(failures, 0) << "nothing is written";
     ASSERT_TRUE(writer.begin(folder / "a.replay", header).has_value());
