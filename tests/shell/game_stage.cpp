@@ -19,7 +19,7 @@ Size windowOf(int width) {
 }
 
 Options optionsOf(const std::filesystem::path& profile, int width) {
-    Options options = ReadOptions(ProfileFile::read(profile).value());
+    Options options = ReadOptions(OptionsStore(profile).atStart());
     options.resolution = width == 800 ? 2 : 3;
     return options;
 }
