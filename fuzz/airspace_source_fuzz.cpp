@@ -3,10 +3,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <cstdlib>
 #include <string_view>
 
 #include "base/windows1252.h"
+#include "demand.h"
 #include "tools/apt/airspace_checks.h"
 #include "tools/apt/airspace_text.h"
 #include "tools/apt/airspace_writer.h"
@@ -14,12 +14,6 @@
 namespace {
 
 using namespace ventrel;
-
-void demand(bool holds) {
-    if (!holds) {
-        std::abort();
-    }
-}
 
 /// `bytes` is what the source was built to, without a picture.
 void showAndBuildAgain(const std::vector<std::byte>& bytes, const RadarLayout& layout) {

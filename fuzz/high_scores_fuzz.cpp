@@ -1,39 +1,21 @@
 // The score table's reader and writer against any file: nothing crashes, a table stays one and in order, and
 // what is no table is left alone.
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
 
 #include "base/whole_file.h"
+#include "demand.h"
+#include "scratch_folder.h"
 #include "shell/high_scores.h"
 
 namespace {
 
-namespace fs = std::filesystem;
 using namespace ventrel;
 
 constexpr std::size_t tableSize = 1040;
 constexpr std::size_t mostRead = 1 << 20;
-
-/// A file that goes with the run.
-struct Scratch {
-    Scratch() = default;
-    Scratch(const Scratch&) = delete;
-    Scratch& operator=(const Scratch&) = delete;
-    ~Scratch() { fs::remove(file); }
-
-    const fs::path file = fs::temp_directory_path() / ("ventrel-scores-" + std::to_string(::getpid()));
-};
-
-void demand(bool isSo) {
-    if (!isSo) {
-        std::abort();
-    }
-}
 
 bool isLegible(const HighScoreEntry& entry) {
     return entry.name.size() <= 32 && entry.airport.size() <= 70 && entry.score >= 0 &&
@@ -44,18 +26,18 @@ bool isLegible(const HighScoreEntry& entry) {
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    const Scratch scratch;
+    const ScratchFolder folder;
+    const auto file = folder.put("fuzz.dat", {reinterpret_cast<const char*>(data), size});
     const auto bytes = std::as_bytes(std::span(data, size));
-    demand(replaceFile(scratch.file, bytes).has_value());
-    const auto before = readHighScores(scratch.file);
+    const auto before = readHighScores(file);
     demand(before.has_value() == (size == tableSize));
-    const auto place = InsertHighScore(scratch.file, {"Mary", 1000, "New York"});
-    const Bytes after = readWholeFile(scratch.file, mostRead).value();
+    const auto place = InsertHighScore(file, {"Mary", 1000, "New York"});
+    const Bytes after = readWholeFile(file, mostRead).value();
     if (!before) {
         demand(!place && std::ranges::equal(after, bytes));
         return 0;
     }
-    const HighScores scores = readHighScores(scratch.file).value();
+    const HighScores scores = readHighScores(file).value();
     demand(std::ranges::all_of(scores, isLegible));
     if (!place->row) {
         demand(std::ranges::equal(after, bytes));

@@ -1,28 +1,21 @@
 // The list of finished shifts against any file: nothing crashes, a list stays one with one shift more, and
 // what is no list is left alone.
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <cstdint>
-#include <cstdlib>
 #include <span>
 
 #include "base/whole_file.h"
+#include "demand.h"
 #include "replay/shift_history.h"
+#include "scratch_folder.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace ventrel;
-    namespace fs = std::filesystem;
     constexpr std::size_t mostRead = 1 << 22;
-    const fs::path file = fs::temp_directory_path() / ("ventrel-shifts-" + std::to_string(::getpid()));
+    const ScratchFolder folder;
+    const auto file = folder.put("fuzz.txt", {reinterpret_cast<const char*>(data), size});
     const auto bytes = std::as_bytes(std::span(data, size));
-    const auto demand = [](bool isSo) {
-        if (!isSo) {
-            std::abort();
-        }
-    };
-    demand(replaceFile(file, bytes).has_value());
     const auto before = readShiftHistory(file);
     PastShift shift;
     shift.flights = 1;
@@ -33,6 +26,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } else {
         demand(std::ranges::equal(readWholeFile(file, mostRead).value(), bytes));
     }
-    fs::remove(file);
     return 0;
 }
