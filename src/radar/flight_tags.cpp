@@ -98,15 +98,14 @@ TagStand tagStand(const TagMeasures& tag, Point at, std::size_t place) {
     }
     const auto [side, gap] = placeBeside(place - 1);
     const int pitch = pitchOf(tag);
-    const auto [width, height] = blockSize(tag);
-    const Point corner = at + Point{beginning(side.x, gap.x, width), beginning(side.y, gap.y, height)};
+    const Size block = blockSize(tag);
+    const Point corner =
+        at + Point{beginning(side.x, gap.x, block.width), beginning(side.y, gap.y, block.height)};
     // Beside the symbol's left the lines end together, so that the shorter one is not far from it.
     const auto left = [&, sideways = side.x](int lineWidth) {
-        return sideways < 0 ? corner.x + width - lineWidth : corner.x;
+        return sideways < 0 ? corner.x + block.width - lineWidth : corner.x;
     };
-    return {{left(tag.callsign), corner.y},
-            {left(tag.data), corner.y + pitch},
-            Rect::at(corner, {width, height})};
+    return {{left(tag.callsign), corner.y}, {left(tag.data), corner.y + pitch}, Rect::at(corner, block)};
 }
 
 void drawTag(Canvas& canvas, const Font& font, const TagTexts& texts, const TagStand& stand, Colour colour) {
