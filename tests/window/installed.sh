@@ -42,3 +42,17 @@ grep -qx 'Windowed=1' "$XDG_CONFIG_HOME/ventrel/ventrel.ini" || fail "the option
 for page in "$prefix"/share/man/man*/*.gz; do
     ! gzip -dc "$page" | grep -n '@' || fail "$page was not filled in"
 done
+# Every notice that the page about others' work names lies with it.
+docs=$prefix/share/doc/ventrel
+named=0
+for notice in $(sed -n '/^## Used/q; s/^|.*| \([^|]*`[^|]*\) |$/\1/p' "$docs/third-party.md" | grep -oE '`[^`]+`' | tr -d '`'); do
+    [ -s "$docs/notices/$notice.txt" ] || [ -s "$docs/$notice" ] || [ -s "$docs/outlines/$notice" ] ||
+        fail "the notice $notice is missing"
+    named=$((named + 1))
+done
+[ "$named" -ge 4 ] || fail "third-party.md names only $named notices"
+# What completes a program is looked for under its name.
+for program in "$prefix"/bin/*; do
+    [ -s "$prefix/share/bash-completion/completions/${program##*/}" ] || fail "nothing completes ${program##*/}"
+    [ -s "$prefix/share/man/man6/${program##*/}.6.gz" ] || fail "${program##*/} has no man page"
+done
