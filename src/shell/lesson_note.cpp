@@ -37,8 +37,8 @@ constexpr int titleTop = 12;
 constexpr int ruleTop = 29;
 constexpr int textTop = 35;
 constexpr int buttonGap = 8; // above and below the buttons
-constexpr Size leaveSize{70, 18};
-constexpr Size goSize{96, 18};
+constexpr Size leaveSize{76, 18};
+constexpr Size goSize{90, 18};
 constexpr int lineWidth = 2;    // of the frame
 constexpr int openFrameLeg = 6; // along its sides from each corner
 
@@ -164,7 +164,7 @@ void LessonNoteWindow::paint(Canvas& canvas) const {
     canvas.frame(paper, paperEdge);
     const Font& title = shell_.fonts.font(noteTitleFont);
     const Font& small = shell_.fonts.font(noteSmallFont);
-    const std::string count = std::to_string(note_.step + 1) + " / " + std::to_string(head_.steps);
+    const std::string count = std::to_string(note_.step + 1) + "/" + std::to_string(head_.steps);
     drawText(canvas, title, {paperMargin, titleTop}, head_.title, {ink, {}});
     drawText(canvas, small, {paper.right - paperMargin - small.width(count), titleTop + 1}, count,
              {softInk, {}});

@@ -49,9 +49,10 @@ Rect stripRows(const Shell& shell, int first, int count) {
     return {strips.firstButton.left, top, strips.column.right, bottom};
 }
 
-Rect stripSpot(const Shell& shell, FlightIndex flight) {
+/// None for a flight that has yet to be announced: the strips there are belong to others.
+std::optional<Rect> stripSpot(const Shell& shell, FlightIndex flight) {
     const int slot = StripsFlightSlot(shell.strips, flight);
-    return slot == noSlot ? stripRows(shell, 0, std::max(stripsInUse(shell), 1)) : stripRows(shell, slot, 1);
+    return slot == noSlot ? std::nullopt : std::optional(stripRows(shell, slot, 1));
 }
 
 /// A point's mark with its name.

@@ -199,6 +199,7 @@ void Pupil::befall(const FactTerm& term) {
     const auto point = pointOfIdent(game.vors(), term.point);
     switch (term.fact) {
     case Fact::skipped: follower.clockSkipped(); break;
+    case Fact::paused: paused_ = !term.isNegated; break;
     case Fact::lost: follower.scoreChanged({ScoreCause::lost, index}); break;
     case Fact::left: tell(Topic::leaving); break;
     case Fact::missedHeading: tell(Topic::wrongHeadingToLand); break;
