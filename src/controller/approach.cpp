@@ -24,8 +24,9 @@ bool isOnGrid(Cell cell) {
 }
 
 std::size_t placeOf(const Place& place) {
-    return static_cast<std::size_t>((place.cell.y * gridSize + place.cell.x) * headingCount +
-                                    place.heading / headingStep);
+    const int cell = place.cell.y * gridSize + place.cell.x;
+    return static_cast<std::size_t>(cell) * headingCount +
+           static_cast<std::size_t>(place.heading / headingStep);
 }
 
 std::optional<std::size_t> indexOf(const Place& place) {
