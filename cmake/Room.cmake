@@ -74,3 +74,11 @@ function(ventrel_program name)
     add_executable(${name} ${PROGRAM_UNPARSED_ARGUMENTS})
     target_link_libraries(${name} PRIVATE ${PROGRAM_USES} ventrel_flags)
 endfunction()
+
+# ventrel_tool(NAME SOURCES... [USES libraries...]): a program whose own code reads the command line by CLI11 and leaves
+# the work to rooms. Unoptimised: the library is large, and a compiler spends half a minute on it for nothing.
+function(ventrel_tool name)
+    ventrel_program(${ARGV})
+    target_link_libraries(${name} PRIVATE CLI11::CLI11)
+    target_compile_options(${name} PRIVATE -O0)
+endfunction()

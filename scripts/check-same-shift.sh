@@ -5,9 +5,9 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 
 # trace PRESET: the shifts as that build tells them. Fails when one cannot be flown.
 trace() {
-    local folder=build/$1/ventrel airspace
-    for airspace in "$folder"/apt/*.apt; do
-        "$folder/ventrel-sim" "$airspace" --seed 7 --skill 3 || return 1
+    local airspace
+    for airspace in build/release/ventrel/apt/*.apt; do
+        "build/$1/ventrel/ventrel-sim" "$airspace" --seed 7 --skill 3 || return 1
     done
 }
 
