@@ -58,16 +58,7 @@ fail() {
     cat "$work/complaints" >&2 2>/dev/null || true
     exit 1
 }
-started=
-until_true() { # WHAT COMMAND...
-    local what=$1 end=$((SECONDS + patience))
-    shift
-    until "$@"; do
-        [ -z "$started" ] || kill -0 "$started" 2>/dev/null || fail "it ended before this: $what"
-        [ "$SECONDS" -lt "$end" ] || fail "waited for this: $what"
-        sleep 0.05
-    done
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../waiting.sh"
 
 row() { printf '| %s | %s | %s | %s |\n' "$1" "$2" "${3:-none}" "$4"; }
 

@@ -40,16 +40,7 @@ fail() {
     exit 1
 }
 
-started= # the program's process, once it runs
-until_true() { # WHAT COMMAND...
-    local what=$1 end=$((SECONDS + patience))
-    shift
-    until "$@"; do
-        [ -z "$started" ] || kill -0 "$started" 2>/dev/null || fail "it ended by itself before this: $what"
-        [ "$SECONDS" -lt "$end" ] || fail "waited for this: $what"
-        sleep 0.05
-    done
-}
+source "$(dirname "${BASH_SOURCE[0]}")/../waiting.sh"
 
 # A hang-up is seen to from the moment when the window is open.
 hang_up_bit=1 terminate_bit=0x4000
