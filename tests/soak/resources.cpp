@@ -6,7 +6,7 @@
 #include <filesystem>
 #include <fstream>
 
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VENTREL_SANITIZED
 /// Of the sanitizer's library, whose header not every compiler brings along.
 extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 #endif
@@ -14,7 +14,7 @@ extern "C" std::size_t __sanitizer_get_current_allocated_bytes();
 namespace ventrel {
 
 std::size_t bytesInUse() {
-#ifdef __SANITIZE_ADDRESS__
+#ifdef VENTREL_SANITIZED
     return ::__sanitizer_get_current_allocated_bytes();
 #else
     const auto used = ::mallinfo2();
