@@ -10,7 +10,7 @@ namespace {
 constexpr FontRequest captionFont{Face::arial, -11, false};
 constexpr Colour plate = Colour::rgb(16, 18, 20);
 constexpr Colour plateEdge = Colour::rgb(92, 98, 102);
-constexpr Colour letters = Colour::rgb(255, 190, 130);
+constexpr Colour captionLetters = Colour::rgb(255, 190, 130);
 constexpr int margin = 5; // pixels left and right of the line
 
 constexpr Millis longestShown = 5000;
@@ -31,7 +31,7 @@ void paint(Captions& captions, Canvas& canvas) {
     const Font& font = captions.sources.fonts.font(captionFont);
     const int top = (area.height() - font.lineHeight()) / 2;
     const Rect line{margin, top, area.right - margin, top + font.lineHeight()};
-    drawTightLine(canvas, font, line, captions.lines.front(), {letters, plate});
+    drawTightLine(canvas, font, line, captions.lines.front(), {captionLetters, plate});
 }
 
 void showFirst(Captions& captions) {

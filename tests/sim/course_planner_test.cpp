@@ -13,7 +13,7 @@ Flight flightAt(Cell cell, int altitude, int heading) {
     return flight;
 }
 
-constexpr PointIndex target{2};
+constexpr PointIndex aimedPoint{2};
 
 std::vector<Vor> targetAt(Cell cell) {
     Vor vor;
@@ -35,7 +35,7 @@ TEST(Course, IsNotMadeForATargetBesideTheFlight) {
     for (const Cell beside : {Cell{10, 10}, Cell{9, 11}, Cell{11, 10}}) {
         Flight flight = flightAt({10, 10}, 5, 0);
         flight.plan[0].directTarget = PointIndex{77};
-        EXPECT_FALSE(buildCourse(flight, targetAt(beside), target, 10));
+        EXPECT_FALSE(buildCourse(flight, targetAt(beside), aimedPoint, 10));
         EXPECT_EQ(flight.plan.length(), 1);
         EXPECT_EQ(flight.plan[0].directTarget, PointIndex{77});
     }
@@ -49,7 +49,7 @@ TEST(Course, TurnsRightForATargetBehindButLeftFromTheWest) {
         for (int i = 0; i < 6; ++i) {
             behind = stepCell(behind, (heading + 180) % 360);
         }
-        ASSERT_TRUE(buildCourse(flight, targetAt(behind), target, 5));
+        ASSERT_TRUE(buildCourse(flight, targetAt(behind), aimedPoint, 5));
         EXPECT_EQ(flight.plan[1].heading, heading == 270 ? 225 : (heading + 45) % 360);
         EXPECT_EQ(flight.lastStep().cell, behind);
     }
@@ -57,12 +57,12 @@ TEST(Course, TurnsRightForATargetBehindButLeftFromTheWest) {
 
 TEST(Course, ReachesItsTargetAtTheAltitudeAndEndsThere) {
     Flight flight = flightAt({10, 10}, 5, 0);
-    ASSERT_TRUE(buildCourse(flight, targetAt({10, 20}), target, 7));
+    ASSERT_TRUE(buildCourse(flight, targetAt({10, 20}), aimedPoint, 7));
     EXPECT_EQ(flight.plan[1].cell, (Cell{11, 9}));
     EXPECT_EQ(flight.plan[1].altitude, 6);
     EXPECT_EQ(flight.plan[2].altitude, 7);
     for (int i = 0; i < flight.plan.length() - 1; ++i) {
-        EXPECT_EQ(flight.plan[i].directTarget, target);
+        EXPECT_EQ(flight.plan[i].directTarget, aimedPoint);
     }
     EXPECT_EQ(flight.lastStep().directTarget, DirectTarget::none());
     EXPECT_EQ(flight.lastStep().cell, (Cell{10, 20}));
@@ -71,13 +71,13 @@ TEST(Course, ReachesItsTargetAtTheAltitudeAndEndsThere) {
 
 TEST(Course, CirclesBackUntilTheAltitudeIsReachedOrThePlanIsFull) {
     Flight climbing = flightAt({10, 10}, 1, 90);
-    ASSERT_TRUE(buildCourse(climbing, targetAt({14, 10}), target, 10));
+    ASSERT_TRUE(buildCourse(climbing, targetAt({14, 10}), aimedPoint, 10));
     EXPECT_EQ(climbing.lastStep().cell, (Cell{14, 10}));
     EXPECT_EQ(climbing.lastStep().altitude, 10);
     EXPECT_GT(climbing.plan.length(), 9);
 
     Flight far = flightAt({-60, 10}, 5, 90);
-    ASSERT_TRUE(buildCourse(far, targetAt({40, 10}), target, 5));
+    ASSERT_TRUE(buildCourse(far, targetAt({40, 10}), aimedPoint, 5));
     EXPECT_EQ(far.plan.length(), 47);
     EXPECT_EQ(far.plan[46].directTarget, DirectTarget::none());
     EXPECT_EQ(far.plan[46].cell, (Cell{-14, 10}));
@@ -88,7 +88,7 @@ TEST(Course, ByOrderTakesTheSpeedAndEndsAHold) {
     planHold(flight, 5);
     flight.planIndex = 3;
     const PlanStep now = flight.current();
-    planDirect(flight, targetAt({30, 12}), target, 5, Speed::fast);
+    planDirect(flight, targetAt({30, 12}), aimedPoint, 5, Speed::fast);
     EXPECT_EQ(flight.planIndex, 0);
     EXPECT_EQ(flight.plan[0].cell, now.cell);
     for (int i = 0; i < flight.plan.length(); ++i) {
