@@ -41,10 +41,16 @@ lint() {
     echo "$key" >"$clean"
 }
 
+# So that no processor is left with a large room while the others have nothing to do.
+largest_first() {
+    grep -o '"file": "[^"]*"' $commands | cut -d'"' -f4 | sort -u | while IFS= read -r room; do
+        echo "$(sed -n 's|^#include "\(/.*\)"$|\1|p' "$room" | xargs cat | wc -l) $room"
+    done | sort -rn | cut -d' ' -f2
+}
+
 linter=$(llvm_program clang-tidy)
 configure lint
 mkdir -p $build/clean
 export -f key_of lint
 export linter build commands
-grep -o '"file": "[^"]*"' $commands | cut -d'"' -f4 | sort -u |
-    xargs -P "$(nproc)" -I ROOM bash -euo pipefail -c 'lint ROOM'
+largest_first | xargs -P "$(nproc)" -I ROOM bash -euo pipefail -c 'lint ROOM'

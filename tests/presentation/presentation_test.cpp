@@ -139,20 +139,27 @@ TEST_F(OpeningTest, ASlowMachinesCurtainComesDownWithTheSoundToo) {
 }
 
 TEST_F(OpeningTest, AClickAndThreeKeysEndItAtEveryStage) {
-    for (const Millis when : {500, 10000, 12500, 14500}) {
-        for (const Key key : {Key::unknown, Key::escape, Key::enter, Key::space}) {
-            SCOPED_TRACE(std::to_string(when) + " key " + std::to_string(static_cast<int>(key)));
-            Script person(backend);
-            person.wait(when - 200).key(Key::a).click({300, 740}, MouseButton::right).wait(200);
-            key == Key::unknown ? person.press({300, 740}) : person.key(key);
-            play();
-            EXPECT_NEAR(static_cast<double>(last().second), static_cast<double>(when), 30);
-            EXPECT_FALSE(soundEnd || musicEnd);
-            EXPECT_TRUE(backend.beeps().empty());
-            EXPECT_EQ(desktop.topLevels().size(), 1U);
-            EXPECT_FALSE(backend.isCaptured());
-            EXPECT_NE(backend.cursor(), nullptr);
-        }
+    constexpr Key click = Key::unknown;
+    constexpr auto ends = std::to_array<std::pair<Millis, Key>>({{500, click},
+                                                                 {500, Key::escape},
+                                                                 {10000, click},
+                                                                 {10000, Key::enter},
+                                                                 {12500, click},
+                                                                 {12500, Key::space},
+                                                                 {14500, click},
+                                                                 {14500, Key::escape}});
+    for (const auto& [when, key] : ends) {
+        SCOPED_TRACE(std::to_string(when) + " key " + std::to_string(static_cast<int>(key)));
+        Script person(backend);
+        person.wait(when - 200).key(Key::a).click({300, 740}, MouseButton::right).wait(200);
+        key == click ? person.press({300, 740}) : person.key(key);
+        play();
+        EXPECT_NEAR(static_cast<double>(last().second), static_cast<double>(when), 30);
+        EXPECT_FALSE(soundEnd || musicEnd);
+        EXPECT_TRUE(backend.beeps().empty());
+        EXPECT_EQ(desktop.topLevels().size(), 1U);
+        EXPECT_FALSE(backend.isCaptured());
+        EXPECT_NE(backend.cursor(), nullptr);
     }
 }
 

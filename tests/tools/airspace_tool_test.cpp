@@ -133,6 +133,9 @@ TEST(AirspaceTool, IsSilentOnSoundAirspaces) {
             files.push_back(entry.path());
         }
     }
+#ifdef VENTREL_SANITIZED // which makes it five times slower
+    files.resize(files.size() / 4);
+#endif
     EXPECT_EQ(printedBy(apt::success, [&] { return apt::check(files); }), "");
 }
 
