@@ -165,7 +165,13 @@ std::optional<Rect> lessonSpotArea(const Shell& shell, const LessonSpot& spot) {
 }
 
 bool hasOpenFrame(const LessonSpot& spot) {
-    return spot.part == DeskPart::dial || (spot.part == DeskPart::speed && !spot.speed);
+    switch (spot.part) {
+    case DeskPart::dial:
+    case DeskPart::strip: // the arrow that scrolls the list reaches into the first one
+    case DeskPart::strips: return true;
+    case DeskPart::speed: return !spot.speed;
+    default: return false;
+    }
 }
 
 Rect lessonNotePlace(const Shell& shell, int height, const std::optional<Rect>& shown) {
