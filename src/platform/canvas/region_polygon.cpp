@@ -89,7 +89,9 @@ void addRow(std::vector<Run>& runs, std::vector<Side>& passing, int y) {
     const auto isLefter = [](const Side& a, const Side& b) {
         return a.columnAbove() + a.columnBelow() < b.columnAbove() + b.columnBelow();
     };
-    std::sort(passing.begin(), passing.end(), isLefter);
+    if (!std::is_sorted(passing.begin(), passing.end(), isLefter)) {
+        std::sort(passing.begin(), passing.end(), isLefter);
+    }
     int winding = 0;
     std::int64_t left = 0;
     for (Side& side : passing) {
@@ -106,12 +108,24 @@ void addRow(std::vector<Run>& runs, std::vector<Side>& passing, int y) {
     }
 }
 
+/// So many rows of the region's space the sides pass together.
+std::size_t rowCount(std::span<const Side> sides) {
+    if (sides.empty()) {
+        return 0;
+    }
+    const auto lowest = std::max_element(
+        sides.begin(), sides.end(), [](const Side& a, const Side& b) { return a.bottom() < b.bottom(); });
+    const int top = std::max(sides.front().top(), regionSpace.top);
+    return static_cast<std::size_t>(std::max(std::min(lowest->bottom(), regionSpace.bottom) - top, 0));
+}
+
 } // namespace
 
 Region Region::polygon(std::span<const Point> corners) {
     const std::vector<Side> sides = sidesFromTheTop(corners);
     std::vector<Side> passing;
     std::vector<Run> runs;
+    runs.reserve(rowCount(sides));
     std::size_t next = 0;
     int y = sides.empty() ? regionSpace.bottom : std::max(sides.front().top(), regionSpace.top);
     for (; y < regionSpace.bottom && (next < sides.size() || !passing.empty()); ++y) {
