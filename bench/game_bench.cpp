@@ -7,7 +7,7 @@
 #include "audio/sound_system.h"
 #include "platform/headless/headless_sound.h"
 #include "platform/headless/script.h"
-#include "shell/airport_catalogue.h"
+#include "records/airport_catalogue.h"
 #include "shell/program.h"
 
 namespace {

@@ -7,8 +7,8 @@
 
 #include "base/whole_file.h"
 #include "demand.h"
+#include "records/high_scores.h"
 #include "scratch_folder.h"
-#include "shell/high_scores.h"
 
 namespace {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "shell/options_file.h"
+#include "records/options_file.h"
 
 namespace {
 

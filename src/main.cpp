@@ -18,10 +18,10 @@
 #include "platform/machine/sudden_end.h"
 #include "platform/sdl/sdl_backend.h"
 #include "platform/sdl/soundfont.h"
-#include "shell/options_file.h"
+#include "records/options_file.h"
+#include "records/window_memory.h"
 #include "shell/program.h"
 #include "shell/program_data.h"
-#include "shell/window_memory.h"
 
 namespace ventrel {
 

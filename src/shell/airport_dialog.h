@@ -5,7 +5,7 @@
 #include <optional>
 #include <span>
 
-#include "shell/airport_catalogue.h"
+#include "records/airport_catalogue.h"
 #include "shell/shell.h"
 
 namespace ventrel {

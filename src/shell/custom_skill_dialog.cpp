@@ -4,6 +4,7 @@
 
 #include "platform/widgets/dialog.h"
 #include "resources/dialogs.h"
+#include "shell/option_commands.h"
 #include "sim/custom_skill.h"
 
 namespace ventrel {

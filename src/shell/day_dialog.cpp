@@ -2,10 +2,10 @@
 
 #include "base/format.h"
 #include "platform/widgets/dialog.h"
+#include "records/airport_catalogue.h"
+#include "records/controller_name.h"
 #include "replay/shift_report.h"
 #include "resources/dialogs.h"
-#include "shell/airport_catalogue.h"
-#include "shell/controller_name.h"
 #include "shell/game_flow.h"
 #include "shell/shift_choice.h"
 

@@ -1,11 +1,11 @@
 #include "shell/game_flow.h"
 
 #include "console/window_size.h"
+#include "records/controller_name.h"
+#include "records/high_scores.h"
 #include "replay/shift_of_the_day.h"
-#include "shell/controller_name.h"
 #include "shell/day_dialog.h"
 #include "shell/high_score_dialog.h"
-#include "shell/high_scores.h"
 #include "shell/practice.h"
 #include "shell/presentations.h"
 #include "shell/replay_keeping.h"

@@ -7,9 +7,9 @@
 #include "platform/canvas/text.h"
 #include "platform/widgets/dialog.h"
 #include "presentation/framed_picture.h"
+#include "records/high_scores.h"
 #include "resources/dialogs.h"
 #include "shell/game_flow.h"
-#include "shell/high_scores.h"
 
 namespace ventrel {
 

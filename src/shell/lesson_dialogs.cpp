@@ -6,6 +6,7 @@
 #include "platform/widgets/dialog.h"
 #include "resources/command_ids.h"
 #include "resources/lesson_dialogs.h"
+#include "shell/option_commands.h"
 #include "shell/trouble_text.h"
 
 namespace ventrel {

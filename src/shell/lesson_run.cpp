@@ -5,7 +5,7 @@
 #include "console/window_size.h"
 #include "lessons/lesson_file.h"
 #include "lessons/lesson_shift.h"
-#include "shell/airport_catalogue.h"
+#include "records/airport_catalogue.h"
 #include "shell/game_flow.h"
 #include "shell/shell.h"
 
@@ -115,8 +115,12 @@ void followLesson(Shell& shell) {
         run.follower.clockSkipped();
     }
     const LessonNote& note = run.follower.follow(factsOf(shell));
-    for (const FlightIndex flight : run.follower.takeBrought()) {
+    const auto brought = run.follower.takeBrought();
+    for (const FlightIndex flight : brought) {
         bringFlight(shell.game, flight);
+    }
+    if (!brought.empty()) {
+        RadarRefresh(shell.radar); // the note points at it at once
     }
     run.note.show(note);
     if (note.kind == NoteKind::done) {

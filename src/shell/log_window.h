@@ -7,7 +7,7 @@
 #include <memory>
 
 #include "platform/widgets/dialog.h"
-#include "shell/log_view.h"
+#include "review/log_view.h"
 
 namespace ventrel {
 

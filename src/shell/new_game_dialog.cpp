@@ -1,9 +1,10 @@
 #include "shell/new_game_dialog.h"
 
 #include "platform/widgets/dialog.h"
+#include "records/controller_name.h"
 #include "resources/dialogs.h"
-#include "shell/controller_name.h"
 #include "shell/custom_skill_dialog.h"
+#include "shell/option_commands.h"
 #include "shell/shift_choice.h"
 
 namespace ventrel {

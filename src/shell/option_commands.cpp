@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "records/options_file.h"
 #include "resources/option_rows.h"
 #include "shell/game_flow.h"
 
@@ -130,6 +131,13 @@ void changeOption(Shell& shell, int id) {
             choose(shell, row, item);
         }
     });
+}
+
+void saveOptions(Shell& shell) {
+    shell.store.update([&shell](ProfileFile& profile) { WriteOptions(shell.options, profile); });
+    if (const auto failure = shell.store.takeFailure()) {
+        shell.report(*failure);
+    }
 }
 
 } // namespace ventrel

@@ -16,4 +16,7 @@ void changeOption(Shell& shell, int id);
 /// Takes the options with aids as chosen, keeps them, and shows them at once.
 void chooseAids(Shell& shell, const Options& chosen);
 
+/// Writes the options as they stand. To be called after every change; what hinders it is told once.
+void saveOptions(Shell& shell);
+
 } // namespace ventrel

@@ -5,9 +5,9 @@
 
 #include "console/window_size.h"
 #include "platform/widgets/message_box.h"
+#include "records/high_scores.h"
 #include "shell/day_dialog.h"
 #include "shell/game_flow.h"
-#include "shell/high_scores.h"
 #include "shell/lesson_dialogs.h"
 #include "shell/main_window.h"
 #include "shell/option_commands.h"

@@ -7,7 +7,7 @@
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/scroll_bar.h"
 #include "resources/dialogs.h"
-#include "shell/report_page.h"
+#include "review/report_page.h"
 
 namespace ventrel {
 

@@ -1,8 +1,8 @@
 #include "shell/shell.h"
 
 #include "base/data_path.h"
+#include "records/high_scores.h"
 #include "shell/game_flow.h"
-#include "shell/high_scores.h"
 #include "shell/popup_menus.h"
 #include "shell/selection.h"
 #include "sim/cloud_cover.h"

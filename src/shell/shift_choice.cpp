@@ -5,6 +5,7 @@
 
 #include "resources/dialogs.h"
 #include "shell/airport_dialog.h"
+#include "shell/option_commands.h"
 #include "shell/trouble_text.h"
 
 namespace ventrel {

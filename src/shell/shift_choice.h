@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "platform/widgets/dialog.h"
-#include "shell/airport_catalogue.h"
+#include "records/airport_catalogue.h"
 #include "shell/shell.h"
 
 namespace ventrel {

@@ -7,9 +7,9 @@
 #include <string_view>
 
 #include "base/profile_file.h"
+#include "records/high_scores.h"
 #include "replay/replay_writer.h"
 #include "replay/shift_history.h"
-#include "shell/high_scores.h"
 
 namespace ventrel {
 namespace {

@@ -1,8 +1,8 @@
 // The list of airports: the program's and the player's own, and what is told of damaged files.
 
 #include "platform/canvas/image.h"
+#include "records/airport_catalogue.h"
 #include "resources/dialogs.h"
-#include "shell/airport_catalogue.h"
 #include "shell/game_stage.h"
 #include "sim/airport_file.h"
 

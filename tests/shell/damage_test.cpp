@@ -4,7 +4,7 @@
 #include <fstream>
 
 #include "platform/canvas/png_writer.h"
-#include "shell/airport_catalogue.h"
+#include "records/airport_catalogue.h"
 #include "shell/game_stage.h"
 #include "shell/pictures.h"
 #include "shell/plain_program.h"

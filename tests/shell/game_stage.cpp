@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "shell/options_file.h"
+#include "records/options_file.h"
 #include "shell/selection.h"
 
 namespace ventrel {

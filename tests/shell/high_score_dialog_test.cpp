@@ -4,7 +4,7 @@
 #include "base/shortage.h"
 #include "base/whole_file.h"
 #include "golden.h"
-#include "shell/high_scores.h"
+#include "records/high_scores.h"
 #include "shell/plain_program.h"
 #include "shell/quiet_shift.h"
 

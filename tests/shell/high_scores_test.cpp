@@ -1,6 +1,6 @@
 // The table of high scores: who gets in, where, and what becomes of the file.
 
-#include "shell/high_scores.h"
+#include "records/high_scores.h"
 
 #include <fstream>
 

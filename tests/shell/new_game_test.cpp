@@ -1,8 +1,8 @@
 // The dialogs as a player uses them.
 
 #include "base/profile_file.h"
+#include "records/controller_name.h"
 #include "resources/dialogs.h"
-#include "shell/controller_name.h"
 #include "shell/game_stage.h"
 #include "sim/custom_skill.h"
 

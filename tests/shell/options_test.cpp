@@ -3,12 +3,12 @@
 #include <fstream>
 #include <sstream>
 
+#include "records/options_file.h"
+#include "records/window_memory.h"
 #include "resources/menus.h"
 #include "shell/commands.h"
-#include "shell/options_file.h"
 #include "shell/popup_menus.h"
 #include "shell/quiet_shift.h"
-#include "shell/window_memory.h"
 
 namespace ventrel {
 namespace {

@@ -1,6 +1,6 @@
 // The report of a shift, and the list of finished shifts that it compares with.
 
-#include "shell/report_page.h"
+#include "review/report_page.h"
 
 #include "golden.h"
 #include "resources/dialogs.h"

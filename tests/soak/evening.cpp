@@ -10,9 +10,9 @@
 
 #include "audio/sound_system.h"
 #include "console/window_size.h"
+#include "records/high_scores.h"
+#include "records/options_file.h"
 #include "resources/option_rows.h"
-#include "shell/high_scores.h"
-#include "shell/options_file.h"
 #include "shell/program_data.h"
 #include "shell/tick.h"
 #include "tests/soak/gestures.h"

@@ -1,8 +1,8 @@
 #include "tests/soak/shift_check.h"
 
+#include "records/airport_catalogue.h"
 #include "replay/replay_airspace.h"
 #include "replay/replay_reader.h"
-#include "shell/airport_catalogue.h"
 #include "tools/sim/shift_run.h"
 #include "tools/sim/trace_writer.h"
 

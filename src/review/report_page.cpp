@@ -1,10 +1,10 @@
-#include "shell/report_page.h"
+#include "review/report_page.h"
 
 #include <algorithm>
 #include <array>
 
 #include "base/format.h"
-#include "shell/report_drawings.h"
+#include "review/report_drawings.h"
 
 namespace ventrel {
 

@@ -1,4 +1,4 @@
-#include "shell/high_scores.h"
+#include "records/high_scores.h"
 
 #include <algorithm>
 #include <cstdint>

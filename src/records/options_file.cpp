@@ -1,4 +1,4 @@
-#include "shell/options_file.h"
+#include "records/options_file.h"
 
 #include <string>
 

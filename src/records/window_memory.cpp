@@ -1,4 +1,4 @@
-#include "shell/window_memory.h"
+#include "records/window_memory.h"
 
 #include <string>
 

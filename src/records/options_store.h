@@ -13,8 +13,6 @@
 
 namespace ventrel {
 
-struct Shell;
-
 class OptionsStore {
 public:
     /// Reads the file, which need not be there. With an empty path there is no place to keep options in.
@@ -46,8 +44,5 @@ private:
     std::optional<Failure> failure_;
     bool wasTold_ = false;
 };
-
-/// Writes the options as they stand. To be called after every change; what hinders it is told once.
-void saveOptions(Shell& shell);
 
 } // namespace ventrel

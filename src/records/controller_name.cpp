@@ -1,4 +1,4 @@
-#include "shell/controller_name.h"
+#include "records/controller_name.h"
 
 #include <algorithm>
 #include <array>

@@ -1,9 +1,6 @@
-#include "shell/options_store.h"
+#include "records/options_store.h"
 
 #include <utility>
-
-#include "shell/options_file.h"
-#include "shell/shell.h"
 
 namespace ventrel {
 
@@ -59,13 +56,6 @@ std::optional<Failure> OptionsStore::takeFailure() {
 void OptionsStore::note(std::string_view what, const Failure& reason) {
     if (!wasTold_) {
         failure_ = Failure{std::string(what) + reason.text, MessageIcon::exclamation};
-    }
-}
-
-void saveOptions(Shell& shell) {
-    shell.store.update([&shell](ProfileFile& profile) { WriteOptions(shell.options, profile); });
-    if (const auto failure = shell.store.takeFailure()) {
-        shell.report(*failure);
     }
 }
 

@@ -1,4 +1,4 @@
-#include "shell/report_drawings.h"
+#include "review/report_drawings.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "shell/log_view.h"
+#include "review/log_view.h"
 
 #include <algorithm>
 #include <array>

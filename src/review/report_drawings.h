@@ -2,7 +2,7 @@
 
 #pragma once
 
-#include "shell/report_page.h"
+#include "review/report_page.h"
 
 namespace ventrel {
 

@@ -1,4 +1,4 @@
-#include "shell/airport_catalogue.h"
+#include "records/airport_catalogue.h"
 
 #include <algorithm>
 #include <iterator>
