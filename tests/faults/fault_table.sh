@@ -43,6 +43,8 @@ trap cleanup EXIT
 
 # A copy that the player owns, whatever he may see of the build.
 cp -RL "$(dirname "$program")" "$work/game"
+# As it is installed: what somebody has played there before is not his.
+rm -rf "$work/game/"{hiscore.dat,ventrel.ini,shifts.txt,replays}
 mkdir "$work/home"
 for tool in fault_rows write_file; do
     cp "$(dirname "$program")/../tests/$tool" "$work/"
