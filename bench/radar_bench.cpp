@@ -8,8 +8,8 @@
 
 #include "controls/control_panel.h"
 #include "controls/strips.h"
-#include "platform/canvas/image.h"
 #include "platform/headless/headless_backend.h"
+#include "platform/images/image.h"
 #include "radar/radar_window.h"
 #include "sim/airspace.h"
 

@@ -6,7 +6,7 @@
 #include <cstdio>
 #include <string>
 
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

@@ -25,7 +25,7 @@ endif()
 # under the path that others write. It reaches whoever links the room and nobody else, so that a room can include
 # what it links, and a file that includes anything else does not compile.
 
-# ventrel_open_room(ROOM SCOPE [HEADERS...]): makes that folder; of a folder that several rooms share, the room's headers.
+# ventrel_open_room(ROOM SCOPE): makes that folder.
 function(ventrel_open_room room scope)
     set(top ${CMAKE_SOURCE_DIR}/src)
     cmake_path(IS_PREFIX top ${CMAKE_CURRENT_SOURCE_DIR} in_src)
@@ -36,19 +36,11 @@ function(ventrel_open_room room scope)
 
     set(entrance ${CMAKE_BINARY_DIR}/rooms/${room})
     file(REMOVE_RECURSE ${entrance})
-    if(ARGN)
-        file(MAKE_DIRECTORY ${entrance}/${path})
-        foreach(header ${ARGN})
-            file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR}/${header} ${entrance}/${path}/${header} SYMBOLIC)
-        endforeach()
-        list(GET ARGN 0 sample)
-    else()
-        cmake_path(GET path PARENT_PATH above)
-        file(MAKE_DIRECTORY ${entrance}/${above})
-        file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${entrance}/${path} SYMBOLIC)
-        file(GLOB headers RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
-        list(GET headers 0 sample)
-    endif()
+    cmake_path(GET path PARENT_PATH above)
+    file(MAKE_DIRECTORY ${entrance}/${above})
+    file(CREATE_LINK ${CMAKE_CURRENT_SOURCE_DIR} ${entrance}/${path} SYMBOLIC)
+    file(GLOB headers RELATIVE ${CMAKE_CURRENT_SOURCE_DIR} ${CMAKE_CURRENT_SOURCE_DIR}/*.h)
+    list(GET headers 0 sample)
     target_include_directories(${room} ${scope} ${entrance})
     # Debuggers, assertions and sanitizers name the file itself, not the way to it.
     target_compile_options(${room} ${scope} -ffile-prefix-map=${entrance}/=${top}/)
@@ -57,18 +49,18 @@ function(ventrel_open_room room scope)
     set_property(TARGET ${room} PROPERTY VENTREL_SAMPLE ${path}/${sample})
 endfunction()
 
-# ventrel_room(NAME SOURCES... [HEADERS headers...] [USES libraries...]): one room of the house, a static library, or
-# headers alone. It may include the rooms named after USES, and what these use. HEADERS where rooms share a folder.
+# ventrel_room(NAME SOURCES... [USES libraries...]): one room of the house, a static library, or headers
+# alone. It may include the rooms named after USES, and what these use.
 function(ventrel_room name)
-    cmake_parse_arguments(ROOM "" "" "HEADERS;USES" ${ARGN})
+    cmake_parse_arguments(ROOM "" "" "USES" ${ARGN})
     if(ROOM_UNPARSED_ARGUMENTS)
         add_library(${name} STATIC ${ROOM_UNPARSED_ARGUMENTS})
         target_link_libraries(${name} PUBLIC ${ROOM_USES} PRIVATE ventrel_flags ventrel_watched)
-        ventrel_open_room(${name} PUBLIC ${ROOM_HEADERS})
+        ventrel_open_room(${name} PUBLIC)
     else()
         add_library(${name} INTERFACE)
         target_link_libraries(${name} INTERFACE ${ROOM_USES})
-        ventrel_open_room(${name} INTERFACE ${ROOM_HEADERS})
+        ventrel_open_room(${name} INTERFACE)
     endif()
 endfunction()
 

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "demand.h"
-#include "platform/canvas/jpeg_writer.h"
+#include "platform/images/jpeg_writer.h"
 #include "scratch_folder.h"
 #include "sim/grid.h"
 #include "tools/apt/commands.h"

@@ -5,7 +5,7 @@
 #include <cstdlib>
 #include <span>
 
-#include "platform/canvas/image.h"
+#include "platform/images/image.h"
 
 namespace ventrel {
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <cstdlib>
 
-#include "platform/canvas/movie_file.h"
+#include "platform/images/movie_file.h"
 
 namespace {
 

@@ -7,8 +7,8 @@
 
 #include "base/whole_file.h"
 #include "demand.h"
-#include "replay/shift_history.h"
 #include "scratch_folder.h"
+#include "story/shift_history.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace ventrel;

@@ -10,7 +10,7 @@
 
 #include "audio/recording_file.h"
 #include "demand.h"
-#include "platform/sound/mixer.h"
+#include "platform/mixer/mixer.h"
 #include "scratch_folder.h"
 
 namespace {

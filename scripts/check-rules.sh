@@ -28,7 +28,8 @@ only() {
 }
 
 only 'src/platform/sdl/' 'SDL|X11/|fluidsynth\.h'
-only 'src/platform/canvas/' 'ft2build\.h|freetype/|png\.h|jpeglib\.h'
+only 'src/platform/text/' 'ft2build\.h|freetype/'
+only 'src/platform/images/' 'png\.h|jpeglib\.h'
 only 'src/base/result\.h' 'tl/'
 only 'tools/(apt|sound)/' 'toml\+\+/'
 only 'src/main\.cpp|tools/' 'CLI/'

@@ -1,4 +1,4 @@
-// The numbered texts of the program: everything that a player reads in a message is listed here.
+// The program's numbered texts. A message that belongs to one place alone stands there.
 
 #pragma once
 

@@ -8,8 +8,8 @@
 #include <deque>
 #include <string>
 
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
+#include "platform/text/font.h"
 
 namespace ventrel {
 

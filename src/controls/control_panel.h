@@ -10,8 +10,8 @@
 
 #include "controls/control_panel_state.h"
 #include "options/options.h"
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
+#include "platform/text/font.h"
 
 namespace ventrel {
 

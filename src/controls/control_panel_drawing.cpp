@@ -5,7 +5,7 @@
 
 #include "console/panel_layout.h"
 #include "controls/tight_line.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

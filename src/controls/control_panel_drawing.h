@@ -4,7 +4,7 @@
 
 #include "controls/control_panel_state.h"
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/font.h"
+#include "platform/text/font.h"
 
 namespace ventrel {
 

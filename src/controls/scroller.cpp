@@ -1,7 +1,7 @@
 #include "controls/scroller.h"
 
 #include "console/console_layout.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

@@ -9,8 +9,8 @@
 
 #include "controls/scroller_state.h"
 #include "options/options.h"
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
+#include "platform/text/font.h"
 
 namespace ventrel {
 

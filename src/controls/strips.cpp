@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "console/console_layout.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

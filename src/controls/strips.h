@@ -9,8 +9,8 @@
 
 #include "controls/strip_list.h"
 #include "options/options.h"
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
+#include "platform/text/font.h"
 
 namespace ventrel {
 

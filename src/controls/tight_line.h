@@ -5,8 +5,8 @@
 #include <string_view>
 
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/font.h"
-#include "platform/canvas/text.h"
+#include "platform/text/font.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "controls/scope_blips.h"
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
+#include "platform/text/font.h"
 #include "sim/alert_lamps.h"
 #include "sim/game_clock.h"
 

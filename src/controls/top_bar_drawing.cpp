@@ -4,7 +4,7 @@
 
 #include "base/format.h"
 #include "console/console_layout.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

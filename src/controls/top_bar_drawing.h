@@ -6,7 +6,7 @@
 
 #include "controls/scope_blips.h"
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/font.h"
+#include "platform/text/font.h"
 #include "sim/alert_lamps.h"
 #include "sim/game_clock.h"
 

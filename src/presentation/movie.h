@@ -5,8 +5,8 @@
 #include <functional>
 #include <optional>
 
-#include "platform/canvas/movie_file.h"
 #include "platform/desktop/desktop.h"
+#include "platform/images/movie_file.h"
 
 namespace ventrel {
 

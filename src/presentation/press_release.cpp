@@ -2,7 +2,7 @@
 
 #include <memory>
 
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 #include "presentation/framed_picture.h"
 #include "presentation/full_screen_window.h"
 

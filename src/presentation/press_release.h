@@ -4,8 +4,8 @@
 
 #include <functional>
 
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
+#include "platform/text/font.h"
 #include "sim/shift_texts.h"
 
 namespace ventrel {

@@ -5,12 +5,12 @@
 #include <optional>
 #include <span>
 
+#include "console/radar_layout.h"
 #include "console/signal_colours.h"
 #include "options/options.h"
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/font.h"
+#include "platform/text/font.h"
 #include "radar/flight_tags.h"
-#include "radar/radar_layout.h"
 #include "sim/airspace.h"
 #include "sim/flight.h"
 

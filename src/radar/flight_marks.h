@@ -3,9 +3,9 @@
 
 #pragma once
 
+#include "console/radar_layout.h"
 #include "console/signal_colours.h"
 #include "platform/canvas/canvas.h"
-#include "radar/radar_layout.h"
 #include "sim/flight.h"
 
 namespace ventrel {

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "base/format.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

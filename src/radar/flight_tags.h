@@ -9,7 +9,7 @@
 #include <string>
 
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/font.h"
+#include "platform/text/font.h"
 #include "sim/flight.h"
 #include "sim/vor.h"
 

@@ -5,9 +5,10 @@
 
 #include <vector>
 
+#include "console/radar_layout.h"
 #include "platform/canvas/canvas.h"
-#include "radar/radar_layout.h"
 #include "sim/game.h"
+#include "sim/grid.h"
 
 namespace ventrel {
 

@@ -1,7 +1,7 @@
 #include "radar/map_drawing.h"
 
-#include "platform/canvas/text.h"
-#include "radar/map_geometry.h"
+#include "map_geometry/map_geometry.h"
+#include "platform/text/text.h"
 #include "radar/runway_drawing.h"
 
 namespace ventrel {

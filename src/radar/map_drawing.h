@@ -7,9 +7,9 @@
 
 #include <span>
 
+#include "console/radar_layout.h"
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/font.h"
-#include "radar/radar_layout.h"
+#include "platform/text/font.h"
 #include "sim/vor.h"
 
 namespace ventrel {

@@ -3,7 +3,7 @@
 #include <cassert>
 
 #include "base/format.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 #include "radar/clouds.h"
 #include "radar/flight_marks.h"
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "platform/canvas/image.h"
+#include "platform/images/image.h"
 #include "radar/flight_marks.h"
 #include "radar/map_drawing.h"
 #include "radar/radar_frame.h"

@@ -12,12 +12,12 @@
 #include <optional>
 #include <vector>
 
+#include "console/radar_layout.h"
 #include "options/options.h"
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
+#include "platform/text/font.h"
 #include "radar/flight_drawing.h"
 #include "radar/flight_ways.h"
-#include "radar/radar_layout.h"
 #include "radar/scope_aids.h"
 #include "radar/sweep.h"
 #include "sim/game.h"

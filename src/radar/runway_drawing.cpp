@@ -4,8 +4,8 @@
 #include <cstddef>
 
 #include "base/format.h"
-#include "platform/canvas/text.h"
-#include "radar/map_geometry.h"
+#include "map_geometry/map_geometry.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

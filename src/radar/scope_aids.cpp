@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
+#include "map_geometry/map_geometry.h"
 #include "radar/map_drawing.h"
-#include "radar/map_geometry.h"
 
 namespace ventrel {
 

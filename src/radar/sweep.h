@@ -6,9 +6,9 @@
 
 #pragma once
 
+#include "console/radar_layout.h"
 #include "platform/canvas/canvas.h"
 #include "platform/devices/backend.h"
-#include "radar/radar_layout.h"
 
 namespace ventrel {
 

@@ -4,8 +4,8 @@
 #include <cstdlib>
 #include <limits>
 
+#include "map_geometry/map_geometry.h"
 #include "radar/flight_marks.h"
-#include "radar/map_geometry.h"
 
 namespace ventrel {
 

@@ -13,7 +13,7 @@
 #include <variant>
 #include <vector>
 
-#include "replay/utc_time.h"
+#include "base/utc_time.h"
 #include "sim/lamp_level.h"
 #include "sim/plan.h"
 #include "sim/shift_setup.h"

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/format.h"
-#include "replay/shift_report.h"
+#include "story/shift_report.h"
 
 namespace ventrel {
 

@@ -4,7 +4,7 @@
 #include <array>
 
 #include "base/format.h"
-#include "platform/canvas/text_layout.h"
+#include "platform/text/text_layout.h"
 
 namespace ventrel {
 

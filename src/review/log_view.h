@@ -8,8 +8,8 @@
 #include <functional>
 
 #include "platform/widgets/scroll_bar.h"
-#include "replay/log_filter.h"
-#include "replay/shift_log.h"
+#include "story/log_filter.h"
+#include "story/shift_log.h"
 
 namespace ventrel {
 

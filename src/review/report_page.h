@@ -6,10 +6,10 @@
 
 #pragma once
 
-#include "platform/canvas/font.h"
-#include "platform/canvas/text.h"
-#include "replay/shift_history.h"
-#include "replay/shift_report.h"
+#include "platform/text/font.h"
+#include "platform/text/text.h"
+#include "story/shift_history.h"
+#include "story/shift_report.h"
 
 namespace ventrel {
 

@@ -4,10 +4,10 @@
 #include "platform/widgets/dialog.h"
 #include "records/airport_catalogue.h"
 #include "records/controller_name.h"
-#include "replay/shift_report.h"
 #include "resources/dialogs.h"
 #include "shell/game_flow.h"
 #include "shell/shift_choice.h"
+#include "story/shift_report.h"
 
 namespace ventrel {
 

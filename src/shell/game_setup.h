@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "replay/utc_time.h"
+#include "base/utc_time.h"
 #include "sim/shift_setup.h"
 
 namespace ventrel {

@@ -4,7 +4,7 @@
 
 #include "base/data_path.h"
 #include "base/format.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 #include "platform/widgets/dialog.h"
 #include "presentation/framed_picture.h"
 #include "records/high_scores.h"

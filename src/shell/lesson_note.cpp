@@ -1,6 +1,6 @@
 #include "shell/lesson_note.h"
 
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 #include "resources/command_ids.h"
 #include "shell/lesson_places.h"
 

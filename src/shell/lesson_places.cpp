@@ -4,9 +4,9 @@
 #include <array>
 
 #include "lessons/lesson_shift.h"
+#include "map_geometry/map_geometry.h"
 #include "radar/flight_drawing.h"
 #include "radar/map_drawing.h"
-#include "radar/map_geometry.h"
 
 namespace ventrel {
 

@@ -9,8 +9,8 @@
 
 #include "base/result.h"
 #include "controls/top_bar.h"
-#include "platform/canvas/image.h"
 #include "platform/devices/backend.h"
+#include "platform/images/image.h"
 
 namespace ventrel {
 

@@ -6,8 +6,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/canvas/font.h"
 #include "platform/devices/backend.h"
+#include "platform/text/font.h"
 
 namespace ventrel {
 

@@ -6,9 +6,9 @@
 #include "platform/widgets/widget_place.h"
 #include "replay/replay_folder.h"
 #include "replay/shift_of_the_day.h"
-#include "replay/shift_report.h"
 #include "resources/dialogs.h"
 #include "shell/replay_keeping.h"
+#include "story/shift_report.h"
 
 namespace ventrel {
 

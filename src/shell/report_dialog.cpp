@@ -3,7 +3,7 @@
 #include "base/format.h"
 #include "base/whole_file.h"
 #include "base/windows1252.h"
-#include "platform/canvas/png_writer.h"
+#include "platform/images/png_writer.h"
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/scroll_bar.h"
 #include "resources/dialogs.h"

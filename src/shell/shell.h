@@ -27,20 +27,20 @@
 #include "records/airport_catalogue.h"
 #include "records/options_store.h"
 #include "replay/replay_writer.h"
-#include "replay/shift_log.h"
 #include "shell/conflict_watch.h"
 #include "shell/event_skip.h"
+#include "shell/finished_shifts.h"
 #include "shell/game_setup.h"
 #include "shell/lesson_run.h"
 #include "shell/log_window.h"
 #include "shell/pictures.h"
 #include "shell/replay_watching.h"
-#include "shell/shift_keeping.h"
 #include "shell/simulation_player.h"
 #include "shell/steered_play.h"
 #include "shell/steering_bar.h"
 #include "sim/event_relay.h"
 #include "sim/game.h"
+#include "story/shift_log.h"
 
 namespace ventrel {
 

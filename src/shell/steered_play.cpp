@@ -4,8 +4,8 @@
 
 #include "base/format.h"
 #include "shell/game_flow.h"
+#include "shell/half_speed.h"
 #include "shell/option_commands.h"
-#include "shell/practice.h"
 #include "shell/selection.h"
 #include "shell/shell.h"
 #include "sim/flight_step.h"

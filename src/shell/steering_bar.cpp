@@ -3,7 +3,7 @@
 #include <array>
 
 #include "console/steering_bar_layout.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 #include "resources/command_ids.h"
 #include "shell/shell.h"
 

@@ -9,7 +9,7 @@
 #include <span>
 
 #include "audio/sound_system.h"
-#include "platform/sound/mixer.h"
+#include "platform/mixer/mixer.h"
 #include "sim/phrase.h"
 
 namespace ventrel {

@@ -8,9 +8,9 @@
 
 #include "console/window_size.h"
 #include "options/options.h"
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
 #include "platform/headless/script.h"
+#include "platform/text/font.h"
 #include "sim/game.h"
 
 namespace ventrel {

@@ -13,7 +13,6 @@
 #include "records/high_scores.h"
 #include "records/options_file.h"
 #include "replay/replay_folder.h"
-#include "replay/shift_history.h"
 #include "shell/commands.h"
 #include "shell/game_flow.h"
 #include "shell/high_score_dialog.h"
@@ -21,6 +20,7 @@
 #include "shell/program.h"
 #include "shell/program_data.h"
 #include "shell/steered_play.h"
+#include "story/shift_history.h"
 
 namespace ventrel {
 

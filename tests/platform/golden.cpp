@@ -7,9 +7,9 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "platform/canvas/font.h"
-#include "platform/canvas/image.h"
-#include "platform/canvas/png_writer.h"
+#include "platform/images/image.h"
+#include "platform/images/png_writer.h"
+#include "platform/text/font.h"
 
 namespace ventrel {
 

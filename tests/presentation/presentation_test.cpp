@@ -7,8 +7,8 @@
 
 #include "golden.h"
 #include "images/movie_parts.h"
-#include "platform/canvas/jpeg_writer.h"
 #include "platform/headless/script.h"
+#include "platform/images/jpeg_writer.h"
 #include "presentation/movie.h"
 #include "presentation/opening.h"
 #include "presentation/press_release.h"

@@ -9,7 +9,7 @@
 #include "base/profile_file.h"
 #include "records/high_scores.h"
 #include "replay/replay_writer.h"
-#include "replay/shift_history.h"
+#include "story/shift_history.h"
 
 namespace ventrel {
 namespace {

@@ -3,8 +3,8 @@
 #include <gtest/gtest.h>
 
 #include "golden.h"
+#include "map_geometry/map_geometry.h"
 #include "radar/flight_marks.h"
-#include "radar/map_geometry.h"
 #include "radar_stage.h"
 #include "sim/flight_step.h"
 

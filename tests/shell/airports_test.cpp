@@ -1,6 +1,6 @@
 // The list of airports: the program's and the player's own, and what is told of damaged files.
 
-#include "platform/canvas/image.h"
+#include "platform/images/image.h"
 #include "records/airport_catalogue.h"
 #include "resources/dialogs.h"
 #include "shell/game_stage.h"

@@ -3,7 +3,7 @@
 #include <cstdlib>
 #include <fstream>
 
-#include "platform/canvas/png_writer.h"
+#include "platform/images/png_writer.h"
 #include "records/airport_catalogue.h"
 #include "shell/game_stage.h"
 #include "shell/pictures.h"

@@ -6,7 +6,7 @@
 
 #include "console/steering_bar_layout.h"
 #include "golden.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 #include "platform/widgets/menu.h"
 #include "platform/widgets/widget_place.h"
 #include "replay/replay_text.h"

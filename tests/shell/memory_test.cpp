@@ -5,7 +5,7 @@
 #include <fstream>
 
 #include "images/movie_parts.h"
-#include "platform/canvas/jpeg_writer.h"
+#include "platform/images/jpeg_writer.h"
 #include "shell/plain_program.h"
 #include "shell/quiet_shift.h"
 

@@ -2,8 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include "platform/canvas/jpeg_writer.h"
-#include "platform/canvas/png_writer.h"
+#include "platform/images/jpeg_writer.h"
+#include "platform/images/png_writer.h"
 #include "radar/clouds.h"
 #include "radar/radar_window.h"
 

@@ -3,8 +3,9 @@
 #include <algorithm>
 #include <array>
 
-#include "radar/radar_layout.h"
+#include "console/radar_layout.h"
 #include "resources/accelerators.h"
+#include "sim/grid.h"
 
 namespace ventrel {
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "platform/canvas/png_writer.h"
+#include "platform/images/png_writer.h"
 
 namespace ventrel {
 

@@ -5,8 +5,8 @@
 #include <array>
 
 #include "airspace_stage.h"
-#include "platform/canvas/image.h"
-#include "radar/radar_layout.h"
+#include "console/radar_layout.h"
+#include "platform/images/image.h"
 #include "sim/airport_file.h"
 
 namespace ventrel {

@@ -8,9 +8,9 @@
 #include <vector>
 
 #include "airspace_stage.h"
+#include "console/radar_layout.h"
 #include "console/signal_colours.h"
-#include "platform/canvas/image.h"
-#include "radar/radar_layout.h"
+#include "platform/images/image.h"
 #include "tools/apt/colour_sight.h"
 #include "tools/chart/chart_painter.h"
 #include "tools/chart/distance.h"

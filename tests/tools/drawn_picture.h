@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "platform/canvas/image.h"
+#include "platform/images/image.h"
 
 namespace ventrel {
 

@@ -11,8 +11,8 @@
 
 #include "base/whole_file.h"
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/image.h"
-#include "platform/canvas/movie_file.h"
+#include "platform/images/image.h"
+#include "platform/images/movie_file.h"
 
 using namespace ventrel;
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "platform/canvas/image.h"
+#include "platform/images/image.h"
 #include "sim/game.h"
 
 namespace ventrel {

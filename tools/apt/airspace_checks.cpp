@@ -6,8 +6,8 @@
 #include <cstdlib>
 #include <utility>
 
-#include "platform/canvas/image.h"
-#include "radar/map_geometry.h"
+#include "map_geometry/map_geometry.h"
+#include "platform/images/image.h"
 #include "tools/apt/colour_sight.h"
 #include "tools/apt/ground_checks.h"
 #include "tools/apt/label_checks.h"

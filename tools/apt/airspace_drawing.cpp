@@ -2,8 +2,8 @@
 
 #include <string>
 
-#include "platform/canvas/image.h"
-#include "platform/canvas/text.h"
+#include "platform/images/image.h"
+#include "platform/text/text.h"
 #include "radar/map_drawing.h"
 
 namespace ventrel::apt {

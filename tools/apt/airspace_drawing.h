@@ -6,7 +6,7 @@
 #include <span>
 
 #include "platform/canvas/bitmap.h"
-#include "platform/canvas/font.h"
+#include "platform/text/font.h"
 #include "sim/airport_file.h"
 
 namespace ventrel::apt {

@@ -5,7 +5,8 @@
 #include <cstdio>
 
 #include "base/windows1252.h"
-#include "radar/radar_layout.h"
+#include "console/radar_layout.h"
+#include "sim/grid.h"
 #include "tools/apt/airspace_source.h"
 #include "tools/apt/airspace_writer.h"
 

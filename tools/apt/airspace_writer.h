@@ -6,7 +6,7 @@
 #include <span>
 #include <vector>
 
-#include "radar/radar_layout.h"
+#include "console/radar_layout.h"
 #include "sim/airport_file.h"
 #include "tools/apt/airspace_source.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 
 #include "base/windows1252.h"
-#include "platform/canvas/png_writer.h"
+#include "platform/images/png_writer.h"
 #include "tools/apt/airspace_checks.h"
 #include "tools/apt/airspace_text.h"
 #include "tools/apt/airspace_writer.h"

@@ -4,8 +4,8 @@
 #include <array>
 #include <cstdio>
 
+#include "map_geometry/map_geometry.h"
 #include "platform/canvas/region.h"
-#include "radar/map_geometry.h"
 #include "tools/apt/colour_sight.h"
 #include "tools/apt/label_checks.h"
 

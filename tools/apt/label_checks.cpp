@@ -4,7 +4,7 @@
 #include <array>
 #include <optional>
 
-#include "radar/map_geometry.h"
+#include "map_geometry/map_geometry.h"
 #include "tools/apt/scope_measure.h"
 
 namespace ventrel::apt {

@@ -5,7 +5,7 @@
 #include <cstddef>
 #include <span>
 
-#include "radar/radar_layout.h"
+#include "console/radar_layout.h"
 #include "sim/vor.h"
 #include "tools/apt/faults.h"
 

@@ -2,7 +2,7 @@
 
 #include "base/whole_file.h"
 #include "base/windows1252.h"
-#include "platform/canvas/jpeg_writer.h"
+#include "platform/images/jpeg_writer.h"
 #include "tools/apt/airspace_checks.h"
 #include "tools/apt/airspace_writer.h"
 #include "tools/apt/files.h"

@@ -4,7 +4,8 @@
 
 #include <span>
 
-#include "radar/radar_layout.h"
+#include "console/radar_layout.h"
+#include "sim/grid.h"
 
 namespace ventrel::apt {
 

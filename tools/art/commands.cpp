@@ -7,9 +7,9 @@
 
 #include "base/whole_file.h"
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/image.h"
-#include "platform/canvas/jpeg_writer.h"
-#include "platform/canvas/png_writer.h"
+#include "platform/images/image.h"
+#include "platform/images/jpeg_writer.h"
+#include "platform/images/png_writer.h"
 #include "tools/art/about_art.h"
 #include "tools/art/award_art.h"
 #include "tools/art/cloud_art.h"

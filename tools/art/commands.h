@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "platform/canvas/png_writer.h"
+#include "platform/images/png_writer.h"
 
 namespace ventrel::art {
 

@@ -1,6 +1,6 @@
 #include <array>
 
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 #include "tools/gallery/exhibits.h"
 
 namespace ventrel {

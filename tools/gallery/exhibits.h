@@ -3,7 +3,7 @@
 #pragma once
 
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/font.h"
+#include "platform/text/font.h"
 
 namespace ventrel {
 

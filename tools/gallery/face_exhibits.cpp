@@ -1,7 +1,7 @@
 #include <array>
 #include <string>
 
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 #include "tools/gallery/exhibits.h"
 
 namespace ventrel {

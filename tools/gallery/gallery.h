@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "platform/canvas/font.h"
 #include "platform/desktop/desktop.h"
+#include "platform/text/font.h"
 #include "platform/widgets/dialog.h"
 #include "platform/widgets/menu.h"
 #include "platform/widgets/message_box.h"

@@ -8,8 +8,8 @@
 #include <string>
 
 #include "base/windows1252.h"
-#include "platform/canvas/png_writer.h"
 #include "platform/headless/script.h"
+#include "platform/images/png_writer.h"
 #include "platform/sdl/sdl_backend.h"
 #include "tools/gallery/gallery.h"
 

@@ -1,9 +1,9 @@
 #include "tools/sim/log_writer.h"
 
 #include "base/windows1252.h"
-#include "replay/shift_words.h"
 #include "sim/reports.h"
 #include "sim/shift_texts.h"
+#include "story/shift_words.h"
 
 namespace ventrel {
 

@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "platform/devices/sequencer.h"
-#include "platform/sound/mixer.h"
+#include "platform/mixer/mixer.h"
 
 namespace ventrel {
 

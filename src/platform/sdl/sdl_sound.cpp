@@ -9,9 +9,9 @@
 #include <thread>
 #include <utility>
 
+#include "platform/mixer/dropout_meter.h"
+#include "platform/mixer/mixer.h"
 #include "platform/sdl/fluid_sequencer.h"
-#include "platform/sound/dropout_meter.h"
-#include "platform/sound/mixer.h"
 
 namespace ventrel {
 

@@ -6,8 +6,8 @@
 
 #include "base/failure.h"
 #include "platform/canvas/canvas.h"
-#include "platform/canvas/font.h"
-#include "platform/canvas/text.h"
+#include "platform/text/font.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "../../base/temp_folder.h"
-#include "platform/canvas/png_writer.h"
+#include "platform/images/png_writer.h"
 
 namespace ventrel {
 namespace {

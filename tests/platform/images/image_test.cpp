@@ -1,5 +1,5 @@
-#include "platform/canvas/image.h"
-#include "platform/canvas/jpeg_writer.h"
+#include "platform/images/image.h"
+#include "platform/images/jpeg_writer.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <filesystem>
 
 #include "base/whole_file.h"
-#include "platform/canvas/png_writer.h"
+#include "platform/images/png_writer.h"
 #include "png_parts.h"
 
 namespace ventrel {

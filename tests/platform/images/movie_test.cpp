@@ -1,6 +1,6 @@
 // Movie files: what is read of good ones, and that no damaged one is taken for good or read beyond its end.
 
-#include "platform/canvas/movie_file.h"
+#include "platform/images/movie_file.h"
 
 #include <algorithm>
 #include <fstream>
@@ -9,7 +9,7 @@
 #include <gtest/gtest.h>
 
 #include "images/movie_parts.h"
-#include "platform/canvas/image.h"
+#include "platform/images/image.h"
 
 namespace ventrel {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
-#include "platform/canvas/image.h"
-#include "platform/canvas/png_writer.h"
+#include "platform/images/image.h"
+#include "platform/images/png_writer.h"
 #include "png_parts.h"
 
 namespace ventrel {

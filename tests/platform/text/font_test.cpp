@@ -1,4 +1,4 @@
-#include "platform/canvas/font.h"
+#include "platform/text/font.h"
 
 #include <gtest/gtest.h>
 
@@ -8,7 +8,7 @@
 #include <set>
 
 #include "../../base/temp_folder.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 namespace {

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "../canvas/drawn.h"
-#include "platform/canvas/text.h"
+#include "platform/text/text.h"
 
 namespace ventrel {
 namespace {
