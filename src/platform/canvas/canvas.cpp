@@ -9,15 +9,23 @@ namespace ventrel {
 
 namespace {
 
-/// `coverage` of 255 parts of the one channel over the rest of the other.
-constexpr Pixel mixChannel(Pixel below, Pixel above, Pixel coverage, unsigned shift) {
-    const Pixel sum = (below >> shift & 0xFFU) * (255 - coverage) + (above >> shift & 0xFFU) * coverage;
-    return (sum + 127) / 255 << shift;
+// Two channels of a pixel with room for 16 bits each: blue and red, or green alone.
+constexpr Pixel channelBits = 8;
+constexpr Pixel outerChannels = 0xFF00FF;
+constexpr Pixel half = 0x7F007F;
+constexpr Pixel one = 0x10001;
+
+/// `coverage` of 255 parts of the one over the rest of the other, channel by channel, rounded.
+constexpr Pixel mixChannels(Pixel below, Pixel above, Pixel coverage) {
+    const Pixel sum = below * (255 - coverage) + above * coverage + half;
+    // A 255th, exactly: n / 255 is (n + 1 + n / 256) / 256 for what two bytes multiply to.
+    return (sum + one + (sum >> channelBits & outerChannels)) >> channelBits & outerChannels;
 }
 
 constexpr Pixel mix(Pixel below, Pixel above, std::uint8_t coverage) {
-    return mixChannel(below, above, coverage, 0) | mixChannel(below, above, coverage, 8) |
-           mixChannel(below, above, coverage, 16);
+    const Pixel outer = mixChannels(below & outerChannels, above & outerChannels, coverage);
+    const Pixel green = mixChannels(below >> channelBits & 0xFFU, above >> channelBits & 0xFFU, coverage);
+    return outer | green << channelBits;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "platform/desktop/screen_picture.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace ventrel {
 
@@ -57,16 +58,29 @@ TopLevels showingIn(const DesktopState& state, const Rect& part) {
     return all.subspan(first);
 }
 
-/// Adds what differs of a row that was `before`.
-void addDifference(Damage& changed, const RowPart& row, std::span<const Pixel> before,
-                   std::span<const Pixel> after) {
+/// From the first to the last pixel that differs of a row that was `before`; none where all are the same.
+std::optional<RowPart> difference(const RowPart& row, std::span<const Pixel> before,
+                                  std::span<const Pixel> after) {
     if (std::ranges::equal(before, after)) {
-        return;
+        return std::nullopt;
     }
     const auto first = std::ranges::mismatch(before, after).in1;
-    const auto differs = std::mismatch(before.rbegin(), before.rend(), after.rbegin());
-    changed.addRun(row.y, row.left + static_cast<int>(first - before.begin()),
-                   row.right - static_cast<int>(differs.first - before.rbegin()));
+    const auto last = std::mismatch(before.rbegin(), before.rend(), after.rbegin()).first;
+    return RowPart{row.y, row.left + static_cast<int>(first - before.begin()),
+                   row.right - static_cast<int>(last - before.rbegin())};
+}
+
+/// Where one top-level alone shows: copies what looks different, and adds it.
+void copyPart(Bitmap& screen, const WindowRecord& topLevel, const Rect& part, Damage& changed) {
+    for (int y = part.top; y < part.bottom; ++y) {
+        const RowPart row{y, part.left, part.right};
+        const Point corner = topLevel.bounds.topLeft();
+        const RowPart inWindow{y - corner.y, part.left - corner.x, part.right - corner.x};
+        if (const auto differs = difference(row, row.of(screen), inWindow.of(topLevel.surface->picture))) {
+            layRow(screen, topLevel, *differs);
+            changed.addRun(y, differs->left, differs->right);
+        }
+    }
 }
 
 /// Lays the part of the screen anew, and adds what of it looks different now.
@@ -74,6 +88,13 @@ void layPart(DesktopState& state, const Rect& part, Damage& changed) {
     const TopLevels showing = showingIn(state, part);
     const bool isCovered =
         !showing.empty() && showing.front()->visible && showing.front()->bounds.contains(part);
+    const auto isInTheWay = [&](const WindowPtr& above) {
+        return above->visible && !above->bounds.intersectedWith(part).isEmpty();
+    };
+    if (isCovered && std::ranges::none_of(showing.subspan(1), isInTheWay)) {
+        copyPart(state.picture, *showing.front(), part, changed);
+        return;
+    }
     std::vector<Pixel> before;
     for (int y = part.top; y < part.bottom; ++y) {
         const RowPart row{y, part.left, part.right};
@@ -87,7 +108,9 @@ void layPart(DesktopState& state, const Rect& part, Damage& changed) {
                 layRow(state.picture, *topLevel, row);
             }
         }
-        addDifference(changed, row, before, shown);
+        if (const auto differs = difference(row, before, shown)) {
+            changed.addRun(y, differs->left, differs->right);
+        }
     }
 }
 
