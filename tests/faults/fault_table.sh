@@ -49,7 +49,7 @@ mkdir "$work/home"
 for tool in fault_rows write_file; do
     cp "$(dirname "$program")/../tests/$tool" "$work/"
 done
-cp "$(dirname "${BASH_SOURCE[0]}")/../window/known_leaks.txt" "$(dirname "${BASH_SOURCE[0]}")/../program/kill_while_writing.sh" "$work/"
+cp "$(dirname "${BASH_SOURCE[0]}")/../known_leaks.txt" "$(dirname "${BASH_SOURCE[0]}")/../program/kill_while_writing.sh" "$work/"
 export LSAN_OPTIONS=suppressions=$work/known_leaks.txt:print_suppressions=0
 export HOME=$work/home TMPDIR=$work SDL_AUDIODRIVER=dummy
 unset XDG_DATA_HOME XDG_CONFIG_HOME XDG_RUNTIME_DIR WAYLAND_DISPLAY SDL_VIDEODRIVER

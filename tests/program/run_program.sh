@@ -23,7 +23,7 @@ cleanup() {
 trap cleanup EXIT
 
 export HOME=$work/home SDL_VIDEODRIVER=dummy SDL_AUDIODRIVER=dummy
-LSAN_OPTIONS=suppressions=$(dirname "${BASH_SOURCE[0]}")/../window/known_leaks.txt:print_suppressions=0
+LSAN_OPTIONS=suppressions=$(dirname "${BASH_SOURCE[0]}")/../known_leaks.txt:print_suppressions=0
 export LSAN_OPTIONS
 unset XDG_DATA_HOME XDG_RUNTIME_DIR
 mkdir "$HOME" "$work/game"

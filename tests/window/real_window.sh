@@ -61,7 +61,7 @@ open_display() {
     until_true "a display" test -s "$work/display"
     DISPLAY=:$(cat "$work/display")
     export DISPLAY SDL_VIDEODRIVER=x11 SDL_AUDIODRIVER=dummy
-    LSAN_OPTIONS=suppressions=$(dirname "${BASH_SOURCE[0]}")/known_leaks.txt:print_suppressions=0
+    LSAN_OPTIONS=suppressions=$(dirname "${BASH_SOURCE[0]}")/../known_leaks.txt:print_suppressions=0
     export LSAN_OPTIONS
     openbox >"$work/manager" 2>&1 &
     jobs_to_end+=($!)
