@@ -2,22 +2,9 @@
 
 #pragma once
 
-#include <functional>
-
-#include "shell/program.h"
-#include "tests/soak/chance.h"
-#include "tests/soak/hand.h"
-#include "tests/soak/machine.h"
+#include "tests/soak/aim.h"
 
 namespace ventrel {
-
-/// What a gesture sees and may touch.
-struct Scene {
-    Program& program;
-    SoakMachine& machine;
-    Hand& hand;
-    Chance& chance;
-};
 
 /// Where the monkey stands: before the console, with or without a game that runs; before anything else (a
 /// dialog, a box, the opening, a film); or the program's window is behind others, where no key reaches it.
