@@ -12,30 +12,12 @@ namespace ventrel {
 
 namespace {
 
-/// The causes as a table of them is headed.
-struct CauseName {
-    ScoreCause cause;
-    std::string_view name;
-};
-
-constexpr std::array causeNames{std::to_array<CauseName>({
-    {ScoreCause::landing, "Landings"},
-    {ScoreCause::exit, "Exits"},
-    {ScoreCause::bonus, "Bonus"},
-    {ScoreCause::nearMiss, "Near misses"},
-    {ScoreCause::lost, "Flights lost"},
-    {ScoreCause::missedApproach, "Missed approaches"},
-    {ScoreCause::missedExit, "Missed exits"},
-    {ScoreCause::keptWaiting, "Departures kept waiting"},
-    {ScoreCause::order, "Orders beyond the free ones"},
-})};
-
 constexpr std::string_view sparedName = "Spared: never below 0";
 
-CauseRow rowFor(const ShiftStory& story, const CauseName& name) {
-    CauseRow row{.cause = name.name};
+CauseRow rowFor(const ShiftStory& story, const CauseWords& words) {
+    CauseRow row{.cause = words.heading};
     for (const PointsChange& change : story.changes) {
-        if (change.change.cause == name.cause && change.change.delta != 0) {
+        if (change.change.cause == words.cause && change.change.delta != 0) {
             ++row.count;
             row.points += change.change.delta;
         }
@@ -98,9 +80,9 @@ std::string_view skillName(Skill skill) {
 
 std::vector<CauseRow> pointsByCause(const ShiftStory& story) {
     std::vector<CauseRow> rows;
-    rows.reserve(causeNames.size() + 1);
-    for (const CauseName& name : causeNames) {
-        rows.push_back(rowFor(story, name));
+    rows.reserve(causeWords.size() + 1);
+    for (const CauseWords& words : causeWords) {
+        rows.push_back(rowFor(story, words));
     }
     rows.push_back(sparedPoints(story));
     std::erase_if(rows, [](const CauseRow& row) { return row.count == 0; });

@@ -1,5 +1,6 @@
 #include "story/shift_words.h"
 
+#include <algorithm>
 #include <array>
 
 #include "base/format.h"
@@ -14,31 +15,9 @@ constexpr std::size_t kindWidth = 7;
 
 constexpr std::array<std::string_view, 4> lampTexts{"green on", "yellow on", "red on", "off"};
 
-struct CauseText {
-    ScoreCause cause;
-    std::string_view text;
-};
-
-constexpr std::array causeTexts{std::to_array<CauseText>({
-    {ScoreCause::landing, "landed"},
-    {ScoreCause::exit, "left over its exit"},
-    {ScoreCause::missedApproach, "missed approach"},
-    {ScoreCause::missedExit, "missed its exit"},
-    {ScoreCause::lost, "lost"},
-    {ScoreCause::nearMiss, "near miss"},
-    {ScoreCause::keptWaiting, "kept waiting"},
-    {ScoreCause::order, "order beyond the free ones"},
-    {ScoreCause::bonus, "bonus"},
-})};
-
-/// Why points came or went.
-std::string_view causeWords(ScoreCause cause) {
-    for (const CauseText& row : causeTexts) {
-        if (row.cause == cause) {
-            return row.text;
-        }
-    }
-    return {};
+std::string_view whyWords(ScoreCause cause) {
+    const auto row = std::ranges::find(causeWords, cause, &CauseWords::cause);
+    return row == causeWords.end() ? std::string_view{} : row->why;
 }
 
 } // namespace
@@ -79,7 +58,7 @@ std::string_view lampWords(LampLevel lit) {
 
 std::string scoreWords(const ScoreChange& change) {
     return FormatText(change.delta < 0 ? "%d, now %d (%s)" : "+%d, now %d (%s)",
-                      {long{change.delta}, long{change.score}, causeWords(change.cause)});
+                      {long{change.delta}, long{change.score}, whyWords(change.cause)});
 }
 
 std::string withCallsign(std::string scoreWords, std::string_view callsign) {

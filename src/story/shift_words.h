@@ -4,12 +4,32 @@
 
 #pragma once
 
+#include <array>
 #include <string>
 #include <string_view>
 
 #include "sim/game.h"
 
 namespace ventrel {
+
+/// Why points came or went: as a change of the score says it, and as a table of the causes is headed.
+struct CauseWords {
+    ScoreCause cause;
+    std::string_view why;
+    std::string_view heading;
+};
+/// In the order of such a table.
+inline constexpr std::array causeWords{std::to_array<CauseWords>({
+    {ScoreCause::landing, "landed", "Landings"},
+    {ScoreCause::exit, "left over its exit", "Exits"},
+    {ScoreCause::bonus, "bonus", "Bonus"},
+    {ScoreCause::nearMiss, "near miss", "Near misses"},
+    {ScoreCause::lost, "lost", "Flights lost"},
+    {ScoreCause::missedApproach, "missed approach", "Missed approaches"},
+    {ScoreCause::missedExit, "missed its exit", "Missed exits"},
+    {ScoreCause::keptWaiting, "kept waiting", "Departures kept waiting"},
+    {ScoreCause::order, "order beyond the free ones", "Orders beyond the free ones"},
+})};
 
 /// The shift that has just been set up: where, how many flights, how long, and what it is worth.
 std::string setUpWords(const Game& game);

@@ -12,14 +12,14 @@ namespace {
 // Two channels of a pixel with room for 16 bits each: blue and red, or green alone.
 constexpr Pixel channelBits = 8;
 constexpr Pixel outerChannels = 0xFF00FF;
-constexpr Pixel half = 0x7F007F;
-constexpr Pixel one = 0x10001;
+constexpr Pixel oneEach = 0x10001;
+constexpr Pixel halfEach = 127 * oneEach; // of the 255 parts, so that the result is rounded
 
 /// `coverage` of 255 parts of the one over the rest of the other, channel by channel, rounded.
 constexpr Pixel mixChannels(Pixel below, Pixel above, Pixel coverage) {
-    const Pixel sum = below * (255 - coverage) + above * coverage + half;
+    const Pixel sum = below * (255 - coverage) + above * coverage + halfEach;
     // A 255th, exactly: n / 255 is (n + 1 + n / 256) / 256 for what two bytes multiply to.
-    return (sum + one + (sum >> channelBits & outerChannels)) >> channelBits & outerChannels;
+    return (sum + oneEach + (sum >> channelBits & outerChannels)) >> channelBits & outerChannels;
 }
 
 constexpr Pixel mix(Pixel below, Pixel above, std::uint8_t coverage) {

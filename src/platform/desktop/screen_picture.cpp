@@ -31,6 +31,8 @@ struct RowPart {
     std::span<Pixel> of(Bitmap& picture) const {
         return picture.row(y).subspan(static_cast<std::size_t>(left), static_cast<std::size_t>(right - left));
     }
+    /// The same part, in the picture of a window that lies with its corner there on the screen.
+    RowPart within(Point corner) const { return {y - corner.y, left - corner.x, right - corner.x}; }
 };
 
 void layRow(Bitmap& screen, const WindowRecord& topLevel, const RowPart& row) {
@@ -39,7 +41,7 @@ void layRow(Bitmap& screen, const WindowRecord& topLevel, const RowPart& row) {
     if (row.y < bounds.top || row.y >= bounds.bottom || covered.left >= covered.right) {
         return;
     }
-    const RowPart inWindow{row.y - bounds.top, covered.left - bounds.left, covered.right - bounds.left};
+    const RowPart inWindow = covered.within(bounds.topLeft());
     std::ranges::copy(inWindow.of(topLevel.surface->picture), covered.of(screen).begin());
 }
 
@@ -74,8 +76,7 @@ std::optional<RowPart> difference(const RowPart& row, std::span<const Pixel> bef
 void copyPart(Bitmap& screen, const WindowRecord& topLevel, const Rect& part, Damage& changed) {
     for (int y = part.top; y < part.bottom; ++y) {
         const RowPart row{y, part.left, part.right};
-        const Point corner = topLevel.bounds.topLeft();
-        const RowPart inWindow{y - corner.y, part.left - corner.x, part.right - corner.x};
+        const RowPart inWindow = row.within(topLevel.bounds.topLeft());
         if (const auto differs = difference(row, row.of(screen), inWindow.of(topLevel.surface->picture))) {
             layRow(screen, topLevel, *differs);
             changed.addRun(y, differs->left, differs->right);
@@ -89,7 +90,7 @@ void layPart(DesktopState& state, const Rect& part, Damage& changed) {
     const bool isCovered =
         !showing.empty() && showing.front()->visible && showing.front()->bounds.contains(part);
     const auto isInTheWay = [&](const WindowPtr& above) {
-        return above->visible && !above->bounds.intersectedWith(part).isEmpty();
+        return above->visible && above->bounds.intersects(part);
     };
     if (isCovered && std::ranges::none_of(showing.subspan(1), isInTheWay)) {
         copyPart(state.picture, *showing.front(), part, changed);
