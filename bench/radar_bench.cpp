@@ -195,7 +195,7 @@ void SweepStep(benchmark::State& state) {
                       static_cast<int>(std::max<std::int64_t>(state.range(0) - 686, 0))};
     for (auto _ : state) {
         play.radar.sweep.end = start;
-        play.backend.wait(sweepStepInterval + 1);
+        play.backend.wait(sweepStepTime);
         RadarTick(play.radar);
         play.desktop.pumpMessages();
     }

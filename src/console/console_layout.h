@@ -27,7 +27,7 @@ struct TopBarLayout {
     std::array<Rect, 3> lamps; ///< green, yellow, red
     Rect lampGlass;            ///< what shows of a lamp's picture, an ellipse in the lamp's own pixels
     Rect ticker;
-    int tickerStep; ///< milliseconds of real time that must be exceeded for one pixel
+    int tickerStep; ///< milliseconds of real time for one pixel
 };
 
 /// The flight strips and what stands beside them.
@@ -124,7 +124,7 @@ constexpr ConsoleLayout consoleOf(const ConsoleSizes& sizes, const RadarLayout& 
 
 inline constexpr ConsoleLayout smallConsole = consoleOf({.window = smallWindow,
                                                          .tickerWidth = 340,
-                                                         .tickerStep = 13,
+                                                         .tickerStep = 14,
                                                          .captionsLeft = 443,
                                                          .strips = 10,
                                                          .stripColumnHeight = 371,
@@ -132,7 +132,7 @@ inline constexpr ConsoleLayout smallConsole = consoleOf({.window = smallWindow,
                                                         smallRadarLayout);
 inline constexpr ConsoleLayout largeConsole = consoleOf({.window = largeWindow,
                                                          .tickerWidth = 562,
-                                                         .tickerStep = 10,
+                                                         .tickerStep = 11,
                                                          .captionsLeft = 490,
                                                          .strips = 14,
                                                          .stripColumnHeight = 541,

@@ -1,5 +1,7 @@
 #include "controls/scroller.h"
 
+#include <algorithm>
+
 #include "console/console_layout.h"
 #include "platform/text/text.h"
 
@@ -27,12 +29,25 @@ void makeLinePicture(Scroller& scroller) {
     drawText(canvas, font, {0, 0}, slot.text, {messageColour(slot.messageClass, signals), tickerGround});
 }
 
+/// Moves it as far as it is due, and tells of what came last.
+ScrollerTickResult moveLine(Scroller& scroller, Millis now) {
+    ScrollerTickResult result;
+    do {
+        result =
+            tickScroller(scroller.state, scroller.sources.queue, now, scroller.sources.desktop.frameTime());
+        if (result.step == ScrollerStep::moved) {
+            scroller.window.canvas().draw({result.drawAt, lineTop}, scroller.line);
+        }
+    } while (result.step == ScrollerStep::moved && !result.done);
+    return result;
+}
+
 } // namespace
 
 void ScrollerCreate(Scroller& scroller, const Window& parent, int mainWindowWidth) {
     const TopBarLayout& places = consoleLayoutFor(mainWindowWidth).topBar;
     scroller.state.stripWidth = places.ticker.width();
-    scroller.state.stepLength = places.tickerStep;
+    scroller.state.stepTime = places.tickerStep;
     WindowHandlers handlers;
     handlers.cursor = [&scroller](Point) { return std::optional<Cursor>(&scroller.sources.arrow); };
     scroller.window = scroller.sources.desktop.create({.parent = parent,
@@ -47,17 +62,18 @@ bool ScrollerPost(Scroller& scroller, std::string_view text, MessageClass messag
 }
 
 std::optional<Millis> ScrollerTick(Scroller& scroller) {
-    const Millis now = scroller.sources.desktop.now();
-    const ScrollerTickResult result = tickScroller(scroller.state, scroller.sources.queue, now);
+    const Desktop& desktop = scroller.sources.desktop;
+    const Millis now = desktop.now();
+    const ScrollerTickResult result = moveLine(scroller, now);
     switch (result.step) {
     case ScrollerStep::idle: return std::nullopt;
     case ScrollerStep::emptied: scroller.gameOverShown(); return std::nullopt;
     case ScrollerStep::started: makeLinePicture(scroller); break;
-    case ScrollerStep::moved: scroller.window.canvas().draw({result.drawAt, lineTop}, scroller.line); break;
+    case ScrollerStep::moved:
     case ScrollerStep::waiting: break;
     }
-    const Millis nextStep = scroller.state.lastStep + scroller.state.stepLength + 1;
-    return result.done ? now : nextStep;
+    const Millis nextStep = scroller.state.lastStep + scroller.state.stepTime;
+    return result.done ? now : std::max(nextStep, desktop.nextPicture());
 }
 
 void ScrollerClear(Scroller& scroller) {

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "platform/devices/deadline.h"
+
 namespace ventrel {
 
 namespace {
@@ -21,14 +23,13 @@ ScrollerTickResult startNextLine(ScrollerState& scroller, MessageQueue& queue, M
 
 } // namespace
 
-ScrollerTickResult tickScroller(ScrollerState& scroller, MessageQueue& queue, Millis now) {
+ScrollerTickResult tickScroller(ScrollerState& scroller, MessageQueue& queue, Millis now, Millis frameTime) {
     if (!scroller.busy) {
         return queue.idle ? ScrollerTickResult{} : startNextLine(scroller, queue, now);
     }
-    if (now <= scroller.lastStep + scroller.stepLength) {
+    if (!takeStep(scroller.lastStep, scroller.stepTime, now, frameTime)) {
         return {ScrollerStep::waiting};
     }
-    scroller.lastStep = now;
     ScrollerTickResult result{ScrollerStep::moved, scroller.x};
     --scroller.x;
     const bool isVisible = scroller.lineWidth + scroller.x + 1 > 0;

@@ -17,7 +17,7 @@ struct ScrollerState {
     int x = 0;         ///< its left edge in the strip
     int lineWidth = 0; ///< pixels; set by whoever draws the line when it has started
     Millis lastStep = 0;
-    Millis stepLength = 0; ///< real time that must be exceeded for one pixel
+    Millis stepTime = 0;   ///< real time for one pixel
     int stripWidth = 0;    ///< pixels of the window
     /// Told once when the queue has run empty.
     bool postGameOver = false;
@@ -38,7 +38,8 @@ struct ScrollerTickResult {
     bool done = false; ///< the line has left the strip and its slot is free
 };
 
-ScrollerTickResult tickScroller(ScrollerState& scroller, MessageQueue& queue, Millis now);
+/// Asked again after a move, it tells of the next that is due (see takeStep).
+ScrollerTickResult tickScroller(ScrollerState& scroller, MessageQueue& queue, Millis now, Millis frameTime);
 
 /// Drops every line, the one under way included.
 void clearScroller(ScrollerState& scroller, MessageQueue& queue);

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "platform/devices/deadline.h"
 #include "platform/images/image.h"
 #include "radar/flight_marks.h"
 #include "radar/map_drawing.h"
@@ -12,7 +13,6 @@ namespace ventrel {
 namespace {
 
 constexpr ClockSeconds repaintInterval = 5_s;
-constexpr ClockSeconds scoreReportInterval = 900_s;
 
 constexpr Colour ringColour = Colour::rgb(0xFF, 0, 0);
 constexpr int ringPen = 2;
@@ -40,20 +40,25 @@ bool isSweeping(const RadarWindow& radar) {
     return radar.sources.options.radarSweep != 0 && radar.sources.game.isRunning();
 }
 
-bool isSweepDue(const RadarWindow& radar) {
-    return isSweepDue(radar.sweep, radar.desktop.now());
-}
-
-void moveSweep(RadarWindow& radar) {
+/// Whether its time had come.
+bool moveSweep(RadarWindow& radar) {
+    const Millis now = radar.desktop.now();
+    const Millis frameTime = radar.desktop.frameTime();
+    int steps = 0;
+    while (takeStep(radar.sweep.lastStep, sweepStepTime, now, frameTime)) {
+        ++steps;
+    }
+    if (steps == 0) {
+        return false;
+    }
     Canvas screen = radar.window.canvas();
-    stepSweep(radar.sweep, screen, radar.layout, radar.scope, radar.desktop.now());
+    stepSweep(radar.sweep, screen, radar.layout, radar.scope, steps);
+    return true;
 }
 
 /// After a frame the line moves on only when its time has come, but it is never missing.
 void bringSweepBack(RadarWindow& radar) {
-    if (isSweepDue(radar)) {
-        moveSweep(radar);
-    } else {
+    if (!moveSweep(radar)) {
         Canvas screen = radar.window.canvas();
         showSweep(radar.sweep, screen, radar.layout, radar.scope);
     }
@@ -167,14 +172,17 @@ std::optional<Millis> RadarTick(RadarWindow& radar) {
     if (!radar.window.isVisible()) {
         return std::nullopt;
     }
-    if (isSweeping(radar) && isSweepDue(radar)) {
+    if (isSweeping(radar)) {
         moveSweep(radar);
     }
     const ClockSeconds now = radar.sources.game.clock;
     if (now != radar.lastClockSeen) {
         followClock(radar, now);
     }
-    return isSweeping(radar) ? std::optional(radar.sweep.lastStep + sweepStepInterval + 1) : std::nullopt;
+    if (!isSweeping(radar)) {
+        return std::nullopt;
+    }
+    return std::max(radar.sweep.lastStep + sweepStepTime, radar.desktop.nextPicture());
 }
 
 bool RadarSelectAt(RadarWindow& radar, Point point) {

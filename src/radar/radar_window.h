@@ -27,6 +27,9 @@ namespace ventrel {
 inline constexpr int radarWindowId = 511;
 inline constexpr int cloudPictureCount = 16;
 
+/// How often the score is reported.
+inline constexpr ClockSeconds scoreReportInterval = 900_s;
+
 /// What the radar asks of the rest of the program.
 struct RadarCallbacks {
     std::function<bool()> isPaused;

@@ -6,7 +6,7 @@ namespace ventrel {
 
 namespace {
 
-constexpr int advancesAfterFrame = 10; // pixels of one step
+constexpr int advancesAfterFrame = 10; // pixels of the first step
 
 } // namespace
 
@@ -38,14 +38,9 @@ Region sweepLine(Point end, const RadarLayout& layout, const Region& scope) {
     return Region::polygon(wedge).intersectedWith(scope);
 }
 
-bool isSweepDue(const Sweep& sweep, Millis now) {
-    return now > sweep.lastStep + sweepStepInterval;
-}
-
-void stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now) {
-    sweep.lastStep = now;
+void stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, int steps) {
     screen.invert(sweep.drawn);
-    const int advances = sweep.wasPaintedOver ? advancesAfterFrame : 1;
+    const int advances = steps - 1 + (sweep.wasPaintedOver ? advancesAfterFrame : 1);
     sweep.wasPaintedOver = false;
     for (int i = 0; i < advances; ++i) {
         SweepAdvance(sweep, layout.scopeSize);

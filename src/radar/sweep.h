@@ -20,8 +20,8 @@ struct Sweep {
     Millis lastStep = 0;
 };
 
-/// Real time that must be exceeded between two steps.
-inline constexpr Millis sweepStepInterval = 5;
+/// Real time from one step to the next.
+inline constexpr Millis sweepStepTime = 6;
 
 /// Moves the end one pixel on.
 void SweepAdvance(Sweep& sweep, int scopeSize);
@@ -29,12 +29,9 @@ void SweepAdvance(Sweep& sweep, int scopeSize);
 /// The pixels of the line within the round scope.
 Region sweepLine(Point end, const RadarLayout& layout, const Region& scope);
 
-/// Whether the next step's time has come.
-bool isSweepDue(const Sweep& sweep, Millis now);
-
-/// One step on the screen: erases the line where it stands and draws it one pixel on, or ten pixels on after
-/// a frame.
-void stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, Millis now);
+/// That many steps on the screen, at least 1: erases the line where it stands and draws it so many pixels
+/// on, and nine more after a frame.
+void stepSweep(Sweep& sweep, Canvas& screen, const RadarLayout& layout, const Region& scope, int steps);
 
 /// A frame covers all of the screen's scope: no line is there any more.
 void coverSweep(Sweep& sweep);

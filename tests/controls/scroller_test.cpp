@@ -98,6 +98,22 @@ TEST(ScrollerTest, ALateTickMovesOnePixelAndTheNextLineStartsAtOnce) {
     EXPECT_EQ(ScrollerTick(stage.scroller), stage.backend.now());
 }
 
+TEST(ScrollerTest, KeepsItsPaceAndLeavesNoTrailWhereAPictureOfTheScreenTakesLonger) {
+    ScrollerStage stage;
+    stage.backend.setFrameTime(40);
+    stage.post("Welcome Pat");
+    const Millis start = stage.backend.now();
+    int awakenings = 0;
+    for (auto next = ScrollerTick(stage.scroller); next; next = ScrollerTick(stage.scroller)) {
+        stage.backend.wait(*next - stage.backend.now());
+        ++awakenings;
+    }
+    const Millis needed = Millis{14} * (340 + stage.scroller.state.lineWidth + 1);
+    EXPECT_NEAR(static_cast<double>(stage.backend.now() - start), static_cast<double>(needed), 40);
+    EXPECT_LE(awakenings, needed / 40 + 3);
+    EXPECT_EQ(stage.inked(), 0) << "the line takes all its pixels along";
+}
+
 TEST(ScrollerTest, ClearingBlanksTheStripAndDropsWhatWaits) {
     ScrollerStage stage;
     stage.post("one");

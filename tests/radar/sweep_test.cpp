@@ -92,6 +92,29 @@ TEST(SweepTest, StepsOnePixelEverySixMillisecondsAndTenAfterAFrame) {
     EXPECT_EQ(tickAfter(100), start + 13) << "a late step makes up for nothing";
 }
 
+TEST(SweepTest, KeepsItsPaceWhereAPictureOfTheScreenTakesLonger) {
+    SweepStage stage;
+    stage.backend.setFrameTime(16);
+    stage.frame();
+    stage.backend.wait(6);
+    RadarTick(stage.radar);
+    const int start = stage.radar.sweep.end.x;
+    const Millis began = stage.backend.now();
+    int awakenings = 0;
+    while (stage.backend.now() < began + 300) {
+        const Millis next = RadarTick(stage.radar).value();
+        stage.backend.wait(next - stage.backend.now());
+        ++awakenings;
+    }
+    RadarTick(stage.radar);
+    EXPECT_NEAR(stage.radar.sweep.end.x, start + static_cast<int>(stage.backend.now() - began) / 6, 1);
+    EXPECT_LE(awakenings, 20);
+    stage.backend.wait(1000);
+    const int before = stage.radar.sweep.end.x;
+    RadarTick(stage.radar);
+    EXPECT_EQ(stage.radar.sweep.end.x, before + 3) << "no more than a picture's steps are made up for";
+}
+
 TEST(SweepTest, AFrameNeverLosesTheLineAlsoDuringAPause) {
     SweepStage stage;
     stage.frame();

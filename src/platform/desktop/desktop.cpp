@@ -135,6 +135,15 @@ Millis Desktop::now() const {
     return state_->backend.now();
 }
 
+Millis Desktop::frameTime() const {
+    return state_->backend.frameTime();
+}
+
+Millis Desktop::nextPicture() const {
+    const Millis now = state_->backend.now();
+    return state_->nextSending > now ? state_->nextSending : now + frameTime();
+}
+
 void Desktop::setIdle(Idle idle) {
     state_->idle = std::move(idle);
 }

@@ -77,6 +77,11 @@ public:
     /// Milliseconds on the clock that deadlines and timers use.
     Millis now() const;
 
+    /// How long the screen shows one picture, and when it shows the next one after that of this pass: what
+    /// moves sooner is not seen before.
+    Millis frameTime() const;
+    Millis nextPicture() const;
+
     /// The operation that drives what moves by itself. It is called whenever no message waits, outside modal
     /// loops, never from within itself, and returns the moment at which it wants its next call: none when
     /// nothing moves, at the earliest the next millisecond.
