@@ -82,6 +82,12 @@ void StripsRebuild(Strips& strips) {
     showList(strips);
 }
 
+void StripsRepaint(Strips& strips) {
+    if (strips.sources.game.isRunning()) {
+        strips.window.invalidate();
+    }
+}
+
 bool StripsScrollUp(Strips& strips) {
     const bool hasScrolled = scrollStripsUp(strips.list, strips.sources.game);
     showListInGame(strips);

@@ -46,6 +46,9 @@ void StripsReset(Strips& strips);
 /// Lists the flights anew. Nothing but a repaint while no game runs.
 void StripsRebuild(Strips& strips);
 
+/// Shows them anew as they are; nothing while no game runs.
+void StripsRepaint(Strips& strips);
+
 /// Scroll by one flight and rebuild; whether they scrolled.
 bool StripsScrollUp(Strips& strips);
 bool StripsScrollDown(Strips& strips);

@@ -224,6 +224,8 @@ inline constexpr std::array controls{std::to_array<ControlTemplate>({
 
 inline constexpr DialogTemplate shape{.title = "Shift of the Day", .size = {174, 106}, .controls = controls};
 
+inline constexpr std::string_view halfSpeedTitle = "Shift of the Day (Practice at Half Speed)";
+
 } // namespace shift_of_day
 
 namespace day_result {

@@ -44,17 +44,6 @@ bool clearDesk(Shell& shell) {
     return true;
 }
 
-/// Puts away what a game that is over still shows.
-void putLastGameAway(Shell& shell) {
-    if (isShiftEnding(shell)) {
-        if (const auto row = enterFinishedScore(shell)) {
-            ShowHighScores(shell, row);
-        }
-    } else {
-        EndGame(shell); // the rings of a collision may still spread, with all that belongs to its game
-    }
-}
-
 void newGame(Shell& shell) {
     if (!clearDesk(shell)) {
         return;
@@ -82,8 +71,13 @@ void watchShift(Shell& shell) {
 
 void showReplays(Shell& shell) {
     auto replay = runReplayDialog(shell);
-    if (replay && clearDesk(shell)) {
-        watchReplay(shell, std::move(*replay));
+    if (!replay) {
+        return;
+    }
+    if (auto watch = prepareReplay(shell, std::move(*replay)); !watch) {
+        shell.report(watch.error());
+    } else if (clearDesk(shell)) {
+        watchReplay(shell, std::move(*watch));
     }
 }
 
@@ -97,10 +91,15 @@ void takeLesson(Shell& shell) {
 
 void playShiftOfTheDay(Shell& shell) {
     const auto setup = runDayDialog(shell);
-    if (setup && clearDesk(shell)) {
-        putLastGameAway(shell);
-        startDay(shell, *setup);
+    if (!setup || !clearDesk(shell)) {
+        return;
     }
+    if (!isOfToday(shell, *setup)) { // midnight has passed meanwhile
+        playShiftOfTheDay(shell);
+        return;
+    }
+    putLastGameAway(shell);
+    startDay(shell, *setup);
 }
 
 void askToEndGame(Shell& shell) {

@@ -3,7 +3,6 @@
 #include "base/format.h"
 #include "platform/widgets/dialog.h"
 #include "records/airport_catalogue.h"
-#include "records/controller_name.h"
 #include "resources/dialogs.h"
 #include "shell/game_flow.h"
 #include "shell/shift_choice.h"
@@ -50,13 +49,15 @@ std::optional<GameSetup> setUpOfToday(Shell& shell) {
         shell.report(airspace.error());
         return std::nullopt;
     }
-    const std::string name =
-        properName(shell.store.now().text(gameSection, nameKey, "").substr(0, longestControllerName));
     return GameSetup{.skill = day.skill,
-                     .controllerName = name.empty() ? std::string(namelessController) : name,
+                     .controllerName = lastControllerName(shell),
                      .airportName = (*airspace)->name,
                      .airportFile = file,
                      .day = day.date};
+}
+
+bool isOfToday(const Shell& shell, const GameSetup& setup) {
+    return setup.day == today(shell).date;
 }
 
 std::optional<GameSetup> runDayDialog(Shell& shell) {
@@ -72,8 +73,12 @@ std::optional<GameSetup> runDayDialog(Shell& shell) {
         dialog.setText(shift_of_day::level, std::string(skillName(day.skill)));
         dialog.setText(shift_of_day::best, best ? std::to_string(*best) : "no score yet");
     };
+    DialogTemplate shape = shift_of_day::shape;
+    if (shell.isHalfSpeedOn) {
+        shape.title = shift_of_day::halfSpeedTitle;
+    }
     const int result = runDialog(
-        shell.desktop, shell.widgetFonts, shell.mainWindow, shift_of_day::shape,
+        shell.desktop, shell.widgetFonts, shell.mainWindow, shape,
         {.init = open, .command = [](Dialog& dialog, const CommandInput& input) { dialog.end(input.id); }});
     return result == okId ? std::move(setup) : std::nullopt;
 }
@@ -97,6 +102,10 @@ void tellOfTheDay(Shell& shell) {
     }
     const std::string line =
         dayResultText(day, game.airspace->name, game.score, game.possibleScore, isCollision);
+    const auto open = [&line](Dialog& dialog) {
+        dialog.setText(day_result::line, line);
+        dialog.focus(okId);
+    };
     const auto onCommand = [&](Dialog& dialog, const CommandInput& input) {
         if (input.id == day_result::copy) {
             shell.desktop.backend().setClipboard(line);
@@ -106,7 +115,7 @@ void tellOfTheDay(Shell& shell) {
     };
     runDialog(
         shell.desktop, shell.widgetFonts, shell.mainWindow, day_result::shape,
-        {.init = [&line](Dialog& dialog) { dialog.setText(day_result::line, line); }, .command = onCommand});
+        {.init = open, .command = onCommand});
 }
 
 } // namespace ventrel

@@ -13,6 +13,9 @@ std::optional<GameSetup> runDayDialog(Shell& shell);
 /// The set-up of today's; none, after the player was told, without its airspace.
 std::optional<GameSetup> setUpOfToday(Shell& shell);
 
+/// Whether that set-up is still today's.
+bool isOfToday(const Shell& shell, const GameSetup& setup);
+
 /// Begins the shift of that set-up.
 void startDay(Shell& shell, const GameSetup& setup);
 

@@ -1,7 +1,6 @@
 #include "shell/game_flow.h"
 
 #include "console/window_size.h"
-#include "records/controller_name.h"
 #include "records/high_scores.h"
 #include "replay/shift_of_the_day.h"
 #include "shell/day_dialog.h"
@@ -9,6 +8,7 @@
 #include "shell/high_score_dialog.h"
 #include "shell/presentations.h"
 #include "shell/replay_keeping.h"
+#include "shell/shift_choice.h"
 #include "sim/shift_texts.h"
 
 namespace ventrel {
@@ -181,9 +181,7 @@ void startPreparedGame(Shell& shell, const std::function<Game(const ShiftSetup&)
     setup.kind = ShiftKind::practice;
     setup.skill = Skill::custom;
     ShiftSetup wanted = shiftSetup(shell, setup, {});
-    if (wanted.controllerName.empty()) {
-        wanted.controllerName = namelessController;
-    }
+    wanted.controllerName = lastControllerName(shell);
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
     shell.game = make(wanted);
     shell.game.lastStepTime = lastStepTime;
@@ -226,8 +224,21 @@ void EndGame(Shell& shell) {
     showKindOfPlay(shell);
 }
 
+void putLastGameAway(Shell& shell) {
+    const bool isOver = isShiftEnding(shell) || shell.game.phase == Phase::rings;
+    if (!isShiftEnding(shell)) {
+        EndGame(shell); // the rings of a collision may still spread, with all that belongs to its game
+    } else if (const auto row = enterFinishedScore(shell)) {
+        ShowHighScores(shell, row);
+    }
+    if (isOver) {
+        tellOfTheDay(shell);
+    }
+}
+
 void abandonGame(Shell& shell) {
     shell.sounds.stopMusic();
+    shell.day = std::nullopt;
     if (isShiftLeft(shell)) {
         shell.log.replayLeft();
     } else {

@@ -34,6 +34,10 @@ void SetPause(Shell& shell, bool on);
 /// Ends the running game and resets every display. Leaves music, score and pause as they are.
 void EndGame(Shell& shell);
 
+/// Puts away what a game that is over still shows, before another takes its place: its score is entered and
+/// told of if that has not been done.
+void putLastGameAway(Shell& shell);
+
 /// Ends it as the player asked: with the idle music.
 void abandonGame(Shell& shell);
 

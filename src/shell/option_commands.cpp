@@ -105,6 +105,7 @@ void chooseAids(Shell& shell, const Options& chosen) {
     saveOptions(shell);
     rebuildInGame(shell);
     CtrlRepaint(shell.panel);
+    StripsRepaint(shell.strips);
 }
 
 SoundChoices soundChoices(const Options& options) {

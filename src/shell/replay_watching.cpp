@@ -14,6 +14,7 @@
 #include "shell/selection.h"
 #include "shell/shell.h"
 #include "sim/cloud_cover.h"
+#include "sim/shift_texts.h"
 
 namespace ventrel {
 
@@ -25,13 +26,15 @@ constexpr std::string_view jumpText = "Jump...";
 constexpr std::string_view givenUpText = "Here the shift was given up.\n\nScore: %d of %d possible.";
 constexpr std::string_view cutText =
     "Here the program ended, and the replay with it.\n\nScore: %d of %d possible.";
+constexpr std::string_view otherEndText =
+    "Here the replay tells of the end of its shift, which this one has not come to.\n\n"
+    "Score: %d of %d possible.";
+constexpr std::string_view partedText =
+    "From here on this is not the shift that was played.\n\n%s\n\n"
+    "The replay is damaged or has been changed, or another version of the program has made it.";
 
 /// A frame of the radar is painted that often, which moves clouds on.
 constexpr ClockSeconds frameInterval = 5_s;
-
-void report(Shell& shell, const Failure& failure) {
-    shell.report(failure);
-}
 
 Result<AirspacePtr> airspaceOf(const Shell& shell, const ReplayHeader& header) {
     const std::array folders{shell.playersAirports, airportFolder(shell.programFolder)};
@@ -53,26 +56,14 @@ std::vector<std::byte> otherPicture(Shell& shell, const Airspace& airspace) {
 }
 
 /// Sets the game up as it was at the beginning, for this window, with a log of its own.
-Result<> setGameUp(Shell& shell, const Replay& replay, const ReplayWatch& watch) {
-    auto game = replayedGame(replay, watch.airspace);
-    if (!game) {
-        return tl::unexpected(std::move(game.error()));
+void setGameUp(Shell& shell, const ReplayWatch& watch) {
+    const ReplayHeader& header = watch.playback->replay().header;
+    Game game = replayedGame(watch.playback->replay(), watch.airspace).value(); // as it could be prepared
+    if (const ScopeLayout& layout = scopeLayout(shell); layout.windowWidth != header.width) {
+        moveToLayout(game, layout, cloudSizes(shell), watch.otherPicture);
     }
-    if (const ScopeLayout& layout = scopeLayout(shell); layout.windowWidth != replay.header.width) {
-        moveToLayout(*game, layout, cloudSizes(shell), watch.otherPicture);
-    }
-    shell.game = std::move(*game);
-    shell.log.shiftBegun(replay.header.skill, replay.header.seed);
-    return {};
-}
-
-/// Makes way for it, as a new game would.
-void putAside(Shell& shell) {
-    if (isShiftEnding(shell)) {
-        enterFinishedScore(shell);
-    } else {
-        EndGame(shell);
-    }
+    shell.game = std::move(game);
+    shell.log.shiftBegun(header.skill, header.seed);
 }
 
 std::unique_ptr<StandIn> standInFor(const Shell& shell) {
@@ -87,9 +78,25 @@ void letCloudsDrift(Game& game, ClockSeconds from, ClockSeconds to) {
     game.clock = now;
 }
 
+/// Plays all that was there until that time, with the lines that the console itself puts on the ticker.
+void playUntil(Shell& shell, ClockSeconds goal) {
+    const auto post = [&shell](std::string_view words) {
+        shell.log.linePosted(words, MessageClass::information);
+    };
+    Playback& playback = *shell.replayWatch.playback;
+    post(welcomeText(shell.game));
+    for (ClockSeconds told = scoreReportInterval; told <= goal; told += scoreReportInterval) {
+        playback.playUntil(shell.game, told, shell.log);
+        post(scoreSoFarText(shell.game));
+    }
+    playback.playUntil(shell.game, goal, shell.log);
+}
+
 /// Everything on the console tells of another moment.
 void showAnew(Shell& shell) {
     ScrollerClear(shell.scroller);
+    CaptionsClear(shell.captions);
+    shell.radar.aids = {};
     CtrlClearFlight(shell.panel);
     StripsPress(shell, noSlot);
     StripsReset(shell.strips);
@@ -101,16 +108,34 @@ void showAnew(Shell& shell) {
     shell.steered.shown.reset();
 }
 
+std::string_view endTextOf(const Replay& replay) {
+    if (!replay.end) {
+        return cutText;
+    }
+    return replay.end->outcome == ReplayOutcome::givenUp ? givenUpText : otherEndText;
+}
+
 void endHere(Shell& shell) {
     if (!isReplaying(shell) || !shell.game.isRunning()) {
         return;
     }
-    const bool isGivenUp = shell.replayWatch.playback->replay().end.has_value();
     const Game& game = shell.game;
-    const std::string text =
-        FormatText(isGivenUp ? givenUpText : cutText, {long{game.score}, long{game.possibleScore}});
+    const std::string text = FormatText(endTextOf(shell.replayWatch.playback->replay()),
+                                        {long{game.score}, long{game.possibleScore}});
     abandonGame(shell);
     shell.report(text, MessageIcon::information);
+}
+
+/// Tells, once, where the game has parted from the replay.
+void tellOfParting(Shell& shell) {
+    ReplayWatch& watch = shell.replayWatch;
+    const auto& deviation = watch.playback->deviation();
+    if (deviation && !watch.isPartingTold) {
+        watch.isPartingTold = true;
+        shell.mainWindow.post([&shell, text = FormatText(partedText, {std::string_view(deviation->text)})] {
+            shell.report(text, MessageIcon::exclamation);
+        });
+    }
 }
 
 /// "12:30" or "12" as minutes and seconds of the clock; none for anything else.
@@ -151,25 +176,28 @@ bool isShiftLeft(const Shell& shell) {
     return playback.next() != nullptr || !playback.replay().end;
 }
 
-bool watchReplay(Shell& shell, Replay replay) {
+Result<ReplayWatch> prepareReplay(Shell& shell, Replay replay) {
     auto airspace = airspaceOf(shell, replay.header);
     if (!airspace) {
-        report(shell, airspace.error());
-        return false;
+        return tl::unexpected(std::move(airspace.error()));
     }
-    putAside(shell);
-    ReplayWatch watch{.airspace = std::move(*airspace),
-                      .random = shell.game.random,
-                      .lastStepTime = shell.game.lastStepTime};
+    if (auto game = replayedGame(replay, *airspace); !game) {
+        return tl::unexpected(std::move(game.error()));
+    }
+    ReplayWatch watch{.airspace = std::move(*airspace)};
     if (replay.header.width != shell.windowSize().width) {
         watch.otherPicture = otherPicture(shell, *watch.airspace);
     }
-    if (const auto setUp = setGameUp(shell, replay, watch); !setUp) {
-        report(shell, setUp.error());
-        return false;
-    }
-    const std::string begun = localTime(replay.header.begun);
     watch.playback = std::make_shared<Playback>(std::move(replay));
+    return watch;
+}
+
+void watchReplay(Shell& shell, ReplayWatch watch) {
+    putLastGameAway(shell);
+    watch.random = shell.game.random;
+    watch.lastStepTime = shell.game.lastStepTime;
+    const std::string begun = localTime(watch.playback->replay().header.begun);
+    setGameUp(shell, watch);
     shell.replayWatch = std::move(watch);
     shell.shiftKind = ShiftKind::practice;
     showShift(shell);
@@ -177,7 +205,6 @@ bool watchReplay(Shell& shell, Replay replay) {
     beginSteering(shell, standInFor(shell),
                   {.title = std::string(barTitle),
                    .extra = {.text = std::string(jumpText), .command = command::jumpInReplay}});
-    return true;
 }
 
 void jumpInReplay(Shell& shell, ClockSeconds clock) {
@@ -187,12 +214,9 @@ void jumpInReplay(Shell& shell, ClockSeconds clock) {
     ReplayWatch& watch = shell.replayWatch;
     Replay replay = watch.playback->replay();
     const ClockSeconds goal = std::clamp(clock, 0_s, std::max(replay.until - 1_s, 0_s));
-    if (const auto setUp = setGameUp(shell, replay, watch); !setUp) {
-        report(shell, setUp.error());
-        return;
-    }
     watch.playback = std::make_shared<Playback>(std::move(replay));
-    watch.playback->playUntil(shell.game, goal, shell.log);
+    setGameUp(shell, watch);
+    playUntil(shell, goal);
     letCloudsDrift(shell.game, 0_s, goal);
     if (isStepDue(shell.game)) {
         shell.game.lastStepTime = goal;
@@ -237,6 +261,7 @@ void followReplayEnd(Shell& shell) {
     if (!isReplaying(shell) || !shell.game.isRunning()) {
         return;
     }
+    tellOfParting(shell);
     const Playback& playback = *shell.replayWatch.playback;
     if (playback.next() == nullptr && shell.game.clock > playback.replay().until) {
         shell.mainWindow.post([&shell] { endHere(shell); });

@@ -16,6 +16,7 @@ struct Shell;
 /// The replay that is being watched, and what goes on as before when it has been.
 struct ReplayWatch {
     std::shared_ptr<Playback> playback = nullptr; ///< none while none is watched
+    bool isPartingTold = false;                   ///< that the game does not go as the replay tells
     AirspacePtr airspace = nullptr;               ///< in which it was made
     std::vector<std::byte> otherPicture = {};     ///< under its map, where it was made for the other width
     RandomGenerator random = {};                  ///< of the program's next game
@@ -28,9 +29,11 @@ bool isReplaying(const Shell& shell);
 /// Whether it is one whose shift, as far as it tells, goes on from here.
 bool isShiftLeft(const Shell& shell);
 
-/// Begins it, in place of what was on the console. False, after the player was told, when it cannot be
-/// played here.
-bool watchReplay(Shell& shell, Replay replay);
+/// Finds what it needs. Fails when it cannot be played here; nothing on the console has changed yet.
+Result<ReplayWatch> prepareReplay(Shell& shell, Replay replay);
+
+/// Begins it, in place of what was on the console.
+void watchReplay(Shell& shell, ReplayWatch watch);
 
 /// Asks for a time of the clock and shows the shift as it stood then.
 void askWhereToJump(Shell& shell);

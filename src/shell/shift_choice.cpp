@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "records/controller_name.h"
 #include "resources/dialogs.h"
 #include "shell/airport_dialog.h"
 #include "shell/option_commands.h"
@@ -15,6 +16,12 @@ namespace {
 constexpr int defaultSkill = 1;
 
 } // namespace
+
+std::string lastControllerName(const Shell& shell) {
+    const std::string kept = shell.store.now().text(gameSection, nameKey, "");
+    const std::string name = properName(kept.substr(0, longestControllerName));
+    return name.empty() ? std::string(namelessController) : name;
+}
 
 std::vector<CatalogueEntry> openAirportCatalogue(Shell& shell) {
     const AirportCatalogue& catalogue = shell.airports.catalogue();

@@ -16,6 +16,9 @@ inline constexpr std::string_view gameSection = "Game";
 inline constexpr std::string_view nameKey = "Name"; ///< of the controller
 inline constexpr std::string_view skillKey = "Skill";
 
+/// Under which the player last began a game, or what stands for him who has not.
+std::string lastControllerName(const Shell& shell);
+
 /// All airspaces. Damaged files are told of in one box, and each only once.
 std::vector<CatalogueEntry> openAirportCatalogue(Shell& shell);
 

@@ -5,6 +5,7 @@
 #include "golden.h"
 #include "replay/playback.h"
 #include "replay/replay_folder.h"
+#include "shell/game_flow.h"
 #include "shell/plain_program.h"
 #include "shell/quiet_shift.h"
 #include "shell/replay_keeping.h"
@@ -70,10 +71,7 @@ TEST(ShiftOfTheDay, IsTheSameAtEverySizeAndWithEveryOption) {
     EXPECT_EQ(seen.front(), seen.back());
 }
 
-TEST(ShiftOfTheDay, EndsWithALineToShareAndItsReplayProvesIt) {
-    const PlainProgram program;
-    GameStage stage{800, "[Game]\nName=mary\n", program.folder()};
-    choose(stage);
+void finish(GameStage& stage) {
     stage.look([&stage] {
         for (Flight& flight : stage.game().flights) {
             flight.inPlay = false;
@@ -81,6 +79,58 @@ TEST(ShiftOfTheDay, EndsWithALineToShareAndItsReplayProvesIt) {
     });
     stage.skip();
     stage.skip();
+}
+
+TEST(ShiftOfTheDay, IsThatOfTheDateOnWhichItBegins) {
+    const PlainProgram program;
+    GameStage stage{800, "[Game]\nName=mary\n", program.folder(), FirstScene::shiftOfTheDay};
+    UtcDate today;
+    stage.look([&] {
+        today = std::chrono::floor<std::chrono::days>(stage.shell().utcNow());
+        EXPECT_EQ(stage.shell().day, today) << "it was asked for at the start";
+        abandonGame(stage.shell());
+    });
+    stage.todo([](Script& script) { script.key(Key::f, withAlt).type("d").wait(20); });
+    stage.look([&stage] { stage.clockGoesBy = std::chrono::days{1}; });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+    stage.look([&stage] {
+        EXPECT_FALSE(stage.game().isRunning()) << "not what the player has not seen";
+        EXPECT_TRUE(stage.isDialogOpen());
+    });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+    stage.look([&] {
+        EXPECT_EQ(stage.shell().day, today + std::chrono::days{1});
+        EXPECT_TRUE(stage.game().isRunning());
+    });
+    stage.play();
+}
+
+TEST(ShiftOfTheDay, KeepsItsResultWhenTheNextGameDoesNotWaitForTheLastLine) {
+    const PlainProgram program;
+    GameStage stage{800, "[Game]\nName=mary\n", program.folder()};
+    choose(stage);
+    finish(stage);
+    stage.todo([](Script& script) {
+        script.key(Key::f, withAlt).type("n").wait(20).key(Key::enter).wait(20);
+    });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(20); }); // the table
+    stage.look([&stage] {
+        EXPECT_TRUE(stage.isDialogOpen());
+        EXPECT_NE(readText(stage.profile()).find("[Day]"), std::string::npos);
+    });
+    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+    stage.look([&stage] {
+        EXPECT_TRUE(stage.game().isRunning());
+        EXPECT_EQ(stage.shell().day, std::nullopt);
+    });
+    stage.play();
+}
+
+TEST(ShiftOfTheDay, EndsWithALineToShareAndItsReplayProvesIt) {
+    const PlainProgram program;
+    GameStage stage{800, "[Game]\nName=mary\n", program.folder()};
+    choose(stage);
+    finish(stage);
     stage.wait(60000); // the last line scrolls
     stage.look([&stage] {
         const auto kept = listReplays(replayFolder(stage.shell()));

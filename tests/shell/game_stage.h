@@ -88,6 +88,7 @@ public:
 
     HeadlessBackend backend;
     HeardSounds sounds;
+    std::chrono::seconds clockGoesBy{0}; ///< that the common time is ahead of the machine's
 
     Shell& shell() { return program_->shell(); }
     Game& game() { return shell().game; }

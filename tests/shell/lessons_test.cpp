@@ -83,6 +83,13 @@ TEST_F(LessonsTest, ADepartureIsTakenByMouseAndKeysUpToTheNextLesson) {
     stage.play();
 }
 
+TEST_F(LessonsTest, WelcomesThePlayerWhoeverPlayedBefore) {
+    stage.look([this] { stage.game().controllerName = "Automatic Controller"; });
+    begin(0);
+    stage.look([this] { EXPECT_EQ(stage.game().controllerName, "Mary"); });
+    stage.play();
+}
+
 TEST_F(LessonsTest, LeavingGivesTheGeneratorBackAndTakesTheNoteAway) {
     begin(0);
     auto windows = std::make_shared<std::size_t>();

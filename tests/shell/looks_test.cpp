@@ -5,6 +5,7 @@
 #include <array>
 
 #include "golden.h"
+#include "resources/aid_rows.h"
 #include "shell/game_stage.h"
 #include "shell/plain_program.h"
 
@@ -57,6 +58,27 @@ TEST(Looks, ABusySmallConsole) {
 
 TEST(Looks, ABusyLargeConsole) {
     expectLooks(1024, "busy_1024");
+}
+
+TEST(Looks, ABusySmallConsoleWithEveryAid) {
+    TempFolder folder;
+    makePlainProgram(folder.path());
+    std::string profile = "[Game]\nName=mary\nSkill=3\n[Options]\nMapDetails=0\nAirportSelect=8\n";
+    for (const AidRow& aid : aidRows) {
+        profile += std::string(aid.key) + "=1\n";
+    }
+    GameStage stage(800, profile, folder.path());
+    stage.startNewGame(3);
+    stage.skipTo(600_s);
+    stage.todo([&](Script&) { makeRemarkable(stage); });
+    stage.todo([](Script& script) { script.key(Key::keypad4).key(Key::keypadPlus).wait(50); });
+    stage.look([&] {
+        ScrollerClear(stage.shell().scroller);
+        RadarRepaint(stage.shell().radar);
+    });
+    stage.wait(1);
+    stage.look([&] { expectGolden(pictureOf(stage.backend.screen(), {0, 0, 800, 600}), "busy_aids"); });
+    stage.play();
 }
 
 TEST(Looks, TheTopBarAndTheButtonsOfTheStrips) {

@@ -7,6 +7,7 @@
 #include "records/window_memory.h"
 #include "resources/menus.h"
 #include "shell/commands.h"
+#include "shell/option_commands.h"
 #include "shell/popup_menus.h"
 #include "shell/quiet_shift.h"
 
@@ -202,6 +203,26 @@ TEST(AidsDialog, KeepsAndShowsWhatIsTickedAtOkAlone) {
     expectAid(1);
     tickAndPress(Key::enter);
     expectAid(0);
+    stage.play();
+}
+
+TEST(AidsDialog, ClearColoursAreOnTheStripsAtOnce) {
+    GameStage stage(800, "[Options]\nRadarSweep=0\n[Game]\nName=mary\nSkill=1\n");
+    QuietShift shift(stage);
+    shift.enter(FlightIndex{0}, {.cell = {10, 20}, .altitude = 5, .heading = 90});
+    stage.skipTo(QuietShift::entryTime);
+    const auto strips = [&stage] {
+        return pictureOf(stage.desktop().picture(), stage.shell().strips.window.bounds());
+    };
+    const auto before = std::make_shared<Bitmap>();
+    stage.look([&stage, strips, before] {
+        *before = strips();
+        Options chosen = stage.shell().options;
+        chosen.aidColours = 1;
+        chooseAids(stage.shell(), chosen);
+    });
+    stage.wait(1);
+    stage.look([strips, before] { EXPECT_NE(strips(), *before); });
     stage.play();
 }
 

@@ -86,6 +86,9 @@ protected:
             }
         });
     }
+    void watchFile(const std::filesystem::path& file) {
+        watchReplay(stage.shell(), prepareReplay(stage.shell(), readReplay(file).value()).value());
+    }
     std::vector<KeptReplay> replays() { return listReplays(replayFolder(stage.shell())); }
     Replay latest() { return replays().at(0).replay.value(); }
 };
@@ -135,6 +138,15 @@ TEST_F(ReplayWindowTest, AHardShiftIsWatchedAsItWasPlayed) {
         EXPECT_EQ(shiftDate(stage.shell()), localTime(latest().header.begun)) << "not today's shift";
     });
     press(Key::enter);
+    choose(Key::f, "r");
+    press(Key::enter);
+    stage.look([=, this] {
+        jumpInReplay(stage.shell(), 1801_s);
+        const auto all = wordsOf(*played);
+        const auto some = wordsOf(stage.shell().log.story());
+        ASSERT_LT(some.size(), all.size());
+        EXPECT_TRUE(std::equal(some.begin(), some.end(), all.begin())) << "with what the ticker told beside";
+    });
     stage.play();
 }
 
@@ -147,7 +159,7 @@ TEST_F(ReplayWindowTest, OneThatWasCutOffIsJumpedInAndTakenOver) {
         std::filesystem::copy_file(stage.shell().replayWriter.file(), folder / "killed.replay");
         *events = readReplay(folder / "killed.replay").value().events.size();
         abandonGame(stage.shell());
-        EXPECT_TRUE(watchReplay(stage.shell(), readReplay(folder / "killed.replay").value()));
+        watchFile(folder / "killed.replay");
     });
     stage.look([this] { jumpInReplay(stage.shell(), 600_s); });
     stage.wait(3000);
@@ -156,8 +168,7 @@ TEST_F(ReplayWindowTest, OneThatWasCutOffIsJumpedInAndTakenOver) {
         EXPECT_FALSE(stage.shell().replayWatch.playback->deviation().has_value());
         abandonGame(stage.shell());
         EXPECT_EQ(stage.shell().log.story().end, ShiftEnd::left) << "the player has given nothing up";
-        EXPECT_TRUE(
-            watchReplay(stage.shell(), readReplay(replayFolder(stage.shell()) / "killed.replay").value()));
+        watchFile(replayFolder(stage.shell()) / "killed.replay");
         jumpInReplay(stage.shell(), 300_s);
         EXPECT_EQ(stage.game().clock, 300_s);
         takeOver(stage.shell());
@@ -184,7 +195,7 @@ TEST_F(ReplayWindowTest, OneOfTheOtherWidthIsWatchedAndTakenOver) {
     const std::filesystem::path file = program.folder() / "wide.replay";
     const auto recorded = std::make_shared<Game>(recordAt1024(file, 900_s));
     stage.look([=, this] {
-        ASSERT_TRUE(watchReplay(stage.shell(), readReplay(file).value()));
+        watchFile(file);
         EXPECT_EQ(stage.game().airspace->picture, airspaceOf("amsterdam8.apt")->picture);
         for (const Vor& vor : stage.game().vors()) {
             EXPECT_EQ((Cell{vor.pixel.x / 11, vor.pixel.y / 11}), vor.cell) << vor.ident;
@@ -230,6 +241,48 @@ TEST_F(ReplayWindowTest, ItsDialogLeavesARunningShiftAloneUntilAReplayIsChosen) 
         EXPECT_TRUE(isReplaying(stage.shell()));
         EXPECT_EQ(replays().size(), 2U);
         EXPECT_EQ(latest().end.value().outcome, ReplayOutcome::givenUp);
+    });
+    stage.play();
+}
+
+TEST_F(ReplayWindowTest, OneThatCannotBePlayedLeavesTheShiftAndOneThatPartsIsToldOf) {
+    const auto change = [this](std::string_view lineBegins, std::string_view end) {
+        const std::filesystem::path file = replayFolder(stage.shell()) / "wide.replay";
+        std::string text = readText(file);
+        const auto lineEnd = text.find('\n', text.find("\n" + std::string(lineBegins)) + 1);
+        writeText(file, text.replace(lineEnd - 1, 1, end));
+    };
+    stage.look([=, this] {
+        std::filesystem::create_directories(replayFolder(stage.shell()));
+        recordAt1024(replayFolder(stage.shell()) / "wide.replay", 300_s);
+        change("possible ", "1");
+    });
+    stage.startNewGame();
+    choose(Key::f, "r");
+    press(Key::enter);
+    stage.look([this] {
+        EXPECT_TRUE(stage.isDialogOpen());
+        EXPECT_TRUE(stage.game().isRunning());
+    });
+    press(Key::enter);
+    stage.look([=, this] {
+        EXPECT_TRUE(stage.game().isRunning()) << "nobody was asked to give it up";
+        std::filesystem::remove(replayFolder(stage.shell()) / "wide.replay");
+        recordAt1024(replayFolder(stage.shell()) / "wide.replay", 300_s);
+        change("60 step ", "7");
+        abandonGame(stage.shell());
+        watchFile(replayFolder(stage.shell()) / "wide.replay");
+        jumpInReplay(stage.shell(), 50_s);
+    });
+    stage.wait(1000);
+    stage.look([this] { EXPECT_FALSE(stage.isDialogOpen()); });
+    stage.wait(10000);
+    stage.look([this] { EXPECT_TRUE(stage.isDialogOpen()) << "the shift is another one now"; });
+    press(Key::enter);
+    stage.wait(20000);
+    stage.look([this] {
+        EXPECT_FALSE(stage.isDialogOpen()) << "it is told once";
+        EXPECT_TRUE(isReplaying(stage.shell()));
     });
     stage.play();
 }

@@ -42,7 +42,7 @@ constexpr std::string_view help = R"(Plays one shift without a window and writes
   --record FILE      keeps the shift as a replay, in a new file
   --replay FILE      plays a replay, as the shift was played; without FILE.apt in the airspace of its name out
                      of the folder apt beside this program, or of the player's own
-  --score            the outcome alone, in one line
+  --score            the outcome alone, in one line, and of a replay also what it is one of
   --help             this text
 
 Exit status: 0 the shift ended or --until was reached; 1 the airport file or replay cannot be played;

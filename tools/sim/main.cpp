@@ -50,11 +50,11 @@ Steering steeringOf(const Game& game, const Arguments& arguments, ControllerPool
     };
 }
 
-/// Runs with the writer that the arguments ask for.
+/// Runs with the writer that the arguments ask for; `replay` is the header of the one that is played.
 void runWritten(const Game& game, Output& output, const Arguments& arguments,
-                const std::function<void(Recorder&)>& run) {
+                const std::function<void(Recorder&)>& run, const ReplayHeader* replay = nullptr) {
     if (arguments.score) {
-        ScoreWriter writer{output, game};
+        ScoreWriter writer{output, game, replay};
         run(writer);
     } else if (arguments.prediction) {
         PredictionAccount account{output, game};
@@ -187,8 +187,10 @@ ExitStatus replayShift(const Arguments& arguments, const std::filesystem::path& 
     }
     Playback playback{std::move(*replay)};
     Output output{stdout};
-    runWritten(*game, output, arguments,
-               [&](Recorder& recorder) { runReplay(*game, recorder, playback, arguments.until); });
+    runWritten(
+        *game, output, arguments,
+        [&](Recorder& recorder) { runReplay(*game, recorder, playback, arguments.until); },
+        &playback.replay().header);
     if (const auto status = finish(output); status != played) {
         return status;
     }
