@@ -45,12 +45,15 @@ done
 # Every notice that the page about others' work names lies with it.
 docs=$prefix/share/doc/ventrel
 named=0
-for notice in $(sed -n '/^## Used/q; s/^|.*| \([^|]*`[^|]*\) |$/\1/p' "$docs/third-party.md" | grep -oE '`[^`]+`' | tr -d '`'); do
-    [ -s "$docs/notices/$notice.txt" ] || [ -s "$docs/$notice" ] || [ -s "$docs/outlines/$notice" ] ||
+for notice in $(sed -n '/^## Used/q; s/^|.*| \([^|]*`[^|]*\) |$/\1/p' "$docs/docs/third-party.md" | grep -oE '`[^`]+`' | tr -d '`'); do
+    [ -s "$docs/notices/$notice.txt" ] || [ -s "$docs/$notice" ] || [ -s "$docs/assets/airspaces/outlines/$notice" ] ||
         fail "the notice $notice is missing"
     named=$((named + 1))
 done
 [ "$named" -ge 4 ] || fail "third-party.md names only $named notices"
+for link in $(grep -oE '\]\([^):#]+' "$docs/README.md" | cut -c 3-); do
+    [ -e "$docs/$link" ] || fail "the README leads to $link, which is not there"
+done
 # What completes a program is looked for under its name.
 for program in "$prefix"/bin/*; do
     [ -s "$prefix/share/bash-completion/completions/${program##*/}" ] || fail "nothing completes ${program##*/}"
