@@ -17,8 +17,8 @@ struct ScrollerState {
     int x = 0;         ///< its left edge in the strip
     int lineWidth = 0; ///< pixels; set by whoever draws the line when it has started
     Millis lastStep = 0;
-    Millis stepTime = 0;   ///< real time for one pixel
-    int stripWidth = 0;    ///< pixels of the window
+    Millis stepTime = 0; ///< real time for one pixel
+    int stripWidth = 0;  ///< pixels of the window
     /// Told once when the queue has run empty.
     bool postGameOver = false;
 };

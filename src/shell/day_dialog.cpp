@@ -113,9 +113,8 @@ void tellOfTheDay(Shell& shell) {
             dialog.end(input.id);
         }
     };
-    runDialog(
-        shell.desktop, shell.widgetFonts, shell.mainWindow, day_result::shape,
-        {.init = open, .command = onCommand});
+    runDialog(shell.desktop, shell.widgetFonts, shell.mainWindow, day_result::shape,
+              {.init = open, .command = onCommand});
 }
 
 } // namespace ventrel

@@ -110,9 +110,8 @@ TEST(ShiftOfTheDay, KeepsItsResultWhenTheNextGameDoesNotWaitForTheLastLine) {
     GameStage stage{800, "[Game]\nName=mary\n", program.folder()};
     choose(stage);
     finish(stage);
-    stage.todo([](Script& script) {
-        script.key(Key::f, withAlt).type("n").wait(20).key(Key::enter).wait(20);
-    });
+    stage.todo(
+        [](Script& script) { script.key(Key::f, withAlt).type("n").wait(20).key(Key::enter).wait(20); });
     stage.todo([](Script& script) { script.key(Key::enter).wait(20); }); // the table
     stage.look([&stage] {
         EXPECT_TRUE(stage.isDialogOpen());

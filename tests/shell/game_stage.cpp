@@ -80,8 +80,9 @@ GameStage::GameStage(int windowWidth, std::string_view profileText,
                      .firstScene = firstScene,
                      .utcNow =
                          [this] {
-                             return stageBegins + clockGoesBy + std::chrono::floor<std::chrono::seconds>(
-                                                      std::chrono::milliseconds{backend.now()});
+                             return stageBegins + clockGoesBy +
+                                    std::chrono::floor<std::chrono::seconds>(
+                                        std::chrono::milliseconds{backend.now()});
                          }},
         ProgramPlaces{programFolder, folder_.path(), playersAirports()}, optionsOf(profile_, windowWidth), 1);
 }
