@@ -2,12 +2,15 @@
 
 #include <cstddef>
 
+#include "console/window_size.h"
+
 namespace ventrel {
 
 namespace {
 
 // Nothing is scaled: a flight is drawn at its cell's top-left corner, a map point at its own pixel position.
 static_assert(radarCells == gridSize);
+static_assert(smallWindow.width == smallLayout.windowWidth && largeWindow.width == largeLayout.windowWidth);
 static_assert(smallRadarLayout.cellSize == smallLayout.cellSize);
 static_assert(largeRadarLayout.cellSize == largeLayout.cellSize);
 

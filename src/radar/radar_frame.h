@@ -7,8 +7,8 @@
 
 namespace ventrel {
 
-/// Map, routes, aircraft with their tags, score, clouds, and the word that tells of a pause. Hands the alert
-/// level to the lamps and moves the clouds on. There is a map.
+/// Map, routes, aircraft with their tags, score, clouds, and the word that tells of a pause, of a frame that
+/// has been made (see makeFrame). There is a map.
 void paintRadarFrame(RadarWindow& radar);
 
 /// What the aids read of the radar.

@@ -134,7 +134,7 @@ void hideFromBoss(Shell& shell) {
     }
 }
 
-void showHighScores(Shell& shell) {
+void openHighScores(Shell& shell) {
     ShowHighScores(shell);
     if (shell.game.isRunning()) {
         shell.sounds.playMusic(gameMusic, false);
@@ -159,7 +159,7 @@ constexpr std::array actions{std::to_array<Action>({
     {command::exitProgram, exitProgram},
     {command::minimise, [](Shell& shell) { shell.desktop.minimise(); }},
     {command::schedule, runScheduleDialog},
-    {command::highScores, showHighScores},
+    {command::highScores, openHighScores},
     {command::about, runAboutDialog},
     {command::help, runHelpDialog},
     {command::lessons, takeLesson},

@@ -18,7 +18,7 @@ namespace {
 constexpr std::string_view collisionMusic = "mci\\faa.mci";
 constexpr std::string_view collisionSound = "snd\\collide.snd";
 
-ShiftSetup shiftSetup(const Shell& shell, const GameSetup& setup, std::span<const Size> sizes) {
+ShiftSetup setupForShift(const Shell& shell, const GameSetup& setup, std::span<const Size> sizes) {
     const Options& options = shell.options;
     const bool isEasy = setup.skill == Skill::easy;
     return {.skill = setup.skill,
@@ -66,7 +66,7 @@ void beginShift(Shell& shell, const AirspacePtr& airspace, const GameSetup& setu
     closeLesson(shell);
     const auto sizes = cloudSizes(shell);
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
-    ShiftSetup shift = shiftSetup(shell, setup, sizes);
+    ShiftSetup shift = setupForShift(shell, setup, sizes);
     if (setup.day) {
         const ShiftOfTheDay day = shiftOfTheDay(*setup.day);
         setUpAsOfTheDay(shift, day);
@@ -180,7 +180,7 @@ void startPreparedGame(Shell& shell, const std::function<Game(const ShiftSetup&)
     GameSetup setup;
     setup.kind = ShiftKind::practice;
     setup.skill = Skill::custom;
-    ShiftSetup wanted = shiftSetup(shell, setup, {});
+    ShiftSetup wanted = setupForShift(shell, setup, {});
     wanted.controllerName = lastControllerName(shell);
     const ClockSeconds lastStepTime = shell.game.lastStepTime;
     shell.game = make(wanted);

@@ -27,7 +27,7 @@ class DirectTarget {
 public:
     constexpr DirectTarget() = default;
     constexpr DirectTarget(PointIndex point)
-        : number_{static_cast<std::uint16_t>(firstPoint + point.number())} {}
+        : number_{static_cast<std::uint16_t>(std::min(firstPoint + point.number(), lastNumber))} {}
 
     static constexpr DirectTarget none() { return {}; }
     static constexpr DirectTarget holdPlace() {
@@ -47,7 +47,8 @@ public:
 private:
     static constexpr std::uint16_t noneNumber = 0;
     static constexpr std::uint16_t holdPlaceNumber = 1;
-    static constexpr std::uint16_t firstPoint = 2; // no airspace comes near 65534 points
+    static constexpr std::uint16_t firstPoint = 2;
+    static constexpr int lastNumber = 65535; // no airspace comes near that many points
 
     std::uint16_t number_ = noneNumber;
 };

@@ -3,16 +3,22 @@
 #pragma once
 
 #include <compare>
+#include <cstddef>
 #include <cstdint>
+#include <limits>
+#include <utility>
 
 namespace ventrel {
 
-/// A place in a table of at most 65535 rows, counted from 0. `Table` only tells the kinds apart.
+/// A place in a table of at most 65535 rows, counted from 0. `Table` only tells the kinds apart. A number
+/// that can be no place becomes the last one, at which no table has a row.
 template <typename Table>
 class TableIndex {
 public:
     constexpr TableIndex() = default;
-    constexpr explicit TableIndex(int place) : place_{static_cast<std::uint16_t>(place)} {}
+    constexpr explicit TableIndex(int place)
+        : place_{std::in_range<std::uint16_t>(place) ? static_cast<std::uint16_t>(place)
+                                                     : std::numeric_limits<std::uint16_t>::max()} {}
 
     constexpr int number() const { return place_; }
     constexpr std::size_t place() const { return place_; }

@@ -155,12 +155,16 @@ std::string compareWithGolden(const Bitmap& actual, const fs::path& golden, cons
         return "";
     }
     fs::create_directories(outFolder, error);
-    writePng(newPicture, actual);
+    if (const auto written = writePng(newPicture, actual); !written) {
+        return written.error().text;
+    }
     if (expected.isEmpty()) {
         return golden.string() + " is missing or damaged. The new picture: " + newPicture.string();
     }
     const Difference found = difference(actual, expected);
-    writePng(changes, found.picture);
+    if (const auto written = writePng(changes, found.picture); !written) {
+        return written.error().text;
+    }
     return golden.string() + " (" + std::to_string(expected.width()) + " x " +
            std::to_string(expected.height()) + ") differs in " + std::to_string(found.count) +
            " pixels, the first at (" + std::to_string(found.first.x) + ", " + std::to_string(found.first.y) +

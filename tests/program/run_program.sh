@@ -77,7 +77,7 @@ refused() { # NAME ARGUMENTS...
 }
 
 words() {
-    [ "$("$copy" --version)" = "ventrel 3.0" ] || fail "another version"
+    [ "$("$copy" --version)" = "ventrel ${VENTREL_VERSION:?}" ] || fail "another version"
     "$copy" --help | grep -q "ventrel /NOSPLASH" || fail "no help"
     refused wrong wrong
     refused "/nosplash " "/nosplash "

@@ -102,16 +102,51 @@ TEST_F(Orders, CostFivePointsOnceTheFreeOnesAreUsedUp) {
     EXPECT_EQ(test.game.freeOrders, 0);
 }
 
-TEST_F(Orders, ToAFinishedFlightOrWithoutAGameCostNothing) {
+TEST_F(Orders, AreJudgedAndWhatIsNotHeardCostsNothing) {
     Flight& flight = test.fly({20, 30}, 5, 90, SmallAirspace::northWest);
+    const PanelOrder possible{.altitude = 5, .heading = 90};
+    const auto with = [&possible](auto change) {
+        PanelOrder order = possible;
+        change(order);
+        return order;
+    };
+    const auto expect = [this](OrderVerdict verdict, const PanelOrder& order, int place = 0) {
+        const FlightIndex index{place};
+        EXPECT_EQ(judgeOrder(test.game, index, order), verdict);
+        if (!isHeard(verdict)) {
+            EXPECT_EQ(executeOrder(test.game, index, order, test.events), OrderResult::acknowledged);
+            EXPECT_EQ(test.events.take(), Lines{});
+        }
+    };
+    expect(OrderVerdict::accepted, possible);
+    for (const int wrong : {-1, 1, 65535, 65536, 1 << 30}) {
+        expect(OrderVerdict::unknownFlight, possible, wrong);
+    }
+    for (const int wrong : {0, 11, -1, 127, 128, 261}) {
+        expect(OrderVerdict::altitudeOutOfRange, with([wrong](PanelOrder& o) { o.altitude = wrong; }));
+    }
+    for (const int wrong : {-45, 360, 50, 65626}) {
+        expect(OrderVerdict::headingOutOfRange, with([wrong](PanelOrder& o) { o.heading = wrong; }));
+    }
+    for (const int wrong : {-2, 2, 100}) {
+        expect(OrderVerdict::speedOutOfRange,
+               with([wrong](PanelOrder& o) { o.speed = static_cast<Speed>(wrong); }));
+    }
+    for (const int wrong : {-2, -1, test.game.vorCount(), 65533, 65534, 65535, 65536}) {
+        expect(OrderVerdict::unknownTarget,
+               with([wrong](PanelOrder& o) { o.directTarget = PointIndex{wrong}; }));
+    }
+    expect(OrderVerdict::unknownTarget,
+           with([](PanelOrder& o) { o.directTarget = DirectTarget::holdPlace(); }));
+    flight.heavy = true;
+    expect(OrderVerdict::speedOfHeavy, with([](PanelOrder& o) { o.speed = Speed::fast; }));
+    expect(OrderVerdict::accepted, possible);
+    flight.activatedAt = Flight{}.activatedAt;
+    expect(OrderVerdict::notActive, possible);
     flight.inPlay = false;
-    EXPECT_EQ(executeOrder(test.game, FlightIndex{0}, {.altitude = 5}, test.events),
-              OrderResult::acknowledged);
-    flight.inPlay = true;
+    expect(OrderVerdict::notInPlay, possible);
     test.game.phase = Phase::idle;
-    EXPECT_EQ(executeOrder(test.game, FlightIndex{0}, {.altitude = 5}, test.events),
-              OrderResult::acknowledged);
-    EXPECT_EQ(test.events.take(), Lines{});
+    expect(OrderVerdict::noGame, possible);
     EXPECT_EQ(test.game.freeOrders, 100);
 }
 

@@ -22,8 +22,7 @@ namespace {
 
 std::string faultOf(std::vector<const char*> words) {
     const auto parsed = parseArguments(words);
-    const auto* const fault = std::get_if<std::string>(&parsed);
-    return fault == nullptr ? "" : *fault;
+    return parsed ? "" : parsed.error().text;
 }
 
 TEST(CommandLine, SaysWhatIsWrongWithIt) {
@@ -53,9 +52,7 @@ TEST(CommandLine, SaysWhatIsWrongWithIt) {
 }
 
 TEST(CommandLine, AsksForTheShiftThatTheNewGameDialogWouldMake) {
-    const auto setup = [](std::vector<const char*> words) {
-        return setupFor(std::get<Arguments>(parseArguments(words)));
-    };
+    const auto setup = [](std::vector<const char*> words) { return setupFor(parseArguments(words).value()); };
     const ShiftSetup easy = setup({"a.apt", "--skill", "0", "--direct-entry", "0", "--clouds", "1"});
     EXPECT_TRUE(easy.directEntry);
     EXPECT_FALSE(easy.cloudCover);
@@ -69,15 +66,14 @@ TEST(CommandLine, AsksForTheShiftThatTheNewGameDialogWouldMake) {
 
 class OrderFile : public ::testing::Test {
 protected:
-    std::variant<std::vector<ScriptedOrder>, std::string> read(std::string_view text) {
+    Result<std::vector<ScriptedOrder>> read(std::string_view text) {
         std::ofstream{path, std::ios::binary} << text;
         return readOrderFile(path, test.game);
     }
     void expectFault(std::string_view text, std::string_view fault) {
         const auto result = read(text);
-        ASSERT_TRUE(std::holds_alternative<std::string>(result)) << text;
-        EXPECT_NE(std::get<std::string>(result).find(fault), std::string::npos)
-            << std::get<std::string>(result);
+        ASSERT_FALSE(result.has_value()) << text;
+        EXPECT_NE(result.error().text.find(fault), std::string::npos) << result.error().text;
     }
 
     TempFolder folder; // of each test's own: they run side by side
@@ -88,9 +84,8 @@ protected:
 TEST_F(OrderFile, IsReadInOrderOfTimeThenOfLines) {
     test.fly({24, 30}, 5, 90, PointIndex{1});
     test.fly({24, 40}, 5, 90, PointIndex{1});
-    const auto result = read("# comment\n30 0 1 0 0 -1 0\r\n\n15 1 10\t315 -1 5 1 # hold\n30 1 2 90 1 4 0");
-    const auto* const orders = std::get_if<std::vector<ScriptedOrder>>(&result);
-    ASSERT_NE(orders, nullptr);
+    const auto orders = read("# comment\n30 0 1 0 0 -1 0\r\n\n15 1 10\t315 -1 5 1 # hold\n30 1 2 90 1 4 0");
+    ASSERT_TRUE(orders.has_value());
     ASSERT_EQ(orders->size(), 3U);
     EXPECT_EQ((*orders)[0].clock, 15_s);
     EXPECT_EQ((*orders)[0].order.directTarget, DirectTarget::holdPlace());
@@ -112,8 +107,8 @@ TEST_F(OrderFile, WithAFaultIsRefusedByFileAndLine) {
     expectFault("15 0 5 90 0 -1", ":1: an order has 7 fields, not 6");
     expectFault("15 0 5 90 0 -1 0.5", ":1: hold");
     std::filesystem::remove(path);
-    EXPECT_TRUE(std::holds_alternative<std::string>(readOrderFile(path, test.game)));
-    EXPECT_TRUE(std::holds_alternative<std::string>(readOrderFile(folder.path(), test.game)));
+    EXPECT_FALSE(readOrderFile(path, test.game).has_value());
+    EXPECT_FALSE(readOrderFile(folder.path(), test.game).has_value());
 }
 
 /// A game of one flight that enters at 15 and is soon lost.

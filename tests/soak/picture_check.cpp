@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
 
 #include "platform/images/png_writer.h"
 
@@ -62,6 +63,12 @@ void PictureCheck::paintAll(Program& program, const Bitmap& screen) {
     }
 }
 
+void PictureCheck::keep(const std::string& name, const Bitmap& picture) const {
+    if (const auto written = writePng(kept_ / name, picture); !written) {
+        std::printf("%s\n", written.error().text.c_str());
+    }
+}
+
 std::optional<std::string> PictureCheck::compare(Program& program, const Bitmap& screen,
                                                  const std::string& name) {
     const Rect unsent = differenceOf(screen, program.desktop().picture());
@@ -76,8 +83,8 @@ std::optional<std::string> PictureCheck::compare(Program& program, const Bitmap&
         return std::nullopt;
     }
     if (!kept_.empty()) {
-        writePng(kept_ / (name + "_before.png"), *before_);
-        writePng(kept_ / (name + "_after.png"), screen);
+        keep(name + "_before.png", *before_);
+        keep(name + "_after.png", screen);
     }
     return "a full repaint changes the picture at " + boxText(differs);
 }

@@ -27,6 +27,8 @@ public:
     std::optional<std::string> compare(Program& program, const Bitmap& screen, const std::string& name);
 
 private:
+    void keep(const std::string& name, const Bitmap& picture) const;
+
     std::filesystem::path kept_;
     std::optional<Bitmap> before_;
 };

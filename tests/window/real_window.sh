@@ -47,7 +47,7 @@ until_true() {
 
 has_manager() { xdotool get_num_desktops >/dev/null 2>&1; }
 
-# open_display NAME: failures are told under that name.
+# open_display NAME: failures are told under that name. With the variable WITHOUT_MANAGER no window manager runs on it.
 open_display() {
     local tool
     name=$1
@@ -63,9 +63,11 @@ open_display() {
     export DISPLAY SDL_VIDEODRIVER=x11 SDL_AUDIODRIVER=dummy
     LSAN_OPTIONS=suppressions=$(dirname "${BASH_SOURCE[0]}")/../known_leaks.txt:print_suppressions=0
     export LSAN_OPTIONS
-    openbox >"$work/manager" 2>&1 &
-    jobs_to_end+=($!)
-    until_true "a window manager" has_manager
+    if [ -z "${WITHOUT_MANAGER:-}" ]; then
+        openbox >"$work/manager" 2>&1 &
+        jobs_to_end+=($!)
+        until_true "a window manager" has_manager
+    fi
 }
 
 # use_home FOLDER: whoever is started from now on keeps its files there.
@@ -76,7 +78,7 @@ use_home() {
 window=
 is_open() {
     window=$(xdotool search --onlyvisible --pid "$program" 2>/dev/null | tail -n 1)
-    [ -n "$window" ] && [ "$(xdotool getactivewindow 2>/dev/null)" = "$window" ]
+    [ -n "$window" ] && { [ -n "${WITHOUT_MANAGER:-}" ] || [ "$(xdotool getactivewindow 2>/dev/null)" = "$window" ]; }
 }
 
 # start COMMAND...: until its window is there and active.

@@ -9,6 +9,7 @@
 #include <system_error>
 #include <vector>
 
+#include "base/windows1252.h"
 #include "sim/grid.h"
 #include "tools/apt/commands.h"
 #include "tools/apt/files.h"
@@ -123,7 +124,7 @@ int main(int argc, char** argv) {
     try {
         return runTool(argc, argv);
     } catch (const std::exception& error) { // such as memory that ran out
-        std::fprintf(stderr, "ventrel-apt: %s\n", error.what());
+        std::fprintf(stderr, "ventrel-apt: %s\n", toTerminal(error.what()).c_str());
         return apt::faulty;
     }
 }

@@ -6,6 +6,7 @@
 #include <optional>
 
 #include "base/whole_file.h"
+#include "base/windows1252.h"
 #include "platform/canvas/canvas.h"
 #include "platform/images/image.h"
 #include "platform/images/jpeg_writer.h"
@@ -81,8 +82,16 @@ constexpr std::array materialDrawings{std::to_array<MaterialDrawing>({
 constexpr std::array<ConsoleDrawing, 2> consoles{
     {{"console800", smallFittings}, {"console1024", largeFittings}}};
 
-void complain(const fs::path& file, const char* what) {
-    std::fprintf(stderr, "ventrel-art: %s %s\n", file.c_str(), what);
+void complain(std::string_view text) {
+    std::fprintf(stderr, "ventrel-art: %s\n", toTerminal(text).c_str());
+}
+
+/// Whether it was done; if not, the reason is told.
+bool isDone(const Result<>& result) {
+    if (!result) {
+        complain(result.error().text);
+    }
+    return result.has_value();
 }
 
 std::optional<Bitmap> load(const fs::path& file) {
@@ -90,18 +99,14 @@ std::optional<Bitmap> load(const fs::path& file) {
     Bitmap bitmap;
     if (ImageLoadFile(image, file, ImageFormat::png) != ImageError::none ||
         ImageToBitmap(image, bitmap) != ImageError::none) {
-        complain(file, "is no PNG picture that can be read");
+        complain(pathText(file) + " is no PNG picture that can be read");
         return std::nullopt;
     }
     return bitmap;
 }
 
 bool save(const fs::path& file, const Bitmap& bitmap, PngPacking packing = PngPacking::small) {
-    const bool isWritten = writePng(file, bitmap, packing);
-    if (!isWritten) {
-        complain(file, "cannot be written");
-    }
-    return isWritten;
+    return isDone(writePng(file, bitmap, packing));
 }
 
 /// How much a dithered pixel must be covered, by its place in a square of four.
@@ -240,11 +245,7 @@ bool convertToJpeg(const fs::path& picture, const fs::path& target) {
     if (!bitmap) {
         return false;
     }
-    const bool isWritten = writeJpeg(target, *bitmap, quality);
-    if (!isWritten) {
-        complain(target, "cannot be written");
-    }
-    return isWritten;
+    return isDone(writeJpeg(target, *bitmap, quality));
 }
 
 bool cutRadarFrame(const fs::path& console, const fs::path& target) {
@@ -255,7 +256,7 @@ bool cutRadarFrame(const fs::path& console, const fs::path& target) {
     const auto* const found = std::ranges::find_if(
         consoles, [&](const ConsoleDrawing& drawn) { return drawn.fittings.places.size == bitmap->size(); });
     if (found == consoles.end()) {
-        complain(console, "has the size of neither console");
+        complain(pathText(console) + " has the size of neither console");
         return false;
     }
     const Rect window = radarWindowRect(found->fittings.places.radar);
@@ -272,7 +273,7 @@ bool keyPicture(const fs::path& onBlack, const fs::path& onWhite, const fs::path
         return false;
     }
     if (black->size() != white->size()) {
-        complain(onWhite, "has another size than its twin");
+        complain(pathText(onWhite) + " has another size than its twin");
         return false;
     }
     Bitmap keyed(black->size());
@@ -298,7 +299,7 @@ bool addSheet(std::vector<std::vector<std::byte>>& pictures, const fs::path& fil
         return false;
     }
     if (sheet->size() != filmSheetSize) {
-        complain(file, "has another size than a sheet of the film");
+        complain(pathText(file) + " has another size than a sheet of the film");
         return false;
     }
     for (int i = 0; i < filmSheetPictures; ++i) {
@@ -321,7 +322,7 @@ bool assembleFilm(const fs::path& folder, const fs::path& target) {
     }
     const auto written = replaceFile(target, filmFile({filmSize, filmRate}, pictures));
     if (!written) {
-        complain(target, "cannot be written");
+        complain(pathText(target) + " cannot be written");
     }
     return written.has_value();
 }

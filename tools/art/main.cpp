@@ -157,7 +157,7 @@ int main(int argc, char** argv) {
     try {
         return runTool(argc, argv);
     } catch (const std::exception& error) { // such as memory that ran out
-        std::fprintf(stderr, "ventrel-art: %s\n", error.what());
+        std::fprintf(stderr, "ventrel-art: %s\n", toTerminal(error.what()).c_str());
         return failure;
     }
 }

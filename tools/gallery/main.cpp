@@ -44,8 +44,8 @@ int intoFile(const Arguments& arguments, FontSet& fonts) {
     const Gallery gallery(desktop, fonts, [](const std::string&) {});
     Script(backend).then([&] { desktop.quit(); });
     desktop.run();
-    if (!writePng(arguments.picture, backend.screen())) {
-        complain(arguments.picture + " cannot be written");
+    if (const auto written = writePng(arguments.picture, backend.screen()); !written) {
+        complain(written.error().text);
         return failure;
     }
     return 0;
@@ -104,7 +104,7 @@ int main(int argc, char** argv) {
     try {
         return runGallery(argc, argv);
     } catch (const std::exception& error) { // such as memory that ran out
-        std::fprintf(stderr, "ventrel-gallery: %s\n", error.what());
+        std::fprintf(stderr, "ventrel-gallery: %s\n", toTerminal(error.what()).c_str());
         return failure;
     }
 }

@@ -233,7 +233,7 @@ std::string takeFile(Arguments& arguments, std::span<const char* const>& words) 
 
 } // namespace
 
-std::variant<Arguments, std::string> parseArguments(std::span<const char* const> words) {
+Result<Arguments> parseArguments(std::span<const char* const> words) {
     Arguments arguments;
     std::string_view settingUp; // the first option that does not go with a replay
     std::string_view ofOne;     // the first that does not go with many seeds
@@ -245,20 +245,20 @@ std::variant<Arguments, std::string> parseArguments(std::span<const char* const>
         }
         std::string fault = isOption ? takeOption(arguments, words) : takeFile(arguments, words);
         if (!fault.empty()) {
-            return fault;
+            return failed(std::move(fault));
         }
     }
     if (arguments.replay && !settingUp.empty()) {
-        return std::string{settingUp} + " does not go with --replay, which tells all of the shift";
+        return failed(std::string{settingUp} + " does not go with --replay, which tells all of the shift");
     }
     if (arguments.seeds && !ofOne.empty()) {
-        return std::string{ofOne} + " does not go with --seeds, which plays many shifts";
+        return failed(std::string{ofOne} + " does not go with --seeds, which plays many shifts");
     }
     if (arguments.airport.empty() && !arguments.replay && !arguments.help) {
-        return "an airport file is needed";
+        return failed("an airport file is needed");
     }
     if (const auto fault = shiftFault(arguments)) {
-        return std::string{StringTableText(*fault)};
+        return failed(std::string{StringTableText(*fault)});
     }
     return arguments;
 }

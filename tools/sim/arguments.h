@@ -8,9 +8,9 @@
 #include <span>
 #include <string>
 #include <string_view>
-#include <variant>
 
 #include "base/geometry.h"
+#include "base/result.h"
 #include "sim/shift_setup.h"
 
 namespace ventrel {
@@ -50,7 +50,7 @@ struct Arguments {
 };
 
 /// The command line without the program's name, or what is wrong with it.
-std::variant<Arguments, std::string> parseArguments(std::span<const char* const> words);
+Result<Arguments> parseArguments(std::span<const char* const> words);
 
 std::string_view helpText();
 

@@ -190,11 +190,11 @@ void takeOrders(std::istream& input, Game& game, InteractiveWriter& writer) {
             continue;
         }
         const auto read = readOrderLine(line, game);
-        if (const auto* const fault = std::get_if<std::string>(&read)) {
-            writer.refused(line, *fault);
+        if (!read) {
+            writer.refused(line, read.error().text);
             continue;
         }
-        const auto& next = std::get<std::optional<ScriptedOrder>>(read);
+        const auto& next = *read;
         if (!next && line.find('#') != std::string::npos) {
             continue;
         }

@@ -147,11 +147,11 @@ ExitStatus play(const Arguments& arguments) {
     std::vector<ScriptedOrder> orders;
     if (arguments.orders) {
         auto read = readOrderFile(*arguments.orders, game);
-        if (const auto* const fault = std::get_if<std::string>(&read)) {
-            complain(*fault);
+        if (!read) {
+            complain(read.error().text);
             return wrongUsage;
         }
-        orders = std::get<std::vector<ScriptedOrder>>(std::move(read));
+        orders = std::move(*read);
     }
     Output output{stdout};
     playShift(game, output, arguments,
@@ -208,11 +208,11 @@ ExitStatus replayShift(const Arguments& arguments, const std::filesystem::path& 
 int runTool(const char* program, std::span<const char* const> words) {
     std::ios::sync_with_stdio(false);
     const auto parsed = parseArguments(words);
-    if (const auto* const fault = std::get_if<std::string>(&parsed)) {
-        complain(fromUtf8(*fault) + " (see --help)");
+    if (!parsed) {
+        complain(fromUtf8(parsed.error().text) + " (see --help)");
         return wrongUsage;
     }
-    const auto& arguments = std::get<Arguments>(parsed);
+    const Arguments& arguments = *parsed;
     if (arguments.help) {
         std::fwrite(helpText().data(), 1, helpText().size(), stdout);
         return played;
@@ -230,7 +230,7 @@ int main(int count, char** words) {
     try {
         return runTool(words[0], {words + 1, words + count});
     } catch (const std::exception& error) { // such as memory that ran out
-        std::fprintf(stderr, "ventrel-sim: %s\n", error.what());
+        std::fprintf(stderr, "ventrel-sim: %s\n", toTerminal(error.what()).c_str());
         return scenarioRefused;
     }
 }

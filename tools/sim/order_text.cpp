@@ -117,24 +117,24 @@ std::optional<std::string> judgedFault(const Game& game, const ScriptedOrder& or
 }
 
 /// The fields from `first` on; the clock of an order without one is 0.
-std::variant<ScriptedOrder, std::string> readOrder(const std::vector<std::string_view>& words,
-                                                   const Game& game, std::size_t first) {
+Result<ScriptedOrder> readOrder(const std::vector<std::string_view>& words, const Game& game,
+                                std::size_t first) {
     if (words.size() != fieldCount - first) {
-        return "an order has " + std::to_string(fieldCount - first) + " fields, not " +
-               std::to_string(words.size());
+        return failed("an order has " + std::to_string(fieldCount - first) + " fields, not " +
+                      std::to_string(words.size()));
     }
     const auto rules = fieldRules(game);
     OrderFields fields{};
     for (std::size_t i = first; i < fields.size(); ++i) {
         const auto value = readField(words[i - first], rules[i]);
         if (!value) {
-            return faultOf(rules[i], words[i - first]);
+            return failed(faultOf(rules[i], words[i - first]));
         }
         fields[i] = *value;
     }
     const ScriptedOrder order = toOrder(fields, game.vorCount());
     if (const auto fault = judgedFault(game, order, words, first)) {
-        return *fault;
+        return failed(*fault);
     }
     return order;
 }
@@ -159,26 +159,23 @@ Result<std::string> readText(const std::filesystem::path& file) {
 
 } // namespace
 
-std::variant<std::optional<ScriptedOrder>, std::string> readOrderLine(std::string_view line,
-                                                                      const Game& game) {
+Result<std::optional<ScriptedOrder>> readOrderLine(std::string_view line, const Game& game) {
     const auto words = splitWords(line);
     if (words.empty()) {
-        return std::nullopt;
+        return std::optional<ScriptedOrder>{};
     }
-    auto read = readOrder(words, game, flightField);
-    if (const auto* const fault = std::get_if<std::string>(&read)) {
-        return *fault;
+    auto order = readOrder(words, game, flightField);
+    if (!order) {
+        return tl::unexpected(std::move(order.error()));
     }
-    auto& order = std::get<ScriptedOrder>(read);
-    order.clock = game.clock;
-    return order;
+    order->clock = game.clock;
+    return std::optional{*order};
 }
 
-std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
-                                                                    const Game& game) {
+Result<std::vector<ScriptedOrder>> readOrderFile(const std::filesystem::path& file, const Game& game) {
     const auto text = readText(file);
     if (!text) {
-        return text.error().text;
+        return tl::unexpected(text.error());
     }
     std::istringstream lines{*text};
     std::vector<ScriptedOrder> orders;
@@ -188,11 +185,11 @@ std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::f
         if (words.empty()) {
             continue;
         }
-        const auto read = readOrder(words, game, clockField);
-        if (const auto* const fault = std::get_if<std::string>(&read)) {
-            return pathText(file) + ":" + std::to_string(number) + ": " + *fault;
+        const auto order = readOrder(words, game, clockField);
+        if (!order) {
+            return failed(pathText(file) + ":" + std::to_string(number) + ": " + order.error().text);
         }
-        orders.push_back(std::get<ScriptedOrder>(read));
+        orders.push_back(*order);
     }
     std::stable_sort(orders.begin(), orders.end(),
                      [](const ScriptedOrder& a, const ScriptedOrder& b) { return a.clock < b.clock; });

@@ -7,9 +7,9 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <variant>
 #include <vector>
 
+#include "base/result.h"
 #include "sim/game.h"
 
 namespace ventrel {
@@ -21,14 +21,12 @@ struct ScriptedOrder {
 };
 
 /// An order to be sent now, nothing where the line is empty, or what is wrong with it.
-std::variant<std::optional<ScriptedOrder>, std::string> readOrderLine(std::string_view line,
-                                                                      const Game& game);
+Result<std::optional<ScriptedOrder>> readOrderLine(std::string_view line, const Game& game);
 
 /// The orders sorted by time, in file order among equal times; or what is wrong, naming file and line, in
 /// Windows-1252 and with whatever bytes the file has. At most 16 MiB are read.
 /// The lines need not be sorted.
 /// Flights and map points must exist in `game`, whose shift is set up.
-std::variant<std::vector<ScriptedOrder>, std::string> readOrderFile(const std::filesystem::path& file,
-                                                                    const Game& game);
+Result<std::vector<ScriptedOrder>> readOrderFile(const std::filesystem::path& file, const Game& game);
 
 } // namespace ventrel

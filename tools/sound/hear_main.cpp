@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "base/windows1252.h"
 #include "tools/sound/voice_report.h"
 
 namespace {
@@ -51,7 +52,7 @@ Result<std::string> tableOf(const std::vector<std::string>& words) {
 }
 
 int complain(const Failure& reason) {
-    std::fprintf(stderr, "ventrel-hear: %s\n", reason.text.c_str());
+    std::fprintf(stderr, "ventrel-hear: %s\n", toTerminal(reason.text).c_str());
     return failure;
 }
 

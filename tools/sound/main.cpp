@@ -7,6 +7,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "base/windows1252.h"
 #include "tools/sound/commands.h"
 
 namespace {
@@ -19,7 +20,7 @@ constexpr int failure = 1;
 constexpr int wrongUsage = 2;
 
 int complain(const std::string& text) {
-    std::fprintf(stderr, "ventrel-sound: %s\n", text.c_str());
+    std::fprintf(stderr, "ventrel-sound: %s\n", toTerminal(text).c_str());
     return failure;
 }
 
@@ -34,7 +35,7 @@ int measureAll(const std::vector<fs::path>& files) {
     int status = success;
     for (const fs::path& file : files) {
         if (const auto line = sound::measure(file)) {
-            std::puts(line->c_str());
+            std::puts(toTerminal(*line).c_str());
         } else {
             status = statusOf(tl::unexpected(line.error()));
         }

@@ -10,6 +10,7 @@
 #include <span>
 
 #include "base/whole_file.h"
+#include "base/windows1252.h"
 #include "platform/images/channel_row.h"
 
 namespace ventrel {
@@ -122,9 +123,12 @@ std::vector<std::byte> encodeJpeg(const Bitmap& bitmap, int quality) {
     return encode(writing, bitmap, quality) ? std::move(writing.file) : std::vector<std::byte>{};
 }
 
-bool writeJpeg(const std::filesystem::path& file, const Bitmap& bitmap, int quality) {
+Result<> writeJpeg(const std::filesystem::path& file, const Bitmap& bitmap, int quality) {
     const std::vector<std::byte> content = encodeJpeg(bitmap, quality);
-    return !content.empty() && replaceFile(file, content).has_value();
+    if (content.empty()) {
+        return failed(pathText(file) + ": there is no picture to write, or no memory for it");
+    }
+    return replaceFile(file, content);
 }
 
 } // namespace ventrel

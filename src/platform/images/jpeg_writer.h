@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "base/result.h"
 #include "platform/canvas/bitmap.h"
 
 namespace ventrel {
@@ -16,7 +17,7 @@ namespace ventrel {
 /// which the format cannot hold, or when memory runs out.
 std::vector<std::byte> encodeJpeg(const Bitmap& bitmap, int quality);
 
-/// Writes or replaces the file. False when that fails; an older file then stands as it was.
-bool writeJpeg(const std::filesystem::path& file, const Bitmap& bitmap, int quality);
+/// Writes or replaces the file. Where that fails an older file stands as it was.
+Result<> writeJpeg(const std::filesystem::path& file, const Bitmap& bitmap, int quality);
 
 } // namespace ventrel

@@ -5,6 +5,7 @@
 #include <csetjmp>
 
 #include "base/whole_file.h"
+#include "base/windows1252.h"
 #include "platform/images/channel_row.h"
 
 namespace ventrel {
@@ -81,9 +82,12 @@ std::vector<std::byte> encodePng(const Bitmap& bitmap, PngPacking packing) {
     return encode(writing, bitmap, packing) ? std::move(writing.file) : std::vector<std::byte>{};
 }
 
-bool writePng(const std::filesystem::path& file, const Bitmap& bitmap, PngPacking packing) {
+Result<> writePng(const std::filesystem::path& file, const Bitmap& bitmap, PngPacking packing) {
     const std::vector<std::byte> content = encodePng(bitmap, packing);
-    return !content.empty() && replaceFile(file, content).has_value();
+    if (content.empty()) {
+        return failed(pathText(file) + ": there is no picture to write, or no memory for it");
+    }
+    return replaceFile(file, content);
 }
 
 } // namespace ventrel

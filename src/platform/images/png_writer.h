@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <vector>
 
+#include "base/result.h"
 #include "platform/canvas/bitmap.h"
 
 namespace ventrel {
@@ -19,8 +20,8 @@ enum class PngPacking { small, none };
 /// runs out.
 std::vector<std::byte> encodePng(const Bitmap& bitmap, PngPacking packing = PngPacking::small);
 
-/// Writes or replaces the file. False when that fails; an older file then stands as it was.
-bool writePng(const std::filesystem::path& file, const Bitmap& bitmap,
-              PngPacking packing = PngPacking::small);
+/// Writes or replaces the file. Where that fails an older file stands as it was.
+Result<> writePng(const std::filesystem::path& file, const Bitmap& bitmap,
+                  PngPacking packing = PngPacking::small);
 
 } // namespace ventrel
