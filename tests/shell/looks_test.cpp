@@ -60,12 +60,13 @@ TEST(Looks, ABusyLargeConsole) {
     expectLooks(1024, "busy_1024");
 }
 
-TEST(Looks, ABusySmallConsoleWithEveryAid) {
+TEST(Looks, ABusySmallConsoleWithTheAids) {
     TempFolder folder;
     makePlainProgram(folder.path());
     std::string profile = "[Game]\nName=mary\nSkill=3\n[Options]\nMapDetails=0\nAirportSelect=8\n";
     for (const AidRow& aid : aidRows) {
-        profile += std::string(aid.key) + "=1\n";
+        // Where tidy tags stand hangs on their letters, which are not the same on every machine.
+        profile += std::string(aid.key) + (aid.value == &Options::aidTidyTags ? "=0\n" : "=1\n");
     }
     GameStage stage(800, profile, folder.path());
     stage.startNewGame(3);
