@@ -8,6 +8,7 @@
 #include "base/format.h"
 #include "base/geometry.h"
 #include "base/random.h"
+#include "base/utc_time.h"
 #include "base/windows1252.h"
 
 namespace ventrel {
@@ -72,6 +73,17 @@ TEST(Windows1252, GoesToUtf8AndBack) {
 
 TEST(Windows1252, NeverCommandsATerminal) {
     EXPECT_EQ(toTerminal("a\x1B[2J\r\nb\x7F\x9D\xB0"), "a?[2J?\nb??°");
+}
+
+TEST(UtcTime, IsReadAsItIsWrittenAndNoOtherwise) {
+    for (const std::string_view moment : {"1970-01-01T00:00:00Z", "2028-02-29T23:59:59Z"}) {
+        EXPECT_EQ(momentText(readMoment(moment).value()), moment);
+    }
+    for (const std::string_view wrong :
+         {"", "2026-02-29T12:00:00Z", "2026-13-01T12:00:00Z", "2026-11-25T24:00:00Z", "2026-11-25T12:60:00Z",
+          "2026-11-25T12:00:60Z", "2026-11-25 12:00:00Z", "2026-11-25T12:00:00", "2026-11-25T12:00:00Z "}) {
+        EXPECT_EQ(readMoment(wrong), std::nullopt) << wrong;
+    }
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <set>
 
+#include "sim/cloud_cover.h"
 #include "sim/custom_skill.h"
 #include "small_airspace.h"
 
@@ -200,6 +201,26 @@ TEST(Clouds, DriftInTogetherAndOnlyTheFirstThreeAreThereAtOnce) {
         }
     }
     EXPECT_EQ(drifts.size(), 8U);
+}
+
+TEST(Clouds, GoOnDriftingUntilNothingOfThemIsLeft) {
+    constexpr int picture = 539;
+    constexpr Size size{60, 40};
+    for (int heading = 0; heading < fullCircle; heading += headingStep) {
+        Cloud cloud{.position = {240, 250}, .size = size, .driftHeading = heading};
+        Point before;
+        for (int step = 0; step < 2000 && CloudDrift(cloud, picture); ++step) {
+            before = cloud.position;
+        }
+        const auto [x, y] = cloud.position;
+        EXPECT_TRUE(x < -size.width || y < -size.height || x > picture || y > picture) << heading;
+        EXPECT_FALSE(before.x < -size.width || before.y < -size.height || before.x > picture ||
+                     before.y > picture)
+            << heading;
+        cloud.visible = false;
+        EXPECT_FALSE(CloudDrift(cloud, picture));
+        EXPECT_EQ(cloud.position, (Point{x, y})) << "it rests";
+    }
 }
 
 } // namespace

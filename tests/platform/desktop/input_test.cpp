@@ -161,6 +161,25 @@ TEST(Keys, GoToTheFocusAndUpAndTheirTextIsSpentWhenHandled) {
     EXPECT_EQ(stage.log, (Log{"edit", "dialog", "edit", "edit", "dialog", "edit c", "dialog", "dialog c"}));
 }
 
+TEST(Keys, TheWindowUnderThePointerIsOfferedThemFirstUnlessADialogWaits) {
+    Stage stage;
+    const Window main = stage.open({.key = stage.note("focus")}, {0, 0, 90, 150});
+    WindowHandlers beside;
+    beside.hoverKey = stage.note("hovered");
+    const Window other = stage.open(std::move(beside), {100, 0, 150, 50});
+    main.focus();
+    stage.script.moveTo({120, 20}).key(Key::c).moveTo({20, 20}).key(Key::c);
+    stage.script.then([&] { stage.runDialog(main, {.key = stage.note("dialog")}); });
+    stage.script.moveTo({120, 20}).key(Key::c).then([&] { stage.dialogIsFinished = true; });
+    stage.play();
+    const auto firsts = [&stage](std::string_view word) { return std::ranges::count(stage.log, word); };
+    EXPECT_GT(firsts("hovered"), 0);
+    EXPECT_GT(firsts("focus"), 0);
+    const auto waits = std::ranges::find(stage.log, "dialog");
+    ASSERT_NE(waits, stage.log.end());
+    EXPECT_EQ(std::count(waits, stage.log.end(), "hovered"), 0);
+}
+
 TEST(Keys, AcceleratorsAreForTheirOwnWindowAndExactKeys) {
     Stage stage;
     constexpr Accelerator table[] = {

@@ -185,6 +185,11 @@ TEST(Mixer, SilenceIsNoticedAfterAMomentAndEndsWithTheNextSound) {
     EXPECT_FALSE(mixer.isSilent());
     rendered(mixer, 1);
     EXPECT_TRUE(mixer.isSilent());
+    const auto pause =
+        std::make_shared<const std::vector<std::uint8_t>>(3 * recordingRate, std::uint8_t{128});
+    mixer.play(mixer.add(pause, 1).value());
+    rendered(mixer, 2);
+    EXPECT_FALSE(mixer.isSilent()) << "a recording may pause longer than a moment";
 }
 
 TEST(DropoutMeter, CountsTheTimeThatIsLostAndNotTheTimeBetweenBursts) {

@@ -127,7 +127,9 @@ TEST_F(ListTest, WheelAndScrollBarMoveTheLinesAndChooseNothing) {
     stage.script.wheel({50, 40}, -1).then([this] { EXPECT_EQ(list.selected(), noListItem); });
     stage.script.click({50, 14});
     expectLine("Hong Kong");
-    // The upper arrow, held down, goes on by itself.
+    // The upper arrow, held down, goes on by itself for as long as the pointer is on it.
+    stage.script.press({100, 18}).moveTo({50, 40}).wait(2000).release({50, 40}).click({50, 14});
+    expectLine("Chicago");
     stage.script.press({100, 18}).wait(2000).release({100, 18}).click({50, 14});
     expectLine("atlanta");
     // The thumb, dragged to the end.
