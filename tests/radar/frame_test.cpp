@@ -45,6 +45,22 @@ TEST(FrameTest, EveryHeadingAndStateOfAFlightLooksAsItDid) {
     expectGolden(crop(stage.radar.backBuffer, {140, 180, 588, 460}), "radar_flights");
 }
 
+TEST(FrameTest, TheTagOfAChosenFlightStillTellsOfItsAlert) {
+    const FlightColours colours{Colour::rgb(1, 0, 0), Colour::rgb(2, 0, 0), {}, usualSignals};
+    Flight flight;
+    for (const auto& [alert, chosen, usual] :
+         {std::tuple{Alert::none, colours.selected, colours.flight},
+          {Alert::nearMiss, usualSignals.nearMiss, usualSignals.nearMiss},
+          {Alert::success, usualSignals.success, usualSignals.success},
+          {Alert::failure, colours.selected, colours.flight}}) {
+        flight.alert = alert;
+        flight.selected = true;
+        EXPECT_EQ(tagColour(flight, colours), chosen);
+        flight.selected = false;
+        EXPECT_EQ(tagColour(flight, colours), usual);
+    }
+}
+
 TEST(FrameTest, ACrowdedPausedScopeLooksAsItDid) {
     RadarStage stage;
     stage.options.mapDetails = 0; // on black
