@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include "../sim/small_airspace.h"
+#include "controller/choices.h"
 #include "controller/prediction.h"
 #include "controller/traffic.h"
 
@@ -78,6 +79,19 @@ TEST(Prediction, LooksThreeMovesAheadAndStaysTheSameBetweenSteps) {
                 EXPECT_EQ(predictConflicts(test.game), conflicts)
                     << "column " << column << " at " << now.count() << ", speed " << static_cast<int>(speed);
             }
+        }
+    }
+}
+
+TEST(Controller, NeverAsksForADirectCourseThatThePilotRefuses) {
+    TestGame test;
+    for (const Cell cell : {Cell{12, 12}, Cell{13, 11}, Cell{14, 12}}) {
+        for (const int altitude : {1, 6, 9, 10}) {
+            test.game.flights.clear();
+            const Flight& flight = test.fly(cell, altitude, 90, SmallAirspace::northWest);
+            EXPECT_EQ(judgeOrder(test.game, FlightIndex{0}, bestWayToExit(test.game, flight)),
+                      OrderVerdict::accepted)
+                << cell.x << " " << cell.y << " " << altitude;
         }
     }
 }

@@ -55,6 +55,20 @@ TEST(ShiftLog, AddsUpToTheScoreWhicheverWayOneCounts) {
     }
 }
 
+TEST(ShiftLog, AShiftIsGivenUpOnceAndOneThatIsOverNotAtAll) {
+    LoggedShift over{1};
+    const ShiftEnd end = over.log.story().end;
+    const std::size_t entries = over.log.story().entries.size();
+    over.log.shiftGivenUp();
+    EXPECT_EQ(over.log.story().end, end);
+    EXPECT_EQ(over.log.story().entries.size(), entries);
+    over.log.shiftBegun(Skill::hard, 1);
+    over.log.shiftGivenUp();
+    over.log.replayLeft();
+    EXPECT_EQ(over.log.story().end, ShiftEnd::givenUp);
+    EXPECT_EQ(over.log.story().entries.size(), 2U) << "the beginning, and the end";
+}
+
 TEST(ShiftLog, KeepsTheLinesThatTheTickerDroppedAndMarksThem) {
     TestGame test;
     test.fly({20, 24}, 5, 90, PointIndex{1});
