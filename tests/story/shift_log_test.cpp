@@ -90,6 +90,20 @@ TEST(ShiftLog, KeepsTheLinesThatTheTickerDroppedAndMarksThem) {
     EXPECT_TRUE(entries[1].wasDropped && entries[2].wasDropped) << "they still waited";
 }
 
+TEST(ShiftLog, WhatHasBeenReadWasNotDroppedWhenTheTickerIsCleared) {
+    LoggedShift shift{1};
+    clearMessages(shift.game.messages);
+    for (const std::string_view words : {"has scrolled by", "still waits"}) {
+        shift.log.linePosted(words, MessageClass::information);
+        postMessage(shift.game.messages, words, MessageClass::information);
+    }
+    shift.game.messages.slots[0].inUse = false;
+    shift.log.tickerCleared();
+    const auto& entries = shift.log.story().entries;
+    EXPECT_FALSE(entries[entries.size() - 2].wasDropped);
+    EXPECT_TRUE(entries.back().wasDropped);
+}
+
 TEST(ShiftLog, TellsOrdersCallsAndPointsWithTheirCause) {
     TestGame test;
     test.wait(PointIndex{0}, PointIndex{1});
