@@ -49,7 +49,8 @@ void newGame(Shell& shell) {
         return;
     }
     if (const auto setup = runNewGameDialog(shell)) {
-        putLastGameAway(shell);
+        putLastGameAway(shell); // under the name of who played it
+        shell.game.controllerName = setup->controllerName;
         startGame(shell, *setup);
     }
 }
@@ -94,12 +95,12 @@ void playShiftOfTheDay(Shell& shell) {
     if (!setup || !clearDesk(shell)) {
         return;
     }
-    if (!isOfToday(shell, *setup)) { // midnight has passed meanwhile
-        playShiftOfTheDay(shell);
-        return;
-    }
     putLastGameAway(shell);
-    startDay(shell, *setup);
+    if (isOfToday(shell, *setup)) {
+        startDay(shell, *setup);
+    } else { // midnight has passed meanwhile
+        playShiftOfTheDay(shell);
+    }
 }
 
 void askToEndGame(Shell& shell) {

@@ -27,6 +27,9 @@ public:
         return flight.place() < endangered_.size() && endangered_[flight.place()];
     }
 
+    /// The game is another one now, or stands at another time: looks anew.
+    void gameReplaced() { isStale_ = true; }
+
     void stepBegun() override { isStale_ = true; }
     /// The plan is made after this, so the scope follows when the order is through.
     void orderSent(FlightIndex flight, const PanelOrder& order) override;

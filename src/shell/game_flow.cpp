@@ -117,8 +117,12 @@ void endSteered(Shell& shell, ShiftResult result) {
     }
     clearTicker(shell);
     LogWindowTick(shell);
+    const auto parting = untoldParting(shell);
     EndGame(shell);
     tellOfSteeredEnd(shell, result);
+    if (parting) {
+        shell.report(*parting, MessageIcon::exclamation);
+    }
 }
 
 /// Its note tells the rest, and stays until the player has read it.

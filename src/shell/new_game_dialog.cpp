@@ -80,7 +80,6 @@ void accept(NewGame& game, Dialog& dialog) {
         shell.report(StringTableText(TextId::pleaseEnterName), MessageIcon::information);
         return;
     }
-    shell.game.controllerName = game.setup.controllerName;
     game.setup.skill = checkedSkill(dialog);
     remember(game.setup, shell);
     shell.options.stormTrak = dialog.isChecked(new_game::clouds) ? 1 : 0;

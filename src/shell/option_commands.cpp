@@ -6,6 +6,7 @@
 #include "records/options_file.h"
 #include "resources/option_rows.h"
 #include "shell/game_flow.h"
+#include "shell/steered_play.h"
 
 namespace ventrel {
 
@@ -61,7 +62,7 @@ void choose(Shell& shell, const OptionRow& row, const OptionItem& item) {
     }
     shell.options.*row.value = chosen;
     saveOptions(shell);
-    shell.sounds.choose(soundChoices(shell.options));
+    followPaceInSound(shell);
     follow(shell, row.effect);
 }
 

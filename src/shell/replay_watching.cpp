@@ -30,7 +30,7 @@ constexpr std::string_view otherEndText =
     "Here the replay tells of the end of its shift, which this one has not come to.\n\n"
     "Score: %d of %d possible.";
 constexpr std::string_view partedText =
-    "From here on this is not the shift that was played.\n\n%s\n\n"
+    "This is not the shift that was played.\n\n%s\n\n"
     "The replay is damaged or has been changed, or another version of the program has made it.";
 
 /// A frame of the radar is painted that often, which moves clouds on.
@@ -97,6 +97,8 @@ void showAnew(Shell& shell) {
     ScrollerClear(shell.scroller);
     CaptionsClear(shell.captions);
     shell.radar.aids = {};
+    shell.conflicts.gameReplaced();
+    shell.sounds.stopEffects();
     CtrlClearFlight(shell.panel);
     StripsPress(shell, noSlot);
     StripsReset(shell.strips);
@@ -126,15 +128,18 @@ void endHere(Shell& shell) {
     shell.report(text, MessageIcon::information);
 }
 
+std::string partingText(const Failure& parting) {
+    return FormatText(partedText, {std::string_view(parting.text)});
+}
+
 /// Tells, once, where the game has parted from the replay.
 void tellOfParting(Shell& shell) {
     ReplayWatch& watch = shell.replayWatch;
     const auto& deviation = watch.playback->deviation();
     if (deviation && !watch.isPartingTold) {
         watch.isPartingTold = true;
-        shell.mainWindow.post([&shell, text = FormatText(partedText, {std::string_view(deviation->text)})] {
-            shell.report(text, MessageIcon::exclamation);
-        });
+        shell.mainWindow.post(
+            [&shell, text = partingText(*deviation)] { shell.report(text, MessageIcon::exclamation); });
     }
 }
 
@@ -255,6 +260,16 @@ void askWhereToJump(Shell& shell) {
     if (goal) {
         jumpInReplay(shell, *goal);
     }
+}
+
+std::optional<std::string> untoldParting(const Shell& shell) {
+    if (!isReplaying(shell) || shell.replayWatch.isPartingTold) {
+        return std::nullopt;
+    }
+    const Playback& playback = *shell.replayWatch.playback;
+    const auto proven = playback.proven(shell.game);
+    const bool hasParted = !proven && (playback.replay().end || playback.deviation());
+    return hasParted ? std::optional(partingText(proven.error())) : std::nullopt;
 }
 
 void followReplayEnd(Shell& shell) {

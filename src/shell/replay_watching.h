@@ -5,6 +5,8 @@
 
 #include <cstddef>
 #include <memory>
+#include <optional>
+#include <string>
 #include <vector>
 
 #include "replay/playback.h"
@@ -40,6 +42,10 @@ void askWhereToJump(Shell& shell);
 
 /// Shows it as it stood at that time of the clock, or just before its last line.
 void jumpInReplay(Shell& shell, ClockSeconds clock);
+
+/// What there is to tell of a shift that has just ended and did not go as its replay tells; nothing where
+/// that has been told, or there is none.
+std::optional<std::string> untoldParting(const Shell& shell);
 
 /// After each turn of the replay: at its last line, where the shift itself goes on, it is put away.
 void followReplayEnd(Shell& shell);

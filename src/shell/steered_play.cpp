@@ -144,15 +144,6 @@ bool isPlaying(const Shell& shell) {
     return isSteered(shell) && shell.game.isRunning();
 }
 
-/// Calls that run into each other are not heard: they are spoken all the same, with what they draw.
-void followPaceInSound(Shell& shell) {
-    SoundChoices choices = soundChoices(shell.options);
-    if (isSteered(shell) && isFleeting(shell)) {
-        choices.soundVolume = 0;
-    }
-    shell.sounds.choose(choices);
-}
-
 void setPace(Shell& shell, ClockPace pace) {
     shell.topBar.clock.pace = pace;
     followPaceInSound(shell);
@@ -167,6 +158,15 @@ void stepPace(Shell& shell, int step) {
 }
 
 } // namespace
+
+void followPaceInSound(Shell& shell) {
+    SoundChoices choices = soundChoices(shell.options);
+    if (isSteered(shell) && isFleeting(shell)) {
+        // Calls that run into each other are spoken all the same, with what they draw.
+        choices.soundVolume = 0;
+    }
+    shell.sounds.choose(choices);
+}
 
 bool isSteered(const Shell& shell) {
     return shell.steered.standIn != nullptr;

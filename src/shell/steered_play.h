@@ -36,6 +36,9 @@ struct SteeredPlay {
     std::optional<ClockSeconds> execDown = {}; ///< EXEC is drawn pressed since then
 };
 
+/// Has the player's choices of sound heard, as far as the pace leaves calls to be understood.
+void followPaceInSound(Shell& shell);
+
 /// Whether something else plays the game.
 bool isSteered(const Shell& shell);
 

@@ -107,20 +107,25 @@ TEST(ShiftOfTheDay, IsThatOfTheDateOnWhichItBegins) {
 
 TEST(ShiftOfTheDay, KeepsItsResultWhenTheNextGameDoesNotWaitForTheLastLine) {
     const PlainProgram program;
-    GameStage stage{800, "[Game]\nName=mary\n", program.folder()};
+    GameStage stage{800, "[Game]\nName=mary\n[Day]\nDate=2026-11-25\nScore=4000\n", program.folder()};
     choose(stage);
     finish(stage);
-    stage.todo(
-        [](Script& script) { script.key(Key::f, withAlt).type("n").wait(20).key(Key::enter).wait(20); });
+    stage.todo([](Script& script) {
+        script.key(Key::f, withAlt).type("n").wait(20).type("bob").key(Key::enter).wait(20);
+    });
     stage.todo([](Script& script) { script.key(Key::enter).wait(20); }); // the table
     stage.look([&stage] {
         EXPECT_TRUE(stage.isDialogOpen());
-        EXPECT_NE(readText(stage.profile()).find("[Day]"), std::string::npos);
+        EXPECT_NE(readText(stage.profile()).find("Score=4000"), std::string::npos) << "the best of today";
     });
     stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
     stage.look([&stage] {
         EXPECT_TRUE(stage.game().isRunning());
         EXPECT_EQ(stage.shell().day, std::nullopt);
+        EXPECT_EQ(stage.game().controllerName, "Bob");
+        const std::string table = readText(stage.shell().highScorePath);
+        EXPECT_NE(table.find("Mary"), std::string::npos) << "whose score it is";
+        EXPECT_EQ(table.find("Bob"), std::string::npos);
     });
     stage.play();
 }

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "golden.h"
+#include "shell/game_flow.h"
 #include "shell/game_stage.h"
 #include "shell/plain_program.h"
 
@@ -87,6 +88,15 @@ TEST_F(LogWindowTest, HearsKeysAndWheelOnlyUnderThePointer) {
     });
     stage.todo([](Script& script) { script.moveTo({700, 300}).wait(1).key(Key::home).wait(20); });
     stage.look([&] { EXPECT_EQ(log(stage).view.bar.top(), ScrollBar::wheelLines); });
+    stage.todo(
+        [&stage](Script& script) { script.click(log(stage).view.window.toScreen({100, 20})).wait(20); });
+    stage.look([&] {
+        EXPECT_TRUE(log(stage).view.marked.has_value());
+        abandonGame(stage.shell());
+    });
+    stage.startNewGame();
+    stage.skip();
+    stage.look([&] { EXPECT_EQ(log(stage).view.marked, std::nullopt) << "of another shift"; });
     stage.play();
 }
 

@@ -147,6 +147,21 @@ TEST_F(ReplayWindowTest, AHardShiftIsWatchedAsItWasPlayed) {
         ASSERT_LT(some.size(), all.size());
         EXPECT_TRUE(std::equal(some.begin(), some.end(), all.begin())) << "with what the ticker told beside";
     });
+    // One that tells of another end.
+    stage.look([this] {
+        abandonGame(stage.shell());
+        const std::filesystem::path file = replays().at(0).file;
+        std::string text = readText(file);
+        const char last = text.at(text.size() - 2);
+        writeText(file, text.replace(text.size() - 2, 1, last == '1' ? "2" : "1"));
+        watchFile(file);
+        jumpInReplay(stage.shell(), 99'999_s);
+    });
+    waitFor([this] { return stage.isDialogOpen(); });
+    press(Key::enter); // the score
+    stage.look([this] { EXPECT_TRUE(stage.isDialogOpen()) << "it did not come out so"; });
+    press(Key::enter);
+    stage.look([this] { EXPECT_FALSE(stage.isDialogOpen()); });
     stage.play();
 }
 
@@ -160,8 +175,12 @@ TEST_F(ReplayWindowTest, OneThatWasCutOffIsJumpedInAndTakenOver) {
         *events = readReplay(folder / "killed.replay").value().events.size();
         abandonGame(stage.shell());
         watchFile(folder / "killed.replay");
+        CaptionsAdd(stage.shell().captions, "of another time");
     });
-    stage.look([this] { jumpInReplay(stage.shell(), 600_s); });
+    stage.look([this] {
+        jumpInReplay(stage.shell(), 600_s);
+        EXPECT_TRUE(stage.shell().captions.lines.empty());
+    });
     stage.wait(3000);
     stage.look([this] {
         EXPECT_GE(stage.game().clock, 600_s);

@@ -9,6 +9,7 @@
 
 #include "controller/controller.h"
 #include "sim/small_airspace.h"
+#include "story/log_filter.h"
 #include "story/shift_report.h"
 
 namespace ventrel {
@@ -102,6 +103,16 @@ TEST(ShiftLog, WhatHasBeenReadWasNotDroppedWhenTheTickerIsCleared) {
     const auto& entries = shift.log.story().entries;
     EXPECT_FALSE(entries[entries.size() - 2].wasDropped);
     EXPECT_TRUE(entries.back().wasDropped);
+}
+
+TEST(LogFilter, ShowsANearMissToBothOfItsFlights) {
+    LogEntry nearMiss;
+    nearMiss.flight = FlightIndex{3};
+    nearMiss.other = FlightIndex{5};
+    for (const auto& [flight, isShown] : {std::pair{3, true}, {5, true}, {4, false}}) {
+        EXPECT_EQ(passesFilter(nearMiss, LogFilter::flight, FlightIndex{flight}), isShown) << flight;
+    }
+    EXPECT_FALSE(passesFilter(nearMiss, LogFilter::flight, std::nullopt));
 }
 
 TEST(ShiftLog, TellsOrdersCallsAndPointsWithTheirCause) {

@@ -143,6 +143,20 @@ TEST(Loop, AScreenGetsItsPicturesNoFasterThanItShowsThemAndMissesNothing) {
     EXPECT_LE(stage.backend.sleeps() - sent, 2U) << "it wakes up for nothing";
 }
 
+TEST(Loop, TellsWhenTheNextPictureIsShown) {
+    Stage stage;
+    stage.backend.setFrameTime(100);
+    const Window main = stage.open();
+    Millis sent = 0;
+    stage.script.wait(150).then([&] {
+        main.canvas().fill({0, 0, 1, 1}, Colour::rgb(255, 255, 255));
+        sent = stage.desktop.now();
+        EXPECT_EQ(stage.desktop.nextPicture(), sent + 100) << "after the one of this pass";
+    });
+    stage.script.wait(30).then([&] { EXPECT_EQ(stage.desktop.nextPicture(), sent + 100); });
+    stage.play();
+}
+
 TEST(Loop, APressIsAnsweredBeforeTheNextPictureIsDue) {
     Stage stage;
     stage.backend.setFrameTime(1000);
