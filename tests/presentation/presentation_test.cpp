@@ -151,7 +151,8 @@ TEST_F(OpeningTest, AClickAndThreeKeysEndItAtEveryStage) {
     for (const auto& [when, key] : ends) {
         SCOPED_TRACE(std::to_string(when) + " key " + std::to_string(static_cast<int>(key)));
         Script person(backend);
-        person.wait(when - 200).key(Key::a).click({300, 740}, MouseButton::right).wait(200);
+        person.wait(when - 200).key(Key::a).key(Key::space, {.control = true});
+        person.click({300, 740}, MouseButton::right).wait(200);
         key == click ? person.press({300, 740}) : person.key(key);
         play();
         EXPECT_NEAR(static_cast<double>(last().second), static_cast<double>(when), 30);

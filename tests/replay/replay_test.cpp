@@ -229,6 +229,7 @@ TEST(Replay, IsDrawnInAWindowOfTheOtherWidthAndPlaysTheSame) {
     PlayedAgain again{readReplay(folder / "a.replay").value()};
     const std::vector<Vor> points = *again.game.points;
     const Cloud inSight = again.game.clouds.front();
+    again.game.clouds[1].position = {-20, -20}; // half in sight
     const std::vector<Size> sizes(16, Size{90, 60});
     const std::array picture{std::byte{1}};
     moveToLayout(again.game, largeLayout, sizes, picture);
@@ -246,6 +247,7 @@ TEST(Replay, IsDrawnInAWindowOfTheOtherWidthAndPlaysTheSame) {
         EXPECT_LE(cloud.position.x, largeLayout.pictureSize());
     }
     EXPECT_EQ(again.game.clouds.front().position.x, inSight.position.x * 14 / 11);
+    EXPECT_EQ(again.game.clouds[1].position, (Point{-20 * 14 / 11, -20 * 14 / 11}));
     again.playback.playUntil(again.game, shift.game.clock, again.log);
     EXPECT_EQ(again.log.lines, shift.log.lines);
     EXPECT_FALSE(again.playback.deviation().has_value());

@@ -81,6 +81,15 @@ TEST_F(LogWindowTest, HearsKeysAndWheelOnlyUnderThePointer) {
     stage.todo(
         [&stage](Script& script) { script.wheel(log(stage).view.window.toScreen({100, 40}), -1).wait(1); });
     stage.look([&] { EXPECT_EQ(log(stage).view.bar.top(), ScrollBar::wheelLines); });
+    press(stage, Key::end);
+    stage.todo(
+        [&stage](Script& script) { script.wheel(log(stage).view.window.toScreen({100, 40}), 1).wait(1); });
+    stage.skipTo(1500_s);
+    stage.look(
+        [&] { EXPECT_LT(log(stage).view.bar.top(), log(stage).view.bar.lastTop() - ScrollBar::wheelLines); });
+    press(stage, Key::home);
+    stage.todo(
+        [&stage](Script& script) { script.wheel(log(stage).view.window.toScreen({100, 40}), -1).wait(1); });
     press(stage, Key::c, withControl);
     stage.look([&] {
         const std::string text = stage.backend.clipboard();
