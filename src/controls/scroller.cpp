@@ -76,6 +76,12 @@ std::optional<Millis> ScrollerTick(Scroller& scroller) {
     return result.done ? now : std::max(nextStep, desktop.nextPicture());
 }
 
+void ScrollerRecolour(Scroller& scroller) {
+    if (scroller.state.busy) {
+        makeLinePicture(scroller);
+    }
+}
+
 void ScrollerClear(Scroller& scroller) {
     clearScroller(scroller.state, scroller.sources.queue);
     scroller.line = {};

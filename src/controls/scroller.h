@@ -43,6 +43,9 @@ bool ScrollerPost(Scroller& scroller, std::string_view text, MessageClass messag
 /// Moves the line when its time has come. Returns when it wants its next call; none when nothing scrolls.
 std::optional<Millis> ScrollerTick(Scroller& scroller);
 
+/// The line under way takes the colours that are chosen now.
+void ScrollerRecolour(Scroller& scroller);
+
 /// Drops every line, the one under way included.
 void ScrollerClear(Scroller& scroller);
 

@@ -88,18 +88,24 @@ void startDay(Shell& shell, const GameSetup& setup) {
     startGame(shell, setup);
 }
 
+void keepScoreOfTheDay(Shell& shell) {
+    if (shell.day && shell.shiftKind == ShiftKind::scored) {
+        keepScore(shell, shiftOfTheDay(*shell.day), shell.game.score);
+    }
+}
+
 void tellOfTheDay(Shell& shell) {
     const auto date = shell.day;
     if (!date || shell.shiftKind != ShiftKind::scored) {
         return;
     }
-    shell.day = std::nullopt;
     const Game& game = shell.game;
     const ShiftOfTheDay day = shiftOfTheDay(*date);
     const bool isCollision = shell.log.story().end == ShiftEnd::collision;
     if (!isCollision) {
-        keepScore(shell, day, game.score);
+        keepScoreOfTheDay(shell);
     }
+    shell.day = std::nullopt;
     const std::string line =
         dayResultText(day, game.airspace->name, game.score, game.possibleScore, isCollision);
     const auto open = [&line](Dialog& dialog) {

@@ -19,8 +19,11 @@ bool isOfToday(const Shell& shell, const GameSetup& setup);
 /// Begins the shift of that set-up.
 void startDay(Shell& shell, const GameSetup& setup);
 
-/// Keeps the score of the Shift of the Day that is over, when it is today's best, and shows the line to
-/// share. Nothing of any other shift.
+/// Keeps the score of the Shift of the Day that is over, when it is its date's best. Nothing of any other
+/// shift.
+void keepScoreOfTheDay(Shell& shell);
+
+/// Does so but after a collision, and shows the line to share.
 void tellOfTheDay(Shell& shell);
 
 } // namespace ventrel

@@ -145,6 +145,7 @@ void endWithScore(Shell& shell) {
     emptyStrips(shell);
     postLine(shell, gameOverText(shell.game));
     ScrollerSetPostGameOver(shell.scroller, true);
+    keepScoreOfTheDay(shell);
 }
 
 HighScoreEntry finishedEntry(const Game& game) {

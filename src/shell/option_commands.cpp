@@ -107,6 +107,7 @@ void chooseAids(Shell& shell, const Options& chosen) {
     rebuildInGame(shell);
     CtrlRepaint(shell.panel);
     StripsRepaint(shell.strips);
+    ScrollerRecolour(shell.scroller);
 }
 
 SoundChoices soundChoices(const Options& options) {

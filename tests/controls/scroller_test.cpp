@@ -84,6 +84,19 @@ TEST(ScrollerTest, LinesFollowEachOtherInSlotOrderEachInItsColour) {
     EXPECT_EQ(messageColour(MessageClass::emergency, usualSignals), Colour::rgb(220, 0, 0));
 }
 
+TEST(ScrollerTest, TheLineUnderWayTakesOtherColours) {
+    ScrollerStage stage;
+    stage.post("Landed", MessageClass::success);
+    stage.run(14 * 100);
+    stage.options.aidColours = 1;
+    ScrollerRecolour(stage.scroller);
+    stage.run(14);
+    const Bitmap shown = stage.picture(stage.scroller.window);
+    const Colour wanted = messageColour(MessageClass::success, signalColours(1));
+    EXPECT_NE(wanted, messageColour(MessageClass::success, usualSignals));
+    EXPECT_EQ(stage.inked(), count(shown, wanted, shown.bounds()));
+}
+
 TEST(ScrollerTest, ALateTickMovesOnePixelAndTheNextLineStartsAtOnce) {
     ScrollerStage stage;
     stage.post("a");

@@ -135,6 +135,9 @@ TEST(ShiftOfTheDay, EndsWithALineToShareAndItsReplayProvesIt) {
     GameStage stage{800, "[Game]\nName=mary\n", program.folder()};
     choose(stage);
     finish(stage);
+    stage.look([&stage] {
+        EXPECT_NE(readText(stage.profile()).find("[Day]"), std::string::npos) << "kept at the shift's end";
+    });
     stage.wait(60000); // the last line scrolls
     stage.look([&stage] {
         const auto kept = listReplays(replayFolder(stage.shell()));
