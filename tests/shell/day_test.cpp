@@ -34,11 +34,15 @@ TEST(ShiftOfTheDay, GivesEveryAirspaceItsTurnAndEveryDateAnotherSeed) {
     EXPECT_EQ(shiftOfTheDay(first).seed, 20782U * 2654435761U);
 }
 
+void pressEnter(GameStage& stage) {
+    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+}
+
 /// File, Shift of the Day, and Play.
 void choose(GameStage& stage) {
     stage.todo([](Script& script) { script.key(Key::f, withAlt).type("d").wait(20); });
     stage.look([&stage] { EXPECT_TRUE(stage.isDialogOpen()); });
-    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+    pressEnter(stage);
     stage.look([&stage] { ASSERT_TRUE(stage.game().isRunning()); });
 }
 
@@ -92,12 +96,12 @@ TEST(ShiftOfTheDay, IsThatOfTheDateOnWhichItBegins) {
     });
     stage.todo([](Script& script) { script.key(Key::f, withAlt).type("d").wait(20); });
     stage.look([&stage] { stage.clockGoesBy = std::chrono::days{1}; });
-    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+    pressEnter(stage);
     stage.look([&stage] {
         EXPECT_FALSE(stage.game().isRunning()) << "not what the player has not seen";
         EXPECT_TRUE(stage.isDialogOpen());
     });
-    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+    pressEnter(stage);
     stage.look([&] {
         EXPECT_EQ(stage.shell().day, today + std::chrono::days{1});
         EXPECT_TRUE(stage.game().isRunning());
@@ -113,12 +117,12 @@ TEST(ShiftOfTheDay, KeepsItsResultWhenTheNextGameDoesNotWaitForTheLastLine) {
     stage.todo([](Script& script) {
         script.key(Key::f, withAlt).type("n").wait(20).type("bob").key(Key::enter).wait(20);
     });
-    stage.todo([](Script& script) { script.key(Key::enter).wait(20); }); // the table
+    pressEnter(stage); // the table
     stage.look([&stage] {
         EXPECT_TRUE(stage.isDialogOpen());
         EXPECT_NE(readText(stage.profile()).find("Score=4000"), std::string::npos) << "the best of today";
     });
-    stage.todo([](Script& script) { script.key(Key::enter).wait(20); });
+    pressEnter(stage);
     stage.look([&stage] {
         EXPECT_TRUE(stage.game().isRunning());
         EXPECT_EQ(stage.shell().day, std::nullopt);

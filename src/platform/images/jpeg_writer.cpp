@@ -9,9 +9,8 @@
 #include <cstdint>
 #include <span>
 
-#include "base/whole_file.h"
-#include "base/windows1252.h"
 #include "platform/images/channel_row.h"
+#include "platform/images/picture_keeping.h"
 
 namespace ventrel {
 
@@ -124,11 +123,7 @@ std::vector<std::byte> encodeJpeg(const Bitmap& bitmap, int quality) {
 }
 
 Result<> writeJpeg(const std::filesystem::path& file, const Bitmap& bitmap, int quality) {
-    const std::vector<std::byte> content = encodeJpeg(bitmap, quality);
-    if (content.empty()) {
-        return failed(pathText(file) + ": there is no picture to write, or no memory for it");
-    }
-    return replaceFile(file, content);
+    return keepPicture(file, encodeJpeg(bitmap, quality));
 }
 
 } // namespace ventrel

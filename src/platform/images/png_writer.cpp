@@ -4,9 +4,8 @@
 
 #include <csetjmp>
 
-#include "base/whole_file.h"
-#include "base/windows1252.h"
 #include "platform/images/channel_row.h"
+#include "platform/images/picture_keeping.h"
 
 namespace ventrel {
 
@@ -83,11 +82,7 @@ std::vector<std::byte> encodePng(const Bitmap& bitmap, PngPacking packing) {
 }
 
 Result<> writePng(const std::filesystem::path& file, const Bitmap& bitmap, PngPacking packing) {
-    const std::vector<std::byte> content = encodePng(bitmap, packing);
-    if (content.empty()) {
-        return failed(pathText(file) + ": there is no picture to write, or no memory for it");
-    }
-    return replaceFile(file, content);
+    return keepPicture(file, encodePng(bitmap, packing));
 }
 
 } // namespace ventrel
